@@ -1,0 +1,79 @@
+// `EventTable`: the code of every event of every form, object and menu item.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "model/vocabulary.h"
+#include "text/code_page.h"
+
+namespace tarnwick {
+
+/// A keyed collection of texts; keys are unique and compare without regard to case. A key is an
+/// owner ("Form1.Button2") and an event suffix (".OnClick"). The entries of one owner stand
+/// together, so a walk over all events of an object costs one look-up:
+///
+///   if (const auto* owner = table.OwnerOf("Form1.Button2"))
+///     if (const std::string* code = owner->Find(Event::OnClick)) ...
+class EventCodeTable {
+ public:
+  /// All entries of one owner.
+  class Owner {
+   public:
+    /// The code of an event; null when there is no entry.
+    [[nodiscard]] const std::string* Find(Event event) const noexcept;
+    [[nodiscard]] bool Empty() const noexcept { return entries_.empty(); }
+
+   private:
+    friend class EventCodeTable;
+    std::string key_;
+    std::vector<std::pair<std::uint8_t, std::string>> entries_;
+  };
+
+  /// The entry of a key; null when there is none. Valid until the table changes.
+  [[nodiscard]] const std::string* Find(std::string_view key) const noexcept;
+  /// All entries under an owner's key; null when there never was one.
+  [[nodiscard]] const Owner* OwnerOf(std::string_view owner) const noexcept;
+  /// Adds an entry; false, and nothing changed, when the key is there already.
+  bool Add(std::string_view key, std::string value);
+  /// The same for an owner and an event, without building the key.
+  bool Add(std::string_view owner, Event event, std::string value);
+  /// Removes the key if it is there, then adds it.
+  void Replace(std::string_view key, std::string value);
+  void Replace(std::string_view owner, Event event, std::string value);
+  /// False when there was no such key.
+  bool Remove(std::string_view key) noexcept;
+  void Clear() noexcept;
+  [[nodiscard]] std::size_t Size() const noexcept { return size_; }
+
+  /// Calls `visit(key, value)` for every entry, owners in the order in which they first came.
+  template <class Visit>
+  void ForEach(Visit visit) const {
+    for (const Owner& owner : owners_) {
+      for (const auto& [slot, value] : owner.entries_) visit(owner.key_ + SuffixOf(slot), value);
+    }
+  }
+
+ private:
+  static constexpr std::uint8_t kNoEvent = kEventCount;
+
+  struct Place {
+    std::string_view Owner;
+    std::uint8_t Slot;
+  };
+  [[nodiscard]] static Place PlaceOf(std::string_view key) noexcept;
+  [[nodiscard]] static std::string SuffixOf(std::uint8_t slot);
+  bool Put(Place place, std::string&& value, bool replace);
+
+  std::deque<Owner> owners_;
+  std::unordered_map<std::string_view, Owner*, FoldedHash, FoldedEqual> index_;
+  std::size_t size_ = 0;
+};
+
+}  // namespace tarnwick

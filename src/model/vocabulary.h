@@ -1,0 +1,162 @@
+// The closed vocabulary of object kinds and events. Every word stands here once.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace tarnwick {
+
+/// Events, in the order in which generator and member list walk them; OnPopUp stands apart.
+enum class Event : std::uint8_t {
+  OnTimer,
+  OnClick,
+  OnClose,
+  OnChange,
+  OnEnter,
+  OnDblClick,
+  OnHint,
+  OnKeyDown,
+  OnKeyPress,
+  OnKeyUp,
+  OnMouseDown,
+  OnMouseMove,
+  OnMouseUp,
+  OnPaint,
+  OnResize,
+  OnShow,
+  OnPopUp,
+};
+inline constexpr std::size_t kEventCount = 17;
+/// The events from OnTimer to OnShow: those the generator walks.
+inline constexpr std::size_t kWalkedEventCount = 16;
+
+struct EventInfo {
+  Event Id;
+  std::string_view Code;       ///< decimal text
+  std::string_view Name;       ///< "OnClick"
+  std::string_view Suffix;     ///< ".OnClick"
+  std::string_view Signature;  ///< Sub header text, parameters included
+};
+
+[[nodiscard]] const EventInfo& InfoOf(Event event) noexcept;
+/// All events by enumerator.
+[[nodiscard]] std::span<const EventInfo, kEventCount> AllEvents() noexcept;
+/// The event of a name without regard to case ("onclick").
+[[nodiscard]] std::optional<Event> EventOfName(std::string_view name) noexcept;
+/// The event of a code such as "120".
+[[nodiscard]] std::optional<Event> EventOfCode(std::string_view code) noexcept;
+
+/// What stands on a design form: the object kinds, then the parts that are no objects.
+enum class Kind : std::uint8_t {
+  Button,
+  Label,
+  Image,
+  CheckBox,
+  OptionButton,
+  TextBox,
+  RichTextBox,
+  ListBox,
+  ComboBox,
+  Time,
+  OpenDialog,
+  SaveDialog,
+  FileStream,
+  TransparentFrame,
+  HtmlViewer,
+  WinSock,
+  PopUpMenu,
+  Menu,      ///< `mnuBar`, a title of the menu bar
+  MenuItem,  ///< `ItemMnuBar`, an item under a title
+  Frame,
+  Numero,
+  Handle,  ///< `picHandle`
+  Form,
+};
+inline constexpr std::size_t kKindCount = 23;
+/// The kinds from Button to PopUpMenu: those the tool box places and a form file numbers.
+inline constexpr std::size_t kObjectKindCount = 17;
+
+/// Class of a design control; it decides which members the control has.
+enum class ControlClass : std::uint8_t {
+  CommandButton,
+  Label,
+  Image,
+  CheckBox,
+  OptionButton,
+  TextBox,
+  ListBox,
+  UserControl1,
+  PictureBox,
+  Frame,
+  Menu,
+  Form,
+};
+
+enum class EventListId : std::uint8_t {
+  None,
+  Form,
+  Button,
+  Edit,
+  Rich,
+  Picture,
+  List,
+  Click,
+  Combo,
+  Timer,
+  PopUp,
+};
+
+struct KindInfo {
+  Kind Id;
+  std::string_view Name;       ///< in files, form list and property sheet
+  std::string_view Tag;        ///< lower-case array name, by which code compares
+  std::string_view Array;      ///< control array on `FormUser`
+  std::string_view NameWord;   ///< word of `NameObjet`
+  std::string_view Prefix;     ///< of a new object's default name
+  std::string_view ComboText;  ///< suffix in the list of objects, its blanks included
+  ControlClass Class;
+  EventListId Events;
+};
+
+[[nodiscard]] const KindInfo& InfoOf(Kind kind) noexcept;
+[[nodiscard]] std::span<const KindInfo, kKindCount> AllKinds() noexcept;
+/// The kind of a lower-case tag: array names and file words both ("images", "image"). Nothing for
+/// an unknown word.
+[[nodiscard]] std::optional<Kind> KindOfTag(std::string_view tag) noexcept;
+/// The kind of a record word in a form file, without regard to case.
+[[nodiscard]] std::optional<Kind> KindOfFileWord(std::string_view word) noexcept;
+
+/// An event list of a kind: signature texts, each followed by "#", and beside it the codes.
+struct EventList {
+  std::span<const Event> Events;
+  std::string_view Signatures;
+  std::string_view Codes;
+};
+
+[[nodiscard]] const EventList& ListOf(EventListId id) noexcept;
+/// The event list of a lower-case kind tag; empty for kinds without events and unknown words.
+[[nodiscard]] const EventList& EventListOfTag(std::string_view tag) noexcept;
+
+/// Events of the member list of the code editor, OnTimer first, no OnPopUp.
+inline constexpr std::string_view kMemberEventNames =
+    "OnTimer#OnClick#OnClose#OnChange#OnEnter#OnDblClick#OnHint#OnKeyDown#OnKeyPress#OnKeyUp#"
+    "OnMouseDown#OnMouseMove#OnMouseUp#OnPaint#OnResize#OnShow#";
+/// Short list for forms; OnKeyPress is missing in it.
+inline constexpr std::string_view kShortFormEventNames =
+    "OnClick#OnClose#OnHint#OnKeyDown#OnKeyUp#OnMouseDown#OnMouseMove#OnMouseUp#OnPaint#OnResize#"
+    "OnShow#";
+/// Short list for objects.
+inline constexpr std::string_view kShortObjectEventNames =
+    "OnClick#OnKeyDown#OnKeyPress#OnKeyUp#OnMouseDown#OnMouseMove#OnMouseUp#";
+
+/// The events whose entries a new form gets, in the order of adding. OnTimer is among them though
+/// no form ever raises it.
+[[nodiscard]] std::span<const Event> NewFormEvents() noexcept;
+/// The events whose entries a new object gets, whatever its kind.
+[[nodiscard]] std::span<const Event> NewObjectEvents() noexcept;
+
+}  // namespace tarnwick
