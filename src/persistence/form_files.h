@@ -1,0 +1,16 @@
+// How a form gets its file.
+#pragma once
+
+#include <string>
+
+#include "persistence/project_context.h"
+
+namespace tarnwick {
+
+/// Asks for the file of a form and stores it in `FileName`, ".ftn" added where it lacks it. An
+/// existing file is asked about first. False when the dialog is cancelled: nothing changed.
+bool SaveFormDialog(ProjectContext& context, int form);
+/// Gives the form's line in the form list its present name and file.
+void RefreshFormListEntry(ProjectContext& context, int form);
+
+}  // namespace tarnwick
