@@ -1,0 +1,229 @@
+#include "text/code_page.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace tarnwick {
+namespace {
+
+constexpr std::uint8_t Index(char c) noexcept {
+  return static_cast<std::uint8_t>(c);
+}
+
+/// Bytes 0x80 to 0x9F of the page; all others are the code point of their number. The unassigned
+/// five (81, 8D, 8F, 90, 9D) stand for the control characters of their number.
+constexpr std::array<char16_t, 32> kHighControls = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,  // 80
+    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,  // 88
+    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,  // 90
+    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,  // 98
+};
+
+/// A run of upper-case bytes and the distance to their lower-case forms.
+struct CaseRun {
+  std::uint8_t First;
+  std::uint8_t Last;
+  std::uint8_t ToLower;
+};
+
+/// Every letter of the page that has both forms in it. The sharp s, the micro sign and the florin
+/// sign have a capital outside the page or none, and stand.
+constexpr CaseRun kCaseRuns[] = {
+    {0x41, 0x5A, 0x20},  // A to Z
+    {0xC0, 0xD6, 0x20},  // A grave to O diaeresis
+    {0xD8, 0xDE, 0x20},  // O stroke to thorn; D7 is the multiplication sign
+    {0x8A, 0x8A, 0x10},  // S caron
+    {0x8C, 0x8C, 0x10},  // OE
+    {0x8E, 0x8E, 0x10},  // Z caron
+    {0x9F, 0x9F, 0x60},  // Y diaeresis
+};
+
+using ByteTable = std::array<char, 256>;
+
+constexpr ByteTable MakeCaseTable(bool to_lower) {
+  ByteTable table{};
+  for (std::size_t i = 0; i < table.size(); ++i) table[i] = static_cast<char>(i);
+  for (const CaseRun& run : kCaseRuns) {
+    for (std::size_t upper = run.First; upper <= run.Last; ++upper) {
+      const std::size_t lower = upper + run.ToLower;
+      if (to_lower) {
+        table[upper] = static_cast<char>(lower);
+      } else {
+        table[lower] = static_cast<char>(upper);
+      }
+    }
+  }
+  return table;
+}
+
+constexpr ByteTable kLower = MakeCaseTable(true);
+constexpr ByteTable kUpper = MakeCaseTable(false);
+
+std::string Mapped(std::string_view text, const ByteTable& table) {
+  std::string mapped(text);
+  for (char& c : mapped) c = table[Index(c)];
+  return mapped;
+}
+
+/// The positions of one byte, from the left. Each is found once, so that a search for a byte in
+/// two forms never walks the same stretch twice for the form that is rare.
+class ByteFinder {
+ public:
+  ByteFinder(std::string_view text, char byte) noexcept : text_(text), byte_(byte) {}
+  /// The first position at or behind `from`; npos when there is none.
+  std::size_t At(std::size_t from) noexcept {
+    if (!known_ || next_ < from) {
+      next_ = text_.find(byte_, from);
+      known_ = true;
+    }
+    return next_;
+  }
+
+ private:
+  std::string_view text_;
+  char byte_;
+  std::size_t next_ = 0;
+  bool known_ = false;
+};
+
+void AppendUtf8(std::string& out, char32_t code_point) {
+  const auto value = static_cast<std::uint32_t>(code_point);
+  if (value < 0x80) {
+    out += static_cast<char>(value);
+  } else if (value < 0x800) {
+    out += static_cast<char>(0xC0U | (value >> 6U));
+    out += static_cast<char>(0x80U | (value & 0x3FU));
+  } else {
+    out += static_cast<char>(0xE0U | (value >> 12U));
+    out += static_cast<char>(0x80U | ((value >> 6U) & 0x3FU));
+    out += static_cast<char>(0x80U | (value & 0x3FU));
+  }
+}
+
+/// A code point and the number of bytes it took; no bytes when the text begins with no UTF-8.
+struct Decoded {
+  char32_t CodePoint = 0;
+  std::size_t Size = 0;
+};
+
+Decoded DecodeOne(std::string_view utf8) noexcept {
+  const std::uint32_t lead = Index(utf8.front());
+  if (lead < 0x80) return {lead, 1};
+  std::size_t size = 0;
+  std::uint32_t least = 0;
+  if (lead >= 0xC2 && lead < 0xE0) {
+    size = 2;
+    least = 0x80;
+  } else if (lead >= 0xE0 && lead < 0xF0) {
+    size = 3;
+    least = 0x800;
+  } else if (lead >= 0xF0 && lead < 0xF5) {
+    size = 4;
+    least = 0x10000;
+  }
+  if (size == 0 || utf8.size() < size) return {};
+  std::uint32_t value = lead & (0x7FU >> size);
+  for (std::size_t i = 1; i < size; ++i) {
+    const std::uint32_t next = Index(utf8[i]);
+    if ((next & 0xC0U) != 0x80) return {};
+    value = (value << 6U) | (next & 0x3FU);
+  }
+  const bool surrogate = value >= 0xD800 && value < 0xE000;
+  if (value < least || value > 0x10FFFF || surrogate) return {};
+  return {value, size};
+}
+
+}  // namespace
+
+char LowerByte(char c) noexcept {
+  return kLower[Index(c)];
+}
+
+char UpperByte(char c) noexcept {
+  return kUpper[Index(c)];
+}
+
+std::string Lower(std::string_view text) {
+  return Mapped(text, kLower);
+}
+
+std::string Upper(std::string_view text) {
+  return Mapped(text, kUpper);
+}
+
+bool EqualsFolded(std::string_view a, std::string_view b) noexcept {
+  return a.size() == b.size() && StartsWithFolded(a, b);
+}
+
+bool StartsWithFolded(std::string_view text, std::string_view start) noexcept {
+  if (text.size() < start.size()) return false;
+  return std::equal(start.begin(), start.end(), text.begin(),
+                    [](char x, char y) { return LowerByte(x) == LowerByte(y); });
+}
+
+std::size_t FindFolded(std::string_view text, std::string_view part, std::size_t from) noexcept {
+  if (from > text.size() || text.size() - from < part.size()) return std::string_view::npos;
+  if (part.empty()) return from;
+  const std::size_t last = text.size() - part.size();
+  const std::string_view starts = text.substr(0, last + 1);
+  ByteFinder lower(starts, LowerByte(part.front()));
+  ByteFinder upper(starts, UpperByte(part.front()));
+  while (from <= last) {
+    const std::size_t at = std::min(lower.At(from), upper.At(from));
+    if (at == std::string_view::npos) break;
+    if (StartsWithFolded(text.substr(at), part)) return at;
+    from = at + 1;
+  }
+  return std::string_view::npos;
+}
+
+std::size_t FoldedHash::operator()(std::string_view text) const noexcept {
+  // FNV-1a: keys are short names, and the fold goes into the same pass.
+  std::uint64_t hash = 0xCBF29CE484222325U;
+  for (const char c : text) {
+    hash ^= Index(LowerByte(c));
+    hash *= 0x100000001B3U;
+  }
+  return static_cast<std::size_t>(hash);
+}
+
+std::string CodePageToUtf8(std::string_view text) {
+  std::string utf8;
+  utf8.reserve(text.size() + text.size() / 8);
+  for (const char c : text) AppendUtf8(utf8, ByteToCodePoint(c));
+  return utf8;
+}
+
+std::string Utf8ToCodePage(std::string_view utf8) {
+  std::string text;
+  text.reserve(utf8.size());
+  while (!utf8.empty()) {
+    const Decoded decoded = DecodeOne(utf8);
+    if (decoded.Size == 0) {
+      text += '?';
+      utf8.remove_prefix(1);
+    } else {
+      text += CodePointToByte(decoded.CodePoint).value_or('?');
+      utf8.remove_prefix(decoded.Size);
+    }
+  }
+  return text;
+}
+
+std::optional<char> CodePointToByte(char32_t code_point) noexcept {
+  if (code_point < 0x80 || (code_point >= 0xA0 && code_point <= 0xFF)) {
+    return static_cast<char>(code_point);
+  }
+  const auto* const found = std::find(kHighControls.begin(), kHighControls.end(), code_point);
+  if (found == kHighControls.end()) return std::nullopt;
+  return static_cast<char>(0x80 + (found - kHighControls.begin()));
+}
+
+char32_t ByteToCodePoint(char byte) noexcept {
+  const std::uint8_t value = Index(byte);
+  if (value < 0x80 || value >= 0xA0) return value;
+  return kHighControls[value - 0x80U];
+}
+
+}  // namespace tarnwick
