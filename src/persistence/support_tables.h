@@ -39,8 +39,8 @@ struct SupportTables {
   /// Function names; row 0 stays empty, so that row numbers count the functions from 1.
   std::vector<std::string> ListColFunc{1};
   std::vector<std::string> FunctionDescriptions{1};  ///< help, parallel to `ListColFunc`
-  std::vector<std::string> ListFunc1;  ///< first list of the function panel
-  std::vector<std::string> ListFunc0;  ///< second list, the further functions
+  std::vector<std::string> ListFunc1;                ///< first list of the function panel
+  std::vector<std::string> ListFunc0;                ///< second list, the further functions
   std::string Keywords;                ///< each followed by LF, one LF more at the end
   std::vector<std::string> KindLines;  ///< all lines of the fourth file, unchanged
   KeyedTexts ObjectHelp;               ///< by upper-case kind: property rows joined by 0x95
