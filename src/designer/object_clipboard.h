@@ -1,0 +1,33 @@
+// The object clipboard of a design window: a reference to the source, no snapshot of it.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "model/project_records.h"
+
+namespace tarnwick {
+
+/// Remembers what was copied on one design window and makes further objects like it. The source
+/// is read at the paste: what changed since the copy shows. A source that was deleted gives an
+/// object with the template's values.
+class ObjectClipboard {
+ public:
+  ControlRef CopySource;
+  std::string CopyKind;        ///< `NameObjet` at the copy
+  std::int16_t CopyIndex = 0;  ///< `IndexObjet` at the copy
+  bool CopyReady = false;
+
+  /// Remembers the selection of the form.
+  void Copy(const DesignForm& form);
+  /// Makes a new object like the source and answers it, visible and not yet selected. Null when
+  /// nothing was copied or its kind has no copies.
+  ControlRef Paste(ProjectTables& tables, DesignForm& form);
+  /// Forgets the source; what is `CopyReady` stays.
+  void ForgetSource() noexcept;
+
+ private:
+  ControlRef last_pasted_;
+};
+
+}  // namespace tarnwick
