@@ -63,8 +63,8 @@ constexpr std::array kHelpRows{
 };
 
 constexpr std::array kMenuBar{
-    MenuColumn{"&File", kFileRows}, MenuColumn{"&Edit", kEditRows},
-    MenuColumn{"&View", kViewRows}, MenuColumn{"&Project", kProjectRows},
+    MenuColumn{"&File", kFileRows},   MenuColumn{"&Edit", kEditRows},
+    MenuColumn{"&View", kViewRows},   MenuColumn{"&Project", kProjectRows},
     MenuColumn{"&Objects", {}, true}, MenuColumn{"&Run", kRunRows},
     MenuColumn{"&Help", kHelpRows},
 };
@@ -108,10 +108,18 @@ constexpr std::array kObjectPopUp{
 
 }  // namespace
 
-std::span<const MenuColumn> MenuBar() noexcept { return kMenuBar; }
-std::span<const ToolbarButton> MainToolbar() noexcept { return kMainToolbar; }
-std::span<const ToolbarButton> FormListBar() noexcept { return kFormListBar; }
-std::span<const MenuRow> ObjectPopUp() noexcept { return kObjectPopUp; }
+std::span<const MenuColumn> MenuBar() noexcept {
+  return kMenuBar;
+}
+std::span<const ToolbarButton> MainToolbar() noexcept {
+  return kMainToolbar;
+}
+std::span<const ToolbarButton> FormListBar() noexcept {
+  return kFormListBar;
+}
+std::span<const MenuRow> ObjectPopUp() noexcept {
+  return kObjectPopUp;
+}
 
 const MenuRow* MenuRowOf(Command command) noexcept {
   for (const MenuColumn& column : kMenuBar) {

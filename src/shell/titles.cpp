@@ -26,7 +26,9 @@ bool HasDefaultProjectFile(const ProjectTables& tables) {
   return tables.ProjectFile == DefaultProjectFile(tables);
 }
 
-void SetDefaultPaths(ProjectTables& tables) { SetProjectFile(tables, DefaultProjectFile(tables)); }
+void SetDefaultPaths(ProjectTables& tables) {
+  SetProjectFile(tables, DefaultProjectFile(tables));
+}
 
 void SetProjectFile(ProjectTables& tables, std::string path) {
   const std::size_t stem = path.size() < kExtensionLength ? 0 : path.size() - kExtensionLength;

@@ -31,7 +31,9 @@ constexpr std::array kTools{
 
 }  // namespace
 
-std::span<const ToolInfo> AllTools() noexcept { return kTools; }
+std::span<const ToolInfo> AllTools() noexcept {
+  return kTools;
+}
 
 const ToolInfo* ToolOf(int number) noexcept {
   for (const ToolInfo& tool : kTools) {
