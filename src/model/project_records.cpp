@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "text/code_page.h"
+#include "text/numbers.h"
 #include "text/path_text.h"
 
 namespace tarnwick {
@@ -138,6 +139,15 @@ std::string ResolveProjectPath(const ProjectTables& tables, std::string_view pat
   const std::string_view start = path.substr(0, 3);
   const bool full = ignore_case ? EqualsFolded(start, drive) : start == drive;
   return full ? std::string(path) : tables.ProjectFolder().append(path);
+}
+
+std::string PictureResourceName(int form, Kind kind, int index) {
+  std::string name = "Frm";
+  AppendNumber(name, std::int64_t{form});
+  name += kind == Kind::Image ? "Image" : "Btn";
+  AppendNumber(name, std::int64_t{index});
+  name += "_Bmp";
+  return name;
 }
 
 }  // namespace tarnwick

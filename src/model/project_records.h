@@ -221,4 +221,7 @@ struct ProjectTables {
 [[nodiscard]] std::string ResolveProjectPath(const ProjectTables& tables, std::string_view path,
                                              bool ignore_case);
 
+/// Resource name of a picture: "Frm" form "Btn" or "Image" index "_Bmp".
+[[nodiscard]] std::string PictureResourceName(int form, Kind kind, int index);
+
 }  // namespace tarnwick

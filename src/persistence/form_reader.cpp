@@ -1,0 +1,290 @@
+#include "persistence/form_reader.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "model/new_form.h"
+#include "model/units.h"
+#include "persistence/menu_text.h"
+#include "text/code_page.h"
+#include "text/numbers.h"
+#include "text/strings.h"
+
+namespace tarnwick {
+
+namespace {
+
+constexpr std::string_view kMessageTitle = "Tarnwick";
+
+bool HasPicture(std::string_view path) {
+  return !path.empty() && path != kNoPicture;
+}
+
+/// Twips from a number of pixels as text; a number too large for single precision is refused.
+void ReadPlace(const std::string& value, float& twips) {
+  if (const auto read = ToSingle(Val(value) * kTwipsPerPixel)) twips = *read;
+}
+
+/// Rows of a list: each ends in the stored line break; a list without one is comma-separated.
+std::vector<std::string> RowsOf(std::string_view items) {
+  if (items.empty()) return {};
+  const bool marked = Contains(items, std::string_view(&kStoredLineBreak, 1));
+  const std::string_view separator =
+      marked ? std::string_view(&kStoredLineBreak, 1) : std::string_view(",");
+  const std::vector<std::string_view> pieces = Split(items, separator);
+  std::vector<std::string> rows(pieces.begin(), pieces.end());
+  if (marked && rows.back().empty()) rows.pop_back();
+  return rows;
+}
+
+float* PlaceOf(DesignControl& control, Member member) {
+  switch (member) {
+    case Member::Left:
+      return &control.Left;
+    case Member::Top:
+      return &control.Top;
+    case Member::Width:
+      return &control.Width;
+    case Member::Height:
+      return &control.Height;
+    default:
+      return nullptr;
+  }
+}
+
+}  // namespace
+
+FormReader::FormReader(ProjectContext& context, std::string file_name, int target)
+    : context_(context),
+      tables_(context.Tables),
+      file_name_(std::move(file_name)),
+      target_(target) {
+  if (target_ == 0) {
+    form_ = tables_.FormsCount;
+    window_ = tables_.User(form_);
+    record_ = form_ > 0 ? tables_.Form(form_) : nullptr;
+    if (window_ != nullptr) form_key_ = window_->KeyPrefix();
+  }
+}
+
+FormReadResult FormReader::Read(std::string_view text) {
+  const auto loading = std::exchange(tables_.LoadingProject, std::int16_t{1});
+  bool refused = false;
+  for (std::size_t at = 0; at <= text.size() && !refused;) {
+    const std::size_t end = std::min(text.find("\r\n", at), text.size());
+    const std::string_view line = text.substr(at, end - at);
+    if (!line.empty()) refused = !ReadLine(line);
+    at = end + 2;
+  }
+  tables_.LoadingProject = loading;
+  if (refused) return FormReadResult::Refused;
+  return last_form_ > 0 ? FormReadResult::Read : FormReadResult::NoForm;
+}
+
+bool FormReader::ReadLine(std::string_view line) {
+  scanner_.Scan(line);
+  if (StartsWithFolded(line, "[form]")) return ReadForm();
+  if (window_ == nullptr || record_ == nullptr) return true;
+  if (StartsWithFolded(line, "[menu]")) {
+    ReadMenuTitle();
+  } else if (StartsWithFolded(line, "[menuitem]") || StartsWithFolded(line, "[itemmenu]") ||
+             EqualsFolded(scanner_.Kind(), "sub")) {
+    ReadItemCode();
+  } else if (scanner_.Kind() == "DeclarePbl") {
+    ReadDeclarations();
+  } else if (const std::optional<Kind> kind = KindOfFileWord(scanner_.Kind())) {
+    ReadObject(*kind);
+  }
+  return true;
+}
+
+bool FormReader::ReadForm() {
+  if (target_ != 0) {
+    if (last_form_ != 0) return true;
+    form_ = target_;
+  } else {
+    const std::string list_text = FormListText(scanner_.Name(), file_name_);
+    if (tables_.ListaFrms.Holds(list_text)) {
+      context_.Messages.Show(scanner_.Name() + " already exist!", kMessageTitle);
+      return false;
+    }
+    const int form = tables_.GrowForms();
+    if (form == 0) return true;
+    form_ = form;
+    tables_.ListaFrms.Add(list_text, form_);
+    LoadFormWindow(tables_, form_);
+    tables_.Form(form_)->FileName = file_name_;
+  }
+  last_form_ = form_;
+  window_ = tables_.User(form_);
+  record_ = tables_.Form(form_);
+  form_key_ = window_->KeyPrefix();
+  ReadFormValues(form_);
+  return true;
+}
+
+void FormReader::ReadFormValues(int form) {
+  record_->Name = scanner_.Name();
+  FrmBarra& bar = *tables_.Bar(form);
+  bar.Caption = record_->Name + " Procedures";
+  bar.Entries.clear();
+  ReadPlace(scanner_.Value("width"), window_->Width);
+  ReadPlace(scanner_.Value("height"), window_->Height);
+  window_->NameObjet = "Form";
+  DesignControl no_control;
+  Object object{no_control, std::nullopt, nullptr, form_key_};
+  for (const LayoutField& field : LayoutOf(Kind::Form).Fields) {
+    if (field.Tag.empty()) continue;
+    const std::string& value = scanner_.Value(field.Tag);
+    if (const auto* const event = std::get_if<Event>(&field.Value)) {
+      tables_.EventTable.Replace(form_key_, *event, value);
+      if (!value.empty()) TellBar("Form", *event);
+    } else {
+      std::visit([&](const auto& source) { Take(object, value, source); }, field.Value);
+    }
+  }
+  if (record_->ImageFile != kDefaultFile) {
+    window_->WindowPicture = ResolveProjectPath(tables_, record_->ImageFile, true);
+  }
+  if (record_->IconFile != kDefaultFile) {
+    record_->IconFile = ResolveProjectPath(tables_, record_->IconFile, true);
+  }
+}
+
+void FormReader::ReadObject(Kind kind) {
+  DesignControl& control = *window_->Load(kind);
+  control.Tag = scanner_.Name();
+  control.Visible = true;
+  Object object{control, ToInt16(Val(scanner_.Number())), nullptr, {}};
+  if (object.Number && *object.Number < 0) object.Number.reset();
+  if (object.Number) {
+    object.Key = form_key_ + "." + std::string(InfoOf(kind).Array) +
+                 NumberText(std::int64_t{*object.Number});
+    if (auto* const records = record_->Objects(kind))
+      object.Record = records->Ensure(*object.Number);
+  }
+  for (const LayoutField& field : LayoutOf(kind).Fields) {
+    if (field.Tag.empty()) continue;
+    const std::string& value = scanner_.Value(field.Tag);
+    std::visit([&](const auto& source) { Take(object, value, source); }, field.Value);
+  }
+  for (const InheritedMember& member : InheritedMembersOf(kind)) {
+    Take(object, scanner_.Value(member.Tag), member.Target);
+  }
+  ReadPicture(kind, object);
+}
+
+void FormReader::ReadPicture(Kind kind, Object& object) {
+  const bool with_picture = kind == Kind::Button || kind == Kind::Image;
+  if (!with_picture || object.Record == nullptr || !HasPicture(object.Record->ImageFile)) return;
+  object.Control.Picture = ResolveProjectPath(tables_, object.Record->ImageFile, true);
+  object.Record->Title = PictureResourceName(window_->Number(), kind, *object.Number);
+}
+
+void FormReader::ReadMenuTitle() {
+  if (!std::exchange(menu_met_, true)) tables_.ClearMenuArrays();
+  ReadMenu(tables_, *window_, scanner_.Value("string"), scanner_.Name(), scanner_.Value("items"));
+}
+
+void FormReader::ReadItemCode() {
+  const std::string& code = scanner_.Value("click");
+  tables_.EventTable.Replace(form_key_ + "." + scanner_.Name(), Event::OnClick, code);
+  if (!code.empty()) TellBar(scanner_.Name(), Event::OnClick);
+}
+
+void FormReader::ReadDeclarations() {
+  const std::string& text = scanner_.Value("string");
+  if (!text.empty()) record_->DeclarePbl = text;
+}
+
+void FormReader::TellBar(std::string_view name, Event event) {
+  tables_.Bar(form_)->Entries.push_back({std::string(name), std::string(InfoOf(event).Name)});
+}
+
+void FormReader::Take(Object& object, const std::string& value, Special special) {
+  switch (special) {
+    case Special::WindowCaption:
+      window_->Caption = value;
+      return;
+    case Special::WindowColor:
+      ReadNumber(value, window_->BackColor);
+      return;
+    case Special::ItemList:
+      if (object.Number) ReadPopUpRows(*tables_.PopUpMenus.Ensure(*object.Number), value);
+      return;
+    case Special::Number:
+    case Special::Name:
+    case Special::One:
+      return;
+  }
+}
+
+void FormReader::Take(Object& object, const std::string& value, Member member) {
+  if (float* const place = PlaceOf(object.Control, member)) return ReadPlace(value, *place);
+  object.Control.Set(member, value);
+  // The state of a check or option object is kept on the control and in its record both.
+  if (member == Member::Value) Take(object, value, &ObjectRec::Checked);
+}
+
+void FormReader::Take(Object& object, const std::string& value, Event event) {
+  if (!object.Number) return;
+  tables_.EventTable.Add(object.Key, event, value);
+  if (!value.empty()) TellBar(std::string_view(object.Key).substr(form_key_.size() + 1), event);
+}
+
+void FormReader::Take(Object& object, const std::string& value, std::int16_t ObjectRec::*field) {
+  if (object.Record == nullptr) return;
+  ReadNumber(value, object.Record->*field);
+  if (field == &ObjectRec::TabOrder) {
+    const double next = static_cast<double>(object.Record->TabOrder) + 1;
+    window_->NextTabOrder =
+        std::max(window_->NextTabOrder, ToInt16(next).value_or(object.Record->TabOrder));
+  }
+}
+
+void FormReader::Take(Object& object, const std::string& value, std::int32_t ObjectRec::*field) {
+  if (object.Record != nullptr) ReadNumber(value, object.Record->*field);
+}
+
+void FormReader::Take(Object& object, const std::string& value, std::string ObjectRec::*field) {
+  if (object.Record != nullptr) object.Record->*field = value;
+}
+
+void FormReader::Take(Object& object, const std::string& value, ItemsText items) {
+  if (object.Record != nullptr) object.Record->*items.Field = value;
+  object.Control.Items = RowsOf(value);
+}
+
+void FormReader::Take(Object& /*object*/, const std::string& value, std::int16_t FormRec::*field) {
+  ReadNumber(value, record_->*field);
+}
+
+void FormReader::Take(Object& /*object*/, const std::string& value, std::int32_t FormRec::*field) {
+  ReadNumber(value, record_->*field);
+}
+
+void FormReader::Take(Object& /*object*/, const std::string& value, std::string FormRec::*field) {
+  record_->*field = value;
+}
+
+void FormReader::Take(Object& /*object*/, const std::string& value, CommaText text) {
+  record_->*text.Field = value;
+}
+
+void FormReader::Take(Object& object, const std::string& value, std::string WinSockRec::*field) {
+  if (object.Number) record_->WinSocks.Ensure(*object.Number)->*field = value;
+}
+
+void FormReader::Take(Object& object, const std::string& value, std::string HtmlViewerRec::*field) {
+  if (object.Number) record_->HtmlViewers.Ensure(*object.Number)->*field = value;
+}
+
+void FormReader::Take(Object& object, const std::string& value, std::int16_t PopUpItemRec::*field) {
+  if (object.Number) ReadNumber(value, record_->PopUps.Ensure(*object.Number)->*field);
+}
+
+void FormReader::Take(Object& object, const std::string& value, std::string PopUpItemRec::*field) {
+  if (object.Number) record_->PopUps.Ensure(*object.Number)->*field = value;
+}
+
+}  // namespace tarnwick

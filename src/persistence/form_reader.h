@@ -1,0 +1,77 @@
+// The text of a form file on its way into the tables.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "persistence/project_reader.h"
+#include "persistence/record_layouts.h"
+#include "persistence/tag_scanner.h"
+
+namespace tarnwick {
+
+/// Reads one form file, line by line, as if the user had made its objects. A statement that fails
+/// is passed over: what a bad number or a missing tag leaves alone keeps its value.
+class FormReader {
+ public:
+  /// `file_name` becomes the form's `FileName`. With a `target` the form record is read into that
+  /// number, which keeps its list line and its file.
+  FormReader(ProjectContext& context, std::string file_name, int target = 0);
+
+  FormReadResult Read(std::string_view text);
+  /// The number of the form that was read last; 0 when there was none.
+  [[nodiscard]] int LastForm() const noexcept { return last_form_; }
+
+ private:
+  /// What the values of one object go to; null where a bad number leaves no record.
+  struct Object {
+    DesignControl& Control;
+    std::optional<std::int16_t> Number;
+    ObjectRec* Record;
+    std::string Key;
+  };
+
+  /// False when the form is refused and the file is read no further.
+  bool ReadLine(std::string_view line);
+  bool ReadForm();
+  void ReadFormValues(int form);
+  void ReadObject(Kind kind);
+  void ReadPicture(Kind kind, Object& object);
+  void ReadMenuTitle();
+  void ReadItemCode();
+  void ReadDeclarations();
+
+  void Take(Object& object, const std::string& value, Special special);
+  void Take(Object& object, const std::string& value, Member member);
+  void Take(Object& object, const std::string& value, Event event);
+  void Take(Object& object, const std::string& value, std::int16_t ObjectRec::*field);
+  void Take(Object& object, const std::string& value, std::int32_t ObjectRec::*field);
+  void Take(Object& object, const std::string& value, std::string ObjectRec::*field);
+  void Take(Object& object, const std::string& value, ItemsText items);
+  void Take(Object& object, const std::string& value, std::int16_t FormRec::*field);
+  void Take(Object& object, const std::string& value, std::int32_t FormRec::*field);
+  void Take(Object& object, const std::string& value, std::string FormRec::*field);
+  void Take(Object& object, const std::string& value, CommaText text);
+  void Take(Object& object, const std::string& value, std::string WinSockRec::*field);
+  void Take(Object& object, const std::string& value, std::string HtmlViewerRec::*field);
+  void Take(Object& object, const std::string& value, std::int16_t PopUpItemRec::*field);
+  void Take(Object& object, const std::string& value, std::string PopUpItemRec::*field);
+
+  void TellBar(std::string_view name, Event event);
+
+  ProjectContext& context_;
+  ProjectTables& tables_;
+  TagScanner scanner_;
+  std::string file_name_;
+  int target_;
+  int form_ = 0;  ///< the form that objects go to: the one with the highest number
+  int last_form_ = 0;
+  bool menu_met_ = false;
+  DesignForm* window_ = nullptr;
+  FormRec* record_ = nullptr;
+  std::string form_key_;
+};
+
+}  // namespace tarnwick

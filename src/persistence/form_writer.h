@@ -1,0 +1,14 @@
+// One form as the text of its file.
+#pragma once
+
+#include <string>
+
+#include "model/project_records.h"
+
+namespace tarnwick {
+
+/// The records of the form with that number, in file order, each ended by CR LF. An object whose
+/// record is missing is written with an empty one: no object is lost for it.
+[[nodiscard]] std::string FormText(const ProjectTables& tables, int form);
+
+}  // namespace tarnwick

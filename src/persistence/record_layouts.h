@@ -1,0 +1,68 @@
+// The layouts of the records in a form file. One table drives the writing, with its exact blanks,
+// and tells the reader which tag of a kind carries which value.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "model/design_control.h"
+#include "model/project_records.h"
+
+namespace tarnwick {
+
+/// Values that are no field of a record.
+enum class Special : std::uint8_t {
+  Number,         ///< running number of the object within its kind
+  Name,           ///< the object's or form's name
+  WindowCaption,  ///< of the design window
+  WindowColor,    ///< of the design window
+  ItemList,       ///< rows of a popup menu
+  One,            ///< always "1"
+};
+
+/// A text of a record that keeps its commas under another byte.
+struct CommaText {
+  std::string FormRec::*Field;
+};
+/// An item list of an object's record.
+struct ItemsText {
+  std::string ObjectRec::*Field;
+};
+
+/// Where a value of a record lives.
+using Source =
+    std::variant<Special, Member, Event, std::int16_t ObjectRec::*, std::int32_t ObjectRec::*,
+                 std::string ObjectRec::*, ItemsText, std::int16_t FormRec::*,
+                 std::int32_t FormRec::*, std::string FormRec::*, CommaText,
+                 std::string WinSockRec::*, std::string HtmlViewerRec::*,
+                 std::int16_t PopUpItemRec::*, std::string PopUpItemRec::*>;
+
+/// A piece of a record: literal text, then a value. `Tag` is the lower-case tag in which the value
+/// stands; "" for the head's number and name.
+struct LayoutField {
+  std::string Before;
+  Source Value;
+  std::string Tag;
+};
+
+struct RecordLayout {
+  std::vector<LayoutField> Fields;
+  std::string End;
+};
+
+/// The layout of an object kind or of the form itself (Kind::Form).
+[[nodiscard]] const RecordLayout& LayoutOf(Kind kind);
+
+/// A control member that reading sets from a tag which the kind's own record does not carry: the
+/// value is the one that a line before left behind.
+struct InheritedMember {
+  Member Target;
+  std::string_view Tag;
+};
+[[nodiscard]] std::span<const InheritedMember> InheritedMembersOf(Kind kind) noexcept;
+
+}  // namespace tarnwick

@@ -1,0 +1,57 @@
+#include "persistence/stored_text.h"
+
+#include <algorithm>
+
+#include "text/code_page.h"
+#include "text/strings.h"
+
+namespace tarnwick {
+
+namespace {
+
+void AppendReplacing(std::string& out, std::string_view text, char from, char to) {
+  const std::size_t start = out.size();
+  out += text;
+  std::replace(out.begin() + static_cast<std::ptrdiff_t>(start), out.end(), from, to);
+}
+
+}  // namespace
+
+void AppendStoredText(std::string& out, std::string_view text) {
+  AppendReplacing(out, text, ',', kStoredComma);
+}
+
+void AppendStoredItems(std::string& out, std::string_view items) {
+  AppendReplacing(out, items, ',', kStoredListComma);
+}
+
+void AppendStoredLines(std::string& out, std::string_view text) {
+  std::size_t at = 0;
+  for (std::size_t end = text.find("\r\n"); end != std::string_view::npos;
+       end = text.find("\r\n", at)) {
+    AppendStoredText(out, text.substr(at, end - at));
+    out += kStoredLineBreak;
+    at = end + 2;
+  }
+  AppendStoredText(out, text.substr(at));
+}
+
+void AppendStoredCode(std::string& out, std::string_view code) {
+  AppendStoredLines(out, Trim(code));
+}
+
+void RestoreCommas(std::string& text) {
+  ReplaceByte(text, kStoredComma, ',');
+}
+
+void RestoreListCommas(std::string& text) {
+  ReplaceByte(text, kStoredListComma, ',');
+}
+
+void RestoreLines(std::string& text) {
+  RestoreCommas(text);
+  if (text.find(kStoredLineBreak) == std::string::npos) return;
+  text = ReplaceAll(text, std::string_view(&kStoredLineBreak, 1), "\r\n");
+}
+
+}  // namespace tarnwick

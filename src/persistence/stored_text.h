@@ -1,0 +1,24 @@
+// How values are put into records and taken out of them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tarnwick {
+
+/// Appends a caption, text, tip or hint: commas become their stored byte.
+void AppendStoredText(std::string& out, std::string_view text);
+/// Appends event code: trimmed, commas and line ends as their stored bytes.
+void AppendStoredCode(std::string& out, std::string_view code);
+/// Appends public declarations: as code, but not trimmed.
+void AppendStoredLines(std::string& out, std::string_view text);
+/// Appends an item list: commas become the list comma.
+void AppendStoredItems(std::string& out, std::string_view items);
+
+/// Turns stored bytes back in place.
+void RestoreCommas(std::string& text);
+void RestoreListCommas(std::string& text);
+/// Commas and line ends; a line end is CR LF in memory.
+void RestoreLines(std::string& text);
+
+}  // namespace tarnwick
