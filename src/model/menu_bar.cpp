@@ -12,7 +12,6 @@ void AddMenuTitle(ProjectTables& tables, std::string_view caption, std::string_v
   title.Tag = "Menu" + NumberText(static_cast<std::int64_t>(tables.MenuTitles.size()));
   title.Name = name;
   tables.MenuTitles.push_back(std::move(title));
-  tables.MenuRows.emplace_back(caption);
 }
 
 void AddMenuItem(ProjectTables& tables, std::string_view caption, std::string_view name) {
@@ -26,7 +25,6 @@ void AddMenuItem(ProjectTables& tables, std::string_view caption, std::string_vi
     tables.MenuTitles.back().LastItem = static_cast<std::int32_t>(tables.MenuItems.size());
   }
   tables.MenuItems.push_back(std::move(item));
-  tables.MenuRows.emplace_back(std::string(kMenuDepth).append(caption));
 }
 
 void AddTitleControl(DesignForm& window, std::string_view caption, std::string_view name) {

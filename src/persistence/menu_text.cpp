@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <utility>
 #include <vector>
 
 #include "model/menu_bar.h"
@@ -78,16 +77,17 @@ class MenuWriter {
   int items_done_ = 0;
 };
 
-/// Caption and name of a piece, cut at the stored comma between them; a piece without one has an
-/// empty name.
+/// Caption and name of a piece, cut at the first stored comma; a piece without one has an empty
+/// name.
 struct Piece {
   std::string_view Caption;
   std::string_view Name;
 };
 
 Piece CutPiece(std::string_view piece) {
-  const std::vector<std::string_view> parts = Split(piece, std::string_view(&kStoredComma, 1));
-  return {parts[0], parts.size() > 1 ? parts[1] : std::string_view()};
+  const std::size_t comma = piece.find(kStoredComma);
+  if (comma == std::string_view::npos) return {piece, {}};
+  return {piece.substr(0, comma), piece.substr(comma + 1)};
 }
 
 }  // namespace
@@ -124,6 +124,7 @@ void AppendPopUpRows(std::string& out, const PopUpFormRec& popup) {
 
 void ReadMenu(ProjectTables& tables, DesignForm& window, std::string_view caption,
               std::string_view name, std::string_view items) {
+  tables.MenuRows.emplace_back(caption);
   AddMenuTitle(tables, caption, name);
   AddTitleControl(window, caption, name);
   for (const std::string_view piece : Split(items, kItemEnd)) {
@@ -134,6 +135,7 @@ void ReadMenu(ProjectTables& tables, DesignForm& window, std::string_view captio
     std::string item_caption(nested < direct ? kMenuDepth : std::string_view());
     item_caption += piece.substr(0, mark);
     const std::string_view item_name = piece.substr(mark + kDirectMark.size());
+    tables.MenuRows.push_back(std::string(kMenuDepth) + item_caption);
     AddMenuItem(tables, item_caption, item_name);
     AddItemControl(window, item_caption, item_name);
   }
@@ -142,21 +144,18 @@ void ReadMenu(ProjectTables& tables, DesignForm& window, std::string_view captio
 void ReadPopUpRows(PopUpFormRec& popup, std::string_view rows) {
   popup.Items.assign(1, {});
   for (const std::string_view row : Split(rows, std::string_view(&kMenuNested, 1))) {
-    bool top = true;
-    for (const std::string_view piece : Split(row, std::string_view(&kPopUpEntry, 1))) {
-      const bool is_top = std::exchange(top, false);
-      if (piece.empty()) continue;
-      const Piece cut = CutPiece(piece);
-      if (is_top) {
-        PopUpMenuRec& rec = popup.Items.emplace_back();
-        rec.Caption = cut.Caption;
-        rec.Name = cut.Name;
-        rec.Entries.resize(1);
-      } else if (popup.Items.size() > 1) {
-        PopUpMenuRec& rec = popup.Items.back();
-        rec.Entries.push_back({std::string(cut.Name), std::string(cut.Caption)});
-        if (rec.Level < INT16_MAX) ++rec.Level;
-      }
+    if (row.empty()) continue;
+    const std::vector<std::string_view> pieces = Split(row, std::string_view(&kPopUpEntry, 1));
+    PopUpMenuRec& rec = popup.Items.emplace_back();
+    const Piece top = CutPiece(pieces.front());
+    rec.Caption = top.Caption;
+    rec.Name = top.Name;
+    rec.Entries.resize(1);
+    for (std::size_t i = 1; i < pieces.size(); ++i) {
+      if (pieces[i].empty()) continue;
+      const Piece entry = CutPiece(pieces[i]);
+      rec.Entries.push_back({std::string(entry.Name), std::string(entry.Caption)});
+      if (rec.Level < INT16_MAX) ++rec.Level;
     }
   }
 }
