@@ -117,7 +117,7 @@ std::span<const ToolbarButton> MainToolbar() noexcept {
 std::span<const ToolbarButton> FormListBar() noexcept {
   return kFormListBar;
 }
-std::span<const MenuRow> ObjectPopUp() noexcept {
+std::span<const MenuRow> ObjectPopUpRows() noexcept {
   return kObjectPopUp;
 }
 

@@ -72,7 +72,7 @@ struct ToolbarButton {
 /// `BtnBarMenu`, the small bar above the form list.
 [[nodiscard]] std::span<const ToolbarButton> FormListBar() noexcept;
 /// The pop-up menu of a design form and its objects. Its keys are only shown.
-[[nodiscard]] std::span<const MenuRow> ObjectPopUp() noexcept;
+[[nodiscard]] std::span<const MenuRow> ObjectPopUpRows() noexcept;
 /// The row of the menu bar that runs a command; null for none.
 [[nodiscard]] const MenuRow* MenuRowOf(Command command) noexcept;
 
