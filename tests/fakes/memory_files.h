@@ -1,0 +1,82 @@
+// A file port in memory, with failure on demand.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "fakes/call_log.h"
+#include "platform/ports.h"
+#include "text/code_page.h"
+
+namespace tarnwick {
+
+/// Paths compare without regard to case. Log entries: "read P", "replace P", "remove P".
+///
+///   MemoryFiles files(log);
+///   files.Put("Z:\\p\\a.tnp", "...");
+///   files.FailAtStep(2);   // the second read, replace or remove from here on fails, once
+class MemoryFiles final : public FilePort {
+ public:
+  explicit MemoryFiles(CallLog& log) : log_(&log) {}
+
+  /// Lays a file down without a log entry.
+  void Put(const std::string& path, std::string bytes) {
+    files_[Lower(path)] = File{path, std::move(bytes)};
+  }
+  /// A file's bytes without a log entry; nothing when it is not there.
+  [[nodiscard]] std::optional<std::string> Bytes(const std::string& path) const {
+    const auto found = files_.find(Lower(path));
+    if (found == files_.end()) return std::nullopt;
+    return found->second.Bytes;
+  }
+  [[nodiscard]] std::size_t Count() const { return files_.size(); }
+  /// The n-th read, replace or remove from now on fails; 0 takes the order back.
+  void FailAtStep(int step) { fail_at_ = step; }
+  /// From now on every replace and remove fails, as on a write-protected disk.
+  void SetReadOnly(bool read_only) { read_only_ = read_only; }
+  /// Operations still succeed or fail, but leave no log entry and count as no step.
+  void SetQuiet(bool quiet) { quiet_ = quiet; }
+
+  [[nodiscard]] bool Exists(const std::string& path) override {
+    return files_.count(Lower(path)) != 0;
+  }
+  [[nodiscard]] std::optional<std::string> Read(const std::string& path) override {
+    if (!Step("read " + path)) return std::nullopt;
+    return Bytes(path);
+  }
+  bool Replace(const std::string& path, std::string_view bytes) override {
+    if (!Step("replace " + path) || read_only_) return false;
+    Put(path, std::string(bytes));
+    return true;
+  }
+  bool Remove(const std::string& path) override {
+    if (!Step("remove " + path) || read_only_) return false;
+    return files_.erase(Lower(path)) != 0;
+  }
+  [[nodiscard]] std::string ShortPathOf(const std::string& path) override {
+    return Exists(path) ? path.substr(0, 165) : std::string();
+  }
+
+ private:
+  struct File {
+    std::string Path;
+    std::string Bytes;
+  };
+
+  bool Step(std::string entry) {
+    if (quiet_) return true;
+    log_->Add(std::move(entry));
+    return fail_at_ == 0 || --fail_at_ != 0;
+  }
+
+  CallLog* log_;
+  std::map<std::string, File> files_;
+  int fail_at_ = 0;
+  bool read_only_ = false;
+  bool quiet_ = false;
+};
+
+}  // namespace tarnwick
