@@ -11,6 +11,14 @@ const std::string* EventCodeTable::Owner::Find(Event event) const noexcept {
   return nullptr;
 }
 
+std::array<const std::string*, kEventCount> EventCodeTable::Owner::Codes() const noexcept {
+  std::array<const std::string*, kEventCount> codes{};
+  for (const auto& [slot, value] : entries_) {
+    if (slot < kEventCount) codes[slot] = &value;
+  }
+  return codes;
+}
+
 EventCodeTable::Place EventCodeTable::PlaceOf(std::string_view key) noexcept {
   const std::size_t dot = key.rfind('.');
   if (dot != std::string_view::npos) {

@@ -1,6 +1,7 @@
 // `EventTable`: the code of every event of every form, object and menu item.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -28,6 +29,9 @@ class EventCodeTable {
    public:
     /// The code of an event; null when there is no entry.
     [[nodiscard]] const std::string* Find(Event event) const noexcept;
+    /// The codes of all events by enumerator, null where there is no entry: one pass for callers
+    /// that ask for many events of one owner.
+    [[nodiscard]] std::array<const std::string*, kEventCount> Codes() const noexcept;
     [[nodiscard]] bool Empty() const noexcept { return entries_.empty(); }
 
    private:

@@ -1,0 +1,177 @@
+#include "codegen/compile_driver.h"
+
+#include "codegen/declarations.h"
+#include "codegen/event_code.h"
+#include "codegen/form_init.h"
+#include "codegen/generation.h"
+#include "codegen/show_rewriter.h"
+#include "codegen/transparent_frame.h"
+#include "text/code_page.h"
+
+namespace tarnwick {
+
+namespace {
+
+/// The WinSock number is set back by no one in the life of the process.
+constexpr KindSet kKeptBetweenForms = KindSet::Of(Kind::PopUpMenu, Kind::WinSock);
+
+/// Calls `write()` with each form that was not removed selected, in the order of the numbers.
+template <class Write>
+void ForEachForm(Generation& gen, Write write) {
+  for (int i = 1; i <= gen.Tables.FormsCount; ++i) {
+    if (!gen.Tables.IsLive(i)) continue;
+    gen.SelectForm(i);
+    write();
+  }
+}
+
+bool HasTransparentFrame(const ProjectTables& tables, int form) {
+  const DesignForm* user = tables.UserIfAny(form);
+  return user != nullptr && user->HasObjects(Kind::TransparentFrame);
+}
+
+/// Room for the text of a project, so that it grows without being copied in most cases.
+std::size_t ExpectedSize(const ProjectTables& tables) {
+  constexpr std::size_t kPerControl = 1024;
+  constexpr std::size_t kPerForm = 1024;
+  std::size_t size = kPerForm;
+  for (int i = 1; i <= tables.FormsCount; ++i) {
+    size += kPerForm;
+    if (const DesignForm* user = tables.UserIfAny(i)) size += kPerControl * user->Controls().size();
+  }
+  return size;
+}
+
+void WriteIncludeLine(Generation& gen) {
+  // Asked of the form, not of the project: without a form in slot 1 there is no such line.
+  if (gen.State.i != 1) return;
+  gen.Out.Line("$Include \"", gen.Tables.ProgramFolder, "\\Tarnwick1.lib\"");
+}
+
+void WriteStartLine(Generation& gen) {
+  const FormRec* first = gen.Tables.Form(1);
+  if (first != nullptr && HasTransparentFrame(gen.Tables, 1)) {
+    gen.Out.Line(first->Name, ".Show");
+  } else {
+    gen.Out.Line(FormListName(gen.Tables.MainFormName), ".ShowModal");
+  }
+}
+
+void WriteFreeLines(Generation& gen) {
+  const int highest = gen.User().UBound(Kind::HtmlViewer);
+  for (int j = 1; j <= highest; ++j) {
+    if (const ControlRef viewer = gen.User().Element(Kind::HtmlViewer, j)) {
+      gen.Out.Line(viewer->Tag, ".Free");
+    }
+  }
+}
+
+void WriteSections(Generation& gen) {
+  gen.Out.Line("Dim Font As QFont");
+  ForEachForm(gen, [&] { WriteDeclarations(gen); });
+  ForEachForm(gen, [&] {
+    if (gen.User().HasObjects(Kind::TransparentFrame)) WriteTransparentFrameSub(gen);
+  });
+  ForEachForm(gen, [&] {
+    WriteIncludeLine(gen);
+    WriteSubDeclares(gen);
+  });
+  ForEachForm(gen, [&] {
+    WriteEventSubs(gen);
+    gen.State.KindCounters.ResetAllBut(kKeptBetweenForms);
+    WriteFormInit(gen);
+  });
+  gen.Out.Blank();
+  WriteStartLine(gen);
+  ForEachForm(gen, [&] { WriteFreeLines(gen); });
+}
+
+void SetFormVisible(CompileHost& host, DesignForm* form, bool visible) {
+  if (form == nullptr) return;
+  form->Visible = visible;
+  host.ShowDesignForm(*form, visible);
+}
+
+std::string InQuotes(std::string_view text) {
+  return std::string(1, '"').append(text).append(1, '"');
+}
+
+}  // namespace
+
+std::string GenerateSource(ProjectTables& tables, GeneratorState& state) {
+  state.KindCounters.ResetAllBut(kKeptBetweenForms);
+  state.DefaultIconDone = false;
+  Generation gen(tables, state, ExpectedSize(tables));
+  WriteSections(gen);
+  std::string text = gen.Out.Take();
+  ForEachForm(gen, [&] {
+    if (!gen.User().HasObjects(Kind::TransparentFrame)) return;
+    text =
+        RewriteShowCalls(text, gen.Record().Name + ".show", TransparentFrameSubName(gen.State.i));
+  });
+  // The text is printed whole, as one more line.
+  text += "\r\n";
+  return text;
+}
+
+void CheckMainForm(ProjectTables& tables) {
+  for (int i = 1; i <= tables.FormsCount; ++i) {
+    const FormRec* form = tables.Form(i);
+    if (form == nullptr || form->Removed != 1 || form->Name != FormListName(tables.MainFormName)) {
+      continue;
+    }
+    if (!tables.ListaFrms.Empty()) tables.MainFormName = tables.ListaFrms.Lines().front().Text;
+    return;
+  }
+}
+
+std::string CompilerCommandLine(const ProjectTables& tables, FilePort& files,
+                                const std::string& source_file) {
+  static const FormRec empty{};
+  const FormRec* first = tables.Form(1);
+  // The icon is that of form 1 whatever the main form is.
+  const std::string& icon_file = (first == nullptr ? empty : *first).IconFile;
+  const std::string icon = files.ShortPathOf(
+      icon_file != kDefaultFile ? icon_file : tables.ProgramFolder + "\\IconApp.ico");
+
+  constexpr std::string_view kEnding = ".com";
+  std::string source = files.ShortPathOf(source_file);
+  const bool ends =
+      source.size() >= kEnding.size() &&
+      EqualsFolded(std::string_view(source).substr(source.size() - kEnding.size()), kEnding);
+  if (!ends) source += kEnding;
+  // The first dot of the whole path: a dot in a folder's name cuts there.
+  const std::string target = source.substr(0, source.find('.') + 1) + "EXE";
+
+  return tables.ProgramFolder + "\\Rc.exe /COMPILE  " + InQuotes(icon) + ' ' + InQuotes(source) +
+         ' ' + InQuotes(target) + ' ' + InQuotes(tables.ExeFile);
+}
+
+void GenerateProgram(ProjectTables& tables, GeneratorState& state, CompileHost& host,
+                     const Ports& ports, const std::string& source_file) {
+  // How far below the screen the container waits while the forms are read.
+  constexpr int kBelowScreen = 1000;
+
+  CheckMainForm(tables);
+  host.SaveProject();
+
+  host.HideContainer();
+  host.MoveContainer(ports.Screen.HeightPixels() + kBelowScreen);
+  host.ShowContainer();
+  SetFormVisible(host, tables.CurrentForm, false);
+
+  const std::string text = GenerateSource(tables, state);
+  for (int i = 1; i <= tables.FormsCount; ++i) {
+    if (tables.IsLive(i)) SetFormVisible(host, tables.User(i), false);
+  }
+  ports.Files.Replace(source_file, text);
+
+  host.HideContainer();
+  host.MoveContainer(0);
+  SetFormVisible(host, tables.CurrentForm, true);
+  host.ShowContainer();
+
+  ports.Processes.StartHidden(CompilerCommandLine(tables, ports.Files, source_file));
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,49 @@
+// From the open project to a source text and a running compiler.
+#pragma once
+
+#include <string>
+
+#include "codegen/generator_state.h"
+#include "model/project_records.h"
+#include "platform/ports.h"
+
+namespace tarnwick {
+
+/// The generated program as one text, its calls of Show rewritten, as the source file holds it.
+/// Reads the tables; nothing in them changes but design windows that come into being on first
+/// touch. `state` goes on from one compilation to the next.
+[[nodiscard]] std::string GenerateSource(ProjectTables& tables, GeneratorState& state);
+
+/// A main form that was removed gives way to the first form of the list.
+void CheckMainForm(ProjectTables& tables);
+
+/// The compiler's command line for a source that has been written.
+[[nodiscard]] std::string CompilerCommandLine(const ProjectTables& tables, FilePort& files,
+                                              const std::string& source_file);
+
+/// The windows around a compilation, as far as it moves them. Nothing here answers anything: a
+/// host without windows leaves them all empty.
+class CompileHost {
+ public:
+  CompileHost() = default;
+  CompileHost(const CompileHost&) = delete;
+  CompileHost& operator=(const CompileHost&) = delete;
+  virtual ~CompileHost() = default;
+
+  /// The Save command, with its dialog where the project has no name yet.
+  virtual void SaveProject() = 0;
+  virtual void ShowContainer() = 0;
+  virtual void HideContainer() = 0;
+  /// Moves the form container; pixels from the top of the screen.
+  virtual void MoveContainer(int top) = 0;
+  /// A design form is to be seen or not; its own `Visible` says the same already.
+  virtual void ShowDesignForm(DesignForm& form, bool visible) = 0;
+};
+
+/// "Compile and Run": checks the main form, saves, writes the generated program to `source_file`
+/// and starts the compiler on it, hidden, without waiting. Every step goes on whatever became of
+/// the one before; nothing is reported. The forms end hidden but for the current one.
+void GenerateProgram(ProjectTables& tables, GeneratorState& state, CompileHost& host,
+                     const Ports& ports, const std::string& source_file);
+
+}  // namespace tarnwick

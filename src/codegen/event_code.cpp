@@ -1,0 +1,152 @@
+#include "codegen/event_code.h"
+
+namespace tarnwick {
+
+namespace {
+
+/// Kinds whose counter steps in the walks of this section. The others are looked up under the
+/// ordinal of the object before them.
+constexpr KindSet kStepping =
+    KindSet::Of(Kind::Button, Kind::TextBox, Kind::RichTextBox, Kind::Label, Kind::ListBox,
+                Kind::Image, Kind::ComboBox, Kind::OptionButton, Kind::CheckBox, Kind::Time);
+
+/// Kinds that the walks pass over whether visible or not.
+constexpr KindSet kPassedOver = KindSet::Of(Kind::FileStream, Kind::PopUpMenu, Kind::MenuItem,
+                                            Kind::Frame, Kind::Numero, Kind::Handle, Kind::Form);
+
+constexpr KindSet kKeptByBodies = KindSet::Of(Kind::PopUpMenu, Kind::WinSock, Kind::HtmlViewer);
+
+/// Calls `write(sub_name, event, code)` for every event of every object that has code.
+template <class Write>
+void ForEachObjectEvent(Generation& gen, Write write) {
+  GeneratorState& state = gen.State;
+  for (const ControlRef& control : gen.User().Controls()) {
+    const Kind kind = control->Id;
+    if (!control->Visible || kPassedOver.Has(kind)) continue;
+    if (kind == Kind::Menu && !gen.MenuBarVisible()) continue;
+    if (kStepping.Has(kind)) state.CurrentOrdinal = state.KindCounters.Step(kind);
+    const OwnerCode code = gen.Code.OfObject(kind, state.CurrentOrdinal);
+    for (const Event event : kObjectEvents) {
+      const std::string_view text = code.Of(event);
+      if (!text.empty()) write(SubNameOf(control->Tag, state.CurrentOrdinal), event, text);
+    }
+  }
+}
+
+/// Calls `write(name)` with each item and sub-item of popup number `p` from item `first` on. A
+/// removed popup has none.
+template <class Write>
+void ForEachPopUpItem(const Generation& gen, int p, std::size_t first, Write write) {
+  const PopUpFormRec* popup = PopUpRowsOf(gen, p);
+  if (popup == nullptr || popup->Removed == 1) return;
+  for (std::size_t q = first; q < popup->Items.size(); ++q) {
+    write(popup->Items[q].Name);
+    for (const PopUpEntryRec& entry : SubItemsOf(popup->Items[q])) write(entry.Name);
+  }
+}
+
+/// Calls `write(name, n)` with the name and place of each item of the menu bar that has a name.
+template <class Write>
+void ForEachMenuItem(const Generation& gen, Write write) {
+  if (!gen.MenuBarVisible()) return;
+  const auto& items = gen.Tables.MenuItems;
+  for (std::size_t n = 0; n < items.size(); ++n) {
+    if (!items[n].Name.empty()) write(items[n].Name, static_cast<int>(n));
+  }
+}
+
+void DeclarePopUpSubs(Generation& gen) {
+  const int highest = gen.User().UBound(Kind::PopUpMenu);
+  for (int p = 1; p <= highest; ++p) {
+    const ControlRef popup = gen.User().Element(Kind::PopUpMenu, p);
+    if (popup && !gen.Code.OnPopUpOf(popup->Tag, p).empty()) {
+      gen.Out.Line("Declare Sub ", popup->Tag, "_OnPopUp");
+    }
+    // Item 0 is left out here, though it gets a body.
+    ForEachPopUpItem(gen, p, 1, [&](std::string_view name) {
+      if (!gen.Code.OnClickOf(name).empty()) gen.Out.Line("Declare Sub ", name, "_OnClick");
+    });
+  }
+}
+
+void WritePopUpBody(Generation& gen, std::string_view name, std::string_view event,
+                    std::string_view code) {
+  if (code.empty()) return;
+  gen.Out.Line("Sub ", name, event);
+  gen.Out.Line(code);
+  gen.Out.Line("End Sub");
+}
+
+void WritePopUpBodies(Generation& gen) {
+  const int highest = gen.User().UBound(Kind::PopUpMenu);
+  for (int p = 1; p <= highest; ++p) {
+    if (const ControlRef popup = gen.User().Element(Kind::PopUpMenu, p)) {
+      WritePopUpBody(gen, popup->Tag, "_OnPopUp", gen.Code.OnPopUpOf(popup->Tag, p));
+    }
+    ForEachPopUpItem(gen, p, 0, [&](std::string_view name) {
+      WritePopUpBody(gen, name, "_OnClick", gen.Code.OnClickOf(name));
+    });
+  }
+}
+
+void WriteFormBodies(Generation& gen) {
+  const OwnerCode code = gen.Code.OfForm();
+  for (const Event event : kFormSubEvents) {
+    const std::string_view text = code.Of(event);
+    if (text.empty()) continue;
+    gen.Out.Line("Sub ", gen.Record().Name, "_", InfoOf(event).Signature);
+    gen.Out.Line(text);
+    gen.Out.Line("End Sub");
+    gen.Out.Blank();
+  }
+}
+
+}  // namespace
+
+void WriteSubDeclares(Generation& gen) {
+  const OwnerCode form_code = gen.Code.OfForm();
+  for (const Event event : kFormSubEvents) {
+    // The bare event name: the parameters stand in the Sub line alone.
+    if (form_code.Of(event).empty()) continue;
+    gen.Out.Line("Declare Sub ", gen.Record().Name, "_", InfoOf(event).Name);
+  }
+  gen.Out.Blank();
+  ForEachObjectEvent(gen, [&](const Numbered& sub, Event event, std::string_view) {
+    gen.Out.Line("Declare Sub ", sub, "_", InfoOf(event).Signature);
+  });
+  DeclarePopUpSubs(gen);
+  ForEachMenuItem(gen, [&](std::string_view name, int n) {
+    if (gen.Code.OnClickOf(name).empty()) return;
+    gen.Out.Line("Declare Sub ", SubNameOf(name, n), "_OnClick");
+  });
+  gen.Out.Blank();
+  gen.Out.Line("'---Public Declarations");
+  gen.Out.Line(gen.Record().DeclarePbl);
+  gen.Out.Blank();
+  gen.Out.Blank();
+}
+
+void WriteEventSubs(Generation& gen) {
+  gen.State.KindCounters.ResetAllBut(kKeptByBodies);
+  WriteFormBodies(gen);
+  ForEachObjectEvent(gen, [&](const Numbered& sub, Event event, std::string_view code) {
+    gen.Out.Line("Sub ", sub, "_", InfoOf(event).Signature);
+    gen.Out.Line(code);
+    gen.Out.Line("End Sub");
+    gen.Out.Blank();
+    gen.Out.Blank();
+  });
+  gen.State.KindCounters.ResetAllBut(kKeptByBodies);
+  gen.Out.Blank();
+  WritePopUpBodies(gen);
+  ForEachMenuItem(gen, [&](std::string_view name, int n) {
+    const std::string_view code = gen.Code.OnClickOf(name);
+    if (code.empty()) return;
+    gen.Out.Line("Sub ", SubNameOf(name, n), "_OnClick");
+    gen.Out.Line(code);
+    gen.Out.Line("End Sub");
+    gen.Out.Blank();
+  });
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,70 @@
+// Event code by the keys that the generator builds: form, kind and running number, or item name.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "model/event_table.h"
+#include "model/vocabulary.h"
+
+namespace tarnwick {
+
+/// Events of a form that become a Sub.
+inline constexpr std::array kFormSubEvents{Event::OnClick,     Event::OnClose,     Event::OnHint,
+                                           Event::OnKeyDown,   Event::OnKeyPress,  Event::OnKeyUp,
+                                           Event::OnMouseDown, Event::OnMouseMove, Event::OnMouseUp,
+                                           Event::OnPaint,     Event::OnResize,    Event::OnShow};
+/// Events of a form that get a hook. OnTimer is among them though it has no Sub.
+inline constexpr std::array kFormHookEvents{
+    Event::OnTimer,    Event::OnClick,  Event::OnClose,     Event::OnHint,      Event::OnKeyDown,
+    Event::OnKeyPress, Event::OnKeyUp,  Event::OnMouseDown, Event::OnMouseMove, Event::OnMouseUp,
+    Event::OnPaint,    Event::OnResize, Event::OnShow};
+/// Events of an object, for Subs and hooks alike.
+inline constexpr std::array kObjectEvents{Event::OnTimer,     Event::OnClick,    Event::OnChange,
+                                          Event::OnEnter,     Event::OnDblClick, Event::OnKeyDown,
+                                          Event::OnKeyPress,  Event::OnKeyUp,    Event::OnMouseDown,
+                                          Event::OnMouseMove, Event::OnMouseUp};
+
+/// The code of an owner's events. No entry reads as empty code.
+class OwnerCode {
+ public:
+  OwnerCode() = default;
+  explicit OwnerCode(const EventCodeTable::Owner* owner) {
+    if (owner != nullptr) codes_ = owner->Codes();
+  }
+  [[nodiscard]] std::string_view Of(Event event) const noexcept {
+    const std::string* code = codes_[static_cast<std::size_t>(event)];
+    return code == nullptr ? std::string_view() : std::string_view(*code);
+  }
+
+ private:
+  std::array<const std::string*, kEventCount> codes_{};
+};
+
+/// Looks code up for one form at a time. Keys are built in one buffer that is used again.
+class EventLookup {
+ public:
+  explicit EventLookup(const EventCodeTable& table) noexcept : table_(table) {}
+  void SetForm(int form);
+
+  /// Code of the form itself.
+  [[nodiscard]] OwnerCode OfForm();
+  /// Code of the object with this running number in its kind.
+  [[nodiscard]] OwnerCode OfObject(Kind kind, int ordinal);
+  /// OnClick code of a menu or popup item.
+  [[nodiscard]] std::string_view OnClickOf(std::string_view item);
+  /// OnPopUp code of a popup menu: under its name or else under its array name and number, which
+  /// is where editor and reader put it.
+  [[nodiscard]] std::string_view OnPopUpOf(std::string_view name, int number);
+
+ private:
+  [[nodiscard]] const EventCodeTable::Owner* OwnerBehindDot(std::string_view name, int number);
+  [[nodiscard]] static std::string_view CodeOf(const EventCodeTable::Owner* owner, Event event);
+
+  const EventCodeTable& table_;
+  std::string key_;
+  std::size_t form_size_ = 0;  ///< length of "Form3" at the head of the buffer
+};
+
+}  // namespace tarnwick

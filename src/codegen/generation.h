@@ -1,0 +1,65 @@
+// What the section writers share while one source text is made.
+#pragma once
+
+#include <algorithm>
+#include <span>
+#include <string_view>
+#include <utility>
+
+#include "codegen/event_lookup.h"
+#include "codegen/generator_state.h"
+#include "codegen/image_index.h"
+#include "codegen/source_text.h"
+#include "model/project_records.h"
+#include "text/strings.h"
+
+namespace tarnwick {
+
+/// One run of the generator: the tables it reads, the text it writes, and the form it is at.
+class Generation {
+ public:
+  Generation(ProjectTables& tables, GeneratorState& state, std::size_t expected_size)
+      : Tables(tables), State(state), Out(expected_size), Code(tables.EventTable) {}
+
+  /// Turns to a form of the project; everything below then speaks of it.
+  void SelectForm(int form);
+
+  [[nodiscard]] const FormRec& Record() const noexcept { return *record_; }
+  [[nodiscard]] DesignForm& User() const noexcept { return *user_; }
+  /// The form's number as its design window holds it, as text.
+  [[nodiscard]] std::string_view NumeroText() const noexcept { return numero_; }
+  [[nodiscard]] bool MenuBarVisible() const noexcept { return menu_bar_visible_; }
+
+  ProjectTables& Tables;
+  GeneratorState& State;
+  SourceText Out;
+  EventLookup Code;
+  ImageIndex ButtonImages;
+  ImageIndex PictureImages;
+
+ private:
+  const FormRec* record_ = nullptr;
+  DesignForm* user_ = nullptr;
+  std::string_view numero_;
+  bool menu_bar_visible_ = false;
+};
+
+/// The first part of an object's Sub name: for a name in array form the stem and a number.
+[[nodiscard]] inline Numbered SubNameOf(std::string_view name, int number) noexcept {
+  const bool array_form = IsArrayForm(name);
+  return {array_form ? ArrayStem(name) : name, number, array_form};
+}
+
+/// The sub-items of a popup's item: as many as it counts and holds, slot 0 left out.
+[[nodiscard]] inline std::span<const PopUpEntryRec> SubItemsOf(const PopUpMenuRec& item) noexcept {
+  if (item.Level <= 0 || item.Entries.empty()) return {};
+  const std::size_t held = item.Entries.size() - 1;
+  return std::span(item.Entries).subspan(1, std::min(held, static_cast<std::size_t>(item.Level)));
+}
+
+/// The rows of popup number `p`; null when the project has none under it.
+[[nodiscard]] inline const PopUpFormRec* PopUpRowsOf(const Generation& gen, int p) noexcept {
+  return std::as_const(gen.Tables.PopUpMenus).At(p);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,74 @@
+// What the generator keeps from one compilation to the next.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <limits>
+
+#include "model/vocabulary.h"
+
+namespace tarnwick {
+
+/// A set of kinds, so that the kinds a rule names stand in one line.
+class KindSet {
+ public:
+  template <class... Kinds>
+  static constexpr KindSet Of(Kinds... kinds) noexcept {
+    KindSet set;
+    set.bits_ = ((1U << static_cast<unsigned>(kinds)) | ... | 0U);
+    return set;
+  }
+  template <class... Kinds>
+  static constexpr KindSet AllBut(Kinds... kinds) noexcept {
+    KindSet set = Of(kinds...);
+    set.bits_ = ~set.bits_;
+    return set;
+  }
+  [[nodiscard]] constexpr bool Has(Kind kind) const noexcept {
+    return (bits_ >> static_cast<unsigned>(kind) & 1U) != 0;
+  }
+
+ private:
+  std::uint32_t bits_ = 0;
+};
+
+/// A running number of 16 bits. A step past its range fails, and the number stays.
+inline void StepOrdinal(std::int16_t& ordinal) noexcept {
+  if (ordinal < std::numeric_limits<std::int16_t>::max()) ++ordinal;
+}
+
+/// The running number of the object visited last, for each kind.
+class KindCounters {
+ public:
+  [[nodiscard]] std::int16_t Of(Kind kind) const noexcept { return counts_[Slot(kind)]; }
+  /// Raises a kind's number by one and returns it.
+  std::int16_t Step(Kind kind) noexcept {
+    StepOrdinal(counts_[Slot(kind)]);
+    return counts_[Slot(kind)];
+  }
+  void Set(Kind kind, std::int16_t count) noexcept { counts_[Slot(kind)] = count; }
+  /// Sets every number to 0 but those of the kinds in `kept`.
+  void ResetAllBut(KindSet kept) noexcept {
+    for (std::size_t i = 0; i < kObjectKindCount; ++i) {
+      if (!kept.Has(static_cast<Kind>(i))) counts_[i] = 0;
+    }
+  }
+
+ private:
+  static std::size_t Slot(Kind kind) noexcept { return static_cast<std::size_t>(kind); }
+  std::array<std::int16_t, kKindCount> counts_{};
+};
+
+/// State of the generator that the section writers share. One instance lives as long as the
+/// process: the WinSock number goes on from compilation to compilation, and `CurrentOrdinal` is
+/// never set back by anyone.
+struct GeneratorState {
+  tarnwick::KindCounters KindCounters;
+  /// Ordinal of the object being visited. A kind whose counter does not step in a walk leaves the
+  /// number of the object before it here, and keys are built with that.
+  std::int16_t CurrentOrdinal = 0;
+  bool DefaultIconDone = false;  ///< the line of the default icon has been written
+  std::int16_t i = 0;            ///< the form the section writers work on
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,15 @@
+// The lines of an object that are its kind's own.
+#pragma once
+
+#include "codegen/generation.h"
+
+namespace tarnwick {
+
+/// Writes the kind lines of an object and steps the kind's counter: the values come from the
+/// record at the new number. A label's counter has stepped before, with its common lines.
+void WriteObjectInit(Generation& gen, const DesignControl& control);
+
+/// Writes the lines that hand the object's events to their Subs. Code of blanks only has no hook.
+void WriteObjectHooks(Generation& gen, const DesignControl& control);
+
+}  // namespace tarnwick

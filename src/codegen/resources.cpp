@@ -1,0 +1,45 @@
+#include "codegen/resources.h"
+
+#include <string>
+
+namespace tarnwick {
+
+namespace {
+
+/// The path of a file in the generated text. The test of the drive is exact here, so that a drive
+/// letter in the other case counts as relative to the project.
+std::string PathOf(const Generation& gen, std::string_view file) {
+  return ResolveProjectPath(gen.Tables, file, false);
+}
+
+void WriteIcon(Generation& gen) {
+  if (gen.Record().ImageFile != kDefaultFile) {
+    gen.Out.Line("$Resource Form", gen.State.i, "_Icon As ",
+                 Quoted{PathOf(gen, gen.Record().ImageFile)});
+  } else if (!gen.State.DefaultIconDone) {
+    gen.Out.Line("$Resource Default_Icon As \"", gen.Tables.ProgramFolder, "\\IconApp.ico\"");
+    gen.State.DefaultIconDone = true;
+  }
+}
+
+/// The pictures of one kind. The walk goes over the records: the object a record belongs to may
+/// stand at another place of its array by now.
+void WritePictures(Generation& gen, Kind kind, std::string_view word, ImageIndex& images) {
+  const RecordArray<ObjectRec>& records = *gen.Record().Objects(kind);
+  const int highest = gen.User().UBound(kind);
+  for (int j = 1; j <= highest; ++j) {
+    const std::string& file = RecordOrEmpty(records, j).ImageFile;
+    if (!HasPicturePath(file) || images.FindEarlierImage(file, j) != 0) continue;
+    gen.Out.Line("$Resource Frm", gen.NumeroText(), word, j, "_Bmp As ", Quoted{PathOf(gen, file)});
+  }
+}
+
+}  // namespace
+
+void WriteResources(Generation& gen) {
+  WriteIcon(gen);
+  WritePictures(gen, Kind::Button, "Btn", gen.ButtonImages);
+  WritePictures(gen, Kind::Image, "Image", gen.PictureImages);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,39 @@
+#include "codegen/source_text.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "model/units.h"
+#include "text/numbers.h"
+
+namespace tarnwick {
+
+namespace {
+
+/// Whole numbers of this size and below are the same as single and as 32-bit number.
+constexpr float kPlainLimit = 16777216.0F;
+
+}  // namespace
+
+char* SourceText::Put(char* at, Pixels length) {
+  const float pixels = length.Twips / static_cast<float>(kTwipsPerPixel);
+  if (pixels >= -kPlainLimit && pixels <= kPlainLimit) {
+    // Nearly every length is whole, and whole numbers print faster.
+    const auto whole = static_cast<std::int32_t>(pixels);
+    if (static_cast<float>(whole) == pixels) return Put(at, whole);
+  }
+  const std::string text = NumberText(pixels);
+  return Put(at, std::string_view(text).substr(0, kMostPixels));
+}
+
+void SourceText::Grow(std::size_t most) {
+  constexpr std::size_t kLeast = 4096;
+  buffer_.resize(std::max({kLeast, 2 * buffer_.size(), size_ + most}));
+}
+
+std::string SourceText::Take() {
+  buffer_.resize(std::exchange(size_, 0));
+  return std::exchange(buffer_, {});
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,103 @@
+// The generated text while it grows: whole lines, written into one buffer.
+#pragma once
+
+#include <charconv>
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <string_view>
+
+namespace tarnwick {
+
+/// A length of a design control, printed in pixels.
+struct Pixels {
+  float Twips = 0;
+};
+
+/// A text in double quotes. Nothing is escaped.
+struct Quoted {
+  std::string_view Text;
+};
+
+/// A text followed by a number, or the text alone.
+struct Numbered {
+  std::string_view Text;
+  int Number = 0;
+  bool HasNumber = false;
+};
+
+/// A text of lines, each ended by CR LF. A line is given as its parts:
+///
+///   text.Line(name, ".Caption = ", Quoted{caption});
+///
+/// Parts are texts, whole numbers, `Pixels`, `Quoted` and `Numbered`; they go into the buffer
+/// without a string of their own.
+class SourceText {
+ public:
+  /// Makes room for about `expected` bytes; more may follow.
+  explicit SourceText(std::size_t expected = 0) { buffer_.resize(expected); }
+
+  template <class... Parts>
+  void Line(const Parts&... parts) {
+    char* at = Room((std::size_t{2} + ... + MostOf(parts)));
+    ((at = Put(at, parts)), ...);
+    *at++ = '\r';
+    *at++ = '\n';
+    size_ = static_cast<std::size_t>(at - buffer_.data());
+  }
+  void Blank() { Line(); }
+
+  [[nodiscard]] std::size_t Size() const noexcept { return size_; }
+  /// The text; the writer is empty afterwards.
+  [[nodiscard]] std::string Take();
+
+ private:
+  static constexpr std::size_t kMostDigits = 20;  ///< of a 64-bit number with its sign
+  static constexpr std::size_t kMostPixels = 64;  ///< of a single in its longest decimal form
+
+  static std::size_t MostOf(std::string_view text) noexcept { return text.size(); }
+  static std::size_t MostOf(std::integral auto) noexcept { return kMostDigits; }
+  static std::size_t MostOf(Pixels) noexcept { return kMostPixels; }
+  static std::size_t MostOf(Quoted quoted) noexcept { return quoted.Text.size() + 2; }
+  static std::size_t MostOf(const Numbered& numbered) noexcept {
+    return numbered.Text.size() + kMostDigits;
+  }
+
+  template <std::size_t N>
+  static char* Put(char* at, const char (&literal)[N]) noexcept {
+    std::memcpy(at, literal, N - 1);
+    return at + (N - 1);
+  }
+  static char* Put(char* at, std::string_view text) noexcept {
+    if (!text.empty()) std::memcpy(at, text.data(), text.size());
+    return at + text.size();
+  }
+  static char* Put(char* at, std::integral auto number) noexcept {
+    return std::to_chars(at, at + kMostDigits, number).ptr;
+  }
+  static char* Put(char* at, Pixels length);
+  static char* Put(char* at, Quoted quoted) noexcept {
+    *at++ = '"';
+    at = Put(at, quoted.Text);
+    *at++ = '"';
+    return at;
+  }
+  static char* Put(char* at, const Numbered& numbered) noexcept {
+    at = Put(at, numbered.Text);
+    return numbered.HasNumber ? Put(at, numbered.Number) : at;
+  }
+
+  /// Where the next bytes go, with room for `most` of them.
+  char* Room(std::size_t most) {
+    if (buffer_.size() - size_ < most) Grow(most);
+    return buffer_.data() + size_;
+  }
+  void Grow(std::size_t most);
+
+  std::string buffer_;  ///< its length is the room; `size_` of it is text
+  std::size_t size_ = 0;
+};
+
+}  // namespace tarnwick
