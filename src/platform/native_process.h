@@ -1,0 +1,21 @@
+// Other programs, started and left alone.
+#pragma once
+
+#include <string>
+
+#include "platform/ports.h"
+
+namespace tarnwick {
+
+/// Started programs have no input and no output, outlive this one, and leave no zombie behind.
+/// A Windows program (it begins with "MZ") is started through `wine` found on the search path, any
+/// other executable file directly; arguments are handed over as the command line says.
+class NativeProcess final : public ProcessPort {
+ public:
+  /// Waits only until the program is loaded, which is how it knows the answer.
+  bool StartHidden(const std::string& command_line) override;
+  /// Through `xdg-open`; false for a document that is not there.
+  bool OpenDocument(const std::string& path) override;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,66 @@
+#include "platform/program_folder.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include "text/path_text.h"
+
+namespace tarnwick {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string Environment(const char* name) {
+  const char* const value = std::getenv(name);
+  return value == nullptr ? std::string() : std::string(value);
+}
+
+std::string HomeFolder() {
+  std::string home = Environment("HOME");
+  if (home.empty()) {
+    const passwd* const user = ::getpwuid(::getuid());
+    if (user != nullptr && user->pw_dir != nullptr) home = user->pw_dir;
+  }
+  return home;
+}
+
+std::string RunningExecutable() {
+  std::error_code failed;
+  const fs::path link = fs::read_symlink("/proc/self/exe", failed);
+  return failed ? std::string() : link.string();
+}
+
+std::string AsFolder(const fs::path& folder) {
+  std::string path = PathFromNative(folder.string());
+  while (!path.empty() && path.back() == '\\') path.pop_back();
+  return path;
+}
+
+}  // namespace
+
+std::string ExecutableFolder() {
+  return AsFolder(fs::path(RunningExecutable()).parent_path());
+}
+
+std::string ProgramFolder() {
+  return ProgramFolderFor({RunningExecutable(), Environment("XDG_DATA_HOME"), HomeFolder()});
+}
+
+std::string ProgramFolderFor(const ProgramSurroundings& surroundings) {
+  const fs::path beside = fs::path(surroundings.Executable).parent_path();
+  if (!beside.empty() && ::access(beside.c_str(), W_OK) == 0) return AsFolder(beside);
+  // A data folder that is no whole path is to be passed over, says the desktop's convention.
+  fs::path data = surroundings.DataHome;
+  if (!data.is_absolute()) data = fs::path(surroundings.Home) / ".local" / "share";
+  const fs::path folder = data / "tarnwick";
+  std::error_code failed;
+  fs::create_directories(folder, failed);
+  // Without any folder of its own the program still runs; it only keeps no settings.
+  return AsFolder(folder);
+}
+
+}  // namespace tarnwick

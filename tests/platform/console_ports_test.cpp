@@ -1,0 +1,41 @@
+// The ports of a program without windows.
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "platform/console_messages.h"
+#include "platform/native_screen.h"
+#include "platform/no_dialogs.h"
+
+namespace tarnwick {
+namespace {
+
+TEST(ConsolePorts, MessagesAreLinesOfUtf8) {
+  std::ostringstream out;
+  ConsoleMessages messages(out);
+  messages.Show("caf\xE9", "Tarnwick");
+  EXPECT_EQ(out.str(), "Tarnwick: caf\xC3\xA9\n");
+}
+
+TEST(ConsolePorts, QuestionsAreShownAndAnsweredNo) {
+  std::ostringstream out;
+  ConsoleMessages messages(out);
+  EXPECT_FALSE(messages.AskYesNo("Save?", "T", MessageIcon::Question));
+  EXPECT_EQ(out.str(), "T: Save?\n");
+}
+
+TEST(ConsolePorts, DialogsAreCancelled) {
+  NoDialogs dialogs;
+  EXPECT_FALSE(dialogs.OpenFile({}).has_value());
+  EXPECT_FALSE(dialogs.SaveFile({}).has_value());
+  EXPECT_FALSE(dialogs.PickColor(5).has_value());
+  EXPECT_FALSE(dialogs.PickFont({}).has_value());
+  EXPECT_FALSE(dialogs.PickFolder("x").has_value());
+}
+
+TEST(ConsolePorts, TheScreenHasAHeight) {
+  EXPECT_EQ(NativeScreen().HeightPixels(), 768);
+}
+
+}  // namespace
+}  // namespace tarnwick
