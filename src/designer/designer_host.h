@@ -5,6 +5,9 @@
 
 namespace tarnwick {
 
+/// The tool that arms a TransparentFrame; a form with one can place no second.
+inline constexpr int kTransparentFrameTool = 15;
+
 /// The object pop-up menu as it is to open: which entries can be chosen, which are checked.
 struct ObjectPopUp {
   bool Code = true;
@@ -46,6 +49,8 @@ class DesignerHost {
   virtual void EnableTool(int tool, bool on) = 0;
   /// `Objeto` of the form changed: tool boxes show what is armed now.
   virtual void ArmedToolChanged() = 0;
+  /// `m_bDesignMode` of the form changed: the check marks of Lock follow it.
+  virtual void LockChanged() = 0;
   /// Opens the object pop-up menu at the cursor.
   virtual void OpenObjectPopUp(const ObjectPopUp& entries) = 0;
 

@@ -1,6 +1,7 @@
 // The gesture of a design window: moving or sizing one control behind a rubber band.
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 #include "designer/rect.h"
@@ -8,6 +9,18 @@
 #include "platform/ports.h"
 
 namespace tarnwick {
+
+/// One selection handle: its mouse pointer, and the edges of the outline that follow the mouse.
+struct HandleInfo {
+  int Pointer;  ///< 6 sizes "/", 7 up and down, 8 "\\", 9 left and right
+  bool Left;
+  bool Top;
+  bool Right;
+  bool Bottom;
+};
+inline constexpr int kHandleCount = 8;
+/// The handles clockwise from the top left corner.
+[[nodiscard]] const std::array<HandleInfo, kHandleCount>& Handles() noexcept;
 
 enum class DragMode : std::int16_t { None = 0, Move = 1, Resize = 2 };
 
@@ -28,7 +41,8 @@ class Drag {
 
   /// Starts a move of a control at the cursor.
   void Begin(const ControlRef& control);
-  /// Starts a resize by a handle, 0 to 7; false without a control to size.
+  /// Starts a resize by a handle, 0 to 7; false without a control to size. The handles are hidden
+  /// beforehand, for the window must be painted without them before the outline is drawn.
   bool BeginResize(int handle);
   /// Follows the cursor; nothing outside a gesture.
   void Move();

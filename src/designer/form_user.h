@@ -52,12 +52,15 @@ enum class WindowState : std::uint8_t { Normal, Minimised, Maximised };
 ///
 ///   surface.ObjectMouseDown(control, kLeftButton, 0, x, y);   // press, x and y of the control
 ///   surface.MouseMove();                                      // any move while captured
-///   surface.MouseUp(kLeftButton);                             // any release
+///   surface.MouseUp();                                        // any release
 ///
 /// Places are twips. A surface lives as long as its form; every operation is total.
 class FormUser {
  public:
   FormUser(DesignForm& form, ProjectTables& tables, DesignerPorts ports);
+  FormUser(const FormUser&) = delete;
+  FormUser& operator=(const FormUser&) = delete;
+  ~FormUser() = default;
 
   [[nodiscard]] DesignForm& Form() noexcept { return form_; }
   [[nodiscard]] const DesignForm& Form() const noexcept { return form_; }
@@ -79,7 +82,7 @@ class FormUser {
   void HandleMouseDown(int handle, int Button);
   void MouseMove();
   /// Releases on the window, its objects and handles alike.
-  void MouseUp(int Button);
+  void MouseUp();
   /// Opens the code of the selection, where its kind has events.
   void DoubleClick();
   /// An item of the form's menu bar was chosen: it is selected and its code opened.
@@ -125,21 +128,23 @@ class FormUser {
 
  private:
   [[nodiscard]] bool Ready();
-  [[nodiscard]] bool Blocked(int KeyCode, int Shift, int key);
-  void PressOnForm(int Button);
-  ControlRef PlaceObject(Kind kind, float X, float Y);
+  [[nodiscard]] bool IsLive(const ControlRef& control) const noexcept;
+  [[nodiscard]] bool ForwardsPress(const DesignControl& control) const;
+  [[nodiscard]] bool Refused(int KeyCode, int Shift, int key);
+  void EndGesture();
+  void PressForm(int Button, float X, float Y);
+  void PressEmptyForm(int Button);
+  void PlaceObject(Kind kind, float X, float Y);
   void DragFirstUnder(float X, float Y);
-  void SelectData(const ControlRef& control);
-  void RefreshSelection();
+  void ReleaseAndOpenPopUp();
+  void SelectNothing();
+  void Disarm();
   void ShowPropertiesIfVisible();
   void SyncPlaceRows();
-  void OpenPopUp();
-  void RefreshCopyPaste();
-  void RefreshFrameTool();
-  void SettlePasted(const ControlRef& control);
-  bool MoveKey(int KeyCode, int Shift);
+  void SelectionRefresh();
+  void MoveKey(int KeyCode, int Shift);
   void WalkObjects(bool forward);
-  void StoreFormSize();
+  void SettleMoved();
 
   DesignForm& form_;
   ProjectTables& tables_;

@@ -1,0 +1,71 @@
+// How objects come into being on a design form: one row for each kind that can be placed.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "model/project_records.h"
+
+namespace tarnwick {
+
+/// Where the tab order of a new object goes. All but None raise the form's running number.
+enum class TabRule : std::uint8_t {
+  None,
+  Own,          ///< into the object's record
+  InTextBoxes,  ///< into the record of the TextBox of the same index, if there is one
+  CountOnly,    ///< nowhere
+};
+
+/// What a new record holds beyond empty texts and zeros.
+struct RecordDefaults {
+  std::int16_t Enabled = 0;
+  std::int16_t Visible = 0;
+  std::string_view ImageFile;
+  std::string_view PictureName;
+  std::string_view Title;
+  std::string_view Filter;
+};
+
+/// One kind that a press can place.
+struct CreationRule {
+  Kind Id;
+  TabRule Tab;
+  RecordDefaults Record;
+  bool Copied;                   ///< a paste makes copies of the kind
+  std::string_view PastePrefix;  ///< of a copy's name, where it differs from a new object's
+};
+
+/// The kinds that can be placed, in the order in which an armed tool is compared with them.
+[[nodiscard]] std::span<const CreationRule> CreationRules() noexcept;
+/// The row of a kind; null for a kind that no press places.
+[[nodiscard]] const CreationRule* RuleOf(Kind kind) noexcept;
+/// The kind that `Objeto` arms; nothing for "", "Form" and unknown words.
+[[nodiscard]] std::optional<Kind> ArmedKind(std::string_view objeto) noexcept;
+
+/// Name of a new object of an index: form name, prefix, index; a TransparentFrame has none.
+[[nodiscard]] std::string NewObjectName(std::string_view form_name, Kind kind, int index,
+                                        std::string_view prefix);
+/// Puts an empty record into the slot of an object, growing the kind's arrays to it, no further.
+void PutFreshRecord(ProjectTables& tables, int form, Kind kind, int index);
+/// The next element of a kind's control array, its record fresh, its name given, visible and
+/// showing its name. Null when the form has no record or the kind's numbers are used up.
+ControlRef LoadObject(ProjectTables& tables, DesignForm& form, Kind kind,
+                      std::string_view name_prefix);
+/// Hands out the form's next tab order number to an object.
+void TakeTabOrder(ProjectTables& tables, DesignForm& form, const DesignControl& control,
+                  TabRule rule);
+
+/// A new object at a place in twips: element, record with its defaults, and an empty entry for
+/// each of the eleven object events under the object's name. Nobody reads entries under that
+/// name: code is kept under kind word and index, and comes there when it is first stored.
+ControlRef CreateObject(ProjectTables& tables, DesignForm& form, Kind kind, float x, float y);
+/// Takes an object off the form: the entries under its name go, the control is unloaded. Its
+/// record stays where it is.
+void DeleteObject(ProjectTables& tables, DesignForm& form, const ControlRef& control);
+/// Writes place and size of a TransparentFrame into the record of its form, pixels.
+void StoreFramePlace(FormRec& record, const DesignControl& frame);
+
+}  // namespace tarnwick
