@@ -5,9 +5,6 @@
 
 namespace tarnwick {
 
-/// The tool that arms a TransparentFrame; a form with one can place no second.
-inline constexpr int kTransparentFrameTool = 15;
-
 /// The object pop-up menu as it is to open: which entries can be chosen, which are checked.
 struct ObjectPopUp {
   bool Code = true;

@@ -8,6 +8,7 @@
 #include "designer/rect.h"
 #include "designer/selection.h"
 #include "model/units.h"
+#include "shell/tool_box.h"
 
 namespace tarnwick {
 
