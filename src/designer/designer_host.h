@@ -3,6 +3,8 @@
 
 #include <string_view>
 
+#include "model/design_control.h"
+
 namespace tarnwick {
 
 /// The object pop-up menu as it is to open: which entries can be chosen, which are checked.
@@ -37,7 +39,7 @@ class DesignerHost {
   /// Brings the record of the selection up to date for the row "height", "left", "top" or "width".
   virtual void SyncRow(std::string_view name_objet, std::string_view row) = 0;
   /// Takes the row of an object out of the list at the panel's head.
-  virtual void RemoveHeadRow(std::string_view object_name) = 0;
+  virtual void RemoveHeadRow(const DesignControl& object) = 0;
 
   // Toolbar, tool box, pop-up menu.
   /// Enables or disables Copy and Paste of the main toolbar, `BtnMenu` 4 and 5.

@@ -78,7 +78,7 @@ void FormUser::CutObject(int KeyCode) {
   const ControlRef control = form_.ControlSel;
   SelectNothing();
   if (control) {
-    ports_.Host.RemoveHeadRow(control->Tag);
+    ports_.Host.RemoveHeadRow(*control);
     DeleteObject(tables_, form_, control);
     if (control->Id == Kind::TransparentFrame) {
       ports_.Host.EnableTool(kTransparentFrameTool, !HasTransparentFrame(form_));
