@@ -6,6 +6,7 @@
 #include "model/new_form.h"
 #include "model/units.h"
 #include "persistence/menu_text.h"
+#include "persistence/stored_text.h"
 #include "text/code_page.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -23,18 +24,6 @@ bool HasPicture(std::string_view path) {
 /// Twips from a number of pixels as text; a number too large for single precision is refused.
 void ReadPlace(const std::string& value, float& twips) {
   if (const auto read = ToSingle(Val(value) * kTwipsPerPixel)) twips = *read;
-}
-
-/// Rows of a list: each ends in the stored line break; a list without one is comma-separated.
-std::vector<std::string> RowsOf(std::string_view items) {
-  if (items.empty()) return {};
-  const bool marked = Contains(items, std::string_view(&kStoredLineBreak, 1));
-  const std::string_view separator =
-      marked ? std::string_view(&kStoredLineBreak, 1) : std::string_view(",");
-  const std::vector<std::string_view> pieces = Split(items, separator);
-  std::vector<std::string> rows(pieces.begin(), pieces.end());
-  if (marked && rows.back().empty()) rows.pop_back();
-  return rows;
 }
 
 float* PlaceOf(DesignControl& control, Member member) {
@@ -252,7 +241,7 @@ void FormReader::Take(Object& object, const std::string& value, std::string Obje
 
 void FormReader::Take(Object& object, const std::string& value, ItemsText items) {
   if (object.Record != nullptr) object.Record->*items.Field = value;
-  object.Control.Items = RowsOf(value);
+  object.Control.Items = ItemRows(value);
 }
 
 void FormReader::Take(Object& /*object*/, const std::string& value, std::int16_t FormRec::*field) {

@@ -40,6 +40,17 @@ void AppendStoredCode(std::string& out, std::string_view code) {
   AppendStoredLines(out, Trim(code));
 }
 
+std::vector<std::string> ItemRows(std::string_view items) {
+  if (items.empty()) return {};
+  const bool marked = Contains(items, std::string_view(&kStoredLineBreak, 1));
+  const std::string_view separator =
+      marked ? std::string_view(&kStoredLineBreak, 1) : std::string_view(",");
+  const std::vector<std::string_view> pieces = Split(items, separator);
+  std::vector<std::string> rows(pieces.begin(), pieces.end());
+  if (marked && rows.back().empty()) rows.pop_back();
+  return rows;
+}
+
 void RestoreCommas(std::string& text) {
   ReplaceByte(text, kStoredComma, ',');
 }

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarnwick {
 
@@ -14,6 +15,10 @@ void AppendStoredCode(std::string& out, std::string_view code);
 void AppendStoredLines(std::string& out, std::string_view text);
 /// Appends an item list: commas become the list comma.
 void AppendStoredItems(std::string& out, std::string_view items);
+
+/// Rows of an item list: each ends in the stored line break; a list without one is
+/// comma-separated.
+[[nodiscard]] std::vector<std::string> ItemRows(std::string_view items);
 
 /// Turns stored bytes back in place.
 void RestoreCommas(std::string& text);

@@ -1,0 +1,47 @@
+#include "inspector/form_add_items.h"
+
+#include "persistence/stored_text.h"
+#include "text/code_page.h"
+#include "text/strings.h"
+
+namespace tarnwick {
+
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+
+}  // namespace
+
+FormAddItems::FormAddItems(ProjectTables& tables, ProjectObserver& observer, DesignForm& form)
+    : tables_(tables),
+      observer_(observer),
+      form_(form.Number()),
+      is_list_box_(Contains(form.NameObjet, InfoOf(Kind::ListBox).NameWord)),
+      index_(form.IndexObjet),
+      control_(form.ControlSel) {
+  const ObjectRec* record = Record();
+  if (record == nullptr) return;
+  for (const std::string& row : ItemRows(record->Items)) text_.append(row).append(kLineEnd);
+}
+
+bool FormAddItems::Ok(std::string_view text) {
+  ObjectRec* record = Record();
+  if (record == nullptr) return false;
+  std::string lines{text};
+  if (!lines.empty() && !lines.ends_with('\n')) lines.append(kLineEnd);
+  record->Items =
+      ReplaceAll(ReplaceAll(lines, kLineEnd, "\n"), "\n", std::string_view{&kStoredLineBreak, 1});
+  if (const ControlRef control = control_.lock(); control && control->Has(Member::List)) {
+    control->Items = ItemRows(record->Items);
+  }
+  observer_.ControlsChanged(form_);
+  return true;
+}
+
+ObjectRec* FormAddItems::Record() {
+  FormRec* form = tables_.Form(form_);
+  if (form == nullptr || control_.expired()) return nullptr;
+  return (is_list_box_ ? form->ListBoxes : form->ComboBoxes).Ensure(index_);
+}
+
+}  // namespace tarnwick

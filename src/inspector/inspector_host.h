@@ -1,0 +1,59 @@
+// What the property sheet asks of other rooms, and what its view hears.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "model/design_form.h"
+
+namespace tarnwick {
+
+/// What an edit in the grid sets going elsewhere.
+class InspectorHost {
+ public:
+  InspectorHost() = default;
+  InspectorHost(const InspectorHost&) = delete;
+  InspectorHost& operator=(const InspectorHost&) = delete;
+  virtual ~InspectorHost() = default;
+
+  /// Selects an object of the form as a press on it does, handles included; null selects the
+  /// form itself.
+  virtual void SelectObject(DesignForm& form, const ControlRef& control) = 0;
+  /// Gives the design window the frame of a border code.
+  virtual void borderstylea(DesignForm& form, std::int16_t style) = 0;
+  /// The window has another background: its dot grid is drawn again, it is refreshed and takes
+  /// the focus.
+  virtual void FormRecolored(DesignForm& form) = 0;
+  /// True when the file is a picture or an icon that can be shown.
+  [[nodiscard]] virtual bool PictureLoads(const std::string& path) = 0;
+  /// Names shown by code editor and events bar follow: what read `old_name` takes the new one.
+  virtual void NameChanged(DesignForm& form, std::string_view old_name,
+                           std::string_view new_name) = 0;
+  /// Opens `FormPopUp` on a popup menu of the form and comes back when it is closed.
+  virtual void OpenFormPopUp(DesignForm& form, int index) = 0;
+  /// Opens `FormAddItems` on the selected list of the form and comes back when it is closed.
+  virtual void OpenFormAddItems(DesignForm& form) = 0;
+};
+
+/// What the view of the property sheet hears; each is told after the change.
+class PropertySheetView {
+ public:
+  PropertySheetView() = default;
+  PropertySheetView(const PropertySheetView&) = delete;
+  PropertySheetView& operator=(const PropertySheetView&) = delete;
+  virtual ~PropertySheetView() = default;
+
+  /// The rows are others now, or other rows are shown.
+  virtual void RowsChanged() {}
+  /// The value of one row changed.
+  virtual void RowTextChanged(int /*row*/) {}
+  /// Another row is selected, or none; buttons, list and colours go with it.
+  virtual void RowSelected() {}
+  /// The drop-down list opened or closed.
+  virtual void ListOpened(bool /*is_open*/) {}
+  /// Rows or selection of the head list changed.
+  virtual void ComboChanged() {}
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,115 @@
+#include "inspector/object_combo.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <utility>
+
+#include "text/code_page.h"
+#include "text/strings.h"
+
+namespace tarnwick {
+
+namespace {
+
+/// Kinds that a popup menu cannot hang on.
+constexpr std::array<std::string_view, 8> kNoParents{"time",       "htmlviewer",      "opendialog",
+                                                     "savedialog", "filestream",      "winsock",
+                                                     "popupmenu",  "transparentframe"};
+
+}  // namespace
+
+std::string_view ComboRowName(std::string_view row) noexcept {
+  return Trim(row.substr(0, row.rfind('(')));
+}
+
+std::string_view ComboRowKind(std::string_view row) noexcept {
+  const std::size_t open = row.rfind('(');
+  if (open == std::string_view::npos) return {};
+  const std::string_view rest = row.substr(open + 1);
+  return rest.substr(0, rest.find(')'));
+}
+
+void ObjectCombo::Clear() noexcept {
+  rows_.clear();
+  selected_ = -1;
+}
+
+void ObjectCombo::Fill(const DesignForm& form, std::string_view form_name) {
+  Clear();
+  rows_.reserve(form.Controls().size() + 1);
+  rows_.push_back({std::string{form_name}.append(InfoOf(Kind::Form).ComboText), nullptr});
+  for (const ControlRef& control : form.Controls()) {
+    // Templates, menu entries, handles and the hidden label have no row.
+    if (control->Index == 0 || static_cast<std::size_t>(control->Id) >= kObjectKindCount) continue;
+    std::string text = control->Tag;
+    rows_.push_back({std::move(text.append(InfoOf(control->Id).ComboText)), control.get()});
+  }
+}
+
+void ObjectCombo::Bring(const DesignControl* object, std::string_view name,
+                        std::string_view suffix) {
+  selected_ = PlaceOf(object, name);
+  if (selected_ >= 0) return;
+  selected_ = static_cast<int>(rows_.size());
+  rows_.push_back({std::string{name}.append(suffix), object});
+}
+
+bool ObjectCombo::Rename(const DesignControl* object, std::string_view old_name, std::string text) {
+  const int place = PlaceOf(object, old_name);
+  if (place < 0) return false;
+  rows_[static_cast<std::size_t>(place)].Text = std::move(text);
+  return true;
+}
+
+bool ObjectCombo::Remove(std::string_view name) {
+  const int place = PlaceToRemove(Trim(name));
+  if (place < 0) return false;
+  rows_.erase(rows_.begin() + place);
+  if (selected_ == place) {
+    selected_ = -1;
+  } else if (selected_ > place) {
+    --selected_;
+  }
+  return true;
+}
+
+int ObjectCombo::PlaceToRemove(std::string_view name) const noexcept {
+  int exact = -1;
+  int folded = -1;
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    const int place = static_cast<int>(i);
+    const std::string_view row_name = ComboRowName(rows_[i].Text);
+    if (rows_[i].Object == nullptr || !EqualsFolded(row_name, name)) continue;
+    if (row_name == name && (exact < 0 || place == selected_)) exact = place;
+    if (folded < 0) folded = place;
+  }
+  return exact >= 0 ? exact : folded;
+}
+
+std::vector<std::string> ObjectCombo::ParentNames() const {
+  std::vector<std::string> names;
+  for (const Row& row : rows_) {
+    const std::string kind = Lower(ComboRowKind(row.Text));
+    if (std::find(kNoParents.begin(), kNoParents.end(), kind) == kNoParents.end()) {
+      names.emplace_back(ComboRowName(row.Text));
+    }
+  }
+  return names;
+}
+
+int ObjectCombo::PlaceOf(const DesignControl* object, std::string_view name) const noexcept {
+  const std::string_view wanted = Trim(name);
+  int place = -1;
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    const Row& row = rows_[i];
+    if ((row.Object == nullptr) != (object == nullptr) || ComboRowName(row.Text) != wanted) {
+      continue;
+    }
+    if (row.Object == object) return static_cast<int>(i);
+    if (place < 0) place = static_cast<int>(i);
+  }
+  return place;
+}
+
+}  // namespace tarnwick
