@@ -13,24 +13,24 @@ namespace tarnwick {
 namespace {
 
 template <class... Kinds>
-constexpr KindSet Of(Kinds... kinds) noexcept {
+constexpr RowKinds Of(Kinds... kinds) noexcept {
   return (SetOf(kinds) | ...);
 }
 
-constexpr KindSet kForm = SetOf(Kind::Form);
-constexpr KindSet kFrame = SetOf(Kind::TransparentFrame);
-constexpr KindSet kSocket = SetOf(Kind::WinSock);
-constexpr KindSet kPopUp = SetOf(Kind::PopUpMenu);
-constexpr KindSet kImage = SetOf(Kind::Image);
-constexpr KindSet kButton = SetOf(Kind::Button);
-constexpr KindSet kRich = SetOf(Kind::RichTextBox);
-constexpr KindSet kTexts = Of(Kind::TextBox, Kind::RichTextBox);
-constexpr KindSet kDialogs = Of(Kind::OpenDialog, Kind::SaveDialog);
-constexpr KindSet kChecks = Of(Kind::CheckBox, Kind::OptionButton);
-constexpr KindSet kLists = Of(Kind::ListBox, Kind::ComboBox);
-constexpr KindSet kObjects = (KindSet{1} << kObjectKindCount) - 1;
+constexpr RowKinds kForm = SetOf(Kind::Form);
+constexpr RowKinds kFrame = SetOf(Kind::TransparentFrame);
+constexpr RowKinds kSocket = SetOf(Kind::WinSock);
+constexpr RowKinds kPopUp = SetOf(Kind::PopUpMenu);
+constexpr RowKinds kImage = SetOf(Kind::Image);
+constexpr RowKinds kButton = SetOf(Kind::Button);
+constexpr RowKinds kRich = SetOf(Kind::RichTextBox);
+constexpr RowKinds kTexts = Of(Kind::TextBox, Kind::RichTextBox);
+constexpr RowKinds kDialogs = Of(Kind::OpenDialog, Kind::SaveDialog);
+constexpr RowKinds kChecks = Of(Kind::CheckBox, Kind::OptionButton);
+constexpr RowKinds kLists = Of(Kind::ListBox, Kind::ComboBox);
+constexpr RowKinds kObjects = (RowKinds{1} << kObjectKindCount) - 1;
 /// Kinds whose cursor, enabled, tab order and visibility are kept in their records.
-constexpr KindSet kRecorded =
+constexpr RowKinds kRecorded =
     kButton | kTexts | kImage | kChecks | kLists | Of(Kind::Label, Kind::Time);
 
 using Obj = ObjectRec;

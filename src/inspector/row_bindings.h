@@ -47,16 +47,16 @@ using RowStore =
                  std::string DesignForm::*, std::int32_t DesignForm::*, float DesignForm::*,
                  Member>;
 
-using KindSet = std::uint32_t;
-[[nodiscard]] constexpr KindSet SetOf(Kind kind) noexcept {
-  return KindSet{1} << static_cast<unsigned>(kind);
+using RowKinds = std::uint32_t;
+[[nodiscard]] constexpr RowKinds SetOf(Kind kind) noexcept {
+  return RowKinds{1} << static_cast<unsigned>(kind);
 }
 
 /// One line of the table: a row on some kinds. What is read and what is written are one and the
 /// same place, so an edit always reads back; `Also` only follows.
 struct RowBinding {
   std::string_view Row;  ///< lower case
-  KindSet Kinds = 0;
+  RowKinds Kinds = 0;
   RowShape Shape = RowShape::Text;
   RowStore Value;
   RowStore Also;
