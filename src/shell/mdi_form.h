@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "designer/form_user.h"
+#include "inspector/property_sheet.h"
 #include "model/project_observer.h"
 #include "model/project_records.h"
 #include "persistence/project_context.h"
@@ -79,6 +80,7 @@ class MDIForm1 {
   [[nodiscard]] ProjectContext& Context() noexcept;
   [[nodiscard]] Settings& SettingsFile() noexcept;
   [[nodiscard]] const SupportTables& Support() const noexcept;
+  [[nodiscard]] PropertySheet& Sheet() noexcept;
   /// The design surface of a form; null for a number without one.
   [[nodiscard]] FormUser* User(int form);
   /// The surface of the current form; null without one.
@@ -87,6 +89,7 @@ class MDIForm1 {
  private:
   struct Rooms;
   void Dispatch(Command command);
+  void Unload();
   void Toggle(Panel panel);
 
   std::unique_ptr<Rooms> rooms_;

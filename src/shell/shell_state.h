@@ -1,6 +1,7 @@
 // What the commands of the main window share.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -41,6 +42,8 @@ struct ShellState {
   ApplicationRec Application;
   ShellFlags Flags;
   ObserverHub Observer;
+  /// Runs a command that another room asks for.
+  std::function<void(Command)> Run;
 
   /// Enables or disables all buttons, tools and menu entries.
   void EnableCommands(bool on) {

@@ -1,7 +1,9 @@
 // What only a window can do, as the logic of the main window asks for it.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "platform/ports.h"
@@ -63,9 +65,12 @@ class ShellView {
   virtual void ShowContainerAt(int width, int height) = 0;
   virtual void HideContainer() = 0;
   virtual void ShowContainer() = 0;
-  /// Hides the container, moves its top edge to `top` pixels and shows it there; the generator
-  /// works behind a container that stands off the screen.
+  /// Moves the container's top edge to `top` pixels of the screen: the generator works behind a
+  /// container that stands off it.
   virtual void MoveContainer(int top) = 0;
+  [[nodiscard]] virtual bool ContainerMinimised() = 0;
+  /// The container grows, or shrinks, by twips.
+  virtual void GrowContainer(float width, float height) = 0;
   /// Takes a design window into the container: it is shown, in front, with the focus.
   virtual void BringFormUp(int form) = 0;
   /// Shows or hides one design window without choosing it.
@@ -73,6 +78,9 @@ class ShellView {
   /// What the gestures on a form's design window ask of the platform. The reference stays good
   /// until the form closes.
   [[nodiscard]] virtual GesturePort& Gestures(int form) = 0;
+
+  /// True when the file is a picture or an icon that can be shown.
+  [[nodiscard]] virtual bool PictureLoads(const std::string& path) = 0;
 
   virtual void ShowPanel(Panel panel, bool shown) = 0;
   /// State or check mark of a command or tool may be different now.

@@ -35,8 +35,14 @@ class SideWindows {
   virtual void OpenPublicDeclarations() = 0;
   /// Opens `FormMenu` on the current form.
   virtual void OpenMenuEdit() = 0;
+  /// Opens `FormPopUp` on a popup menu of the form and comes back when it is closed.
+  virtual void OpenPopUpEdit(int form, int index) = 0;
+  /// Opens `FormAddItems` on the selected list of the form and comes back when it is closed.
+  virtual void OpenItemEdit(int form) = 0;
   /// Opens `FormViewObjects`.
   virtual void OpenExaminer() = 0;
+  /// Object or form was renamed: names that code editor and events bar show follow.
+  virtual void NameChanged(int form, std::string_view old_name, std::string_view new_name) = 0;
 };
 
 }  // namespace tarnwick

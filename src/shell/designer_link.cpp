@@ -1,0 +1,34 @@
+#include "shell/designer_link.h"
+
+#include "shell/design_surfaces.h"
+
+namespace tarnwick {
+
+bool DesignerLink::RaiseOpenCodeEditor() {
+  if (!state_.Windows.IsCodeOpen()) return false;
+  state_.Windows.BringCodeToFront();
+  return true;
+}
+
+void InspectorLink::SelectObject(DesignForm& form, const ControlRef& control) {
+  FormUser* surface = surfaces_.Of(form.Number());
+  if (surface == nullptr) return;
+  if (control == nullptr) {
+    surface->SelectForm();
+  } else {
+    surface->SelectObject(control);
+  }
+}
+
+void InspectorLink::borderstylea(DesignForm& form, std::int16_t style) {
+  if (FormUser* surface = surfaces_.Of(form.Number())) surface->borderstylea(style);
+}
+
+void InspectorLink::FormRecolored(DesignForm& form) {
+  FormUser* surface = surfaces_.Of(form.Number());
+  if (surface == nullptr) return;
+  surface->PintaPuntitos();
+  state_.View.Gestures(form.Number()).TakeFocus();
+}
+
+}  // namespace tarnwick

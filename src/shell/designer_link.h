@@ -1,0 +1,79 @@
+// What design surfaces and property sheet ask of the rest, answered by the main window.
+#pragma once
+
+#include "designer/designer_host.h"
+#include "inspector/inspector_host.h"
+#include "inspector/property_sheet.h"
+#include "shell/shell_state.h"
+
+namespace tarnwick {
+
+class DesignSurfaces;
+
+/// The design surfaces' door to the other rooms. Which buttons and tools are on follows from the
+/// tables, so being told of a change there only has the view look again.
+class DesignerLink final : public DesignerHost {
+ public:
+  explicit DesignerLink(ShellState& state) : state_(state) {}
+  /// The sheet is built after the surfaces.
+  void SetSheet(PropertySheet& sheet) { sheet_ = &sheet; }
+
+  [[nodiscard]] bool PropertyPanelVisible() override { return state_.IsShown(Panel::Properties); }
+  void ClearPanel() override { sheet_->ClearPanel(); }
+  void ShowProperties(std::string_view name_objet, std::string_view object_name) override {
+    sheet_->ShowProperties(name_objet, object_name);
+  }
+  void SyncRow(std::string_view name_objet, std::string_view row) override {
+    sheet_->SyncRow(name_objet, row);
+  }
+  void RemoveHeadRow(const DesignControl& object) override { sheet_->RemoveComboRow(object.Tag); }
+
+  void EnableCopyPasteButtons(bool /*on*/) override { state_.View.CommandsChanged(); }
+  void EnableTool(int /*tool*/, bool /*on*/) override { state_.View.CommandsChanged(); }
+  void ArmedToolChanged() override { state_.View.CommandsChanged(); }
+  void LockChanged() override { state_.View.CommandsChanged(); }
+  void OpenObjectPopUp(const ObjectPopUp& /*entries*/) override { state_.View.ShowObjectPopUp(); }
+
+  bool RaiseOpenCodeEditor() override;
+  void OpenCode() override { state_.Run(Command::Code); }
+  void CompileAndRun() override { state_.Run(Command::Compile); }
+
+  [[nodiscard]] bool ContainerMinimised() override { return state_.View.ContainerMinimised(); }
+  [[nodiscard]] bool FormMaximised() override { return form_maximised_; }
+  void SetFormMaximised(bool maximised) override { form_maximised_ = maximised; }
+  void GrowContainer(float width, float height) override {
+    state_.View.GrowContainer(width, height);
+  }
+
+ private:
+  ShellState& state_;
+  PropertySheet* sheet_ = nullptr;
+  bool form_maximised_ = false;
+};
+
+/// The property sheet's door to the other rooms.
+class InspectorLink final : public InspectorHost {
+ public:
+  InspectorLink(ShellState& state, DesignSurfaces& surfaces) : state_(state), surfaces_(surfaces) {}
+
+  void SelectObject(DesignForm& form, const ControlRef& control) override;
+  void borderstylea(DesignForm& form, std::int16_t style) override;
+  void FormRecolored(DesignForm& form) override;
+  [[nodiscard]] bool PictureLoads(const std::string& path) override {
+    return state_.View.PictureLoads(path);
+  }
+  void NameChanged(DesignForm& form, std::string_view old_name,
+                   std::string_view new_name) override {
+    state_.Windows.NameChanged(form.Number(), old_name, new_name);
+  }
+  void OpenFormPopUp(DesignForm& form, int index) override {
+    state_.Windows.OpenPopUpEdit(form.Number(), index);
+  }
+  void OpenFormAddItems(DesignForm& form) override { state_.Windows.OpenItemEdit(form.Number()); }
+
+ private:
+  ShellState& state_;
+  DesignSurfaces& surfaces_;
+};
+
+}  // namespace tarnwick

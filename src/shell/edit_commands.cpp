@@ -1,0 +1,76 @@
+#include "shell/edit_commands.h"
+
+#include "shell/tool_box.h"
+
+namespace tarnwick {
+
+bool WaitsForCodeEditor(Command command) noexcept {
+  switch (command) {
+    case Command::Cut:
+    case Command::Paste:
+    case Command::Delete:
+    case Command::AddNewForm:
+    case Command::Remove:
+    case Command::MenuEdit:
+      return true;
+    default:
+      return false;
+  }
+}
+
+void EditCommands::Run(Command command) {
+  FormUser* surface = surfaces_.Current();
+  if (surface == nullptr) return;
+  switch (command) {
+    // The menu's Cut is the key Ctrl+X, which deletes and copies nothing.
+    case Command::Cut:
+      surface->DeletObject(keys::kX, kCtrlBit);
+      break;
+    case Command::Copy:
+      surface->CopyObject(keys::kC, kCtrlBit);
+      break;
+    case Command::Paste:
+      surface->PasteObject(keys::kV, kCtrlBit);
+      break;
+    case Command::Delete:
+      surface->CutObject(keys::kDelete);
+      break;
+    case Command::BringToFront:
+      surface->BringToFront();
+      break;
+    case Command::StayBack:
+      surface->SendToBack();
+      break;
+    case Command::AlignToGrid:
+      surface->aligngrid();
+      break;
+    case Command::Lock:
+      surface->ToggleLock();
+      break;
+    default:
+      return;
+  }
+  state_.View.CommandsChanged();
+}
+
+void EditCommands::PressTool(int number) {
+  const ToolInfo* tool = ToolOf(number);
+  if (tool == nullptr) return;
+  if (number == kFormTool) {
+    forms_.AddNew();
+    forms_.ShowContainer();
+  } else if (!forms_.HasForm()) {
+    forms_.AddFirst();
+    forms_.ShowContainer();
+  }
+  FormUser* surface = surfaces_.Current();
+  if (surface == nullptr) return;
+  DesignForm& form = surface->Form();
+  form.m_bDesignMode = true;
+  if (number == kFormTool || number == kArrowTool || number == kMenuTool) surface->SelectForm();
+  form.Objeto = tool->Objeto;
+  state_.View.CommandsChanged();
+  if (number == kMenuTool) state_.Windows.OpenMenuEdit();
+}
+
+}  // namespace tarnwick

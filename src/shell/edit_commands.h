@@ -1,0 +1,31 @@
+// Commands on the current design form: the Edit menu, the views on its code, the tool box.
+#pragma once
+
+#include "shell/command_table.h"
+#include "shell/design_surfaces.h"
+#include "shell/form_commands.h"
+#include "shell/shell_state.h"
+
+namespace tarnwick {
+
+class EditCommands {
+ public:
+  EditCommands(ShellState& state, DesignSurfaces& surfaces, FormCommands& forms)
+      : state_(state), surfaces_(surfaces), forms_(forms) {}
+
+  /// Runs a command of the Edit menu; nothing for other commands or without a form.
+  void Run(Command command);
+  /// A tool was pressed. A project without forms gets one first; a block of the form is lifted.
+  void PressTool(int number);
+
+ private:
+  ShellState& state_;
+  DesignSurfaces& surfaces_;
+  FormCommands& forms_;
+};
+
+/// True for commands that change what is selected or what the selection is: while the code editor
+/// is open they only bring it to the front, since its text belongs to that selection.
+[[nodiscard]] bool WaitsForCodeEditor(Command command) noexcept;
+
+}  // namespace tarnwick

@@ -1,0 +1,128 @@
+#include "shell/form_commands.h"
+
+#include <algorithm>
+
+#include "model/new_form.h"
+#include "shell/titles.h"
+
+namespace tarnwick {
+
+bool FormCommands::HasForm() const {
+  return FirstForm() != 0;
+}
+
+int FormCommands::FirstForm() const {
+  // Each form in use has a line, in the order of the numbers.
+  const auto& lines = state_.Tables.ListaFrms.Lines();
+  return lines.empty() ? 0 : lines.front().FormNumber;
+}
+
+int FormCommands::CurrentNumber() const {
+  const DesignForm* form = state_.Tables.CurrentForm;
+  return form == nullptr ? 0 : form->Number();
+}
+
+bool FormCommands::RaisedOpenEditor() {
+  if (!state_.Windows.IsCodeOpen()) return false;
+  state_.Windows.BringCodeToFront();
+  return true;
+}
+
+void FormCommands::MarkCurrentLine() {
+  state_.View.SelectFormLine(state_.Tables.ListaFrms.PlaceOf(CurrentNumber()));
+}
+
+void FormCommands::Opened(int form) {
+  if (form == 0) return;
+  state_.Observer.FormOpened(form);
+  state_.Observer.FormListChanged();
+  BringUp(form);
+}
+
+void FormCommands::AddFirst() {
+  Opened(AddForm(state_.Tables));
+}
+
+void FormCommands::AddNew() {
+  Opened(NewForm(state_.Tables));
+}
+
+void FormCommands::Remove() {
+  ProjectTables& tables = state_.Tables;
+  const int form = CurrentNumber();
+  const int place = tables.ListaFrms.PlaceOf(form);
+  if (place < 0) return;
+  FormRec* record = tables.Form(form);
+  if (!state_.Ports.Messages.AskYesNo("Delete " + record->Name + "?", kApplicationTitle,
+                                      MessageIcon::Critical)) {
+    return;
+  }
+  record->Removed = 1;
+  sheet_.ClearPanelAndCombo();
+  state_.Observer.FormClosing(form);
+  tables.CurrentForm = nullptr;
+  const auto slot = static_cast<std::size_t>(form);
+  tables.FormsUser[slot].reset();
+  tables.FormsBar[slot].reset();
+  tables.ListaFrms.Remove(form);
+  state_.Observer.FormListChanged();
+
+  const auto& lines = tables.ListaFrms.Lines();
+  if (lines.empty()) {
+    state_.View.SelectFormLine(-1);
+    state_.View.SetSelectionText("");
+    state_.Observer.CurrentFormChanged();
+    state_.View.CommandsChanged();
+    return;
+  }
+  const std::size_t next = std::min(static_cast<std::size_t>(place), lines.size() - 1);
+  Choose(lines[next].FormNumber);
+}
+
+void FormCommands::Choose(int form) {
+  BringUp(form);
+  state_.ShowPanel(Panel::EventsBar, true);
+}
+
+void FormCommands::SelectLine(int place) {
+  if (RaisedOpenEditor()) {
+    MarkCurrentLine();
+    return;
+  }
+  const auto& lines = state_.Tables.ListaFrms.Lines();
+  if (place < 0 || static_cast<std::size_t>(place) >= lines.size()) return;
+  Choose(lines[static_cast<std::size_t>(place)].FormNumber);
+}
+
+void FormCommands::Activated(int form) {
+  if (form == CurrentNumber() || !state_.Tables.IsLive(form)) return;
+  if (!RaisedOpenEditor()) BringUp(form);
+}
+
+void FormCommands::BringUp(int form) {
+  ProjectTables& tables = state_.Tables;
+  if (!tables.IsLive(form)) return;
+  tables.CurrentForm = tables.User(form);
+  tables.CurrentForm->Visible = true;
+  state_.View.BringFormUp(form);
+  state_.Observer.CurrentFormChanged();
+  MarkCurrentLine();
+  sheet_.FillCombo();
+  sheet_.ShowSelection();
+  state_.View.CommandsChanged();
+}
+
+void FormCommands::SelectMainForm() {
+  state_.View.RunFormMain();
+}
+
+void FormCommands::CloseAll() {
+  sheet_.ClearPanelAndCombo();
+  for (int form = 1; form <= state_.Tables.FormsCount; ++form) {
+    if (state_.Tables.IsLive(form)) state_.Observer.FormClosing(form);
+  }
+  state_.Tables.Reset();
+  state_.Observer.FormListChanged();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,54 @@
+// Commands on the forms of the project: adding, removing, choosing.
+#pragma once
+
+#include "inspector/property_sheet.h"
+#include "persistence/project_context.h"
+#include "shell/shell_state.h"
+
+namespace tarnwick {
+
+/// The form list and the container in step: whatever is chosen in one is in front in the other,
+/// and is `CurrentForm`.
+class FormCommands final : public ContainerHost {
+ public:
+  FormCommands(ShellState& state, PropertySheet& sheet) : state_(state), sheet_(sheet) {}
+
+  /// `AddForm`: the first form of a project, or one for a project that has none left.
+  void AddFirst();
+  /// Add New Form, always another one.
+  void AddNew();
+  /// Asks, then takes the current form out of the project. Its number is never used again.
+  void Remove();
+  /// A line of the form list was chosen, from 0: its form comes up with its events bar. While the
+  /// code editor is open that comes to the front, and nothing is chosen.
+  void SelectLine(int place);
+  /// A design window came to the front by the user's hand; the same rule holds.
+  void Activated(int form);
+  /// Runs the dialog of the main form.
+  void SelectMainForm();
+
+  /// True while some form is not removed.
+  [[nodiscard]] bool HasForm() const;
+  /// The lowest form number in use; 0 for none.
+  [[nodiscard]] int FirstForm() const;
+  /// Makes a form the current one, in front, selected in the list.
+  void BringUp(int form);
+  /// Tells that every form closes, then empties the project.
+  void CloseAll();
+
+  void HideContainer() override { state_.View.HideContainer(); }
+  void ShowContainer() override { state_.View.ShowContainer(); }
+  void ActivateForm(int form) override { BringUp(form); }
+
+ private:
+  void Opened(int form);
+  void Choose(int form);
+  [[nodiscard]] int CurrentNumber() const;
+  [[nodiscard]] bool RaisedOpenEditor();
+  void MarkCurrentLine();
+
+  ShellState& state_;
+  PropertySheet& sheet_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,175 @@
+#include "shell/project_commands.h"
+
+#include <utility>
+
+#include "persistence/form_files.h"
+#include "persistence/old_project.h"
+#include "persistence/project_reader.h"
+#include "persistence/project_writer.h"
+#include "shell/titles.h"
+#include "text/code_page.h"
+#include "text/path_text.h"
+
+namespace tarnwick {
+
+bool ProjectCommands::WantsSave() {
+  return state_.Ports.Messages.AskYesNo("Did you want save this project?", kSavePromptTitle,
+                                        MessageIcon::Question);
+}
+
+void ProjectCommands::New() {
+  ProjectTables& tables = state_.Tables;
+  // What is cancelled on the way to a save must not cost the project.
+  if (tables.AccionProject != "save" && WantsSave() && !Save()) return;
+  state_.Windows.CloseCode();
+  state_.View.SetTitle(TitleOfOpened(DefaultProjectFile(tables)));
+  state_.Ports.Files.Remove(state_.Settings.EventIndexPath());
+  state_.EnableCommands(false);
+  SetDefaultPaths(tables);
+  state_.Application = {};
+  tables.JumpKey.clear();
+  forms_.HideContainer();
+  forms_.CloseAll();
+  forms_.AddFirst();
+  ShowIcon();
+  forms_.ShowContainer();
+  tables.AccionProject = "new";
+  state_.EnableCommands(true);
+}
+
+std::optional<std::string> ProjectCommands::ChooseProject(bool old_version) {
+  FileDialogRequest request{"Open Project", "Tarnwick Project (New Version)|*.tnp",
+                            state_.Settings.Read(kProjectFolder), ""};
+  if (old_version) {
+    request.Title = "Open Old Version";
+    request.Filter = "Tarnwick Project (Old Version)|*.ptn|All Files|*.*";
+  }
+  const std::optional<std::string> chosen = state_.Ports.Dialogs.OpenFile(request);
+  if (!chosen || chosen->empty()) return std::nullopt;
+  // The open project goes only when another one is there to take its place.
+  std::optional<std::string> path;
+  if (old_version) {
+    path = ConvertOldProject(state_.Ports.Files, *chosen);
+  } else if (state_.Ports.Files.Read(*chosen)) {
+    path = *chosen;
+  }
+  return path;
+}
+
+void ProjectCommands::Open(bool old_version) {
+  ProjectTables& tables = state_.Tables;
+  tables.LoadingProject = 1;
+  std::optional<std::string> path = ChooseProject(old_version);
+  if (!path) {
+    tables.LoadingProject = 0;
+    return;
+  }
+  state_.Windows.CloseCode();
+  tables.AccionProject = "open";
+  state_.EnableCommands(false);
+  tables.JumpKey.clear();
+  forms_.HideContainer();
+  forms_.CloseAll();
+  SetProjectFile(tables, *std::move(path));
+  state_.View.SetTitle(TitleOfOpened(tables.ProjectFile));
+  state_.Settings.Write(kProjectFolder, FolderOf(tables.ProjectFile));
+  LoadProject(context_, tables.ProjectFile);
+  if (!forms_.HasForm()) forms_.AddFirst();
+  forms_.ShowContainer();
+  forms_.BringUp(forms_.FirstForm());
+  state_.ShowPanel(Panel::EventsBar, true);
+  ShowIcon();
+  tables.LoadingProject = 0;
+  state_.EnableCommands(true);
+}
+
+std::optional<std::string> ProjectCommands::AskProjectPath() {
+  const FileDialogRequest request{"Save Project", "Tarnwick Project|*.tnp|All Files|*.*",
+                                  state_.Tables.ProjectFolder(),
+                                  std::string(BareName(state_.Tables.ProjectFile))};
+  for (;;) {
+    std::optional<std::string> chosen = state_.Ports.Dialogs.SaveFile(request);
+    if (!chosen || chosen->empty()) return std::nullopt;
+    if (!state_.Ports.Files.Exists(*chosen) ||
+        state_.Ports.Messages.AskYesNo("The File " + *chosen + "\r\nalready exist. Replace it?",
+                                       kApplicationTitle, MessageIcon::None)) {
+      return chosen;
+    }
+  }
+}
+
+bool ProjectCommands::TakeProjectPath() {
+  constexpr std::string_view kExtension = ".tnp";
+  std::optional<std::string> path = AskProjectPath();
+  if (!path) return false;
+  if (!Lower(*path).ends_with(kExtension)) *path += kExtension;
+  state_.View.SetTitle(TitleOfSaved(*path));
+  SetProjectFile(state_.Tables, *std::move(path));
+  return true;
+}
+
+bool ProjectCommands::WriteProject() {
+  // What is typed but not taken yet belongs to the project.
+  state_.View.CommitPendingEdits();
+  state_.Windows.StoreShownCode();
+  return SaveProject(context_, state_.Tables.ProjectFile);
+}
+
+bool ProjectCommands::Save() {
+  if (HasDefaultProjectFile(state_.Tables) && !TakeProjectPath()) return false;
+  if (!WriteProject()) return false;
+  state_.Tables.AccionProject = "save";
+  return true;
+}
+
+void ProjectCommands::SaveAs() {
+  if (TakeProjectPath()) WriteProject();
+}
+
+bool ProjectCommands::AskFormFile(int form) {
+  const bool chosen = SaveFormDialog(context_, form);
+  forms_.ShowContainer();
+  forms_.BringUp(form);
+  return chosen;
+}
+
+void ProjectCommands::WriteForm(int form) {
+  state_.View.CommitPendingEdits();
+  state_.Windows.StoreShownCode();
+  WriteFormFile(context_, form);
+  RefreshFormListEntry(context_, form);
+  state_.Observer.FormListChanged();
+}
+
+void ProjectCommands::SaveForm() {
+  const DesignForm* window = state_.Tables.CurrentForm;
+  const FormRec* record = window == nullptr ? nullptr : state_.Tables.RecordOf(*window);
+  if (record == nullptr) return;
+  const int form = window->Number();
+  if (!record->FileName.empty() || AskFormFile(form)) WriteForm(form);
+}
+
+void ProjectCommands::SaveFormAs() {
+  const DesignForm* window = state_.Tables.CurrentForm;
+  if (window == nullptr) return;
+  const int form = window->Number();
+  if (!AskFormFile(form)) return;
+  WriteForm(form);
+  state_.Ports.Files.Replace(state_.Tables.ProjectFile, ShortProjectFileText(state_.Tables));
+}
+
+bool ProjectCommands::MayClose() {
+  const std::string& action = state_.Tables.AccionProject;
+  if (action == "save" || action == "new" || !WantsSave()) return true;
+  return HasDefaultProjectFile(state_.Tables) ? Save() : WriteProject();
+}
+
+void ProjectCommands::ShowIcon() {
+  const FormRec* first = state_.Tables.Form(1);
+  const std::string text =
+      first == nullptr || first->IconFile.empty() ? std::string(kDefaultFile) : first->IconFile;
+  state_.View.ShowIcon(text,
+                       text == kDefaultFile ? state_.Tables.ProgramFolder + "\\iconapp.ico" : text);
+}
+
+}  // namespace tarnwick

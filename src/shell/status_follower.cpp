@@ -1,0 +1,17 @@
+#include "shell/status_follower.h"
+
+#include "shell/status_text.h"
+
+namespace tarnwick {
+
+void StatusFollower::Refresh() {
+  state_.View.SetSelectionText(SelectionStatus(state_.Tables));
+  state_.View.CommandsChanged();
+}
+
+void StatusFollower::FormChanged(int form) {
+  if (form == 1) project_.ShowIcon();
+  Refresh();
+}
+
+}  // namespace tarnwick

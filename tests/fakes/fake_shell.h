@@ -1,0 +1,184 @@
+// The recording fakes of the main window and of the windows beside it.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "fakes/call_log.h"
+#include "fakes/fake_ports.h"
+#include "model/project_observer.h"
+#include "shell/shell_view.h"
+#include "shell/side_windows.h"
+
+namespace tarnwick {
+
+/// Log entries begin with "view ". What a real window does by hand of the user inside a call is
+/// scripted by the `On...` functions.
+class FakeShellView final : public ShellView {
+ public:
+  explicit FakeShellView(CallLog& log) : log_(&log) {}
+
+  std::string Title;
+  std::string ApplicationTitle;
+  std::string Status;
+  std::string SelectionText;
+  std::string IconText;
+  std::string IconPicture;
+  std::map<Panel, bool> PanelShown;
+  int SelectedLine = -1;
+  int FormInFront = 0;
+  int CommandChanges = 0;
+  bool WantsTimer = false;
+  bool Minimised = false;
+  bool PicturesLoad = true;
+  std::function<void()> OnFormMain;
+  std::function<void()> OnCloseMainWindow;
+  std::function<void()> OnObjectPopUp;
+
+  void SetApplicationTitle(std::string_view title) override {
+    Say("application title", title);
+    ApplicationTitle = title;
+  }
+  void SetTitle(std::string_view title) override {
+    Say("title", title);
+    Title = title;
+  }
+  void PlaceHeadStrip() override { Say("head strip"); }
+  void LayOutPanels() override { Say("lay out panels"); }
+  void StartTimer() override { Say("timer on"); }
+  void StopTimer() override { Say("timer off"); }
+  void ShowLogo(std::string_view text) override { Say("logo", text); }
+  [[nodiscard]] bool LogoDemandsTimer() override { return WantsTimer; }
+  void CloseLogo() override { Say("logo closed"); }
+  void ShowContainerAt(int width, int height) override {
+    Say("container at", std::to_string(width) + "x" + std::to_string(height));
+  }
+  void HideContainer() override { Say("container hidden"); }
+  void ShowContainer() override { Say("container shown"); }
+  void MoveContainer(int top) override { Say("container moved", std::to_string(top)); }
+  [[nodiscard]] bool ContainerMinimised() override { return Minimised; }
+  void GrowContainer(float width, float height) override {
+    Say("container grown",
+        std::to_string(static_cast<int>(width)) + "," + std::to_string(static_cast<int>(height)));
+  }
+  void BringFormUp(int form) override {
+    Say("form up", std::to_string(form));
+    FormInFront = form;
+  }
+  void SetFormVisible(int form, bool visible) override {
+    Say(visible ? "form shown" : "form hidden", std::to_string(form));
+  }
+  [[nodiscard]] GesturePort& Gestures(int form) override {
+    return gestures_.try_emplace(form, quiet_).first->second;
+  }
+  [[nodiscard]] bool PictureLoads(const std::string& /*path*/) override { return PicturesLoad; }
+  void ShowPanel(Panel panel, bool shown) override {
+    Say(shown ? "panel shown" : "panel hidden", std::to_string(static_cast<int>(panel)));
+    PanelShown[panel] = shown;
+  }
+  void CommandsChanged() override { ++CommandChanges; }
+  void SelectFormLine(int place) override { SelectedLine = place; }
+  void ShowIcon(std::string_view text, std::string_view picture) override {
+    IconText = text;
+    IconPicture = picture;
+  }
+  void SetArrowPointer(bool arrow) override { Say(arrow ? "arrow" : "own pointer"); }
+  void SetStatus(std::string_view text) override { Status = text; }
+  void SetSelectionText(std::string_view text) override { SelectionText = text; }
+  void ShowObjectPopUp() override {
+    Say("pop-up");
+    if (OnObjectPopUp) OnObjectPopUp();
+  }
+  void RunFormMain() override {
+    Say("FormMain");
+    if (OnFormMain) OnFormMain();
+  }
+  void ShowAbout(std::string_view program_folder) override { Say("about", program_folder); }
+  void CommitPendingEdits() override { Say("commit"); }
+  void CloseMainWindow() override {
+    Say("close");
+    if (OnCloseMainWindow) OnCloseMainWindow();
+  }
+  void UnloadWindow(SideWindow window) override {
+    Say("unload", std::to_string(static_cast<int>(window)));
+  }
+  void UnloadContainer() override { Say("unload container"); }
+
+  /// Gestures of a form that can be steered.
+  [[nodiscard]] FakeGestures& GesturesOf(int form) {
+    return gestures_.try_emplace(form, quiet_).first->second;
+  }
+
+ private:
+  void Say(std::string_view what, std::string_view detail = {}) {
+    std::string entry = "view ";
+    entry += what;
+    if (!detail.empty()) entry.append(" ").append(detail);
+    log_->Add(std::move(entry));
+  }
+
+  CallLog* log_;
+  CallLog quiet_;  ///< gestures draw too much to be of use among the commands
+  std::map<int, FakeGestures> gestures_;
+};
+
+/// Log entries begin with "windows ".
+class FakeSideWindows final : public SideWindows {
+ public:
+  explicit FakeSideWindows(CallLog& log) : log_(&log) {}
+
+  bool CodeOpen = false;
+  std::function<void()> OnStoreShownCode;
+
+  void LoadLanguage() override { Say("language"); }
+  void SupportTablesLoaded() override { Say("support tables"); }
+  void LoadCodeWindows() override { Say("code windows"); }
+  void OpenCode() override {
+    Say("open code");
+    CodeOpen = true;
+  }
+  [[nodiscard]] bool IsCodeOpen() override { return CodeOpen; }
+  void BringCodeToFront() override { Say("code to front"); }
+  void StoreShownCode() override {
+    Say("store code");
+    if (OnStoreShownCode) OnStoreShownCode();
+  }
+  void CloseCode() override {
+    Say("close code");
+    CodeOpen = false;
+  }
+  void OpenPublicDeclarations() override { Say("declarations"); }
+  void OpenMenuEdit() override { Say("menu edit"); }
+  void OpenPopUpEdit(int form, int index) override {
+    Say("popup edit " + std::to_string(form) + "," + std::to_string(index));
+  }
+  void OpenItemEdit(int form) override { Say("item edit " + std::to_string(form)); }
+  void OpenExaminer() override { Say("examiner"); }
+  void NameChanged(int form, std::string_view old_name, std::string_view new_name) override {
+    Say("renamed " + std::to_string(form) + " " + std::string(old_name) + " to " +
+        std::string(new_name));
+  }
+
+ private:
+  void Say(const std::string& what) { log_->Add("windows " + what); }
+
+  CallLog* log_;
+};
+
+/// Log entries begin with "told ". Changes of controls and selections are too many to be told.
+class FakeObserver final : public ProjectObserver {
+ public:
+  explicit FakeObserver(CallLog& log) : log_(&log) {}
+
+  void FormOpened(int form) override { log_->Add("told opened " + std::to_string(form)); }
+  void FormClosing(int form) override { log_->Add("told closing " + std::to_string(form)); }
+  void CurrentFormChanged() override { log_->Add("told current"); }
+  void FormListChanged() override { log_->Add("told list"); }
+
+ private:
+  CallLog* log_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,86 @@
+// A whole main window on fakes, for the tests of its commands.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "designer/form_user.h"
+#include "fakes/fake_ports.h"
+#include "fakes/fake_shell.h"
+#include "shell/mdi_form.h"
+#include "shell/tool_box.h"
+
+namespace tarnwick {
+
+inline constexpr std::string_view kProgram = "Z:\\opt\\tarnwick";
+
+/// Twips of a number of pixels.
+inline constexpr float Twips(int pixels) {
+  return static_cast<float>(pixels * 15);
+}
+
+class ShellTest : public ::testing::Test {
+ protected:
+  FakePorts ports;
+  FakeShellView view{ports.Log};
+  FakeSideWindows windows{ports.Log};
+  FakeObserver observer{ports.Log};
+  MDIForm1 main{ports.All(), view, windows, observer, std::string(kProgram)};
+
+  CallLog& log() { return ports.Log; }
+  ProjectTables& tables() { return main.Tables(); }
+  FormUser& surface() { return *main.CurrentUser(); }
+
+  /// Start-up as the program does it; the log is empty afterwards.
+  void Start() {
+    view.OnCloseMainWindow = [this] { closed = main.Close(); };
+    main.Load();
+    main.Time_Timer();
+    log().Clear();
+  }
+  bool closed = false;
+
+  /// Arms a tool and presses and releases on the form, both at the same place in pixels.
+  void Place(int tool, int x, int y) {
+    main.PressTool(tool);
+    surface().Form_MouseDown(kLeftButton, 0, Twips(x), Twips(y));
+    surface().MouseUp();
+  }
+  /// Saves the project and its forms under names of the folder, the log is empty afterwards.
+  void SaveUnder(const std::string& path, std::initializer_list<std::string> forms) {
+    ports.Dialogs.SaveAnswers.push_back(path);
+    for (const std::string& form : forms) ports.Dialogs.SaveAnswers.push_back(form);
+    main.Run(Command::Save);
+    log().Clear();
+  }
+  std::vector<std::string> Lines() {
+    std::vector<std::string> lines;
+    for (const FormList::Line& line : tables().ListaFrms.Lines()) lines.push_back(line.Text);
+    return lines;
+  }
+
+  /// The entries were made in this order; others may stand between them.
+  void ExpectOrder(std::initializer_list<std::string_view> entries) {
+    const std::vector<std::string>& all = log().Entries();
+    std::size_t at = 0;
+    for (const std::string_view entry : entries) {
+      while (at < all.size() && !std::string_view(all[at]).starts_with(entry)) ++at;
+      if (at == all.size()) {
+        ADD_FAILURE() << "no \"" << entry << "\" after what came before it in\n" << Text();
+        return;
+      }
+      ++at;
+    }
+  }
+  std::string Text() {
+    std::string text;
+    for (const std::string& entry : log().Entries()) text.append(entry).append("\n");
+    return text;
+  }
+};
+
+}  // namespace tarnwick
