@@ -1,0 +1,103 @@
+#include "qt/theme.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+
+namespace tarnwick {
+
+namespace {
+
+struct Colors {
+  QColor Window, Base, Alternate, Button, Text, Quiet, Disabled, Accent, OnAccent, Line, Hover;
+};
+
+const Colors& ColorsOf(Theme theme) {
+  static const Colors light{QColor(0xF3F5F6), QColor(0xFFFFFF), QColor(0xF8FAFA), QColor(0xFBFCFC),
+                            QColor(0x1B2429), QColor(0x5B6870), QColor(0x9AA5AB), QColor(0x0F766E),
+                            QColor(0xFFFFFF), QColor(0xD5DBDF), QColor(0xDDEDEB)};
+  static const Colors dark{QColor(0x1E2327), QColor(0x171B1E), QColor(0x1B2024), QColor(0x282F34),
+                           QColor(0xE4E9EB), QColor(0x98A4AB), QColor(0x66727A), QColor(0x2DD4BF),
+                           QColor(0x08201D), QColor(0x39424A), QColor(0x24403E)};
+  return theme == Theme::Dark ? dark : light;
+}
+
+/// What the style's own drawing leaves to be said. %1 line, %2 hover, %3 accent, %4 base,
+/// %5 quiet text, %6 window, %7 disabled text.
+constexpr auto kSheet = R"(
+QToolBar { border: none; padding: 4px 6px; spacing: 2px; }
+QToolBar#BtnMenuBar { border-bottom: 1px solid %1; }
+QToolBar::separator { background: %1; width: 1px; margin: 5px 6px; }
+QToolButton { border: 1px solid transparent; border-radius: 5px; padding: 4px; }
+QToolButton:hover:enabled { background: %2; }
+QToolButton:pressed, QToolButton:checked { background: %2; border-color: %3; }
+QMenuBar { border-bottom: 1px solid %1; padding: 2px 4px; }
+QMenuBar::item { padding: 5px 10px; border-radius: 5px; background: transparent; }
+QMenuBar::item:selected { background: %2; }
+QMenu { background: %4; border: 1px solid %1; padding: 5px; }
+QMenu::item { padding: 5px 24px 5px 8px; border-radius: 4px; }
+QMenu::item:selected:enabled { background: %2; }
+QMenu::item:disabled { color: %7; }
+QMenu::icon { padding-left: 4px; }
+QMenu::separator { height: 1px; background: %1; margin: 5px 8px; }
+QStatusBar { border-top: 1px solid %1; }
+QStatusBar::item { border: none; }
+QStatusBar QLabel { padding: 2px 8px; color: %5; }
+QToolTip { background: %4; border: 1px solid %1; padding: 4px 6px; }
+QSplitter::handle { background: transparent; }
+QSplitter::handle:hover { background: %2; }
+QFrame[panel="true"] { background: %4; border: 1px solid %1; border-radius: 6px; }
+QLabel[heading="true"] { font-weight: 600; }
+QLabel[quiet="true"] { color: %5; }
+QListWidget { border: 1px solid %1; border-radius: 5px; padding: 2px; background: %4; }
+QFrame[panel="true"] QListWidget { border: none; }
+QListWidget::item { padding: 4px 6px; border-radius: 4px; }
+QListWidget::item:hover { background: %6; }
+QListWidget::item:selected { background: %2; color: palette(text); }
+)";
+
+}  // namespace
+
+Theme ThemeOf(const QPalette& palette) {
+  return palette.color(QPalette::Window).lightness() < 128 ? Theme::Dark : Theme::Light;
+}
+
+QColor AccentOf(const QPalette& palette) {
+  return ColorsOf(ThemeOf(palette)).Accent;
+}
+
+QColor LineOf(const QPalette& palette) {
+  return ColorsOf(ThemeOf(palette)).Line;
+}
+
+QPalette PaletteOf(Theme theme) {
+  const Colors& c = ColorsOf(theme);
+  QPalette palette(c.Button, c.Window);
+  palette.setColor(QPalette::Window, c.Window);
+  palette.setColor(QPalette::Base, c.Base);
+  palette.setColor(QPalette::AlternateBase, c.Alternate);
+  palette.setColor(QPalette::Button, c.Button);
+  palette.setColor(QPalette::ToolTipBase, c.Base);
+  palette.setColor(QPalette::PlaceholderText, c.Quiet);
+  palette.setColor(QPalette::Mid, c.Line);
+  palette.setColor(QPalette::Highlight, c.Accent);
+  palette.setColor(QPalette::HighlightedText, c.OnAccent);
+  palette.setColor(QPalette::Link, c.Accent);
+  for (const auto role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+    palette.setColor(role, c.Text);
+    palette.setColor(QPalette::Disabled, role, c.Disabled);
+  }
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, c.Line);
+  return palette;
+}
+
+void ApplyTheme(QApplication& application, Theme theme) {
+  const Colors& c = ColorsOf(theme);
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setPalette(PaletteOf(theme));
+  application.setStyleSheet(
+      QString::fromLatin1(kSheet).arg(c.Line.name(), c.Hover.name(), c.Accent.name(), c.Base.name(),
+                                      c.Quiet.name(), c.Window.name(), c.Disabled.name()));
+}
+
+}  // namespace tarnwick
