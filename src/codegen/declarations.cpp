@@ -57,7 +57,8 @@ class NameDeclarer {
       : out_(gen.Out), row_(row), highest_(highest) {}
 
   void Declare(std::string_view name) {
-    if (row_.Rule == DimRule::Plain || !IsArrayForm(name)) {
+    const bool as_it_stands = row_.Rule == DimRule::Plain || row_.Rule == DimRule::FirstOnly;
+    if (as_it_stands || !IsArrayForm(name)) {
       out_.Line("Dim ", name, " As ", row_.Class);
     } else if (!seen_) {
       const std::string_view family = row_.Rule == DimRule::WholeName ? name : ArrayStem(name);

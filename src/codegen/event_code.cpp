@@ -16,6 +16,12 @@ constexpr KindSet kPassedOver = KindSet::Of(Kind::FileStream, Kind::PopUpMenu, K
 
 constexpr KindSet kKeptByBodies = KindSet::Of(Kind::PopUpMenu, Kind::WinSock, Kind::HtmlViewer);
 
+/// The lines of a Sub between its head and its end, as the user wrote them.
+void WriteBody(Generation& gen, std::string_view code) {
+  gen.Out.Line(code);
+  if (gen.Bodies != nullptr) gen.Bodies->insert(code.data());
+}
+
 /// Calls `write(sub_name, event, code)` for every event of every object that has code.
 template <class Write>
 void ForEachObjectEvent(Generation& gen, Write write) {
@@ -73,7 +79,7 @@ void WritePopUpBody(Generation& gen, std::string_view name, std::string_view eve
                     std::string_view code) {
   if (code.empty()) return;
   gen.Out.Line("Sub ", name, event);
-  gen.Out.Line(code);
+  WriteBody(gen, code);
   gen.Out.Line("End Sub");
 }
 
@@ -95,7 +101,7 @@ void WriteFormBodies(Generation& gen) {
     const std::string_view text = code.Of(event);
     if (text.empty()) continue;
     gen.Out.Line("Sub ", gen.Record().Name, "_", InfoOf(event).Signature);
-    gen.Out.Line(text);
+    WriteBody(gen, text);
     gen.Out.Line("End Sub");
     gen.Out.Blank();
   }
@@ -131,7 +137,7 @@ void WriteEventSubs(Generation& gen) {
   WriteFormBodies(gen);
   ForEachObjectEvent(gen, [&](const Numbered& sub, Event event, std::string_view code) {
     gen.Out.Line("Sub ", sub, "_", InfoOf(event).Signature);
-    gen.Out.Line(code);
+    WriteBody(gen, code);
     gen.Out.Line("End Sub");
     gen.Out.Blank();
     gen.Out.Blank();
@@ -143,7 +149,7 @@ void WriteEventSubs(Generation& gen) {
     const std::string_view code = gen.Code.OnClickOf(name);
     if (code.empty()) return;
     gen.Out.Line("Sub ", SubNameOf(name, n), "_OnClick");
-    gen.Out.Line(code);
+    WriteBody(gen, code);
     gen.Out.Line("End Sub");
     gen.Out.Blank();
   });

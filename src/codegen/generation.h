@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <span>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 
 #include "codegen/event_lookup.h"
@@ -36,6 +37,8 @@ class Generation {
   EventLookup Code;
   ImageIndex ButtonImages;
   ImageIndex PictureImages;
+  /// Where the code that becomes a Sub is noted down, by the place of its text; null for nowhere.
+  std::unordered_set<const char*>* Bodies = nullptr;
 
  private:
   const FormRec* record_ = nullptr;

@@ -48,12 +48,14 @@ FormReader::FormReader(ProjectContext& context, std::string file_name, int targe
       tables_(context.Tables),
       file_name_(std::move(file_name)),
       target_(target) {
-  if (target_ == 0) {
-    form_ = tables_.FormsCount;
-    window_ = tables_.User(form_);
-    record_ = form_ > 0 ? tables_.Form(form_) : nullptr;
-    if (window_ != nullptr) form_key_ = window_->KeyPrefix();
+  form_ = target_ != 0 ? 0 : tables_.FormsCount;
+  if (form_ == 0) {
+    nowhere_ = std::make_unique<DesignForm>();
+    nowhere_->SetNumber(0);
   }
+  window_ = nowhere_ ? nowhere_.get() : tables_.User(form_);
+  record_ = tables_.Form(form_);
+  form_key_ = window_->KeyPrefix();
 }
 
 FormReadResult FormReader::Read(std::string_view text) {
@@ -73,7 +75,6 @@ FormReadResult FormReader::Read(std::string_view text) {
 bool FormReader::ReadLine(std::string_view line) {
   scanner_.Scan(line);
   if (StartsWithFolded(line, "[form]")) return ReadForm();
-  if (window_ == nullptr || record_ == nullptr) return true;
   if (StartsWithFolded(line, "[menu]")) {
     ReadMenuTitle();
   } else if (StartsWithFolded(line, "[menuitem]") || StartsWithFolded(line, "[itemmenu]") ||
@@ -187,7 +188,8 @@ void FormReader::ReadDeclarations() {
 }
 
 void FormReader::TellBar(std::string_view name, Event event) {
-  tables_.Bar(form_)->Entries.push_back({std::string(name), std::string(InfoOf(event).Name)});
+  FrmBarra* const bar = tables_.Bar(form_);
+  if (bar != nullptr) bar->Entries.push_back({std::string(name), std::string(InfoOf(event).Name)});
 }
 
 void FormReader::Take(Object& object, const std::string& value, Special special) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -69,6 +70,8 @@ class FormReader {
   int form_ = 0;  ///< the form that objects go to: the one with the highest number
   int last_form_ = 0;
   bool menu_met_ = false;
+  /// Takes the objects that stand ahead of the first form of a project; slot 0 is their record.
+  std::unique_ptr<DesignForm> nowhere_;
   DesignForm* window_ = nullptr;
   FormRec* record_ = nullptr;
   std::string form_key_;

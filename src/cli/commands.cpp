@@ -1,0 +1,94 @@
+#include "cli/commands.h"
+
+#include <filesystem>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "cli/loaded_project.h"
+#include "cli/project_check.h"
+#include "codegen/compile_driver.h"
+#include "persistence/old_project.h"
+#include "persistence/project_writer.h"
+#include "text/code_page.h"
+#include "text/path_text.h"
+
+namespace tarnwick {
+
+namespace {
+
+int Fail(std::ostream& err, std::string_view what, std::string_view path) {
+  err << "tarnwick-cli: " << what << " " << path << "\n";
+  return 1;
+}
+
+int Generate(LoadedProject& project, const Arguments& arguments, std::ostream& out,
+             std::ostream& err) {
+  GeneratorState state;
+  CheckMainForm(project.Tables);
+  const std::string source = GenerateSource(project.Tables, state);
+  if (!arguments.OutputFile) {
+    out.write(source.data(), static_cast<std::streamsize>(source.size()));
+    out.flush();
+    return out ? 0 : Fail(err, "cannot write to", "standard output");
+  }
+  const std::string path = WindowsPathOf(*arguments.OutputFile);
+  if (!project.Files.Replace(path, source)) return Fail(err, "cannot write", *arguments.OutputFile);
+  return 0;
+}
+
+int Resave(LoadedProject& project, const Arguments& arguments, std::ostream& err) {
+  std::error_code ignored;
+  std::filesystem::create_directories(arguments.OutputFolder, ignored);
+  std::string folder = WindowsPathOf(arguments.OutputFolder);
+  if (!folder.ends_with('\\')) folder += '\\';
+
+  ProjectTables& tables = project.Tables;
+  tables.ProjectFile = folder + std::string(BareName(tables.ProjectFile));
+  bool all_named = true;
+  for (int form = 1; form <= tables.FormsCount; ++form) {
+    std::string& name = tables.Form(form)->FileName;
+    // A form that never had a file stays without one: there is no name to give it.
+    all_named = all_named && !name.empty();
+    if (!name.empty()) name = folder + std::string(BareName(name));
+  }
+  const bool saved = SaveProject(project.Context, tables.ProjectFile);
+  if (saved || (!all_named && project.Files.Exists(tables.ProjectFile))) return 0;
+  return Fail(err, "cannot write the project into", arguments.OutputFolder);
+}
+
+int Convert(const Arguments& arguments, std::ostream& err) {
+  NativeFiles files;
+  const std::string path = WindowsPathOf(arguments.Input);
+  if (!files.Read(path)) return Fail(err, "cannot read", arguments.Input);
+  if (!ConvertOldProject(files, path)) {
+    return Fail(err, "cannot write the new files beside", arguments.Input);
+  }
+  return 0;
+}
+
+int Check(LoadedProject& project, std::ostream& out) {
+  const std::vector<std::string> findings = CheckProject(project);
+  for (const std::string& finding : findings) out << CodePageToUtf8(finding) << "\n";
+  return findings.empty() ? 0 : 1;
+}
+
+}  // namespace
+
+int RunCommand(const Arguments& arguments, std::ostream& out, std::ostream& err) {
+  if (arguments.What == Command::Convert) return Convert(arguments, err);
+  // What `check` has to say of missing files stands among its findings.
+  const bool quiet = arguments.What == Command::Check;
+  LoadedProject project(arguments.ProgramFolder, err, quiet);
+  if (!project.Load(arguments.Input)) return Fail(err, "cannot read", arguments.Input);
+  switch (arguments.What) {
+    case Command::Generate:
+      return Generate(project, arguments, out, err);
+    case Command::Resave:
+      return Resave(project, arguments, err);
+    default:
+      return Check(project, out);
+  }
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,54 @@
+// A project read from disk with no window around it.
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "persistence/project_reader.h"
+#include "platform/console_messages.h"
+#include "platform/native_files.h"
+#include "platform/native_screen.h"
+#include "platform/no_dialogs.h"
+
+namespace tarnwick {
+
+/// The Windows path of a path of this machine, made absolute first.
+[[nodiscard]] std::string WindowsPathOf(const std::string& native);
+
+/// Messages on a stream that are kept as well. A quiet one only keeps them.
+class KeptMessages final : public MessagePort {
+ public:
+  KeptMessages(std::ostream& out, bool quiet) : console_(out), quiet_(quiet) {}
+  void Show(std::string_view text, std::string_view title) override;
+  [[nodiscard]] bool AskYesNo(std::string_view text, std::string_view title,
+                              MessageIcon icon) override;
+
+  std::vector<std::string> Texts;  ///< Windows-1252
+
+ private:
+  ConsoleMessages console_;
+  bool quiet_;
+};
+
+/// The tables of one project and all that reading and saving it asks for.
+class LoadedProject {
+ public:
+  /// Without a program folder the real one is used. Messages go to `err`.
+  LoadedProject(const std::optional<std::string>& program_folder, std::ostream& err, bool quiet);
+
+  /// Reads the project; its first form is then the current one. False when it cannot be read.
+  bool Load(const std::string& native_path);
+
+  NativeFiles Files;
+  KeptMessages Messages;
+  NoDialogs Dialogs;
+  NativeScreen Screen;
+  ProjectObserver Observer;
+  ContainerHost Container;
+  ProjectTables Tables;
+  ProjectContext Context{Tables, Files, Messages, Dialogs, Screen, Observer, Container};
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,22 @@
+// tarnwick-cli: the project's logic with no display.
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/arguments.h"
+#include "cli/commands.h"
+
+int main(int argc, char** argv) {
+  using namespace tarnwick;
+  const ParsedArguments parsed =
+      ParseArguments(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
+  if (const auto* const print = std::get_if<PrintAndLeave>(&parsed)) {
+    std::cout << print->Text;
+    return 0;
+  }
+  if (const auto* const wrong = std::get_if<WrongUsage>(&parsed)) {
+    std::cerr << wrong->Text;
+    return 2;
+  }
+  return RunCommand(std::get<Arguments>(parsed), std::cout, std::cerr);
+}

@@ -1,0 +1,98 @@
+#include "persistence/record_check.h"
+
+#include <array>
+#include <optional>
+
+#include "model/vocabulary.h"
+#include "persistence/record_layouts.h"
+#include "persistence/tag_scanner.h"
+#include "text/code_page.h"
+#include "text/numbers.h"
+#include "text/strings.h"
+
+namespace tarnwick {
+
+namespace {
+
+constexpr std::array<std::string_view, 4> kStartHeads{"[form]", "[menu]", "[menuitem]",
+                                                      "[itemmenu]"};
+
+bool IsOtherRecord(std::string_view line, std::string_view kind) {
+  for (const std::string_view head : kStartHeads) {
+    if (StartsWithFolded(line, head)) return true;
+  }
+  return kind == "DeclarePbl" || EqualsFolded(kind, "sub");
+}
+
+/// True when a number of this text fits the value it is read into.
+bool Fits(const Source& source, std::string_view text) {
+  const double number = Val(text);
+  if (std::holds_alternative<std::int16_t ObjectRec::*>(source) ||
+      std::holds_alternative<std::int16_t FormRec::*>(source) ||
+      std::holds_alternative<std::int16_t PopUpItemRec::*>(source)) {
+    return ToInt16(number).has_value();
+  }
+  if (std::holds_alternative<std::int32_t ObjectRec::*>(source) ||
+      std::holds_alternative<std::int32_t FormRec::*>(source)) {
+    return ToInt32(number).has_value();
+  }
+  return true;
+}
+
+class FormChecker {
+ public:
+  std::vector<RecordFault> Check(std::string_view text) {
+    for (const std::string_view line : Split(text, "\r\n")) {
+      ++line_;
+      if (!line.empty()) CheckLine(line);
+    }
+    if (!form_met_) faults_.insert(faults_.begin(), {1, "", "", "the file holds no form record"});
+    return std::move(faults_);
+  }
+
+ private:
+  void Tell(std::string what) {
+    faults_.push_back({line_, std::string(scanner_.Kind()), scanner_.Name(), std::move(what)});
+  }
+
+  void CheckLine(std::string_view line) {
+    scanner_.Scan(line);
+    const bool is_form = StartsWithFolded(line, kStartHeads[0]);
+    form_met_ = form_met_ || is_form;
+    const std::optional<Kind> kind =
+        is_form ? std::optional(Kind::Form) : KindOfFileWord(scanner_.Kind());
+    if (IsOtherRecord(line, scanner_.Kind()) && !is_form) return;
+    if (!kind) {
+      Tell(scanner_.Kind().empty() ? "the line is no record" : "the kind is not known");
+      return;
+    }
+    CheckNumbers(*kind);
+  }
+
+  void CheckNumbers(Kind kind) {
+    const RecordLayout& layout = LayoutOf(kind);
+    const bool numbered = kind != Kind::Form && layout.Fields.front().Tag.empty() &&
+                          std::get<Special>(layout.Fields.front().Value) == Special::Number;
+    const std::optional<std::int16_t> number = ToInt16(Val(scanner_.Number()));
+    if (numbered && (!number || *number < 0)) {
+      Tell("the number (" + scanner_.Number() + ") cannot be used; its properties are lost");
+    }
+    for (const LayoutField& field : layout.Fields) {
+      if (field.Tag.empty() || Fits(field.Value, scanner_.Value(field.Tag))) continue;
+      Tell("the value of " + field.Tag + " is out of range: " + scanner_.Value(field.Tag));
+    }
+  }
+
+  std::vector<RecordFault> faults_;
+  TagScanner scanner_;
+  std::size_t line_ = 0;
+  bool form_met_ = false;
+};
+
+}  // namespace
+
+std::vector<RecordFault> FaultsOfFormText(std::string_view text) {
+  return FormChecker().Check(text);
+}
+
+}  // namespace tarnwick

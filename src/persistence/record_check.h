@@ -1,0 +1,21 @@
+// What in a form file cannot be read.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarnwick {
+
+/// A line of a form file that the reader passes over, in whole or in part.
+struct RecordFault {
+  std::size_t Line = 0;  ///< from 1
+  std::string Kind;      ///< kind word of the line, "" when it has none
+  std::string Name;      ///< name of the line, "" when it has none
+  std::string What;      ///< what is wrong with it
+};
+
+/// The faults of a form file's text, in the order of its lines.
+[[nodiscard]] std::vector<RecordFault> FaultsOfFormText(std::string_view text);
+
+}  // namespace tarnwick
