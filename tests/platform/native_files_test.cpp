@@ -1,6 +1,6 @@
 #include "platform/native_files.h"
 
-#include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -157,11 +157,30 @@ TEST_F(NativeFilesTest, ReplaceKeepsThePermissions) {
   EXPECT_EQ(fs::status(Folder.Native("a")).permissions(), static_cast<fs::perms>(0751));
 }
 
+/// For root nothing is write-protected, so such a test goes on as a user without rights.
+class WithoutRootRights {
+ public:
+  WithoutRootRights() : was_root_(::getuid() == 0 && ::setresuid(kNobody, kNobody, 0) == 0) {}
+  ~WithoutRootRights() {
+    if (was_root_ && ::setresuid(0, 0, 0) != 0) std::abort();
+  }
+  WithoutRootRights(const WithoutRootRights&) = delete;
+  WithoutRootRights& operator=(const WithoutRootRights&) = delete;
+
+ private:
+  static constexpr uid_t kNobody = 65534;
+  bool was_root_;
+};
+
 TEST_F(NativeFilesTest, AWriteProtectedFileStays) {
-  if (::geteuid() == 0) return;  // Nothing is write-protected for root.
   Folder.Write("a", "old");
-  fs::permissions(Folder.Native("a"), fs::perms::owner_read);
-  EXPECT_FALSE(Files.Replace(Folder.Path("a"), "new"));
+  fs::permissions(Folder.Native(), fs::perms::all);
+  fs::permissions(Folder.Native("a"), static_cast<fs::perms>(0444));
+  {
+    const WithoutRootRights plain_user;
+    EXPECT_TRUE(Files.Replace(Folder.Path("b"), "new"));
+    EXPECT_FALSE(Files.Replace(Folder.Path("a"), "new"));
+  }
   EXPECT_EQ(Folder.Read("a"), "old");
 }
 
