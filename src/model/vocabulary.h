@@ -148,10 +148,10 @@ inline constexpr std::string_view kMemberEventNames =
 /// Short list for forms; OnKeyPress is missing in it.
 inline constexpr std::string_view kShortFormEventNames =
     "OnClick#OnClose#OnHint#OnKeyDown#OnKeyUp#OnMouseDown#OnMouseMove#OnMouseUp#OnPaint#OnResize#"
-    "OnShow#";
+    "OnShow";
 /// Short list for objects.
 inline constexpr std::string_view kShortObjectEventNames =
-    "OnClick#OnKeyDown#OnKeyPress#OnKeyUp#OnMouseDown#OnMouseMove#OnMouseUp#";
+    "OnClick#OnKeyDown#OnKeyPress#OnKeyUp#OnMouseDown#OnMouseMove#OnMouseUp";
 
 /// The events whose entries a new form gets, in the order of adding. OnTimer is among them though
 /// no form ever raises it.

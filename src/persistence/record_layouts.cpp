@@ -249,6 +249,10 @@ constexpr std::array kFramePlace{
     InheritedMember{Member::Left, "left"}, InheritedMember{Member::Top, "top"},
     InheritedMember{Member::Width, "width"}, InheritedMember{Member::Height, "height"}};
 constexpr std::array kHtmlText{InheritedMember{Member::Text, "string"}};
+// The tags of a frame's place go to the form's record; the control stands where they say, too.
+constexpr std::array kFramePlace{
+    InheritedMember{Member::Left, "left"}, InheritedMember{Member::Top, "top"},
+    InheritedMember{Member::Width, "width"}, InheritedMember{Member::Height, "height"}};
 
 }  // namespace
 
@@ -279,6 +283,8 @@ std::span<const InheritedMember> InheritedMembersOf(Kind kind) noexcept {
       return kFramePlace;
     case Kind::HtmlViewer:
       return kHtmlText;
+    case Kind::TransparentFrame:
+      return kFramePlace;
     default:
       return {};
   }

@@ -57,8 +57,8 @@ struct RecordLayout {
 /// The layout of an object kind or of the form itself (Kind::Form).
 [[nodiscard]] const RecordLayout& LayoutOf(Kind kind);
 
-/// A control member that reading sets from a tag which the kind's own record does not carry: the
-/// value is the one that a line before left behind.
+/// A control member that reading sets beside what the layout names: from a tag of another field,
+/// or from one that the kind's own record does not carry, whose value a line before left behind.
 struct InheritedMember {
   Member Target;
   std::string_view Tag;

@@ -1,0 +1,92 @@
+// A project with fakes for all that reading and saving ask of the platform and of the views.
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "fakes/call_log.h"
+#include "fakes/fake_ports.h"
+#include "persistence/project_context.h"
+#include "persistence/project_reader.h"
+#include "persistence/project_writer.h"
+#include "support/project_builder.h"
+
+namespace tarnwick::test {
+
+/// Log entries: "hide", "container", "activate N".
+class FakeContainer final : public ContainerHost {
+ public:
+  explicit FakeContainer(CallLog& log) : log_(&log) {}
+  void HideContainer() override { log_->Add("hide"); }
+  void ShowContainer() override { log_->Add("container"); }
+  void ActivateForm(int form) override { log_->Add("activate " + std::to_string(form)); }
+
+ private:
+  CallLog* log_;
+};
+
+/// Log entries: "opened N", "closing N", "current", "list", "bar N".
+class FakeObserver final : public ProjectObserver {
+ public:
+  explicit FakeObserver(CallLog& log) : log_(&log) {}
+  void FormOpened(int form) override { log_->Add("opened " + std::to_string(form)); }
+  void FormClosing(int form) override { log_->Add("closing " + std::to_string(form)); }
+  void CurrentFormChanged() override { log_->Add("current"); }
+  void FormListChanged() override { log_->Add("list"); }
+  void EventsBarChanged(int form) override { log_->Add("bar " + std::to_string(form)); }
+
+ private:
+  CallLog* log_;
+};
+
+/// A project in "C:\Work" over a file port in memory; the program lies in "C:\Tarnwick".
+///
+///   FakeProject project;
+///   project.Load("[Form](1) {F}\r\n");         // one form, read as a.ftn of Demo.tnp
+///   EXPECT_EQ(project.Saved(), "...");         // the text that saving form 1 would write
+struct FakeProject {
+  FakePorts Ports;
+  ProjectBuilder Builder;
+  ProjectTables& Tables = Builder.Tables;
+  FakeContainer Container{Ports.Log};
+  FakeObserver Observer{Ports.Log};
+  ProjectContext Context{Tables,       Ports.Files, Ports.Messages, Ports.Dialogs,
+                         Ports.Screen, Observer,    Container};
+
+  FakeProject() = default;
+  FakeProject(const FakeProject&) = delete;
+  FakeProject& operator=(const FakeProject&) = delete;
+
+  /// Lays down an index of the given text and loads it.
+  bool LoadIndex(std::string index) {
+    Ports.Files.Put(Tables.ProjectFile, std::move(index));
+    return LoadProject(Context, Tables.ProjectFile);
+  }
+  /// Lays down one form file and an index that names it, and loads that.
+  bool Load(std::string form_text) {
+    Ports.Files.Put("C:\\Work\\a.ftn", std::move(form_text));
+    return LoadIndex(
+        "1\x95"
+        "a.ftn\r\nMF##F (a.ftn)\r\n");
+  }
+  /// The bytes that saving a form would write.
+  [[nodiscard]] std::string Saved(int form = 1) const { return FormFileText(Tables, form); }
+
+  [[nodiscard]] FormRec& Form(int number = 1) { return *Tables.Form(number); }
+  [[nodiscard]] DesignForm& User(int number = 1) { return *Tables.User(number); }
+  /// An object's control; the test has to know that it is there.
+  [[nodiscard]] DesignControl& Control(Kind kind, int index = 1, int form = 1) {
+    return *User(form).Element(kind, index);
+  }
+  /// An object's record; an empty one where none is.
+  [[nodiscard]] const ObjectRec& Record(Kind kind, int index = 1, int form = 1) {
+    return RecordOrEmpty(*Form(form).Objects(kind), index);
+  }
+  /// The code under a key; "(none)" when there is no such key.
+  [[nodiscard]] std::string Code(std::string_view key) const {
+    const std::string* code = Tables.EventTable.Find(key);
+    return code == nullptr ? "(none)" : *code;
+  }
+};
+
+}  // namespace tarnwick::test

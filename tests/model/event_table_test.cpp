@@ -1,0 +1,113 @@
+#include "model/event_table.h"
+
+#include <map>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace tarnwick {
+namespace {
+
+std::string CodeOf(const EventCodeTable& table, std::string_view key) {
+  const std::string* code = table.Find(key);
+  return code == nullptr ? "(none)" : *code;
+}
+
+TEST(EventTable, AKeyIsFoundInAnyCase) {
+  EventCodeTable table;
+  EXPECT_TRUE(table.Add("Form1.Button2.OnClick", "Beep"));
+  EXPECT_EQ(CodeOf(table, "form1.BUTTON2.onclick"), "Beep");
+  EXPECT_EQ(CodeOf(table, "Form1.Button2.OnClose"), "(none)");
+  EXPECT_EQ(CodeOf(table, "Form1.Button22.OnClick"), "(none)");
+}
+
+TEST(EventTable, AddingAKeyThatIsThereChangesNothing) {
+  EventCodeTable table;
+  table.Add("Form1.OnClick", "old");
+  EXPECT_FALSE(table.Add("FORM1.onclick", "new"));
+  EXPECT_FALSE(table.Add("Form1", Event::OnClick, "new"));
+  EXPECT_EQ(CodeOf(table, "Form1.OnClick"), "old");
+  EXPECT_EQ(table.Size(), 1U);
+}
+
+TEST(EventTable, ReplacingSetsWhatIsThereAndAddsWhatIsNot) {
+  EventCodeTable table;
+  table.Replace("Form1.OnClick", "a");
+  table.Replace("form1", Event::OnClick, "b");
+  table.Replace("Form1.mnuNew", Event::OnClick, "c");
+  EXPECT_EQ(CodeOf(table, "Form1.OnClick"), "b");
+  EXPECT_EQ(CodeOf(table, "Form1.mnuNew.OnClick"), "c");
+  EXPECT_EQ(table.Size(), 2U);
+}
+
+TEST(EventTable, KeysByTextAndByOwnerAreTheSame) {
+  EventCodeTable table;
+  table.Add("Form1.Time3", Event::OnTimer, "tick");
+  EXPECT_EQ(CodeOf(table, "Form1.Time3.OnTimer"), "tick");
+  table.Add("Form1.Time3.OnClick", "click");
+  const auto* owner = table.OwnerOf("FORM1.time3");
+  ASSERT_NE(owner, nullptr);
+  EXPECT_EQ(*owner->Find(Event::OnTimer), "tick");
+  EXPECT_EQ(*owner->Find(Event::OnClick), "click");
+  EXPECT_EQ(owner->Find(Event::OnPopUp), nullptr);
+}
+
+TEST(EventTable, AnEmptyTextIsAnEntry) {
+  EventCodeTable table;
+  table.Add("Form1.OnShow", "");
+  ASSERT_NE(table.Find("Form1.OnShow"), nullptr);
+  EXPECT_EQ(*table.Find("Form1.OnShow"), "");
+}
+
+TEST(EventTable, RemovingTakesOneKeyOut) {
+  EventCodeTable table;
+  table.Add("Form1.Btn.OnClick", "a");
+  table.Add("Form1.Btn.OnKeyUp", "b");
+  EXPECT_TRUE(table.Remove("FORM1.BTN.ONCLICK"));
+  EXPECT_FALSE(table.Remove("Form1.Btn.OnClick"));
+  EXPECT_FALSE(table.Remove("Form9.OnClick"));
+  EXPECT_EQ(CodeOf(table, "Form1.Btn.OnClick"), "(none)");
+  EXPECT_EQ(CodeOf(table, "Form1.Btn.OnKeyUp"), "b");
+  EXPECT_EQ(table.Size(), 1U);
+  EXPECT_TRUE(table.Add("Form1.Btn.OnClick", "again"));
+}
+
+TEST(EventTable, KeysThatEndInNoEventAreKeysAllTheSame) {
+  EventCodeTable table;
+  EXPECT_TRUE(table.Add("Form1.Thing", "x"));
+  EXPECT_FALSE(table.Add("form1.thing", "y"));
+  EXPECT_TRUE(table.Add("", "nothing"));
+  EXPECT_EQ(CodeOf(table, "FORM1.THING"), "x");
+  EXPECT_EQ(CodeOf(table, ""), "nothing");
+  EXPECT_EQ(CodeOf(table, "Form1.Thing.OnClick"), "(none)");
+}
+
+TEST(EventTable, AnItemWithoutANameHasAKeyOfItsOwn) {
+  EventCodeTable table;
+  table.Add("Form1.OnClick", "form");
+  table.Replace("Form1.", Event::OnClick, "item");
+  EXPECT_EQ(CodeOf(table, "Form1.OnClick"), "form");
+  EXPECT_EQ(CodeOf(table, "Form1..OnClick"), "item");
+}
+
+TEST(EventTable, AWalkMeetsEveryEntryOnce) {
+  EventCodeTable table;
+  const std::map<std::string, std::string> entries{
+      {"Form1.OnClick", "1"}, {"Form1.Button1.OnKeyDown", "2"}, {"Form1.Other", "3"}};
+  for (const auto& [key, code] : entries) table.Add(key, code);
+  std::map<std::string, std::string> met;
+  table.ForEach([&](const std::string& key, const std::string& code) { met[key] = code; });
+  EXPECT_EQ(met, entries);
+}
+
+TEST(EventTable, ClearingForgetsEverything) {
+  EventCodeTable table;
+  table.Add("Form1.OnClick", "x");
+  table.Clear();
+  EXPECT_EQ(table.Size(), 0U);
+  EXPECT_EQ(table.OwnerOf("Form1"), nullptr);
+  EXPECT_TRUE(table.Add("Form1.OnClick", "y"));
+}
+
+}  // namespace
+}  // namespace tarnwick
