@@ -6,10 +6,6 @@
 
 #include "text/code_page.h"
 
-#ifndef TARNWICK_VERSION
-#define TARNWICK_VERSION "0"
-#endif
-
 namespace tarnwick {
 
 namespace {
