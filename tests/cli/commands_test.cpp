@@ -70,8 +70,8 @@ TEST(GenerateTest, AMissingFormIsNamedAndTheRestGenerated) {
                                                          "gone.ftn\r\n2\x95"
                                                          "f.ftn\r\n")});
   EXPECT_EQ(result.Exit, 0);
-  EXPECT_EQ(result.Err,
-            "Error: File ' " + PathFromNative(folder.PathOf("gone.ftn")) + " ' does not exist!\n");
+  EXPECT_EQ(result.Err, "Tarnwick: Error: File ' " + PathFromNative(folder.PathOf("gone.ftn")) +
+                            " ' does not exist!\n");
   EXPECT_NE(result.Out.find("Dim Form1 As QForm"), std::string::npos);
 }
 
