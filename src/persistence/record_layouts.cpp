@@ -245,9 +245,6 @@ constexpr std::array kLabelBorder{InheritedMember{Member::BorderStyle, "border"}
                                   InheritedMember{Member::WordWrap, "icon"}};
 constexpr std::array kComboInk{InheritedMember{Member::ForeColor, "fontclr"}};
 constexpr std::array kRichWrap{InheritedMember{Member::WordWrap, "icon"}};
-constexpr std::array kFramePlace{
-    InheritedMember{Member::Left, "left"}, InheritedMember{Member::Top, "top"},
-    InheritedMember{Member::Width, "width"}, InheritedMember{Member::Height, "height"}};
 constexpr std::array kHtmlText{InheritedMember{Member::Text, "string"}};
 // The tags of a frame's place go to the form's record; the control stands where they say, too.
 constexpr std::array kFramePlace{
@@ -279,8 +276,6 @@ std::span<const InheritedMember> InheritedMembersOf(Kind kind) noexcept {
       return kRichWrap;
     case Kind::ComboBox:
       return kComboInk;
-    case Kind::TransparentFrame:
-      return kFramePlace;
     case Kind::HtmlViewer:
       return kHtmlText;
     case Kind::TransparentFrame:
