@@ -171,9 +171,13 @@ class FakeSideWindows final : public SideWindows {
 class FakeObserver final : public ProjectObserver {
  public:
   explicit FakeObserver(CallLog& log) : log_(&log) {}
+  std::function<void(int)> OnFormClosing;
 
   void FormOpened(int form) override { log_->Add("told opened " + std::to_string(form)); }
-  void FormClosing(int form) override { log_->Add("told closing " + std::to_string(form)); }
+  void FormClosing(int form) override {
+    log_->Add("told closing " + std::to_string(form));
+    if (OnFormClosing) OnFormClosing(form);
+  }
   void CurrentFormChanged() override { log_->Add("told current"); }
   void FormListChanged() override { log_->Add("told list"); }
 

@@ -1,0 +1,194 @@
+#include "shell/shell_fixture.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::string_view kSettings = "Z:\\opt\\tarnwick\\Tarnwick.ini";
+
+class OpenProjectTest : public ShellTest {
+ protected:
+  void SetUp() override { Start(); }
+
+  /// Lays down a saved project of two forms, the second with a button, and starts afresh.
+  void SaveTwoForms() {
+    main.Run(Command::AddNewForm);
+    Place(0, 20, 30);
+    SaveUnder("Z:\\p\\two.tnp", {"Z:\\p\\one.ftn", "Z:\\p\\second.ftn"});
+    main.Run(Command::New);
+    log().Clear();
+  }
+};
+
+TEST_F(OpenProjectTest, TheDialogHasItsTitleFilterAndRememberedFolder) {
+  ports.Profiles.Write(std::string(kSettings), "Paths", "OpenDlg", "Z:\\old\\");
+  main.Run(Command::Open);
+  EXPECT_EQ(ports.Dialogs.LastRequest.Title, "Open Project");
+  EXPECT_EQ(ports.Dialogs.LastRequest.Filter, "Tarnwick Project (New Version)|*.tnp");
+  EXPECT_EQ(ports.Dialogs.LastRequest.StartFolder, "Z:\\old\\");
+}
+
+TEST_F(OpenProjectTest, AFirstRunHasNoFolderToStartIn) {
+  main.Run(Command::Open);
+  EXPECT_EQ(ports.Dialogs.LastRequest.StartFolder, "");
+}
+
+TEST_F(OpenProjectTest, CancelledItLeavesEverythingAsItWas) {
+  Place(0, 10, 10);
+  const std::string title = view.Title;
+  log().Clear();
+  main.Run(Command::Open);
+  EXPECT_EQ(tables().LoadingProject, 0);
+  EXPECT_EQ(tables().AccionProject, "app");
+  EXPECT_EQ(view.Title, title);
+  EXPECT_TRUE(tables().CurrentForm->HasObjects(Kind::Button));
+  EXPECT_EQ(tables().CurrentForm->NameObjet, "Button1");
+  EXPECT_TRUE(main.State(Command::Open).Enabled);
+  EXPECT_TRUE(main.ToolState(0).Enabled);
+  EXPECT_EQ(log().Entries(),
+            (std::vector<std::string>{"profile read [Paths] OpenDlg", "dialog open"}));
+}
+
+TEST_F(OpenProjectTest, AFileThatCannotBeReadLeavesEverythingAsItWas) {
+  ports.Dialogs.OpenAnswers = {"Z:\\p\\none.tnp"};
+  main.Run(Command::Open);
+  EXPECT_EQ(tables().ProjectFile, "Z:\\opt\\tarnwick\\UnTitle.tnp");
+  EXPECT_EQ(tables().LoadingProject, 0);
+  EXPECT_EQ(tables().AccionProject, "app");
+  EXPECT_EQ(log().Count("told closing"), 0U);
+}
+
+TEST_F(OpenProjectTest, ItAsksNothingAboutSaving) {
+  SaveTwoForms();
+  ports.Dialogs.OpenAnswers = {"Z:\\p\\two.tnp"};
+  main.Run(Command::Open);
+  EXPECT_EQ(log().Count("ask"), 0U);
+}
+
+TEST_F(OpenProjectTest, ReadsTheProjectAndShowsItsFirstFormWithTheEventsBar) {
+  SaveTwoForms();
+  ports.Dialogs.OpenAnswers = {"Z:\\p\\two.tnp"};
+  main.Run(Command::Open);
+  EXPECT_EQ(tables().FormsCount, 2);
+  EXPECT_EQ(Lines(), (std::vector<std::string>{"Form1 (one.ftn)", "Form2 (second.ftn)"}));
+  EXPECT_EQ(tables().CurrentForm, tables().User(1));
+  EXPECT_EQ(view.FormInFront, 1);
+  EXPECT_EQ(view.SelectedLine, 0);
+  EXPECT_TRUE(view.PanelShown[Panel::EventsBar]);
+  EXPECT_TRUE(tables().User(2)->HasObjects(Kind::Button));
+  EXPECT_EQ(tables().AccionProject, "open");
+  EXPECT_EQ(tables().LoadingProject, 0);
+  EXPECT_TRUE(main.State(Command::Open).Enabled);
+}
+
+TEST_F(OpenProjectTest, TitlePathsAndFolderFollowTheChosenFile) {
+  SaveTwoForms();
+  ports.Dialogs.OpenAnswers = {"Z:\\p\\two.tnp"};
+  main.Run(Command::Open);
+  EXPECT_EQ(view.Title, "Tarnwick    Z:\\p\\two.tnp");
+  EXPECT_EQ(tables().ProjectFile, "Z:\\p\\two.tnp");
+  EXPECT_EQ(tables().SourceFile, "Z:\\p\\two.com");
+  EXPECT_EQ(tables().ExeFile, "Z:\\p\\two.exe");
+  EXPECT_EQ(main.SettingsFile().Read("Paths", "OpenDlg"), "Z:\\p\\");
+}
+
+TEST_F(OpenProjectTest, TheStepsComeInTheirOrder) {
+  SaveTwoForms();
+  ports.Dialogs.OpenAnswers = {"Z:\\p\\two.tnp"};
+  main.Run(Command::Open);
+  ExpectOrder({"dialog open", "windows close code", "view container hidden", "told closing 1",
+               "view title", "profile write [Paths] OpenDlg=Z:\\p\\", "read Z:\\p\\two.tnp",
+               "read Z:\\p\\one.ftn", "read Z:\\p\\second.ftn", "view container shown"});
+}
+
+TEST_F(OpenProjectTest, AMissingFormFileIsNamedAndTheRestIsRead) {
+  ports.Files.Put("Z:\\p\\a.tnp", "1\x95gone.ftn\r\nMF##Form1 ()\r\n");
+  ports.Dialogs.OpenAnswers = {"Z:\\p\\a.tnp"};
+  main.Run(Command::Open);
+  EXPECT_EQ(log().Count("show Error: File ' Z:\\p\\gone.ftn ' does not exist!"), 1U);
+  EXPECT_EQ(tables().FormsCount, 1);
+  EXPECT_EQ(tables().MainFormName, "Form1 ()");
+  ASSERT_NE(tables().CurrentForm, nullptr);
+}
+
+TEST_F(OpenProjectTest, TheIconDisplayShowsTheIconOfFormOne) {
+  SaveTwoForms();
+  std::string form = *ports.Files.Bytes("Z:\\p\\one.ftn");
+  const std::size_t at = form.find("Icon<(Default)>Icon");
+  ASSERT_NE(at, std::string::npos);
+  form.replace(at, std::string_view("Icon<(Default)>Icon").size(), "Icon<my.ico>Icon");
+  ports.Files.Put("Z:\\q\\one.ftn", form);
+  ports.Files.Put("Z:\\q\\i.tnp", "1\x95one.ftn\r\n");
+  tables().ProgramFolder = "C:\\opt";
+  ports.Dialogs.OpenAnswers = {"Z:\\q\\i.tnp"};
+  main.Run(Command::Open);
+  EXPECT_EQ(view.IconText, "Z:\\q\\my.ico");
+  EXPECT_EQ(view.IconPicture, "Z:\\q\\my.ico");
+}
+
+class OpenOldTest : public OpenProjectTest {
+ protected:
+  static constexpr std::string_view kOld =
+      "[Form](Form1)  Left<0>Left  Top<0>Top  Width<300>Width  Height<200>Height\r\n"
+      "[Button](Button2)  Left<10>Left  Top<20>Top  Width<75>Width  Height<25>Height\r\n";
+};
+
+TEST_F(OpenOldTest, TheDialogHasItsTitleAndFilter) {
+  main.Run(Command::OpenOld);
+  EXPECT_EQ(ports.Dialogs.LastRequest.Title, "Open Old Version");
+  EXPECT_EQ(ports.Dialogs.LastRequest.Filter, "Tarnwick Project (Old Version)|*.ptn|All Files|*.*");
+}
+
+TEST_F(OpenOldTest, CancelledItLeavesEverythingAsItWas) {
+  main.Run(Command::OpenOld);
+  EXPECT_EQ(tables().LoadingProject, 0);
+  EXPECT_EQ(tables().AccionProject, "app");
+  EXPECT_TRUE(main.State(Command::OpenOld).Enabled);
+  EXPECT_EQ(log().Count("told closing"), 0U);
+}
+
+TEST_F(OpenOldTest, ConvertsBesideTheOldFileAndOpensTheResult) {
+  ports.Files.Put("Z:\\old\\app.ptn", std::string(kOld));
+  ports.Dialogs.OpenAnswers = {"Z:\\old\\app.ptn"};
+  main.Run(Command::OpenOld);
+  EXPECT_TRUE(ports.Files.Exists("Z:\\old\\app.ftn"));
+  EXPECT_EQ(ports.Files.Bytes("Z:\\old\\app.tnp"),
+            "1\x95"
+            "app.ftn\r\nMF##Form (app.ftn)\r\n");
+  EXPECT_EQ(tables().ProjectFile, "Z:\\old\\app.tnp");
+  EXPECT_EQ(tables().SourceFile, "Z:\\old\\app.com");
+  EXPECT_EQ(tables().ExeFile, "Z:\\old\\app.exe");
+  EXPECT_EQ(view.Title, "Tarnwick    Z:\\old\\app.tnp");
+  EXPECT_EQ(main.SettingsFile().Read("Paths", "OpenDlg"), "Z:\\old\\");
+  EXPECT_EQ(tables().AccionProject, "open");
+  EXPECT_EQ(tables().FormsCount, 1);
+  EXPECT_TRUE(tables().CurrentForm->HasObjects(Kind::Button));
+}
+
+TEST_F(OpenOldTest, AnExistingFormFileOfThatNameIsOverwrittenUnasked) {
+  ports.Files.Put("Z:\\old\\app.ptn", std::string(kOld));
+  ports.Files.Put("Z:\\old\\app.ftn", "something else");
+  ports.Dialogs.OpenAnswers = {"Z:\\old\\app.ptn"};
+  main.Run(Command::OpenOld);
+  EXPECT_EQ(log().Count("ask"), 0U);
+  EXPECT_NE(ports.Files.Bytes("Z:\\old\\app.ftn"), "something else");
+}
+
+TEST_F(OpenOldTest, APathWithADotInAFolderIsCutThere) {
+  ports.Files.Put("Z:\\v1.2\\app.ptn", std::string(kOld));
+  ports.Dialogs.OpenAnswers = {"Z:\\v1.2\\app.ptn"};
+  main.Run(Command::OpenOld);
+  EXPECT_TRUE(ports.Files.Exists("Z:\\v1.tnp"));
+  EXPECT_EQ(tables().ProjectFile, "Z:\\v1.tnp");
+}
+
+TEST_F(OpenOldTest, AFailedConversionLeavesEverythingAsItWas) {
+  ports.Files.Put("Z:\\old\\app.ptn", std::string(kOld));
+  ports.Files.SetReadOnly(true);
+  ports.Dialogs.OpenAnswers = {"Z:\\old\\app.ptn"};
+  main.Run(Command::OpenOld);
+  EXPECT_EQ(tables().ProjectFile, "Z:\\opt\\tarnwick\\UnTitle.tnp");
+  EXPECT_EQ(log().Count("told closing"), 0U);
+}
+
+}  // namespace
+}  // namespace tarnwick
