@@ -278,6 +278,8 @@ std::span<const InheritedMember> InheritedMembersOf(Kind kind) noexcept {
       return kComboInk;
     case Kind::HtmlViewer:
       return kHtmlText;
+    case Kind::TransparentFrame:
+      return kFramePlace;
     default:
       return {};
   }
