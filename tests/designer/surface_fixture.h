@@ -33,9 +33,7 @@ class RecordingHost final : public DesignerHost {
   void SyncRow(std::string_view name_objet, std::string_view row) override {
     log_->Add("sync " + std::string(name_objet) + " " + std::string(row));
   }
-  void RemoveHeadRow(std::string_view object_name) override {
-    log_->Add("head - " + std::string(object_name));
-  }
+  void RemoveHeadRow(const DesignControl& object) override { log_->Add("head - " + object.Tag); }
   void EnableCopyPasteButtons(bool on) override {
     log_->Add(std::string("copy-paste ") + (on ? "on" : "off"));
   }
