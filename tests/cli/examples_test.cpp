@@ -1,0 +1,42 @@
+// The examples are what a user reads first: nothing may be amiss in them.
+#include <gtest/gtest.h>
+
+#include "cli/project_folder.h"
+
+namespace tarnwick {
+namespace {
+
+using test::Call;
+using test::ProjectFolder;
+
+constexpr const char* kExamples = TARNWICK_SOURCE_DIR "/examples/";
+
+void ExpectNoFindings(const std::string& project) {
+  const test::CallResult result = Call({"check", project, "--program-folder", "C:\\Tarnwick"});
+  EXPECT_EQ(result.Out, "");
+  EXPECT_EQ(result.Err, "");
+  EXPECT_EQ(result.Exit, 0);
+}
+
+TEST(ExamplesCheck, Clock) {
+  ExpectNoFindings(std::string(kExamples) + "clock/clock.tnp");
+}
+
+TEST(ExamplesCheck, Converter) {
+  ExpectNoFindings(std::string(kExamples) + "converter/converter.tnp");
+}
+
+TEST(ExamplesCheck, Notepad) {
+  ExpectNoFindings(std::string(kExamples) + "notepad/notepad.tnp");
+}
+
+TEST(ExamplesCheck, OldNotesOnceConverted) {
+  const ProjectFolder folder;
+  const std::string copy = folder.PathOf("notes.ptn");
+  std::filesystem::copy_file(std::string(kExamples) + "old/notes.ptn", copy);
+  ASSERT_EQ(Call({"convert", copy}).Exit, 0);
+  ExpectNoFindings(folder.PathOf("notes.tnp"));
+}
+
+}  // namespace
+}  // namespace tarnwick

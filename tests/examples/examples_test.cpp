@@ -1,0 +1,186 @@
+// The projects of examples/: what they generate, that a save gives back their bytes, and that
+// nothing is amiss in them.
+//
+// The expected texts lie in expected/, a file per project. After a change of an example or of the
+// generator, run the tests once with TARNWICK_UPDATE set, then read what changed before it is
+// committed.
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "codegen/compile_driver.h"
+#include "fakes/fake_ports.h"
+#include "fakes/memory_files.h"
+#include "persistence/old_project.h"
+#include "persistence/project_reader.h"
+#include "persistence/project_writer.h"
+#include "text/path_text.h"
+#include "text/strings.h"
+
+namespace tarnwick {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kExamples = fs::path(TARNWICK_SOURCE_DIR) / "examples";
+const fs::path kExpected = fs::path(TARNWICK_SOURCE_DIR) / "tests/examples/expected";
+
+std::string BytesOf(const fs::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+/// Names both texts' first differing line, so that a failure can be read.
+void ExpectSameText(const std::string& got, const fs::path& expected_file) {
+  if (std::getenv("TARNWICK_UPDATE") != nullptr) {
+    std::ofstream(expected_file, std::ios::binary) << got;
+    return;
+  }
+  const std::string expected = BytesOf(expected_file);
+  if (got == expected) return;
+  const auto got_lines = Split(got, "\r\n");
+  const auto lines = Split(expected, "\r\n");
+  std::size_t n = 0;
+  while (n < got_lines.size() && n < lines.size() && got_lines[n] == lines[n]) ++n;
+  ADD_FAILURE() << expected_file << ", line " << n + 1 << "\n  expected: "
+                << (n < lines.size() ? lines[n] : std::string_view("(no such line)"))
+                << "\n  got:      "
+                << (n < got_lines.size() ? got_lines[n] : std::string_view("(no such line)"));
+}
+
+/// One folder of examples/, laid into memory at a path that is the same on every machine: the
+/// generated source names the project's folder.
+class Example {
+ public:
+  explicit Example(const fs::path& folder)
+      : Folder("C:\\Examples\\" + folder.filename().string() + "\\") {
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+      Files.Put(Folder + entry.path().filename().string(), BytesOf(entry.path()));
+    }
+    Tables.ProgramFolder = "C:\\Tarnwick";
+  }
+
+  /// Reads the project of this name; no message may come.
+  void Load(const std::string& project) {
+    Tables.ProjectFile = Folder + project;
+    ASSERT_TRUE(LoadProject(Context, Tables.ProjectFile));
+    EXPECT_EQ(Log.Count("show "), 0U);
+  }
+
+  std::string Source() {
+    GeneratorState state;
+    return GenerateSource(Tables, state);
+  }
+
+  const std::string Folder;
+  CallLog Log;
+  MemoryFiles Files{Log};
+  FakeMessages Messages{Log};
+  FakeDialogs Dialogs{Log};
+  FakeScreen Screen;
+  ProjectObserver Observer;
+  ContainerHost Container;
+  ProjectTables Tables;
+  ProjectContext Context{Tables, Files, Messages, Dialogs, Screen, Observer, Container};
+};
+
+/// The folders with a project of the present format, by name; the project is named as the folder.
+std::vector<std::string> ProjectNames() {
+  std::vector<std::string> names;
+  for (const fs::directory_entry& entry : fs::directory_iterator(kExamples)) {
+    const std::string name = entry.path().filename().string();
+    if (fs::exists(entry.path() / (name + ".tnp"))) names.push_back(name);
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+class ExampleProject : public testing::TestWithParam<std::string> {};
+
+TEST_P(ExampleProject, GeneratesTheExpectedSource) {
+  Example example(kExamples / GetParam());
+  example.Load(GetParam() + ".tnp");
+  ExpectSameText(example.Source(), kExpected / (GetParam() + ".com"));
+}
+
+TEST_P(ExampleProject, ComesBackByteForByteFromASave) {
+  Example example(kExamples / GetParam());
+  example.Load(GetParam() + ".tnp");
+  EXPECT_EQ(ProjectFileText(example.Tables),
+            BytesOf(kExamples / GetParam() / (GetParam() + ".tnp")));
+  for (int form = 1; form <= example.Tables.FormsCount; ++form) {
+    const std::string name(BareName(example.Tables.Form(form)->FileName));
+    EXPECT_EQ(FormFileText(example.Tables, form), BytesOf(kExamples / GetParam() / name)) << name;
+  }
+}
+
+TEST_P(ExampleProject, DeclaresEverySubThatIsHookedOrDefinesItBefore) {
+  Example example(kExamples / GetParam());
+  example.Load(GetParam() + ".tnp");
+  const std::string source = example.Source();
+  std::vector<std::string> known;
+  std::size_t hooks = 0;
+  for (const std::string_view line : Split(source, "\r\n")) {
+    for (const std::string_view start : {"Declare Sub ", "Sub "}) {
+      if (!line.starts_with(start)) continue;
+      const std::string_view rest = line.substr(start.size());
+      known.emplace_back(rest.substr(0, rest.find(' ')));
+    }
+    const std::size_t hook = line.find(" = ");
+    const std::size_t event = line.substr(0, hook).rfind(".On");
+    if (line.starts_with(' ') || hook == std::string_view::npos ||
+        event == std::string_view::npos) {
+      continue;
+    }
+    ++hooks;
+    const std::string_view sub = line.substr(hook + 3);
+    EXPECT_NE(std::find(known.begin(), known.end(), sub), known.end()) << line;
+  }
+  EXPECT_GE(hooks, 5U);
+}
+
+TEST_P(ExampleProject, FindsItsPicturesBesideTheProject) {
+  Example example(kExamples / GetParam());
+  example.Load(GetParam() + ".tnp");
+  const std::string source = example.Source();
+  for (const std::string_view line : Split(source, "\r\n")) {
+    if (!line.starts_with("$Resource ") || line.find(example.Folder) == std::string_view::npos) {
+      continue;
+    }
+    const std::size_t open = line.find('"') + 1;
+    EXPECT_TRUE(example.Files.Exists(std::string(line.substr(open, line.rfind('"') - open))))
+        << line;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Examples, ExampleProject, testing::ValuesIn(ProjectNames()),
+                         [](const auto& name) { return name.param; });
+
+TEST(Examples, ThereAreThree) {
+  EXPECT_EQ(ProjectNames(), (std::vector<std::string>{"clock", "converter", "notepad"}));
+}
+
+TEST(OldExample, IsConvertedToAProjectOfOneForm) {
+  Example example(kExamples / "old");
+  const auto project = ConvertOldProject(example.Files, example.Folder + "notes.ptn");
+  ASSERT_EQ(project, example.Folder + "notes.tnp");
+  ExpectSameText(*example.Files.Bytes(*project), kExpected / "notes.tnp");
+  ExpectSameText(*example.Files.Bytes(example.Folder + "notes.ftn"), kExpected / "notes.ftn");
+}
+
+TEST(OldExample, GeneratesTheExpectedSourceOnceConverted) {
+  Example example(kExamples / "old");
+  ASSERT_TRUE(ConvertOldProject(example.Files, example.Folder + "notes.ptn"));
+  example.Load("notes.tnp");
+  ExpectSameText(example.Source(), kExpected / "notes.com");
+}
+
+}  // namespace
+}  // namespace tarnwick
