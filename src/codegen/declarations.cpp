@@ -79,11 +79,12 @@ void DeclareObjects(Generation& gen, const DimRow& row) {
       (gen.Tables.CurrentForm == nullptr || !gen.Tables.CurrentForm->HasObjects(row.Id))) {
     return;
   }
-  const int highest = gen.User().UBound(row.Id);
-  const int last = row.Rule == DimRule::FirstOnly ? std::min(highest, 1) : highest;
-  NameDeclarer declarer(gen, row, static_cast<std::size_t>(highest));
-  for (int j = 1; j <= last; ++j) {
-    if (const ControlRef object = gen.User().Element(row.Id, j)) declarer.Declare(object->Tag);
+  const auto& objects = gen.User().Elements(row.Id);
+  const std::size_t end =
+      row.Rule == DimRule::FirstOnly ? std::min<std::size_t>(objects.size(), 2) : objects.size();
+  NameDeclarer declarer(gen, row, objects.size() - 1);
+  for (std::size_t j = 1; j < end; ++j) {
+    if (objects[j]) declarer.Declare(objects[j]->Tag);
   }
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/event_table.h"
 #include "model/vocabulary.h"
@@ -63,6 +64,9 @@ class EventLookup {
   [[nodiscard]] static std::string_view CodeOf(const EventCodeTable::Owner* owner, Event event);
 
   const EventCodeTable& table_;
+  /// Owners found for the form's objects, by kind and number from 1: bodies and hooks of a form
+  /// ask for the same ones in the same order, and the table stays as it is meanwhile.
+  std::array<std::vector<const EventCodeTable::Owner*>, kKindCount> known_;
   std::string key_;
   std::size_t form_size_ = 0;  ///< length of "Form3" at the head of the buffer
 };

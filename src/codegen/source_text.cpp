@@ -26,14 +26,15 @@ char* SourceText::Put(char* at, Pixels length) {
   return Put(at, std::string_view(text).substr(0, kMostPixels));
 }
 
-void SourceText::Grow(std::size_t most) {
-  constexpr std::size_t kLeast = 4096;
-  buffer_.resize(std::max({kLeast, 2 * buffer_.size(), size_ + most}));
+void SourceText::TurnPage(std::size_t most) {
+  constexpr std::size_t kPage = 32768;
+  text_.append(page_.data(), std::exchange(filled_, 0));
+  if (page_.size() < most) page_.resize(std::max(kPage, most));
 }
 
 std::string SourceText::Take() {
-  buffer_.resize(std::exchange(size_, 0));
-  return std::exchange(buffer_, {});
+  text_.append(page_.data(), std::exchange(filled_, 0));
+  return std::exchange(text_, {});
 }
 
 }  // namespace tarnwick

@@ -8,6 +8,7 @@
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarnwick {
 
@@ -37,7 +38,7 @@ struct Numbered {
 class SourceText {
  public:
   /// Makes room for about `expected` bytes; more may follow.
-  explicit SourceText(std::size_t expected = 0) { buffer_.resize(expected); }
+  explicit SourceText(std::size_t expected = 0) { text_.reserve(expected); }
 
   template <class... Parts>
   void Line(const Parts&... parts) {
@@ -45,11 +46,10 @@ class SourceText {
     ((at = Put(at, parts)), ...);
     *at++ = '\r';
     *at++ = '\n';
-    size_ = static_cast<std::size_t>(at - buffer_.data());
+    filled_ = static_cast<std::size_t>(at - page_.data());
   }
   void Blank() { Line(); }
 
-  [[nodiscard]] std::size_t Size() const noexcept { return size_; }
   /// The text; the writer is empty afterwards.
   [[nodiscard]] std::string Take();
 
@@ -91,13 +91,16 @@ class SourceText {
 
   /// Where the next bytes go, with room for `most` of them.
   char* Room(std::size_t most) {
-    if (buffer_.size() - size_ < most) Grow(most);
-    return buffer_.data() + size_;
+    if (page_.size() - filled_ < most) TurnPage(most);
+    return page_.data() + filled_;
   }
-  void Grow(std::size_t most);
+  void TurnPage(std::size_t most);
 
-  std::string buffer_;  ///< its length is the room; `size_` of it is text
-  std::size_t size_ = 0;
+  // Lines are set on a page that stays in the processor's cache; full pages go to the text, whose
+  // memory is thus touched once.
+  std::string text_;
+  std::vector<char> page_;
+  std::size_t filled_ = 0;
 };
 
 }  // namespace tarnwick

@@ -65,6 +65,10 @@ class DesignForm {
   void UnloadAll(Kind kind);
   /// The element of an array, template included; null when there is none.
   [[nodiscard]] ControlRef Element(Kind kind, int index) const noexcept;
+  /// The elements of an array by index, template first; null where one was unloaded.
+  [[nodiscard]] const std::vector<ControlRef>& Elements(Kind kind) const noexcept {
+    return arrays_[static_cast<std::size_t>(kind)];
+  }
   /// Highest index of an array; 0 when it holds no object.
   [[nodiscard]] int UBound(Kind kind) const noexcept;
   /// First live object of a kind, or null.

@@ -33,9 +33,52 @@ std::string EventCodeTable::SuffixOf(std::uint8_t slot) {
   return slot < kEventCount ? std::string(AllEvents()[slot].Suffix) : std::string();
 }
 
+std::uint32_t EventCodeTable::HashOf(std::string_view key) noexcept {
+  return static_cast<std::uint32_t>(FoldedHash{}(key));
+}
+
+std::size_t EventCodeTable::SlotOf(std::uint32_t hash, std::string_view key) const noexcept {
+  const std::size_t mask = index_.size() - 1;
+  std::size_t slot = hash & mask;
+  while (index_[slot].Number != 0 &&
+         (index_[slot].Hash != hash || !EqualsFolded(owners_[index_[slot].Number - 1].key_, key))) {
+    slot = (slot + 1) & mask;
+  }
+  return slot;
+}
+
+const EventCodeTable::Owner* EventCodeTable::FindOwner(std::string_view key) const noexcept {
+  if (index_.empty()) return nullptr;
+  const std::uint32_t number = index_[SlotOf(HashOf(key), key)].Number;
+  return number == 0 ? nullptr : &owners_[number - 1];
+}
+
+EventCodeTable::Owner& EventCodeTable::EnsureOwner(std::string_view key) {
+  if (2 * (owners_.size() + 1) > index_.size()) GrowIndex();
+  const std::uint32_t hash = HashOf(key);
+  Slot& slot = index_[SlotOf(hash, key)];
+  if (slot.Number == 0) {
+    owners_.emplace_back().key_ = key;
+    slot = {hash, static_cast<std::uint32_t>(owners_.size())};
+  }
+  return owners_[slot.Number - 1];
+}
+
+void EventCodeTable::GrowIndex() {
+  constexpr std::size_t kLeast = 64;
+  std::vector<Slot> old(std::max(kLeast, 2 * index_.size()));
+  old.swap(index_);
+  const std::size_t mask = index_.size() - 1;
+  for (const Slot& entry : old) {
+    if (entry.Number == 0) continue;
+    std::size_t slot = entry.Hash & mask;
+    while (index_[slot].Number != 0) slot = (slot + 1) & mask;
+    index_[slot] = entry;
+  }
+}
+
 const EventCodeTable::Owner* EventCodeTable::OwnerOf(std::string_view owner) const noexcept {
-  const auto found = index_.find(owner);
-  return found == index_.end() ? nullptr : found->second;
+  return FindOwner(owner);
 }
 
 const std::string* EventCodeTable::Find(std::string_view key) const noexcept {
@@ -45,20 +88,13 @@ const std::string* EventCodeTable::Find(std::string_view key) const noexcept {
 }
 
 bool EventCodeTable::Put(Place place, std::string&& value, bool replace) {
-  Owner* owner = nullptr;
-  if (const auto found = index_.find(place.Owner); found != index_.end()) {
-    owner = found->second;
-  } else {
-    owner = &owners_.emplace_back();
-    owner->key_ = place.Owner;
-    index_.emplace(owner->key_, owner);
-  }
-  for (auto& [slot, text] : owner->entries_) {
+  Owner& owner = EnsureOwner(place.Owner);
+  for (auto& [slot, text] : owner.entries_) {
     if (slot != place.Slot) continue;
     if (replace) text = std::move(value);
     return replace;
   }
-  owner->entries_.emplace_back(place.Slot, std::move(value));
+  owner.entries_.emplace_back(place.Slot, std::move(value));
   ++size_;
   return true;
 }
@@ -81,9 +117,10 @@ void EventCodeTable::Replace(std::string_view owner, Event event, std::string va
 
 bool EventCodeTable::Remove(std::string_view key) noexcept {
   const Place place = PlaceOf(key);
-  const auto found = index_.find(place.Owner);
-  if (found == index_.end()) return false;
-  auto& entries = found->second->entries_;
+  if (index_.empty()) return false;
+  const std::uint32_t number = index_[SlotOf(HashOf(place.Owner), place.Owner)].Number;
+  if (number == 0) return false;
+  auto& entries = owners_[number - 1].entries_;
   const auto entry = std::find_if(entries.begin(), entries.end(),
                                   [&](const auto& e) { return e.first == place.Slot; });
   if (entry == entries.end()) return false;

@@ -7,7 +7,6 @@
 #include <deque>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -72,11 +71,26 @@ class EventCodeTable {
     std::uint8_t Slot;
   };
   [[nodiscard]] static Place PlaceOf(std::string_view key) noexcept;
+  [[nodiscard]] static std::uint32_t HashOf(std::string_view key) noexcept;
   [[nodiscard]] static std::string SuffixOf(std::uint8_t slot);
   bool Put(Place place, std::string&& value, bool replace);
+  [[nodiscard]] const Owner* FindOwner(std::string_view key) const noexcept;
+  Owner& EnsureOwner(std::string_view key);
+  [[nodiscard]] std::size_t SlotOf(std::uint32_t hash, std::string_view key) const noexcept;
+  void GrowIndex();
+
+  /// A place of the index: the number of an owner from 1 and a part of its key's hash; 0 for
+  /// nobody.
+  struct Slot {
+    std::uint32_t Hash = 0;
+    std::uint32_t Number = 0;
+  };
 
   std::deque<Owner> owners_;
-  std::unordered_map<std::string_view, Owner*, FoldedHash, FoldedEqual> index_;
+  // Owners by key, open to probing from the hash's place on. Generating asks it several times for
+  // every object, mostly in vain, so a miss must cost one look at a small place. Its size is a
+  // power of two and it is never more than half full; owners never leave but all at once.
+  std::vector<Slot> index_;
   std::size_t size_ = 0;
 };
 

@@ -1,0 +1,127 @@
+// How long it takes to generate the source of projects of growing size.
+#include <array>
+#include <cmath>
+#include <ctime>
+#include <iterator>
+#include <map>
+#include <memory>
+#include <string>
+
+#include <benchmark/benchmark.h>
+
+#include "codegen/compile_driver.h"
+#include "codegen/show_rewriter.h"
+#include "support/project_builder.h"
+
+namespace tarnwick {
+namespace {
+
+using test::BuiltForm;
+using test::BuiltObject;
+using test::ProjectBuilder;
+
+constexpr int kForms = 4;
+
+/// Objects of these kinds in turn: mostly what real forms are made of.
+constexpr std::array kMix{Kind::Button,  Kind::Label,    Kind::TextBox,      Kind::CheckBox,
+                          Kind::ListBox, Kind::ComboBox, Kind::OptionButton, Kind::RichTextBox,
+                          Kind::Image,   Kind::Label,    Kind::Time,         Kind::Button};
+
+void FillObject(BuiltObject& object, int number) {
+  object.At(number % 640, number % 480).Size(75, 25);
+  object.Control.Caption = "Caption " + std::to_string(number);
+  object.Control.Text = "Text " + std::to_string(number);
+  object.Control.ToolTipText = "A short hint";
+  object.Record.TabOrder = static_cast<std::int16_t>(number % 1000);
+  switch (object.Control.Id) {
+    case Kind::Button:
+    case Kind::Image:
+      object.Picture("pictures\\" + std::to_string(number % 50) + ".bmp");
+      object.Code(Event::OnClick, "ShowMessage \"clicked\"");
+      break;
+    case Kind::ListBox:
+      object.Rows({"first row", "second row"});
+      break;
+    case Kind::ComboBox:
+      object.Record.Items = "first row\x95second row\x95";
+      break;
+    case Kind::Time:
+      object.Code(Event::OnTimer, "DoEvents");
+      break;
+    default:
+      break;
+  }
+}
+
+/// A project of about `objects` objects over a few forms; built once for each size.
+ProjectBuilder& ProjectOf(std::int64_t objects) {
+  static std::map<std::int64_t, std::unique_ptr<ProjectBuilder>> built;
+  auto& project = built[objects];
+  if (project) return *project;
+  project = std::make_unique<ProjectBuilder>();
+  for (int f = 0; f < kForms; ++f) {
+    const BuiltForm form = project->AddForm();
+    for (int n = 0; n < objects / kForms; ++n) {
+      const Kind kind = kMix[static_cast<std::size_t>(n) % kMix.size()];
+      BuiltObject object = form.Add(kind, form.Record().Name + "Obj" + std::to_string(n));
+      FillObject(object, n);
+    }
+  }
+  return *project;
+}
+
+/// The exponent with which time grows from the size measured before to this one; 1 is linear.
+/// A benchmark runs several times for each size, the last one is the one reported.
+double GrowthExponent(std::int64_t objects, double seconds) {
+  static std::map<std::int64_t, double> measured;
+  measured[objects] = seconds;
+  const auto here = measured.find(objects);
+  if (here == measured.begin()) return 0;
+  const auto before = std::prev(here);
+  return std::log(seconds / before->second) /
+         std::log(static_cast<double>(objects) / static_cast<double>(before->first));
+}
+
+void GenerateProject(benchmark::State& state) {
+  ProjectTables& tables = ProjectOf(state.range(0)).Tables;
+  GeneratorState generator;
+  std::size_t bytes = 0;
+  const auto start = std::clock();
+  for (auto _ : state) {
+    const std::string text = GenerateSource(tables, generator);
+    bytes += text.size();
+    benchmark::DoNotOptimize(text.data());
+  }
+  const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+  state.counters["growth"] =
+      GrowthExponent(state.range(0), seconds / static_cast<double>(state.iterations()));
+  state.SetComplexityN(state.range(0));
+  state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * state.range(0));
+  state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
+}
+BENCHMARK(GenerateProject)
+    ->RangeMultiplier(10)
+    ->Range(100, 100000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity();
+
+/// A text of `calls` lines, every fourth of which shows the form.
+void RewriteShow(benchmark::State& state) {
+  std::string text;
+  for (std::int64_t n = 0; n < state.range(0); ++n) {
+    text += n % 4 == 0 ? "Form1.Show\r\n" : "Button1.Caption = \"some text\"\r\n";
+  }
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(RewriteShowCalls(text, "Form1.show", "TrnspAbrFrm1"));
+  }
+  state.SetComplexityN(state.range(0));
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size()));
+}
+BENCHMARK(RewriteShow)
+    ->RangeMultiplier(10)
+    ->Range(100, 100000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity();
+
+}  // namespace
+}  // namespace tarnwick
