@@ -33,8 +33,8 @@ struct Numbered {
 ///
 ///   text.Line(name, ".Caption = ", Quoted{caption});
 ///
-/// Parts are texts, whole numbers, `Pixels`, `Quoted` and `Numbered`; they go into the buffer
-/// without a string of their own.
+/// Parts are texts, single bytes, whole numbers, `Pixels`, `Quoted` and `Numbered`; they go into
+/// the buffer without a string of their own.
 class SourceText {
  public:
   /// Makes room for about `expected` bytes; more may follow.
@@ -74,6 +74,11 @@ class SourceText {
     if (!text.empty()) std::memcpy(at, text.data(), text.size());
     return at + text.size();
   }
+  static char* Put(char* at, char byte) noexcept {
+    *at++ = byte;
+    return at;
+  }
+  static char* Put(char* at, bool) = delete;  // a yes/no value has a wording of its own
   static char* Put(char* at, std::integral auto number) noexcept {
     return std::to_chars(at, at + kMostDigits, number).ptr;
   }
