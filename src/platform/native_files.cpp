@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cerrno>
 #include <climits>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -33,8 +34,11 @@ std::optional<std::string> LinkTarget(std::string native) {
     std::array<char, PATH_MAX> buffer{};
     const ssize_t size = ::readlink(native.c_str(), buffer.data(), buffer.size());
     if (size < 0) return native;
-    const std::string target(buffer.data(), static_cast<std::size_t>(size));
-    native = target.substr(0, 1) == "/" ? target : NativeFolderOf(native) + target;
+    const std::string_view target(buffer.data(), static_cast<std::size_t>(size));
+    // What does not begin at the root is told from the link's own folder.
+    std::string next = target.substr(0, 1) == "/" ? std::string() : NativeFolderOf(native);
+    next.append(target);
+    native = std::move(next);
   }
   return std::nullopt;
 }
