@@ -33,7 +33,7 @@ Dim ShowLabel As Qlabel
 Dim Hours24Opt As QRadiobutton
 Dim Hours12Opt As QRadiobutton
 
-$Resource Form2_Icon As "C:\Examples\clock\clock.ico"
+$Resource Default_Icon As "C:\Tarnwick\IconApp.ico"
 $Resource Frm2Btn1_Bmp As "C:\Examples\clock\ok.bmp"
 $Resource Frm2Btn2_Bmp As "C:\Examples\clock\close.bmp"
 $Resource Frm2Image1_Bmp As "C:\Examples\clock\clock.ico"
@@ -226,7 +226,7 @@ ClockForm.Width = 220
 ClockForm.Height = 320
 ClockForm.BorderStyle = 1
 ClockForm.Caption = "Clock"
-ClockForm.Color = -2147483633
+ClockForm.Color = 15790320
 ClockForm.Cursor = -0
 ClockForm.Hint = ""
 ClockForm.ShowHint = 1
@@ -261,13 +261,13 @@ TimeLabel.Left = 10
 TimeLabel.Width = 190
 TimeLabel.Height = 30
 TimeLabel.Caption = "00:00:00"
-TimeLabel.Color = -2147483633
+TimeLabel.Color = 15790320
 TimeLabel.Hint = "Time of day"
 TimeLabel.ShowHint = 1
 TimeLabel.Enabled = 1
 TimeLabel.Visible = 1
 TimeLabel.Cursor = -0
-TimeLabel.Transparent = 1
+TimeLabel.Transparent = 0
 
 Font.Name = "MS Sans Serif"
 Font.Size = 8
@@ -283,13 +283,13 @@ DateLabel.Left = 10
 DateLabel.Width = 190
 DateLabel.Height = 20
 DateLabel.Caption = "01-01-2000"
-DateLabel.Color = -2147483633
+DateLabel.Color = 15790320
 DateLabel.Hint = "Month, day and year"
 DateLabel.ShowHint = 1
 DateLabel.Enabled = 1
 DateLabel.Visible = 1
 DateLabel.Cursor = -0
-DateLabel.Transparent = 1
+DateLabel.Transparent = 0
 
 Font.Name = "MS Sans Serif"
 Font.Size = 8
@@ -303,7 +303,7 @@ SettingsBtn.Left = 10
 SettingsBtn.Width = 90
 SettingsBtn.Height = 50
 SettingsBtn.Caption = "&Settings"
-SettingsBtn.Color = -2147483633
+SettingsBtn.Color = 15790320
 SettingsBtn.Hint = "What the clock shows"
 SettingsBtn.ShowHint = 1
 SettingsBtn.Enabled = 1
@@ -326,7 +326,7 @@ CloseBtn.Left = 110
 CloseBtn.Width = 90
 CloseBtn.Height = 50
 CloseBtn.Caption = "Close"
-CloseBtn.Color = -2147483633
+CloseBtn.Color = 15790320
 CloseBtn.Hint = "End the program"
 CloseBtn.ShowHint = 1
 CloseBtn.Enabled = 1
@@ -399,12 +399,12 @@ End Sub
 
 
 SettingsForm.Center
-SettingsForm.IcoHandle = Form2_Icon
+SettingsForm.IcoHandle = Default_Icon
 SettingsForm.Width = 300
 SettingsForm.Height = 240
 SettingsForm.BorderStyle = 3
 SettingsForm.Caption = "Clock Settings"
-SettingsForm.Color = -2147483633
+SettingsForm.Color = 15790320
 SettingsForm.Cursor = -0
 SettingsForm.Hint = ""
 SettingsForm.ShowHint = 1
@@ -439,13 +439,13 @@ ShowLabel.Left = 80
 ShowLabel.Width = 190
 ShowLabel.Height = 20
 ShowLabel.Caption = "The clock shows"
-ShowLabel.Color = -2147483633
+ShowLabel.Color = 15790320
 ShowLabel.Hint = ""
 ShowLabel.ShowHint = 1
 ShowLabel.Enabled = 1
 ShowLabel.Visible = 1
 ShowLabel.Cursor = -0
-ShowLabel.Transparent = 1
+ShowLabel.Transparent = 0
 
 Font.Name = "MS Sans Serif"
 Font.Size = 8
@@ -554,7 +554,7 @@ OkBtn.Left = 90
 OkBtn.Width = 90
 OkBtn.Height = 50
 OkBtn.Caption = "OK"
-OkBtn.Color = -2147483633
+OkBtn.Color = 15790320
 OkBtn.Hint = "Take the settings over"
 OkBtn.ShowHint = 1
 OkBtn.Enabled = 1
@@ -577,7 +577,7 @@ CancelBtn.Left = 190
 CancelBtn.Width = 90
 CancelBtn.Height = 50
 CancelBtn.Caption = "Cancel"
-CancelBtn.Color = -2147483633
+CancelBtn.Color = 15790320
 CancelBtn.Hint = "Leave everything as it was"
 CancelBtn.ShowHint = 1
 CancelBtn.Enabled = 1

@@ -257,7 +257,7 @@ KindLabel.ShowHint = 1
 KindLabel.Enabled = 1
 KindLabel.Visible = 1
 KindLabel.Cursor = -0
-KindLabel.Transparent = 1
+KindLabel.Transparent = 0
 
 Font.Name = "MS Sans Serif"
 Font.Size = 8
@@ -308,7 +308,7 @@ ValueLabel.ShowHint = 1
 ValueLabel.Enabled = 1
 ValueLabel.Visible = 1
 ValueLabel.Cursor = -0
-ValueLabel.Transparent = 1
+ValueLabel.Transparent = 0
 
 Font.Name = "MS Sans Serif"
 Font.Size = 8
@@ -376,7 +376,7 @@ ResultLabel.ShowHint = 1
 ResultLabel.Enabled = 1
 ResultLabel.Visible = 1
 ResultLabel.Cursor = -0
-ResultLabel.Transparent = 1
+ResultLabel.Transparent = 0
 
 Font.Name = "MS Sans Serif"
 Font.Size = 8
@@ -462,7 +462,7 @@ DigitsLabel.ShowHint = 1
 DigitsLabel.Enabled = 1
 DigitsLabel.Visible = 1
 DigitsLabel.Cursor = -0
-DigitsLabel.Transparent = 1
+DigitsLabel.Transparent = 0
 
 Font.Name = "MS Sans Serif"
 Font.Size = 8

@@ -408,7 +408,7 @@ StatusLabel.ShowHint = 1
 StatusLabel.Enabled = 1
 StatusLabel.Visible = 1
 StatusLabel.Cursor = -0
-StatusLabel.Transparent = 1
+StatusLabel.Transparent = 0
 
 NoteOpenDlg.Caption = "Open a note"
 NoteOpenDlg.Filter = "Text files|*.txt|All files|*.*"
@@ -568,7 +568,7 @@ FindLabel.ShowHint = 1
 FindLabel.Enabled = 1
 FindLabel.Visible = 1
 FindLabel.Cursor = -0
-FindLabel.Transparent = 1
+FindLabel.Transparent = 0
 
 Font.Name = "MS Sans Serif"
 Font.Size = 8
@@ -677,7 +677,7 @@ AboutTitle.ShowHint = 1
 AboutTitle.Enabled = 1
 AboutTitle.Visible = 1
 AboutTitle.Cursor = -0
-AboutTitle.Transparent = 1
+AboutTitle.Transparent = 0
 
 Font.Name = "MS Sans Serif"
 Font.Size = 8
@@ -699,7 +699,7 @@ AboutLine1.ShowHint = 1
 AboutLine1.Enabled = 1
 AboutLine1.Visible = 1
 AboutLine1.Cursor = -0
-AboutLine1.Transparent = 1
+AboutLine1.Transparent = 0
 
 Font.Name = "MS Sans Serif"
 Font.Size = 8
@@ -721,7 +721,7 @@ AboutLine2.ShowHint = 1
 AboutLine2.Enabled = 1
 AboutLine2.Visible = 1
 AboutLine2.Cursor = -0
-AboutLine2.Transparent = 1
+AboutLine2.Transparent = 0
 
 Font.Name = "MS Sans Serif"
 Font.Size = 8

@@ -129,7 +129,7 @@ Label1.ShowHint = 1
 Label1.Enabled = 1
 Label1.Visible = 1
 Label1.Cursor = -0
-Label1.Transparent = 1
+Label1.Transparent = 0
 
 Font.Name = "MS Sans Serif"
 Font.Size = 8
