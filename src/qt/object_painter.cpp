@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kMarkSize = 13;
 constexpr int kMarkGap = 4;
+constexpr int kPictureGap = 4;
 constexpr int kArrowButton = 16;
 constexpr int kSmallPicture = 20;
 
@@ -138,18 +139,18 @@ void ObjectPainter::PaintButton(QPainter& painter, const QRect& rect, const Desi
   }
   DrawRaised(painter, face, ColorOf(control.BackColor));
   QRect inside = face.adjusted(3, 3, -3, -3);
-  if (!control.Picture.empty()) {
-    const QPixmap& picture = pictures_.At(control.Picture);
-    if (!picture.isNull()) {
-      // The picture stands left of the caption, as on the generated program's buttons.
-      const int width = std::min(picture.width(), inside.width());
-      const int height = std::min(picture.height(), inside.height());
-      const int left =
-          control.Caption.empty() ? inside.x() + (inside.width() - width) / 2 : inside.x() + 1;
-      painter.drawPixmap(left, inside.y() + (inside.height() - height) / 2, picture, 0, 0, width,
-                         height);
-      inside.setLeft(left + width + 2);
-    }
+  const QPixmap* picture = control.Picture.empty() ? nullptr : &pictures_.At(control.Picture);
+  if (picture != nullptr && !picture->isNull()) {
+    // The generated program sets every button's Layout to the picture above the caption, the two
+    // centred together.
+    const int width = std::min(picture->width(), inside.width());
+    const int height = std::min(picture->height(), inside.height());
+    const int below =
+        control.Caption.empty() ? 0 : kPictureGap + texts_.FontOf(control).Metrics.height();
+    const int top = inside.y() + std::max(0, (inside.height() - height - below) / 2);
+    painter.drawPixmap(inside.x() + (inside.width() - width) / 2, top, *picture, 0, 0, width,
+                       height);
+    inside = QRect(inside.x(), top + height, inside.width(), below) & inside;
   }
   DrawCaption(painter, inside, control, ColorOf(record != nullptr ? record->FontColor : 0),
               Qt::AlignCenter, TextFlow::Line);

@@ -94,6 +94,21 @@ TEST_F(FormPainterTest, APictureKeepsItsSizeUnlessItIsStretched) {
   EXPECT_EQ(QColor(Painted().pixel(50, 51)), QColor(Qt::red));
 }
 
+TEST_F(FormPainterTest, AButtonHasItsPictureAboveTheCaption) {
+  AddPicture("C:\\p.bmp", Qt::red);
+  ControlRef button = Add(Kind::Button, 20, 20, 81, 61);
+  button->Picture = "C:\\p.bmp";
+  // Alone, the picture stands in the middle.
+  EXPECT_EQ(QColor(Painted().pixel(60, 50)), QColor(Qt::red));
+  button->Caption = "Ok";
+  const QImage image = Painted();
+  int top = 20;
+  while (top < 81 && QColor(image.pixel(60, top)) != QColor(Qt::red)) ++top;
+  EXPECT_GT(top, 23);
+  EXPECT_LT(top + 8, 50);
+  EXPECT_NE(QColor(image.pixel(25, 50)), QColor(Qt::red));
+}
+
 TEST_F(FormPainterTest, AMissingPictureLeavesSomethingToFind) {
   const QImage empty = Painted();
   Add(Kind::Image, 15, 15, 41, 41)->Picture = "C:\\gone.bmp";
