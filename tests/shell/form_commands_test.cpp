@@ -1,0 +1,285 @@
+#include "shell/shell_fixture.h"
+
+namespace tarnwick {
+namespace {
+
+class FormCommandsTest : public ShellTest {
+ protected:
+  void SetUp() override { Start(); }
+
+  void AddForms(int count) {
+    for (int i = 0; i < count; ++i) main.Run(Command::AddNewForm);
+    log().Clear();
+  }
+  void RemoveCurrent() {
+    ports.Messages.Answers = {true};
+    main.Run(Command::Remove);
+  }
+};
+
+TEST_F(FormCommandsTest, TheFirstFormOfAnEmptyProjectIsMainFormAtOnce) {
+  EXPECT_EQ(Lines(), std::vector<std::string>{"Form1 ()"});
+  EXPECT_EQ(tables().MainFormName, "Form1 ()");
+  EXPECT_EQ(main.FormMarks().MainForm, 1);
+}
+
+TEST_F(FormCommandsTest, AFurtherFormComesUpAndIsCurrent) {
+  main.Run(Command::AddNewForm);
+  EXPECT_EQ(Lines(), (std::vector<std::string>{"Form1 ()", "Form2 ()"}));
+  EXPECT_EQ(tables().CurrentForm, tables().User(2));
+  EXPECT_EQ(view.FormInFront, 2);
+  EXPECT_EQ(view.SelectedLine, 1);
+  EXPECT_EQ(tables().MainFormName, "Form1 ()");
+  ExpectOrder({"told opened 2", "told list", "view form up 2", "told current"});
+}
+
+TEST_F(FormCommandsTest, ANewFormHasTheDefaultsOfForms) {
+  main.Run(Command::AddNewForm);
+  const FormRec& record = *tables().Form(2);
+  EXPECT_EQ(record.Name, "Form2");
+  EXPECT_EQ(record.FileName, "");
+  EXPECT_EQ(record.Visible, 1);
+  EXPECT_EQ(record.BorderStyle, 2);
+  EXPECT_EQ(record.IconFile, "(Default)");
+  EXPECT_EQ(record.ImageFile, "(Default)");
+  EXPECT_EQ(record.Width, 400);
+  EXPECT_EQ(record.Height, 333);
+  const DesignForm& window = *tables().User(2);
+  EXPECT_EQ(window.Caption, "Form2");
+  EXPECT_EQ(window.Number(), 2);
+  EXPECT_FLOAT_EQ(window.Width, 6000);
+  EXPECT_FLOAT_EQ(window.Height, 5000);
+  EXPECT_NE(tables().EventTable.Find("Form2.OnMouseUp"), nullptr);
+}
+
+TEST_F(FormCommandsTest, RemoveAsksWithTheFormsNameAndTheCriticalIcon) {
+  tables().Form(1)->Name = "Start";
+  main.Run(Command::Remove);
+  EXPECT_EQ(log().Count("ask Delete Start?"), 1U);
+  EXPECT_EQ(ports.Messages.LastTitle, "Tarnwick");
+  EXPECT_EQ(ports.Messages.LastIcon, MessageIcon::Critical);
+}
+
+TEST_F(FormCommandsTest, NoKeepsTheForm) {
+  main.Run(Command::Remove);
+  EXPECT_EQ(tables().Form(1)->Removed, 0);
+  EXPECT_EQ(Lines().size(), 1U);
+  EXPECT_EQ(log().Count("told closing"), 0U);
+}
+
+TEST_F(FormCommandsTest, YesTakesFormBarAndLineAway) {
+  AddForms(1);
+  RemoveCurrent();
+  EXPECT_EQ(tables().Form(2)->Removed, 1);
+  EXPECT_EQ(tables().UserIfAny(2), nullptr);
+  EXPECT_EQ(main.User(2), nullptr);
+  EXPECT_EQ(Lines(), std::vector<std::string>{"Form1 ()"});
+  EXPECT_EQ(log().Count("told closing 2"), 1U);
+}
+
+TEST_F(FormCommandsTest, AfterRemovingForm2OfThreeTheNextFormIsForm4) {
+  AddForms(2);
+  main.SelectFormLine(1);
+  RemoveCurrent();
+  main.Run(Command::AddNewForm);
+  EXPECT_EQ(tables().FormsCount, 4);
+  EXPECT_EQ(Lines(), (std::vector<std::string>{"Form1 ()", "Form3 ()", "Form4 ()"}));
+}
+
+TEST_F(FormCommandsTest, TheMainFormIsNotProtected) {
+  AddForms(1);
+  main.SelectFormLine(0);
+  RemoveCurrent();
+  EXPECT_EQ(tables().Form(1)->Removed, 1);
+  EXPECT_EQ(tables().MainFormName, "Form1 ()");
+  EXPECT_EQ(main.FormMarks().MainForm, 0);
+  EXPECT_EQ(main.FormMarks().MainName, "Form1");
+}
+
+TEST_F(FormCommandsTest, AfterRemoveTheLineAtTheSamePlaceIsSelected) {
+  AddForms(2);
+  main.SelectFormLine(1);
+  RemoveCurrent();
+  EXPECT_EQ(view.SelectedLine, 1);
+  EXPECT_EQ(tables().CurrentForm, tables().User(3));
+}
+
+TEST_F(FormCommandsTest, AfterRemovingTheLastLineTheOneBeforeIsSelected) {
+  AddForms(2);
+  RemoveCurrent();
+  EXPECT_EQ(view.SelectedLine, 1);
+  EXPECT_EQ(tables().CurrentForm, tables().User(2));
+}
+
+TEST_F(FormCommandsTest, WithNoFormLeftFormCommandsAreOff) {
+  RemoveCurrent();
+  EXPECT_EQ(tables().CurrentForm, nullptr);
+  EXPECT_EQ(main.CurrentUser(), nullptr);
+  EXPECT_EQ(view.SelectedLine, -1);
+  EXPECT_EQ(view.SelectionText, "");
+  for (const Command command :
+       {Command::Compile, Command::Remove, Command::SaveForm, Command::SaveFormAs, Command::Cut,
+        Command::Copy, Command::Paste, Command::Delete, Command::AlignToGrid, Command::Lock,
+        Command::Code, Command::PublicDeclarations, Command::SelectMainForm, Command::MenuEdit,
+        Command::EventsBar, Command::BringToFront, Command::StayBack}) {
+    EXPECT_FALSE(main.State(command).Enabled) << MenuRowOf(command)->Name;
+  }
+  EXPECT_TRUE(main.State(Command::AddNewForm).Enabled);
+  EXPECT_TRUE(main.State(Command::New).Enabled);
+}
+
+TEST_F(FormCommandsTest, AddNewFormAddsToAProjectWithoutForms) {
+  RemoveCurrent();
+  main.Run(Command::AddNewForm);
+  EXPECT_EQ(Lines(), std::vector<std::string>{"Form2 ()"});
+  EXPECT_EQ(tables().CurrentForm, tables().User(2));
+  EXPECT_TRUE(main.State(Command::Compile).Enabled);
+}
+
+TEST_F(FormCommandsTest, ALineOfTheListBringsItsFormUpWithItsEventsBar) {
+  AddForms(2);
+  main.SelectFormLine(1);
+  EXPECT_EQ(tables().CurrentForm, tables().User(2));
+  EXPECT_EQ(view.FormInFront, 2);
+  EXPECT_TRUE(view.PanelShown[Panel::EventsBar]);
+  EXPECT_EQ(main.Sheet().Combo().Rows().front().Text, "Form2   (Form)");
+}
+
+TEST_F(FormCommandsTest, LinesKeepTheirFormsAfterARemoval) {
+  AddForms(2);
+  main.SelectFormLine(0);
+  RemoveCurrent();
+  main.SelectFormLine(1);
+  EXPECT_EQ(tables().CurrentForm, tables().User(3));
+}
+
+TEST_F(FormCommandsTest, APlaceWithoutALineSelectsNothing) {
+  main.SelectFormLine(7);
+  main.SelectFormLine(-1);
+  EXPECT_EQ(tables().CurrentForm, tables().User(1));
+  EXPECT_TRUE(log().Entries().empty());
+}
+
+TEST_F(FormCommandsTest, ADesignWindowThatComesToTheFrontIsCurrent) {
+  AddForms(1);
+  main.FormActivated(1);
+  EXPECT_EQ(tables().CurrentForm, tables().User(1));
+  EXPECT_EQ(view.SelectedLine, 0);
+  log().Clear();
+  main.FormActivated(1);
+  main.FormActivated(9);
+  EXPECT_TRUE(log().Entries().empty());
+}
+
+TEST_F(FormCommandsTest, WhileTheCodeEditorIsOpenNothingElseIsChosen) {
+  AddForms(1);
+  windows.CodeOpen = true;
+  main.SelectFormLine(0);
+  EXPECT_EQ(tables().CurrentForm, tables().User(2));
+  EXPECT_EQ(view.SelectedLine, 1);
+  main.FormActivated(1);
+  main.Run(Command::AddNewForm);
+  main.Run(Command::Remove);
+  main.PressTool(0);
+  EXPECT_EQ(tables().CurrentForm, tables().User(2));
+  EXPECT_EQ(tables().FormsCount, 2);
+  EXPECT_EQ(tables().CurrentForm->Objeto, "");
+  EXPECT_EQ(log().Count("windows code to front"), 5U);
+}
+
+TEST_F(FormCommandsTest, TheRemoveEntryNamesTheCurrentForm) {
+  EXPECT_EQ(main.Caption(Command::Remove), "Remove Form1 from project");
+  tables().Form(1)->Name = "Start";
+  EXPECT_EQ(main.Caption(Command::Remove), "Remove Start from project");
+  AddForms(1);
+  EXPECT_EQ(main.Caption(Command::Remove), "Remove Form2 from project");
+}
+
+TEST_F(FormCommandsTest, TwoFormsHoldObjectsOfOneNameUnderKeysOfTheirOwn) {
+  Place(0, 10, 10);
+  main.Run(Command::AddNewForm);
+  Place(0, 10, 10);
+  EXPECT_EQ(tables().User(1)->Element(Kind::Button, 1)->Tag, "Form1Btn1");
+  EXPECT_EQ(tables().User(2)->Element(Kind::Button, 1)->Tag, "Form2Btn1");
+  EXPECT_NE(tables().EventTable.Find("Form1.Form1Btn1.OnClick"), nullptr);
+  EXPECT_NE(tables().EventTable.Find("Form2.Form2Btn1.OnClick"), nullptr);
+}
+
+TEST_F(FormCommandsTest, ASavedProjectIsRenumberedWhenItIsReadAgain) {
+  AddForms(2);
+  tables().EventTable.Replace("Form3.OnShow", "Beep");
+  main.SelectFormLine(1);
+  RemoveCurrent();
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\1.ftn", "Z:\\p\\3.ftn"});
+  ports.Dialogs.OpenAnswers = {"Z:\\p\\a.tnp"};
+  main.Run(Command::Open);
+  EXPECT_EQ(tables().FormsCount, 2);
+  EXPECT_EQ(*tables().EventTable.Find("Form2.OnShow"), "Beep");
+  EXPECT_EQ(tables().EventTable.Find("Form3.OnShow"), nullptr);
+}
+
+class SelectMainFormTest : public FormCommandsTest {};
+
+TEST_F(SelectMainFormTest, TheDialogTakesTheChosenLine) {
+  AddForms(1);
+  view.OnFormMain = [this] {
+    FormMain dialog(tables());
+    EXPECT_EQ(dialog.List1(), (std::vector<std::string>{"Form1 ()", "Form2 ()"}));
+    EXPECT_EQ(dialog.Selected(), 0);
+    EXPECT_EQ(dialog.Text1(), "Form1 ()");
+    dialog.List1_Click(1);
+    EXPECT_EQ(dialog.Text1(), "Form2 ()");
+    main.TakeMainForm(dialog);
+  };
+  main.Run(Command::SelectMainForm);
+  EXPECT_EQ(tables().MainFormName, "Form2 ()");
+  EXPECT_EQ(main.FormMarks().MainForm, 2);
+  ExpectOrder({"view FormMain", "told list"});
+}
+
+TEST_F(SelectMainFormTest, CancelChangesNothing) {
+  AddForms(1);
+  view.OnFormMain = [this] {
+    FormMain dialog(tables());
+    dialog.List1_Click(1);
+  };
+  main.Run(Command::SelectMainForm);
+  EXPECT_EQ(tables().MainFormName, "Form1 ()");
+}
+
+TEST_F(SelectMainFormTest, AnyTextIsTakenAsItStands) {
+  FormMain dialog(tables());
+  dialog.Text1_Change("  nobody ( ");
+  main.TakeMainForm(dialog);
+  EXPECT_EQ(tables().MainFormName, "  nobody ( ");
+  EXPECT_EQ(main.FormMarks().MainForm, 0);
+}
+
+TEST_F(SelectMainFormTest, AMainFormThatIsInNoLineSelectsNone) {
+  tables().MainFormName = "Gone ()";
+  FormMain dialog(tables());
+  EXPECT_EQ(dialog.Selected(), -1);
+  EXPECT_EQ(dialog.Text1(), "Gone ()");
+  dialog.List1_Click(5);
+  dialog.List1_Click(-1);
+  EXPECT_EQ(dialog.Text1(), "Gone ()");
+}
+
+TEST_F(SelectMainFormTest, TheTextGoesOutOfDateWhenTheFormIsSavedAndItsNameStillMarksIt) {
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
+  EXPECT_EQ(tables().MainFormName, "Form1 ()");
+  EXPECT_EQ(Lines(), std::vector<std::string>{"Form1 (one.ftn)"});
+  EXPECT_EQ(main.FormMarks().MainForm, 1);
+}
+
+TEST_F(SelectMainFormTest, AmongFormsOfOneNameTheWholeTextDecides) {
+  AddForms(1);
+  tables().Form(2)->Name = "Form1";
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn", "Z:\\p\\two.ftn"});
+  EXPECT_EQ(main.FormMarks().MainForm, 1);
+  tables().MainFormName = "Form1 (two.ftn)";
+  EXPECT_EQ(main.FormMarks().MainForm, 2);
+}
+
+}  // namespace
+}  // namespace tarnwick
