@@ -201,6 +201,15 @@ TEST_F(FormUserCommands, ArrowsDoNothingOnABlockedFormOrWithTheFormSelected) {
   EXPECT_EQ(button->Left, Twips(13));
 }
 
+TEST_F(FormUserCommands, AfterALockIsLiftedAnArrowBringsTheHandlesBackOntoTheSelection) {
+  const ControlRef button = Place("Button", 10, 20);
+  user.ToggleLock();
+  user.ToggleLock();
+  user.KeyDown(keys::kRight, 0);
+  EXPECT_TRUE(HandleVisible(0));
+  EXPECT_EQ(form.Element(Kind::Handle, 0)->Left, button->Left - 52 + 8);
+}
+
 TEST_F(FormUserCommands, TabWalksTheObjectsRoundAndRound) {
   const ControlRef a = Place("Button", 10, 10);
   const ControlRef b = Place("Label", 10, 100);
