@@ -52,8 +52,13 @@ class PropertySheetView {
   virtual void RowSelected() {}
   /// The drop-down list opened or closed.
   virtual void ListOpened(bool /*is_open*/) {}
-  /// Rows or selection of the head list changed.
+  /// Rows of the head list came or went, or all are others now.
   virtual void ComboChanged() {}
+  /// One row of the head list has another text. A view that does not tell rows apart hears of it
+  /// as of any change.
+  virtual void ComboRowTextChanged(int /*row*/) { ComboChanged(); }
+  /// Another row of the head list is selected; its rows are the same. Likewise.
+  virtual void ComboRowSelected(int /*row*/) { ComboChanged(); }
 };
 
 }  // namespace tarnwick

@@ -47,19 +47,19 @@ void ObjectCombo::Fill(const DesignForm& form, std::string_view form_name) {
   }
 }
 
-void ObjectCombo::Bring(const DesignControl* object, std::string_view name,
+bool ObjectCombo::Bring(const DesignControl* object, std::string_view name,
                         std::string_view suffix) {
   selected_ = PlaceOf(object, name);
-  if (selected_ >= 0) return;
+  if (selected_ >= 0) return false;
   selected_ = static_cast<int>(rows_.size());
   rows_.push_back({std::string{name}.append(suffix), object});
+  return true;
 }
 
-bool ObjectCombo::Rename(const DesignControl* object, std::string_view old_name, std::string text) {
+int ObjectCombo::Rename(const DesignControl* object, std::string_view old_name, std::string text) {
   const int place = PlaceOf(object, old_name);
-  if (place < 0) return false;
-  rows_[static_cast<std::size_t>(place)].Text = std::move(text);
-  return true;
+  if (place >= 0) rows_[static_cast<std::size_t>(place)].Text = std::move(text);
+  return place;
 }
 
 bool ObjectCombo::Remove(std::string_view name) {

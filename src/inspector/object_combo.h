@@ -33,10 +33,11 @@ class ObjectCombo {
   void Clear() noexcept;
   /// The form's row, then a row for each object in the order of the form's controls.
   void Fill(const DesignForm& form, std::string_view form_name);
-  /// Selects the row of a name, and adds it with the suffix where there is none.
-  void Bring(const DesignControl* object, std::string_view name, std::string_view suffix);
-  /// Gives the row of the old name another text; false when there is none.
-  bool Rename(const DesignControl* object, std::string_view old_name, std::string text);
+  /// Selects the row of a name, and adds it with the suffix where there is none; true when it was
+  /// added.
+  bool Bring(const DesignControl* object, std::string_view name, std::string_view suffix);
+  /// Gives the row of the old name another text, and answers its place; -1 when there is none.
+  int Rename(const DesignControl* object, std::string_view old_name, std::string text);
   /// Takes an object's row out: the selected one if it has the name, else the first that has; the
   /// name counts in either case when none fits exactly.
   bool Remove(std::string_view name);

@@ -145,12 +145,14 @@ void PropertySheet::Rename(const RowTarget& target, const std::string& name) {
   }
   // The list of objects is edited under its guard: its own change must select nothing.
   combo_busy_ = true;
-  const bool is_listed = combo_.Rename(target.Control, old_name, name + "   (" + SelKind_ + ")");
-  if (is_listed && view_ != nullptr) view_->ComboChanged();
+  const int row = combo_.Rename(target.Control, old_name, name + "   (" + SelKind_ + ")");
+  if (row >= 0 && view_ != nullptr) view_->ComboRowTextChanged(row);
   combo_busy_ = false;
+  const int form = target.Window.Number();
+  const Kind kind = target.Id;
   host_.NameChanged(target.Window, old_name, name);
-  observer_.EventsBarChanged(target.Window.Number());
-  TellChanged(target);
+  observer_.EventsBarChanged(form);
+  TellChanged(form, kind);
 }
 
 void PropertySheet::RenameForm(const RowTarget& target, const std::string& old_name,
@@ -164,8 +166,11 @@ void PropertySheet::RenameForm(const RowTarget& target, const std::string& old_n
   observer_.FormListChanged();
 }
 
-/// What an edit does besides storing its value, and the word to the views.
+/// What an edit does besides storing its value, and the word to the views. Painting a window
+/// anew lets other windows run, so nothing is read from the target afterwards.
 void PropertySheet::Finish(const RowBinding& binding, const RowTarget& target) {
+  const int form = target.Window.Number();
+  const Kind kind = target.Id;
   switch (binding.Effect) {
     case RowEffect::None:
       break;
@@ -189,7 +194,7 @@ void PropertySheet::Finish(const RowBinding& binding, const RowTarget& target) {
       host_.borderstylea(target.Window, target.Record.BorderStyle);
       break;
   }
-  TellChanged(target);
+  TellChanged(form, kind);
 }
 
 void PropertySheet::LoadWindowIcon(const RowTarget& target) {
@@ -216,9 +221,8 @@ std::optional<std::string> PropertySheet::LoadablePath(const std::string& path) 
   return std::nullopt;
 }
 
-void PropertySheet::TellChanged(const RowTarget& target) {
-  const int form = target.Window.Number();
-  if (target.Id == Kind::Form) {
+void PropertySheet::TellChanged(int form, Kind kind) {
+  if (kind == Kind::Form) {
     observer_.FormChanged(form);
   } else {
     observer_.ControlsChanged(form);

@@ -124,7 +124,7 @@ void PropertySheet::PickFont(const RowTarget& target) {
   control.Set(Member::FontStrikethru, font->Strikethru);
   if (color != nullptr) StoreNumber(*color, *now, font->Color);
   RereadRowsBut(0);
-  TellChanged(*now);
+  TellChanged(now->Window.Number(), now->Id);
 }
 
 void PropertySheet::PickColor() {
@@ -162,7 +162,7 @@ void PropertySheet::ResetValue() {
   const std::optional<RowTarget> target = Target();
   if (!target || target->Control == nullptr) return;
   target->Control->Set(Member::Picture, std::string{});
-  TellChanged(*target);
+  TellChanged(target->Window.Number(), target->Id);
 }
 
 }  // namespace tarnwick

@@ -34,15 +34,25 @@ void PropertySheet::ShowProperties(std::string_view kind_or_name, std::string_vi
   ClearPanel();
   TakeSubject();
   if (const std::optional<RowTarget> target = Target()) {
-    combo_busy_ = true;
-    combo_.Bring(target->Control, SelName_, InfoOf(target->Id).ComboText);
-    if (view_ != nullptr) view_->ComboChanged();
-    combo_busy_ = false;
+    BringComboRow(*target);
   }
   BuildCells();
   ShowRows();
   GridFilling_ = 0;
   GridBusy_ = 0;
+}
+
+/// Brings the head list to the subject's row, under its guard: that alone must select nothing.
+void PropertySheet::BringComboRow(const RowTarget& target) {
+  combo_busy_ = true;
+  const int before = combo_.Selected();
+  const bool is_new = combo_.Bring(target.Control, SelName_, InfoOf(target.Id).ComboText);
+  if (view_ != nullptr && is_new) {
+    view_->ComboChanged();
+  } else if (view_ != nullptr && combo_.Selected() != before) {
+    view_->ComboRowSelected(combo_.Selected());
+  }
+  combo_busy_ = false;
 }
 
 void PropertySheet::ShowSelection() {

@@ -164,6 +164,7 @@ class PropertySheet {
   [[nodiscard]] std::optional<RowTarget> TargetOf(const Subject& subject) const;
   [[nodiscard]] Subject SubjectOf(const DesignForm* window, std::string_view kind_word) const;
   void TakeSubject();
+  void BringComboRow(const RowTarget& target);
   void BuildCells();
   [[nodiscard]] std::string ValueText(const RowBinding& binding, const RowTarget& target) const;
   void SetText(int row, std::string text);
@@ -184,7 +185,7 @@ class PropertySheet {
   void LoadWindowIcon(const RowTarget& target);
   void LoadPicture(const RowTarget& target, const std::string& path);
   [[nodiscard]] std::optional<std::string> LoadablePath(const std::string& path);
-  void TellChanged(const RowTarget& target);
+  void TellChanged(int form, Kind kind);
 
   [[nodiscard]] int PlaceInList(std::string_view text) const noexcept;
   void OpenList();

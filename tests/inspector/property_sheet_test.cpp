@@ -471,6 +471,31 @@ TEST(ObjectComboRows, TheListItselfSelectsNothingWhileItIsEdited) {
   EXPECT_EQ(bench.Fakes.Log.Count("select"), 0U);
 }
 
+TEST(ObjectComboRows, ARenameAndASelectionTouchOneRowEach) {
+  class Watch final : public PropertySheetView {
+   public:
+    int Lists = 0;
+    std::vector<int> Texts;
+    std::vector<int> Selected;
+    void ComboChanged() override { ++Lists; }
+    void ComboRowTextChanged(int row) override { Texts.push_back(row); }
+    void ComboRowSelected(int row) override { Selected.push_back(row); }
+  };
+  SheetBench bench;
+  const ControlRef button = bench.Make(Kind::Button);
+  bench.Make(Kind::Label);
+  Watch watch;
+  bench.Sheet.SetView(&watch);
+  bench.Pick(button);
+  bench.Type("Name", "Ok");
+  bench.Pick(button);
+  EXPECT_EQ(watch.Lists, 0);
+  EXPECT_EQ(watch.Selected, std::vector<int>{1});
+  EXPECT_EQ(watch.Texts, std::vector<int>{1});
+  bench.Make(Kind::Time);
+  EXPECT_EQ(watch.Lists, 1);
+}
+
 TEST(PropertySheet, AFormOfManyObjectsShowsWithoutAWalkForEachRow) {
   SheetBench bench;
   for (int i = 0; i < 500; ++i) bench.Make(i % 2 == 0 ? Kind::Button : Kind::Label);
