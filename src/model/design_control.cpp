@@ -101,32 +101,50 @@ std::string TextOf(const MemberValue& value) {
       value);
 }
 
-bool SetField(bool& field, const MemberValue& value) {
-  field = NumberOf(value) != 0.0;
+bool SetNumber(bool& field, double number) {
+  field = number != 0.0;
   return true;
 }
 
-bool SetField(std::int16_t& field, const MemberValue& value) {
-  const auto number = ToInt16(NumberOf(value));
+template <class Number>
+bool StoreIfFits(Number& field, const std::optional<Number>& number) {
   if (number) field = *number;
   return number.has_value();
 }
 
-bool SetField(std::int32_t& field, const MemberValue& value) {
-  const auto number = ToInt32(NumberOf(value));
-  if (number) field = *number;
-  return number.has_value();
+bool SetNumber(std::int16_t& field, double number) {
+  return StoreIfFits(field, ToInt16(number));
+}
+bool SetNumber(std::int32_t& field, double number) {
+  return StoreIfFits(field, ToInt32(number));
+}
+bool SetNumber(float& field, double number) {
+  return StoreIfFits(field, ToSingle(number));
 }
 
-bool SetField(float& field, const MemberValue& value) {
-  const auto number = ToSingle(NumberOf(value));
-  if (number) field = *number;
-  return number.has_value();
+template <class Field>
+bool SetField(Field& field, const MemberValue& value) {
+  if constexpr (std::is_same_v<Field, std::string>) {
+    field = TextOf(value);
+    return true;
+  } else {
+    return SetNumber(field, NumberOf(value));
+  }
 }
 
-bool SetField(std::string& field, const MemberValue& value) {
-  field = TextOf(value);
-  return true;
+template <class Field>
+bool SetFieldFromText(Field& field, std::string&& text) {
+  if constexpr (std::is_same_v<Field, std::string>) {
+    field = std::move(text);
+    return true;
+  } else {
+    return SetNumber(field, Val(text));
+  }
+}
+
+/// An option button is on or off; it keeps no other number.
+void SetOption(std::int16_t& value, double number) {
+  value = number != 0.0 ? std::int16_t{-1} : std::int16_t{0};
 }
 
 MemberValue ValueOf(std::int16_t field) {
@@ -238,10 +256,20 @@ std::optional<MemberValue> DesignControl::Get(std::string_view name) const {
 bool DesignControl::Set(Member member, const MemberValue& value) {
   if (!Has(member) || member == Member::List) return false;
   if (member == Member::Value && Class() == ControlClass::OptionButton) {
-    Value = NumberOf(value) != 0.0 ? std::int16_t{-1} : std::int16_t{0};
+    SetOption(Value, NumberOf(value));
     return true;
   }
   return WithField(*this, member, [&](auto& field) { return SetField(field, value); });
+}
+
+bool DesignControl::SetFromText(Member member, std::string text) {
+  if (!Has(member) || member == Member::List) return false;
+  if (member == Member::Value && Class() == ControlClass::OptionButton) {
+    SetOption(Value, Val(text));
+    return true;
+  }
+  return WithField(*this, member,
+                   [&](auto& field) { return SetFieldFromText(field, std::move(text)); });
 }
 
 bool DesignControl::Set(std::string_view name, const MemberValue& value) {

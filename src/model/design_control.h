@@ -106,6 +106,8 @@ struct DesignControl {
   /// head, a yes/no member is on for any number but 0.
   bool Set(Member member, const MemberValue& value);
   bool Set(std::string_view name, const MemberValue& value);
+  /// Sets a member from text, as Set does.
+  bool SetFromText(Member member, std::string text);
   /// Adds a row to the control's list; false for a class without one.
   bool AddItem(std::string_view row);
 };

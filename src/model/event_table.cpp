@@ -4,6 +4,13 @@
 
 namespace tarnwick {
 
+namespace {
+
+/// Room for the events of most kinds.
+constexpr std::size_t kUsualEntries = 4;
+
+}  // namespace
+
 const std::string* EventCodeTable::Owner::Find(Event event) const noexcept {
   for (const auto& [slot, value] : entries_) {
     if (slot == static_cast<std::uint8_t>(event)) return &value;
@@ -53,12 +60,14 @@ const EventCodeTable::Owner* EventCodeTable::FindOwner(std::string_view key) con
   return number == 0 ? nullptr : &owners_[number - 1];
 }
 
-EventCodeTable::Owner& EventCodeTable::EnsureOwner(std::string_view key) {
+EventCodeTable::Owner& EventCodeTable::OwnerFor(std::string_view key) {
   if (2 * (owners_.size() + 1) > index_.size()) GrowIndex();
   const std::uint32_t hash = HashOf(key);
   Slot& slot = index_[SlotOf(hash, key)];
   if (slot.Number == 0) {
-    owners_.emplace_back().key_ = key;
+    Owner& made = owners_.emplace_back();
+    made.key_ = key;
+    made.entries_.reserve(kUsualEntries);
     slot = {hash, static_cast<std::uint32_t>(owners_.size())};
   }
   return owners_[slot.Number - 1];
@@ -87,32 +96,37 @@ const std::string* EventCodeTable::Find(std::string_view key) const noexcept {
   return owner == nullptr ? nullptr : owner->Find(static_cast<Event>(place.Slot));
 }
 
-bool EventCodeTable::Put(Place place, std::string&& value, bool replace) {
-  Owner& owner = EnsureOwner(place.Owner);
-  for (auto& [slot, text] : owner.entries_) {
-    if (slot != place.Slot) continue;
+bool EventCodeTable::Put(Owner& owner, std::uint8_t slot, std::string&& value, bool replace) {
+  for (auto& [held, text] : owner.entries_) {
+    if (held != slot) continue;
     if (replace) text = std::move(value);
     return replace;
   }
-  owner.entries_.emplace_back(place.Slot, std::move(value));
+  owner.entries_.emplace_back(slot, std::move(value));
   ++size_;
   return true;
 }
 
+bool EventCodeTable::Add(Owner& owner, Event event, std::string value) {
+  return Put(owner, static_cast<std::uint8_t>(event), std::move(value), false);
+}
+
 bool EventCodeTable::Add(std::string_view key, std::string value) {
-  return Put(PlaceOf(key), std::move(value), false);
+  const Place place = PlaceOf(key);
+  return Put(OwnerFor(place.Owner), place.Slot, std::move(value), false);
 }
 
 bool EventCodeTable::Add(std::string_view owner, Event event, std::string value) {
-  return Put({owner, static_cast<std::uint8_t>(event)}, std::move(value), false);
+  return Add(OwnerFor(owner), event, std::move(value));
 }
 
 void EventCodeTable::Replace(std::string_view key, std::string value) {
-  Put(PlaceOf(key), std::move(value), true);
+  const Place place = PlaceOf(key);
+  Put(OwnerFor(place.Owner), place.Slot, std::move(value), true);
 }
 
 void EventCodeTable::Replace(std::string_view owner, Event event, std::string value) {
-  Put({owner, static_cast<std::uint8_t>(event)}, std::move(value), true);
+  Put(OwnerFor(owner), static_cast<std::uint8_t>(event), std::move(value), true);
 }
 
 bool EventCodeTable::Remove(std::string_view key) noexcept {

@@ -43,6 +43,11 @@ class EventCodeTable {
   [[nodiscard]] const std::string* Find(std::string_view key) const noexcept;
   /// All entries under an owner's key; null when there never was one.
   [[nodiscard]] const Owner* OwnerOf(std::string_view owner) const noexcept;
+  /// All entries under an owner's key, for adding several; the owner is made where it is missing.
+  /// Stays valid until Clear.
+  Owner& OwnerFor(std::string_view owner);
+  /// Adds an entry of an owner of this table; false, and nothing changed, when it is there.
+  bool Add(Owner& owner, Event event, std::string value);
   /// Adds an entry; false, and nothing changed, when the key is there already.
   bool Add(std::string_view key, std::string value);
   /// The same for an owner and an event, without building the key.
@@ -73,9 +78,8 @@ class EventCodeTable {
   [[nodiscard]] static Place PlaceOf(std::string_view key) noexcept;
   [[nodiscard]] static std::uint32_t HashOf(std::string_view key) noexcept;
   [[nodiscard]] static std::string SuffixOf(std::uint8_t slot);
-  bool Put(Place place, std::string&& value, bool replace);
+  bool Put(Owner& owner, std::uint8_t slot, std::string&& value, bool replace);
   [[nodiscard]] const Owner* FindOwner(std::string_view key) const noexcept;
-  Owner& EnsureOwner(std::string_view key);
   [[nodiscard]] std::size_t SlotOf(std::uint32_t hash, std::string_view key) const noexcept;
   void GrowIndex();
 

@@ -22,7 +22,7 @@ bool HasPicture(std::string_view path) {
 }
 
 /// Twips from a number of pixels as text; a number too large for single precision is refused.
-void ReadPlace(const std::string& value, float& twips) {
+void ReadPlace(std::string_view value, float& twips) {
   if (const auto read = ToSingle(Val(value) * kTwipsPerPixel)) twips = *read;
 }
 
@@ -95,7 +95,7 @@ bool FormReader::ReadForm() {
   } else {
     const std::string list_text = FormListText(scanner_.Name(), file_name_);
     if (tables_.ListaFrms.Holds(list_text)) {
-      context_.Messages.Show(scanner_.Name() + " already exist!", kMessageTitle);
+      context_.Messages.Show(std::string(scanner_.Name()) + " already exist!", kMessageTitle);
       return false;
     }
     const int form = tables_.GrowForms();
@@ -118,19 +118,19 @@ void FormReader::ReadFormValues(int form) {
   FrmBarra& bar = *tables_.Bar(form);
   bar.Caption = record_->Name + " Procedures";
   bar.Entries.clear();
-  ReadPlace(scanner_.Value("width"), window_->Width);
-  ReadPlace(scanner_.Value("height"), window_->Height);
+  ReadPlace(scanner_.Stored(Tag::Width), window_->Width);
+  ReadPlace(scanner_.Stored(Tag::Height), window_->Height);
   window_->NameObjet = "Form";
   DesignControl no_control;
-  Object object{no_control, std::nullopt, nullptr, form_key_};
+  Object object{no_control, std::nullopt, nullptr, nullptr, {}};
   for (const LayoutField& field : LayoutOf(Kind::Form).Fields) {
-    if (field.Tag.empty()) continue;
-    const std::string& value = scanner_.Value(field.Tag);
+    if (field.In == Tag::None) continue;
     if (const auto* const event = std::get_if<Event>(&field.Value)) {
-      tables_.EventTable.Replace(form_key_, *event, value);
-      if (!value.empty()) TellBar("Form", *event);
+      std::string code = scanner_.Value(field.In);
+      if (!code.empty()) TellBar("Form", *event);
+      tables_.EventTable.Replace(form_key_, *event, std::move(code));
     } else {
-      std::visit([&](const auto& source) { Take(object, value, source); }, field.Value);
+      std::visit([&](const auto& source) { Take(object, field.In, source); }, field.Value);
     }
   }
   if (record_->ImageFile != kDefaultFile) {
@@ -145,21 +145,23 @@ void FormReader::ReadObject(Kind kind) {
   DesignControl& control = *window_->Load(kind);
   control.Tag = scanner_.Name();
   control.Visible = true;
-  Object object{control, ToInt16(Val(scanner_.Number())), nullptr, {}};
+  Object object{control, ToInt16(Val(scanner_.Number())), nullptr, nullptr, {}};
   if (object.Number && *object.Number < 0) object.Number.reset();
   if (object.Number) {
-    object.Key = form_key_ + "." + std::string(InfoOf(kind).Array) +
-                 NumberText(std::int64_t{*object.Number});
+    if (InfoOf(kind).Events != EventListId::None) {
+      object.BarName = InfoOf(kind).Array;
+      AppendNumber(object.BarName, std::int64_t{*object.Number});
+      object.Code = &tables_.EventTable.OwnerFor(form_key_ + "." + object.BarName);
+    }
     if (auto* const records = record_->Objects(kind))
       object.Record = records->Ensure(*object.Number);
   }
   for (const LayoutField& field : LayoutOf(kind).Fields) {
-    if (field.Tag.empty()) continue;
-    const std::string& value = scanner_.Value(field.Tag);
-    std::visit([&](const auto& source) { Take(object, value, source); }, field.Value);
+    if (field.In == Tag::None) continue;
+    std::visit([&](const auto& source) { Take(object, field.In, source); }, field.Value);
   }
   for (const InheritedMember& member : InheritedMembersOf(kind)) {
-    Take(object, scanner_.Value(member.Tag), member.Target);
+    Take(object, member.In, member.Target);
   }
   ReadPicture(kind, object);
 }
@@ -173,18 +175,20 @@ void FormReader::ReadPicture(Kind kind, Object& object) {
 
 void FormReader::ReadMenuTitle() {
   if (!std::exchange(menu_met_, true)) tables_.ClearMenuArrays();
-  ReadMenu(tables_, *window_, scanner_.Value("string"), scanner_.Name(), scanner_.Value("items"));
+  ReadMenu(tables_, *window_, scanner_.Value(Tag::String), scanner_.Name(),
+           scanner_.Value(Tag::Items));
 }
 
 void FormReader::ReadItemCode() {
-  const std::string& code = scanner_.Value("click");
-  tables_.EventTable.Replace(form_key_ + "." + scanner_.Name(), Event::OnClick, code);
+  const std::string code = scanner_.Value(Tag::Click);
+  const std::string owner = form_key_ + "." + std::string(scanner_.Name());
+  tables_.EventTable.Replace(owner, Event::OnClick, code);
   if (!code.empty()) TellBar(scanner_.Name(), Event::OnClick);
 }
 
 void FormReader::ReadDeclarations() {
-  const std::string& text = scanner_.Value("string");
-  if (!text.empty()) record_->DeclarePbl = text;
+  std::string text = scanner_.Value(Tag::String);
+  if (!text.empty()) record_->DeclarePbl = std::move(text);
 }
 
 void FormReader::TellBar(std::string_view name, Event event) {
@@ -192,16 +196,18 @@ void FormReader::TellBar(std::string_view name, Event event) {
   if (bar != nullptr) bar->Entries.push_back({std::string(name), std::string(InfoOf(event).Name)});
 }
 
-void FormReader::Take(Object& object, const std::string& value, Special special) {
+void FormReader::Take(Object& object, Tag tag, Special special) {
   switch (special) {
     case Special::WindowCaption:
-      window_->Caption = value;
+      window_->Caption = scanner_.Value(tag);
       return;
     case Special::WindowColor:
-      ReadNumber(value, window_->BackColor);
+      TakeNumber(tag, window_->BackColor);
       return;
     case Special::ItemList:
-      if (object.Number) ReadPopUpRows(*tables_.PopUpMenus.Ensure(*object.Number), value);
+      if (object.Number) {
+        ReadPopUpRows(*tables_.PopUpMenus.Ensure(*object.Number), scanner_.Value(tag));
+      }
       return;
     case Special::Number:
     case Special::Name:
@@ -210,22 +216,25 @@ void FormReader::Take(Object& object, const std::string& value, Special special)
   }
 }
 
-void FormReader::Take(Object& object, const std::string& value, Member member) {
-  if (float* const place = PlaceOf(object.Control, member)) return ReadPlace(value, *place);
-  object.Control.Set(member, value);
+void FormReader::Take(Object& object, Tag tag, Member member) {
+  if (float* const place = PlaceOf(object.Control, member)) {
+    return ReadPlace(scanner_.Stored(tag), *place);
+  }
+  object.Control.SetFromText(member, scanner_.Value(tag));
   // The state of a check or option object is kept on the control and in its record both.
-  if (member == Member::Value) Take(object, value, &ObjectRec::Checked);
+  if (member == Member::Value) Take(object, tag, &ObjectRec::Checked);
 }
 
-void FormReader::Take(Object& object, const std::string& value, Event event) {
-  if (!object.Number) return;
-  tables_.EventTable.Add(object.Key, event, value);
-  if (!value.empty()) TellBar(std::string_view(object.Key).substr(form_key_.size() + 1), event);
+void FormReader::Take(Object& object, Tag tag, Event event) {
+  if (object.Code == nullptr) return;
+  std::string code = scanner_.Value(tag);
+  if (!code.empty()) TellBar(object.BarName, event);
+  tables_.EventTable.Add(*object.Code, event, std::move(code));
 }
 
-void FormReader::Take(Object& object, const std::string& value, std::int16_t ObjectRec::*field) {
+void FormReader::Take(Object& object, Tag tag, std::int16_t ObjectRec::*field) {
   if (object.Record == nullptr) return;
-  ReadNumber(value, object.Record->*field);
+  TakeNumber(tag, object.Record->*field);
   if (field == &ObjectRec::TabOrder) {
     const double next = static_cast<double>(object.Record->TabOrder) + 1;
     window_->NextTabOrder =
@@ -233,49 +242,49 @@ void FormReader::Take(Object& object, const std::string& value, std::int16_t Obj
   }
 }
 
-void FormReader::Take(Object& object, const std::string& value, std::int32_t ObjectRec::*field) {
-  if (object.Record != nullptr) ReadNumber(value, object.Record->*field);
+void FormReader::Take(Object& object, Tag tag, std::int32_t ObjectRec::*field) {
+  if (object.Record != nullptr) TakeNumber(tag, object.Record->*field);
 }
 
-void FormReader::Take(Object& object, const std::string& value, std::string ObjectRec::*field) {
-  if (object.Record != nullptr) object.Record->*field = value;
+void FormReader::Take(Object& object, Tag tag, std::string ObjectRec::*field) {
+  if (object.Record != nullptr) object.Record->*field = scanner_.Value(tag);
 }
 
-void FormReader::Take(Object& object, const std::string& value, ItemsText items) {
-  if (object.Record != nullptr) object.Record->*items.Field = value;
-  object.Control.Items = ItemRows(value);
+void FormReader::Take(Object& object, Tag tag, ItemsText items) {
+  if (object.Record != nullptr) object.Record->*items.Field = scanner_.Value(tag);
+  object.Control.Items = ItemRows(scanner_.Value(tag));
 }
 
-void FormReader::Take(Object& /*object*/, const std::string& value, std::int16_t FormRec::*field) {
-  ReadNumber(value, record_->*field);
+void FormReader::Take(Object& /*object*/, Tag tag, std::int16_t FormRec::*field) {
+  TakeNumber(tag, record_->*field);
 }
 
-void FormReader::Take(Object& /*object*/, const std::string& value, std::int32_t FormRec::*field) {
-  ReadNumber(value, record_->*field);
+void FormReader::Take(Object& /*object*/, Tag tag, std::int32_t FormRec::*field) {
+  TakeNumber(tag, record_->*field);
 }
 
-void FormReader::Take(Object& /*object*/, const std::string& value, std::string FormRec::*field) {
-  record_->*field = value;
+void FormReader::Take(Object& /*object*/, Tag tag, std::string FormRec::*field) {
+  record_->*field = scanner_.Value(tag);
 }
 
-void FormReader::Take(Object& /*object*/, const std::string& value, CommaText text) {
-  record_->*text.Field = value;
+void FormReader::Take(Object& /*object*/, Tag tag, CommaText text) {
+  record_->*text.Field = scanner_.Value(tag);
 }
 
-void FormReader::Take(Object& object, const std::string& value, std::string WinSockRec::*field) {
-  if (object.Number) record_->WinSocks.Ensure(*object.Number)->*field = value;
+void FormReader::Take(Object& object, Tag tag, std::string WinSockRec::*field) {
+  if (object.Number) record_->WinSocks.Ensure(*object.Number)->*field = scanner_.Value(tag);
 }
 
-void FormReader::Take(Object& object, const std::string& value, std::string HtmlViewerRec::*field) {
-  if (object.Number) record_->HtmlViewers.Ensure(*object.Number)->*field = value;
+void FormReader::Take(Object& object, Tag tag, std::string HtmlViewerRec::*field) {
+  if (object.Number) record_->HtmlViewers.Ensure(*object.Number)->*field = scanner_.Value(tag);
 }
 
-void FormReader::Take(Object& object, const std::string& value, std::int16_t PopUpItemRec::*field) {
-  if (object.Number) ReadNumber(value, record_->PopUps.Ensure(*object.Number)->*field);
+void FormReader::Take(Object& object, Tag tag, std::int16_t PopUpItemRec::*field) {
+  if (object.Number) TakeNumber(tag, record_->PopUps.Ensure(*object.Number)->*field);
 }
 
-void FormReader::Take(Object& object, const std::string& value, std::string PopUpItemRec::*field) {
-  if (object.Number) record_->PopUps.Ensure(*object.Number)->*field = value;
+void FormReader::Take(Object& object, Tag tag, std::string PopUpItemRec::*field) {
+  if (object.Number) record_->PopUps.Ensure(*object.Number)->*field = scanner_.Value(tag);
 }
 
 }  // namespace tarnwick

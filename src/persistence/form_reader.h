@@ -10,6 +10,7 @@
 #include "persistence/project_reader.h"
 #include "persistence/record_layouts.h"
 #include "persistence/tag_scanner.h"
+#include "text/numbers.h"
 
 namespace tarnwick {
 
@@ -31,7 +32,9 @@ class FormReader {
     DesignControl& Control;
     std::optional<std::int16_t> Number;
     ObjectRec* Record;
-    std::string Key;
+    /// Where its code goes, and by what name the events bar knows it.
+    EventCodeTable::Owner* Code;
+    std::string BarName;
   };
 
   /// False when the form is refused and the file is read no further.
@@ -44,23 +47,29 @@ class FormReader {
   void ReadItemCode();
   void ReadDeclarations();
 
-  void Take(Object& object, const std::string& value, Special special);
-  void Take(Object& object, const std::string& value, Member member);
-  void Take(Object& object, const std::string& value, Event event);
-  void Take(Object& object, const std::string& value, std::int16_t ObjectRec::*field);
-  void Take(Object& object, const std::string& value, std::int32_t ObjectRec::*field);
-  void Take(Object& object, const std::string& value, std::string ObjectRec::*field);
-  void Take(Object& object, const std::string& value, ItemsText items);
-  void Take(Object& object, const std::string& value, std::int16_t FormRec::*field);
-  void Take(Object& object, const std::string& value, std::int32_t FormRec::*field);
-  void Take(Object& object, const std::string& value, std::string FormRec::*field);
-  void Take(Object& object, const std::string& value, CommaText text);
-  void Take(Object& object, const std::string& value, std::string WinSockRec::*field);
-  void Take(Object& object, const std::string& value, std::string HtmlViewerRec::*field);
-  void Take(Object& object, const std::string& value, std::int16_t PopUpItemRec::*field);
-  void Take(Object& object, const std::string& value, std::string PopUpItemRec::*field);
+  void Take(Object& object, Tag tag, Special special);
+  void Take(Object& object, Tag tag, Member member);
+  void Take(Object& object, Tag tag, Event event);
+  void Take(Object& object, Tag tag, std::int16_t ObjectRec::*field);
+  void Take(Object& object, Tag tag, std::int32_t ObjectRec::*field);
+  void Take(Object& object, Tag tag, std::string ObjectRec::*field);
+  void Take(Object& object, Tag tag, ItemsText items);
+  void Take(Object& object, Tag tag, std::int16_t FormRec::*field);
+  void Take(Object& object, Tag tag, std::int32_t FormRec::*field);
+  void Take(Object& object, Tag tag, std::string FormRec::*field);
+  void Take(Object& object, Tag tag, CommaText text);
+  void Take(Object& object, Tag tag, std::string WinSockRec::*field);
+  void Take(Object& object, Tag tag, std::string HtmlViewerRec::*field);
+  void Take(Object& object, Tag tag, std::int16_t PopUpItemRec::*field);
+  void Take(Object& object, Tag tag, std::string PopUpItemRec::*field);
 
   void TellBar(std::string_view name, Event event);
+
+  /// The number that a tag's value reads into a field; a bad one leaves the field alone.
+  template <class Number>
+  void TakeNumber(Tag tag, Number& field) {
+    ReadNumber(scanner_.Stored(tag), field);
+  }
 
   ProjectContext& context_;
   ProjectTables& tables_;

@@ -52,7 +52,8 @@ class FormChecker {
 
  private:
   void Tell(std::string what) {
-    faults_.push_back({line_, std::string(scanner_.Kind()), scanner_.Name(), std::move(what)});
+    faults_.push_back(
+        {line_, std::string(scanner_.Kind()), std::string(scanner_.Name()), std::move(what)});
   }
 
   void CheckLine(std::string_view line) {
@@ -71,15 +72,18 @@ class FormChecker {
 
   void CheckNumbers(Kind kind) {
     const RecordLayout& layout = LayoutOf(kind);
-    const bool numbered = kind != Kind::Form && layout.Fields.front().Tag.empty() &&
+    const bool numbered = kind != Kind::Form && layout.Fields.front().In == Tag::None &&
                           std::get<Special>(layout.Fields.front().Value) == Special::Number;
     const std::optional<std::int16_t> number = ToInt16(Val(scanner_.Number()));
     if (numbered && (!number || *number < 0)) {
-      Tell("the number (" + scanner_.Number() + ") cannot be used; its properties are lost");
+      Tell("the number (" + std::string(scanner_.Number()) +
+           ") cannot be used; its properties are lost");
     }
     for (const LayoutField& field : layout.Fields) {
-      if (field.Tag.empty() || Fits(field.Value, scanner_.Value(field.Tag))) continue;
-      Tell("the value of " + field.Tag + " is out of range: " + scanner_.Value(field.Tag));
+      if (field.In == Tag::None || Fits(field.Value, scanner_.Stored(field.In))) continue;
+      std::string what = "the value of ";
+      what.append(InfoOf(field.In).Word).append(" is out of range: ");
+      Tell(what.append(scanner_.Stored(field.In)));
     }
   }
 

@@ -212,12 +212,12 @@ Source SourceOf(std::string_view word) {
 }
 
 /// The tag whose "<" ends the literal before a value.
-std::string TagOf(std::string_view before) {
+Tag TagOf(std::string_view before) {
   const std::size_t bracket = before.rfind('<');
-  if (bracket == std::string_view::npos) return "";
+  if (bracket == std::string_view::npos) return Tag::None;
   const std::size_t blank = before.rfind(' ', bracket);
   const std::size_t start = blank == std::string_view::npos ? 0 : blank + 1;
-  return Lower(before.substr(start, bracket - start));
+  return TagOfWord(Lower(before.substr(start, bracket - start)));
 }
 
 RecordLayout Parse(std::string_view text) {
@@ -232,7 +232,7 @@ RecordLayout Parse(std::string_view text) {
     const auto* const special = std::get_if<Special>(&field.Value);
     const bool in_head =
         special != nullptr && (*special == Special::Number || *special == Special::Name);
-    if (!in_head) field.Tag = TagOf(field.Before);
+    if (!in_head) field.In = TagOf(field.Before);
     layout.Fields.push_back(std::move(field));
     at = close + 1;
   }
@@ -240,16 +240,16 @@ RecordLayout Parse(std::string_view text) {
   return layout;
 }
 
-constexpr std::array kFaceOnly{InheritedMember{Member::BackColor, "color"}};
-constexpr std::array kLabelBorder{InheritedMember{Member::BorderStyle, "border"},
-                                  InheritedMember{Member::WordWrap, "icon"}};
-constexpr std::array kComboInk{InheritedMember{Member::ForeColor, "fontclr"}};
-constexpr std::array kRichWrap{InheritedMember{Member::WordWrap, "icon"}};
-constexpr std::array kHtmlText{InheritedMember{Member::Text, "string"}};
+constexpr std::array kFaceOnly{InheritedMember{Member::BackColor, Tag::Color}};
+constexpr std::array kLabelBorder{InheritedMember{Member::BorderStyle, Tag::Border},
+                                  InheritedMember{Member::WordWrap, Tag::Icon}};
+constexpr std::array kComboInk{InheritedMember{Member::ForeColor, Tag::FontClr}};
+constexpr std::array kRichWrap{InheritedMember{Member::WordWrap, Tag::Icon}};
+constexpr std::array kHtmlText{InheritedMember{Member::Text, Tag::String}};
 // The tags of a frame's place go to the form's record; the control stands where they say, too.
 constexpr std::array kFramePlace{
-    InheritedMember{Member::Left, "left"}, InheritedMember{Member::Top, "top"},
-    InheritedMember{Member::Width, "width"}, InheritedMember{Member::Height, "height"}};
+    InheritedMember{Member::Left, Tag::Left}, InheritedMember{Member::Top, Tag::Top},
+    InheritedMember{Member::Width, Tag::Width}, InheritedMember{Member::Height, Tag::Height}};
 
 }  // namespace
 

@@ -11,6 +11,7 @@
 
 #include "model/design_control.h"
 #include "model/project_records.h"
+#include "persistence/record_tags.h"
 
 namespace tarnwick {
 
@@ -41,12 +42,12 @@ using Source =
                  std::string WinSockRec::*, std::string HtmlViewerRec::*,
                  std::int16_t PopUpItemRec::*, std::string PopUpItemRec::*>;
 
-/// A piece of a record: literal text, then a value. `Tag` is the lower-case tag in which the value
-/// stands; "" for the head's number and name.
+/// A piece of a record: literal text, then a value. `In` is the tag in which the value stands;
+/// None for the head's number and name.
 struct LayoutField {
   std::string Before;
   Source Value;
-  std::string Tag;
+  Tag In = Tag::None;
 };
 
 struct RecordLayout {
@@ -61,7 +62,7 @@ struct RecordLayout {
 /// or from one that the kind's own record does not carry, whose value a line before left behind.
 struct InheritedMember {
   Member Target;
-  std::string_view Tag;
+  Tag In;
 };
 [[nodiscard]] std::span<const InheritedMember> InheritedMembersOf(Kind kind) noexcept;
 

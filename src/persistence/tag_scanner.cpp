@@ -1,157 +1,149 @@
 #include "persistence/tag_scanner.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <optional>
-#include <vector>
 
 #include "persistence/stored_text.h"
-#include "text/code_page.h"
 #include "text/strings.h"
 
 namespace tarnwick {
 
 namespace {
 
-/// How a value comes out of its stored form.
-enum class Restore : std::uint8_t { Plain, Lines, Commas, Items, Code };
+constexpr std::size_t kNone = std::string_view::npos;
+constexpr std::size_t kLetters = 32;  ///< the low five bits of a letter
+constexpr std::size_t kMostPerPair = 5;
 
-struct TagInfo {
-  std::string_view Word;
-  Restore How;
+/// Tags that share two letters, as a short list.
+struct Candidates {
+  std::array<std::uint8_t, kMostPerPair> Tags{};
+  std::uint8_t Count = 0;
 };
+using PairIndex = std::array<Candidates, kLetters * kLetters>;
 
-constexpr std::array<TagInfo, 47> kTags{{
-    {"left", Restore::Plain},        {"top", Restore::Plain},
-    {"width", Restore::Plain},       {"height", Restore::Plain},
-    {"string", Restore::Lines},      {"items", Restore::Items},
-    {"tip", Restore::Commas},        {"visible", Restore::Plain},
-    {"enabled", Restore::Plain},     {"image", Restore::Plain},
-    {"cursor", Restore::Plain},      {"icon", Restore::Plain},
-    {"fontname", Restore::Plain},    {"fontsize", Restore::Plain},
-    {"fontclr", Restore::Plain},     {"taborder", Restore::Plain},
-    {"border", Restore::Plain},      {"color", Restore::Plain},
-    {"wndstate", Restore::Plain},    {"center", Restore::Plain},
-    {"fontbold", Restore::Plain},    {"fontitalic", Restore::Plain},
-    {"readonly", Restore::Plain},    {"hidescrollbars", Restore::Plain},
-    {"scrllbars", Restore::Plain},   {"stretch", Restore::Plain},
-    {"autosize", Restore::Plain},    {"transparent", Restore::Plain},
-    {"multiselect", Restore::Plain}, {"sorted", Restore::Plain},
-    {"columns", Restore::Plain},     {"checked", Restore::Plain},
-    {"close", Restore::Code},        {"resize", Restore::Code},
-    {"show", Restore::Code},         {"change", Restore::Code},
-    {"mousemove", Restore::Code},    {"mouseup", Restore::Code},
-    {"mousedown", Restore::Code},    {"keyup", Restore::Code},
-    {"keydown", Restore::Code},      {"keypress", Restore::Code},
-    {"dblclick", Restore::Code},     {"click", Restore::Code},
-    {"paint", Restore::Code},        {"hint", Restore::Code},
-    {"enter", Restore::Code},
-}};
+constexpr std::size_t PairOf(char near, char far) {
+  return (static_cast<unsigned char>(near) % kLetters) * kLetters +
+         static_cast<unsigned char>(far) % kLetters;
+}
 
-/// Tags by the letter that touches the bracket: the last one before "<", the first one after ">".
-struct TagIndex {
-  std::array<std::vector<std::uint8_t>, 256> ByLast;
-  std::array<std::vector<std::uint8_t>, 256> ByFirst;
-};
-
-const TagIndex& Index() {
-  static const TagIndex index = [] {
-    TagIndex made;
-    for (std::size_t tag = 0; tag < kTags.size(); ++tag) {
-      const std::string_view word = kTags[tag].Word;
-      made.ByLast[static_cast<unsigned char>(word.back())].push_back(
-          static_cast<std::uint8_t>(tag));
-      made.ByFirst[static_cast<unsigned char>(word.front())].push_back(
-          static_cast<std::uint8_t>(tag));
-    }
-    return made;
-  }();
+/// Tags by the two letters next to the bracket, the nearer one first: the end of the word before
+/// "<", its beginning after ">".
+constexpr PairIndex IndexBy(bool end) {
+  PairIndex index{};
+  for (std::size_t tag = 0; tag < kTagCount; ++tag) {
+    const std::string_view word = kTags[tag].Word;
+    const std::size_t last = word.size() - 1;
+    Candidates& list = index[end ? PairOf(word[last], word[last - 1]) : PairOf(word[0], word[1])];
+    list.Tags[list.Count++] = static_cast<std::uint8_t>(tag);
+  }
   return index;
 }
 
-/// What stands between the first `open` and the first `close`; nothing when either is missing or
-/// the closing one comes first.
-std::optional<std::string_view> Between(std::string_view line, char open, char close) {
-  const std::size_t start = line.find(open);
-  const std::size_t end = line.find(close);
-  if (start == std::string_view::npos || end == std::string_view::npos || end < start) {
-    return std::nullopt;
+constexpr PairIndex kByEnd = IndexBy(true);
+constexpr PairIndex kByStart = IndexBy(false);
+
+/// True when the word stands at `text`, in either case. Setting bit 5 makes no other
+/// byte a letter of the tags.
+bool IsWord(const char* text, std::string_view word) {
+  for (std::size_t i = 0; i < word.size(); ++i) {
+    if (static_cast<char>(text[i] | 0x20) != word[i]) return false;
   }
-  return line.substr(start + 1, end - start - 1);
+  return true;
 }
 
-void RestoreValue(std::string& value, Restore how) {
-  switch (how) {
-    case Restore::Plain:
-      return;
-    case Restore::Lines:
-      return RestoreLines(value);
-    case Restore::Commas:
-      return RestoreCommas(value);
-    case Restore::Items:
-      return RestoreListCommas(value);
-    case Restore::Code:
-      RestoreLines(value);
-      value = std::string(Trim(value));
-      return;
+/// First places of brackets and tags in one line.
+class LineBounds {
+ public:
+  explicit LineBounds(std::string_view line) : line_(line) {
+    for (std::size_t at = line.find('<'); at != kNone; at = line.find('<', at + 1)) NoteStart(at);
+    for (std::size_t at = line.find('>'); at != kNone; at = line.find('>', at + 1)) NoteEnd(at);
   }
-}
+
+  /// True, and `value` set, when the line has both bounds of a tag in their order.
+  bool Take(std::size_t tag, std::string_view& value) const {
+    if (ends_[tag] < starts_[tag] || starts_[tag] == 0 || ends_[tag] == kNone) return false;
+    value = std::string_view(line_.data() + starts_[tag], ends_[tag] - starts_[tag]);
+    return true;
+  }
+
+  /// The same for a pair of brackets of the head.
+  bool Take(char open, char close, std::string_view& value) const {
+    const std::size_t start = line_.find(open);
+    const std::size_t end = start == kNone ? kNone : line_.find(close);
+    if (end == kNone || end < start) return false;
+    value = line_.substr(start + 1, end - start - 1);
+    return true;
+  }
+
+ private:
+  void NoteStart(std::size_t at) {
+    if (at < 2) return;
+    const char* const bracket = line_.data() + at;
+    const Candidates& list = kByEnd[PairOf(bracket[-1], bracket[-2])];
+    for (std::size_t i = 0; i < list.Count; ++i) {
+      const std::size_t tag = list.Tags[i];
+      const std::string_view word = kTags[tag].Word;
+      // A value starts behind its tag, so never at 0.
+      if (starts_[tag] != 0 || at < word.size() || !IsWord(bracket - word.size(), word)) continue;
+      starts_[tag] = at + 1;
+    }
+  }
+
+  void NoteEnd(std::size_t at) {
+    const std::size_t behind = line_.size() - at - 1;
+    if (behind < 2) return;
+    const char* const text = line_.data() + at + 1;
+    const Candidates& list = kByStart[PairOf(text[0], text[1])];
+    for (std::size_t i = 0; i < list.Count; ++i) {
+      const std::size_t tag = list.Tags[i];
+      const std::string_view word = kTags[tag].Word;
+      if (ends_[tag] != kNone || behind < word.size() || !IsWord(text, word)) continue;
+      ends_[tag] = at;
+    }
+  }
+
+  static constexpr std::array<std::size_t, kTagCount> kNoEnds = [] {
+    std::array<std::size_t, kTagCount> ends{};
+    ends.fill(kNone);
+    return ends;
+  }();
+
+  std::string_view line_;
+  std::array<std::size_t, kTagCount> starts_{};
+  std::array<std::size_t, kTagCount> ends_ = kNoEnds;
+};
 
 }  // namespace
 
 void TagScanner::Scan(std::string_view line) {
-  lower_.resize(line.size());
-  std::transform(line.begin(), line.end(), lower_.begin(), LowerByte);
-  TakeHead(line);
-  FindBounds();
-  TakeValues(line);
+  const LineBounds bounds(line);
+  kind_ = {};
+  bounds.Take('[', ']', kind_);
+  bounds.Take('(', ')', number_);
+  bounds.Take('{', '}', name_);
+  for (std::size_t tag = 0; tag < kTagCount; ++tag) bounds.Take(tag, values_[tag]);
 }
 
-void TagScanner::TakeHead(std::string_view line) {
-  kind_ = Between(line, '[', ']').value_or(std::string_view());
-  if (const auto number = Between(line, '(', ')')) number_ = *number;
-  if (const auto name = Between(line, '{', '}')) name_ = *name;
-}
-
-void TagScanner::FindBounds() {
-  constexpr std::size_t kNone = std::string_view::npos;
-  starts_.fill(kNone);
-  ends_.fill(kNone);
-  const std::string_view text = lower_;
-  for (std::size_t at = text.find_first_of("<>"); at != kNone;
-       at = text.find_first_of("<>", at + 1)) {
-    if (text[at] == '<') {
-      if (at == 0) continue;
-      for (const std::uint8_t tag : Index().ByLast[static_cast<unsigned char>(text[at - 1])]) {
-        if (starts_[tag] == kNone && text.substr(0, at).ends_with(kTags[tag].Word)) {
-          starts_[tag] = at + 1;
-        }
-      }
-    } else if (at + 1 < text.size()) {
-      for (const std::uint8_t tag : Index().ByFirst[static_cast<unsigned char>(text[at + 1])]) {
-        if (ends_[tag] == kNone && text.substr(at + 1).starts_with(kTags[tag].Word)) {
-          ends_[tag] = at;
-        }
-      }
-    }
+std::string TagScanner::Value(Tag tag) const {
+  std::string value(Stored(tag));
+  if (value.empty()) return value;
+  switch (InfoOf(tag).How) {
+    case Restore::Plain:
+      break;
+    case Restore::Lines:
+      RestoreLines(value);
+      break;
+    case Restore::Commas:
+      RestoreCommas(value);
+      break;
+    case Restore::Items:
+      RestoreListCommas(value);
+      break;
+    case Restore::Code:
+      RestoreLines(value);
+      value = std::string(Trim(value));
+      break;
   }
-}
-
-void TagScanner::TakeValues(std::string_view line) {
-  for (std::size_t tag = 0; tag < kTagCount; ++tag) {
-    const std::size_t start = starts_[tag];
-    const std::size_t end = ends_[tag];
-    if (start == std::string_view::npos || end == std::string_view::npos || end < start) continue;
-    values_[tag].assign(line.substr(start, end - start));
-    RestoreValue(values_[tag], kTags[tag].How);
-  }
-}
-
-const std::string& TagScanner::Value(std::string_view tag) const noexcept {
-  static const std::string empty;
-  const auto* const found = std::find_if(kTags.begin(), kTags.end(),
-                                         [&](const TagInfo& info) { return info.Word == tag; });
-  return found == kTags.end() ? empty : values_[static_cast<std::size_t>(found - kTags.begin())];
+  return value;
 }
 
 }  // namespace tarnwick

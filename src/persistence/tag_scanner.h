@@ -6,42 +6,39 @@
 #include <string>
 #include <string_view>
 
+#include "persistence/record_tags.h"
+
 namespace tarnwick {
 
 /// Reads the lines of one form file in turn and keeps, for every tag, the value it last had: a
 /// record without a tag inherits the value of a line before. All values start empty.
 ///
 /// The value of a tag T runs from behind the first "T<" to the first ">T" anywhere in the line,
-/// without regard to case. One pass over the line serves all tags.
+/// without regard to case. One pass over the line serves all tags, and values are kept as places
+/// in the text: the text of all lines scanned must live as long as the scanner.
 class TagScanner {
  public:
   /// Takes the values of a line.
   void Scan(std::string_view line);
 
-  /// Value of a lower-case tag, restored from its stored form: "string", "keydown", ...; "" for a
-  /// word that is no tag.
-  [[nodiscard]] const std::string& Value(std::string_view tag) const noexcept;
+  /// Value of a tag as it is stored.
+  [[nodiscard]] std::string_view Stored(Tag tag) const noexcept {
+    return values_[static_cast<std::size_t>(tag)];
+  }
+  /// Value of a tag, restored from its stored form.
+  [[nodiscard]] std::string Value(Tag tag) const;
   /// The word in the first square brackets; "" when the line has none.
   [[nodiscard]] std::string_view Kind() const noexcept { return kind_; }
   /// What stood in the first round brackets, of this line or the last one that had them.
-  [[nodiscard]] const std::string& Number() const noexcept { return number_; }
+  [[nodiscard]] std::string_view Number() const noexcept { return number_; }
   /// What stood in the first curly brackets, likewise.
-  [[nodiscard]] const std::string& Name() const noexcept { return name_; }
+  [[nodiscard]] std::string_view Name() const noexcept { return name_; }
 
  private:
-  static constexpr std::size_t kTagCount = 47;
-
-  void TakeHead(std::string_view line);
-  void FindBounds();
-  void TakeValues(std::string_view line);
-
-  std::array<std::string, kTagCount> values_;
-  std::array<std::size_t, kTagCount> starts_{};
-  std::array<std::size_t, kTagCount> ends_{};
-  std::string lower_;
-  std::string kind_;
-  std::string number_;
-  std::string name_;
+  std::array<std::string_view, kTagCount> values_;
+  std::string_view kind_;
+  std::string_view number_;
+  std::string_view name_;
 };
 
 }  // namespace tarnwick

@@ -57,9 +57,6 @@ constexpr ByteTable MakeCaseTable(bool to_lower) {
   return table;
 }
 
-constexpr ByteTable kLower = MakeCaseTable(true);
-constexpr ByteTable kUpper = MakeCaseTable(false);
-
 std::string Mapped(std::string_view text, const ByteTable& table) {
   std::string mapped(text);
   for (char& c : mapped) c = table[Index(c)];
@@ -136,20 +133,15 @@ Decoded DecodeOne(std::string_view utf8) noexcept {
 
 }  // namespace
 
-char LowerByte(char c) noexcept {
-  return kLower[Index(c)];
-}
-
-char UpperByte(char c) noexcept {
-  return kUpper[Index(c)];
-}
+constexpr ByteTable kLowerBytes = MakeCaseTable(true);
+constexpr ByteTable kUpperBytes = MakeCaseTable(false);
 
 std::string Lower(std::string_view text) {
-  return Mapped(text, kLower);
+  return Mapped(text, kLowerBytes);
 }
 
 std::string Upper(std::string_view text) {
-  return Mapped(text, kUpper);
+  return Mapped(text, kUpperBytes);
 }
 
 bool EqualsFolded(std::string_view a, std::string_view b) noexcept {

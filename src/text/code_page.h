@@ -1,6 +1,7 @@
 // Windows-1252 text: the code page of project files, sources and support files.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -16,10 +17,18 @@ inline constexpr char kStoredListComma = '\x8C';  ///< a comma in an item list
 inline constexpr char kMenuNested = '\x8E';  ///< marks nested menu items; ends a top row of a popup
 inline constexpr char kPopUpEntry = '\x8F';  ///< starts a sub-item of a popup; a comma in help text
 
+/// Lower-case and upper-case forms of all bytes.
+extern const std::array<char, 256> kLowerBytes;
+extern const std::array<char, 256> kUpperBytes;
+
 /// The byte's lower-case form in the code page (letters with accents included); other bytes stand.
-[[nodiscard]] char LowerByte(char c) noexcept;
+[[nodiscard]] inline char LowerByte(char c) noexcept {
+  return kLowerBytes[static_cast<unsigned char>(c)];
+}
 /// The byte's upper-case form in the code page; a letter without one in the page stands.
-[[nodiscard]] char UpperByte(char c) noexcept;
+[[nodiscard]] inline char UpperByte(char c) noexcept {
+  return kUpperBytes[static_cast<unsigned char>(c)];
+}
 /// Lower-case copy of the same length: positions in it apply to the original.
 [[nodiscard]] std::string Lower(std::string_view text);
 /// Upper-case copy of the same length.

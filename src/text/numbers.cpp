@@ -78,12 +78,25 @@ bool ReadWhole(std::string_view text, Whole& field) noexcept {
   return value.has_value();
 }
 
+/// A text of a few digits and nothing else, as nearly all are; nothing for any other.
+std::optional<double> PlainDigits(std::string_view text) noexcept {
+  constexpr std::size_t kExactDigits = 15;
+  if (text.empty() || text.size() > kExactDigits) return std::nullopt;
+  std::int64_t value = 0;
+  for (const char c : text) {
+    if (!IsDigit(c)) return std::nullopt;
+    value = value * 10 + (c - '0');
+  }
+  return static_cast<double>(value);
+}
+
 }  // namespace
 
 double Val(std::string_view text) noexcept {
   const std::size_t start = text.find_first_not_of(' ');
   if (start == std::string_view::npos) return 0;
   text.remove_prefix(start);
+  if (const std::optional<double> plain = PlainDigits(text)) return *plain;
   const bool negative = text.front() == '-';
   if (negative || text.front() == '+') text.remove_prefix(1);
   const std::string_view number = NumberHead(text);
