@@ -1,15 +1,46 @@
 // The desktop program.
 #include <QApplication>
-#include <QMainWindow>
 
+#include "platform/native_files.h"
+#include "platform/native_process.h"
+#include "platform/profile_files.h"
+#include "platform/program_folder.h"
 #include "qt/icon_set.h"
+#include "qt/main_view.h"
+#include "qt/main_window.h"
+#include "qt/qt_ports.h"
+#include "qt/side_windows_view.h"
 #include "qt/theme.h"
+#include "shell/mdi_form.h"
+#include "shell/program_setup.h"
 
 int main(int argc, char** argv) {
+  using namespace tarnwick;
   QApplication application(argc, argv);
-  QApplication::setWindowIcon(tarnwick::ProgramIcon());
-  tarnwick::ApplyTheme(application, tarnwick::ThemeOf(QApplication::palette()));
-  QMainWindow window;
+  QApplication::setWindowIcon(ProgramIcon());
+  QApplication::setDesktopFileName(QStringLiteral("tarnwick"));
+  ApplyTheme(application, ThemeOf(QApplication::palette()));
+
+  NativeFiles files;
+  ProfileFiles profiles(files);
+  NativeProcess processes;
+  QtMessages messages;
+  QtDialogs dialogs;
+  QtScreen screen;
+  const Ports ports{files, profiles, processes, messages, dialogs, screen};
+
+  // An installed program keeps its support files where it cannot write; the first start of each
+  // user copies them.
+  const std::string folder = ProgramFolder();
+  FillProgramFolder(files, ExecutableFolder() + "\\..\\share\\tarnwick", folder);
+
+  MainWindow window(files);
+  MainView view(window);
+  SideWindowsView side_windows(window);
+  MDIForm1 shell(ports, view, side_windows, view, folder);
+  view.Attach(shell);
+  side_windows.Attach(shell);
   window.show();
+  shell.Load();
   return QApplication::exec();
 }

@@ -1,0 +1,59 @@
+// The menu bar, the toolbar and the pop-up of the main window, built from the table of commands.
+#pragma once
+
+#include <QObject>
+#include <array>
+#include <functional>
+#include <span>
+#include <vector>
+
+#include "shell/command_table.h"
+
+class QAction;
+class QMainWindow;
+class QMenu;
+class QToolBar;
+class QToolButton;
+
+namespace tarnwick {
+
+class MDIForm1;
+
+/// One action for each row of a menu and one button for each command of the toolbar; all follow
+/// the same state.
+class CommandActions final : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit CommandActions(QMainWindow& window);
+
+  /// From now on actions run commands and tools.
+  void Attach(MDIForm1& shell);
+  /// Reads state, check marks and captions of all commands and tools anew.
+  void Refresh();
+  [[nodiscard]] QMenu& ObjectPopUp() { return *pop_up_; }
+  /// A button of a small bar: named `name` and the index, with tip and picture of its command.
+  QToolButton* MakeButton(const ToolbarButton& row, const QString& name, int index,
+                          QWidget* parent);
+
+ private:
+  struct Entry {
+    Command Does;
+    QAction* Action = nullptr;
+    QToolButton* Button = nullptr;
+  };
+  void BuildMenuBar(QMainWindow& window);
+  void BuildToolbar(QMainWindow& window);
+  void BuildPopUp(QMainWindow& window);
+  void AddRows(QMenu& menu, std::span<const MenuRow> rows, bool takes_keys);
+  void AddTools(QMenu& menu);
+  void Run(Command command);
+  void PressTool(int number);
+
+  MDIForm1* shell_ = nullptr;
+  std::vector<Entry> entries_;
+  std::vector<std::pair<int, QAction*>> tools_;
+  QMenu* pop_up_ = nullptr;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,19 @@
+#include "qt/side_windows_view.h"
+
+#include "qt/item_dialog.h"
+#include "shell/mdi_form.h"
+
+namespace tarnwick {
+
+void SideWindowsView::OpenPopUpEdit(int /*form*/, int /*index*/) {}
+
+void SideWindowsView::OpenItemEdit(int form) {
+  if (shell_ == nullptr) return;
+  DesignForm* design = shell_->Tables().User(form);
+  if (design != nullptr) RunItemDialog(*shell_, *design, &parent_);
+}
+
+void SideWindowsView::NameChanged(int /*form*/, std::string_view /*old_name*/,
+                                  std::string_view /*new_name*/) {}
+
+}  // namespace tarnwick
