@@ -1,6 +1,8 @@
 #include "persistence/tag_scanner.h"
 
+#include <bit>
 #include <cstdint>
+#include <cstring>
 
 #include "persistence/stored_text.h"
 #include "text/strings.h"
@@ -41,14 +43,56 @@ constexpr PairIndex IndexBy(bool end) {
 constexpr PairIndex kByEnd = IndexBy(true);
 constexpr PairIndex kByStart = IndexBy(false);
 
-/// True when the word stands at `text`, in either case. Setting bit 5 makes no other
-/// byte a letter of the tags.
-bool IsWord(const char* text, std::string_view word) {
-  for (std::size_t i = 0; i < word.size(); ++i) {
-    if (static_cast<char>(text[i] | 0x20) != word[i]) return false;
-  }
-  return true;
+/// Sixteen bytes of a line or of a word, so that a word is compared in two steps and no loop.
+struct Window {
+  std::uint64_t First = 0;
+  std::uint64_t Second = 0;
+};
+constexpr std::size_t kWindow = 16;
+
+/// The bytes from `text` on as a window, letters folded. Setting bit 5 makes no other byte a letter
+/// of the tags.
+Window FoldedWindow(const char* text) {
+  constexpr std::uint64_t kFold = 0x2020202020202020U;
+  Window window;
+  std::memcpy(&window.First, text, sizeof window.First);
+  std::memcpy(&window.Second, text + sizeof window.First, sizeof window.Second);
+  window.First |= kFold;
+  window.Second |= kFold;
+  return window;
 }
+
+/// A word at the end or at the start of a window, and which bytes of the window it covers.
+struct WindowWord {
+  Window Bytes;
+  Window Mask;
+
+  [[nodiscard]] bool Covers(const Window& window) const {
+    return (((window.First ^ Bytes.First) & Mask.First) |
+            ((window.Second ^ Bytes.Second) & Mask.Second)) == 0;
+  }
+};
+
+using WindowWords = std::array<WindowWord, kTagCount>;
+
+constexpr WindowWords MakeWindowWords(bool at_end) {
+  WindowWords words{};
+  for (std::size_t tag = 0; tag < kTagCount; ++tag) {
+    const std::string_view word = kTags[tag].Word;
+    std::array<char, kWindow> bytes{};
+    std::array<char, kWindow> mask{};
+    const std::size_t from = at_end ? kWindow - word.size() : 0;
+    for (std::size_t i = 0; i < word.size(); ++i) {
+      bytes[from + i] = word[i];
+      mask[from + i] = '\xFF';
+    }
+    words[tag] = {std::bit_cast<Window>(bytes), std::bit_cast<Window>(mask)};
+  }
+  return words;
+}
+
+constexpr WindowWords kEndWords = MakeWindowWords(true);
+constexpr WindowWords kStartWords = MakeWindowWords(false);
 
 /// First places of brackets and tags in one line.
 class LineBounds {
@@ -75,29 +119,38 @@ class LineBounds {
   }
 
  private:
+  /// The window of the bytes before a place or from it on; zeros where the line has none.
+  [[nodiscard]] Window WindowAt(std::size_t from, std::size_t size, bool at_end) const {
+    if (size >= kWindow) {
+      return FoldedWindow(line_.data() + (at_end ? from + size - kWindow : from));
+    }
+    std::array<char, kWindow> bytes{};
+    const std::size_t shift = at_end ? kWindow - size : 0;
+    std::memcpy(bytes.data() + shift, line_.data() + from, size);
+    return FoldedWindow(bytes.data());
+  }
+
   void NoteStart(std::size_t at) {
     if (at < 2) return;
-    const char* const bracket = line_.data() + at;
-    const Candidates& list = kByEnd[PairOf(bracket[-1], bracket[-2])];
+    const Candidates& list = kByEnd[PairOf(line_[at - 1], line_[at - 2])];
+    if (list.Count == 0) return;
+    const Window window = WindowAt(0, at, true);
     for (std::size_t i = 0; i < list.Count; ++i) {
       const std::size_t tag = list.Tags[i];
-      const std::string_view word = kTags[tag].Word;
       // A value starts behind its tag, so never at 0.
-      if (starts_[tag] != 0 || at < word.size() || !IsWord(bracket - word.size(), word)) continue;
-      starts_[tag] = at + 1;
+      if (starts_[tag] == 0 && kEndWords[tag].Covers(window)) starts_[tag] = at + 1;
     }
   }
 
   void NoteEnd(std::size_t at) {
     const std::size_t behind = line_.size() - at - 1;
     if (behind < 2) return;
-    const char* const text = line_.data() + at + 1;
-    const Candidates& list = kByStart[PairOf(text[0], text[1])];
+    const Candidates& list = kByStart[PairOf(line_[at + 1], line_[at + 2])];
+    if (list.Count == 0) return;
+    const Window window = WindowAt(at + 1, behind, false);
     for (std::size_t i = 0; i < list.Count; ++i) {
       const std::size_t tag = list.Tags[i];
-      const std::string_view word = kTags[tag].Word;
-      if (ends_[tag] != kNone || behind < word.size() || !IsWord(text, word)) continue;
-      ends_[tag] = at;
+      if (ends_[tag] == kNone && kStartWords[tag].Covers(window)) ends_[tag] = at;
     }
   }
 
