@@ -123,5 +123,23 @@ BENCHMARK(RewriteShow)
     ->Unit(benchmark::kMillisecond)
     ->Complexity();
 
+/// Forms with a transparent frame each, and an object or two: every form has calls to divert.
+void GenerateFrames(benchmark::State& state) {
+  ProjectBuilder project;
+  for (std::int64_t n = 0; n < state.range(0); ++n) {
+    const BuiltForm form = project.AddForm();
+    form.Add(Kind::TransparentFrame, "Glass");
+    form.Add(Kind::Button, "Button1").Code(Event::OnClick, form.Record().Name + ".Show");
+  }
+  GeneratorState generator;
+  for (auto _ : state) benchmark::DoNotOptimize(GenerateSource(project.Tables, generator));
+  state.SetComplexityN(state.range(0));
+}
+BENCHMARK(GenerateFrames)
+    ->RangeMultiplier(10)
+    ->Range(10, 10000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity();
+
 }  // namespace
 }  // namespace tarnwick

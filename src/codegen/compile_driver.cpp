@@ -1,10 +1,12 @@
 #include "codegen/compile_driver.h"
 
+#include <vector>
+
 #include "codegen/declarations.h"
 #include "codegen/event_code.h"
 #include "codegen/form_init.h"
 #include "codegen/generation.h"
-#include "codegen/show_rewriter.h"
+#include "codegen/show_diversion.h"
 #include "codegen/transparent_frame.h"
 #include "text/code_page.h"
 
@@ -103,12 +105,13 @@ std::string GenerateSource(ProjectTables& tables, GeneratorState& state) {
   state.DefaultIconDone = false;
   Generation gen(tables, state, ExpectedSize(tables));
   WriteSections(gen);
-  std::string text = gen.Out.Take();
+  std::vector<ShowDiversion> diverted;
   ForEachForm(gen, [&] {
     if (!gen.User().HasObjects(Kind::TransparentFrame)) return;
-    text =
-        RewriteShowCalls(text, gen.Record().Name + ".show", TransparentFrameSubName(gen.State.i));
+    diverted.push_back({gen.Record().Name, TransparentFrameSubName(gen.State.i)});
   });
+  std::string text = gen.Out.Take();
+  if (!diverted.empty()) text = DivertShowCalls(text, diverted);
   // The text is printed whole, as one more line.
   text += "\r\n";
   return text;
