@@ -1,0 +1,337 @@
+#include "random_user.h"
+
+#include <algorithm>
+
+#include "persistence/project_writer.h"
+#include "shell/tool_box.h"
+#include "text/numbers.h"
+
+namespace tarnwick {
+
+namespace {
+
+constexpr float kTwips = 15;
+
+}  // namespace
+
+void RandomUser::Did(std::string deed) {
+  deeds_.push_back(std::move(deed));
+}
+
+std::string RandomUser::Deeds() const {
+  constexpr std::size_t kShown = 25;
+  std::string text = "seed " + std::to_string(seed_) + ", last deeds:\n";
+  for (std::size_t i = deeds_.size() > kShown ? deeds_.size() - kShown : 0; i < deeds_.size();
+       ++i) {
+    text.append(deeds_[i]).append("\n");
+  }
+  return text;
+}
+
+std::vector<ControlRef> RandomUser::Objects() {
+  std::vector<ControlRef> objects;
+  if (Form() == nullptr) return objects;
+  for (const ControlRef& control : Form()->Controls()) {
+    const auto kind = static_cast<std::size_t>(control->Id);
+    if (kind < kObjectKindCount && control->Index > 0) objects.push_back(control);
+  }
+  return objects;
+}
+
+void RandomUser::Act() {
+  switch (Below(20)) {
+    case 0:
+    case 1:
+    case 2:
+    case 3:
+    case 4:
+      return PlaceObject();
+    case 5:
+    case 6:
+      return PressObject();
+    case 7:
+    case 8:
+      return DragObject();
+    case 9:
+    case 10:
+      return PressKey();
+    case 11:
+    case 12:
+    case 13:
+      return RunCommand();
+    case 14:
+      return EditCode();
+    case 15:
+    case 16:
+      return EditProperty();
+    case 17:
+      return ChooseForm();
+    case 18:
+      return ChangeForms();
+    default:
+      return StartAnew();
+  }
+}
+
+void RandomUser::PlaceObject() {
+  if (Objects().size() >= kMostObjects) return;
+  const auto tools = AllTools();
+  const ToolInfo& tool = tools[static_cast<std::size_t>(Below(static_cast<int>(tools.size())))];
+  if (tool.Number == kFormTool && main_.Tables().ListaFrms.Lines().size() >= kMostForms) return;
+  // A WinSock has no number in a file: reading puts its values under that of the line before.
+  if (tool.Objeto == "WinSock") return;
+  main_.PressTool(tool.Number);
+  FormUser* surface = main_.CurrentUser();
+  if (surface == nullptr) return;
+  const int x = Below(380);
+  const int y = Below(300);
+  surface->Form_MouseDown(kLeftButton, 0, static_cast<float>(x) * kTwips,
+                          static_cast<float>(y) * kTwips);
+  surface->MouseUp();
+  Did("place " + std::string(tool.Tip) + " at " + std::to_string(x) + "," + std::to_string(y));
+}
+
+void RandomUser::PressObject() {
+  const std::vector<ControlRef> objects = Objects();
+  if (objects.empty()) return;
+  const ControlRef object =
+      objects[static_cast<std::size_t>(Below(static_cast<int>(objects.size())))];
+  FormUser* surface = main_.CurrentUser();
+  surface->ObjectMouseDown(object, Below(8) == 0 ? kRightButton : kLeftButton, 0, 30, 30);
+  surface->MouseUp();
+  Did("press " + object->Tag);
+}
+
+void RandomUser::DragObject() {
+  const std::vector<ControlRef> objects = Objects();
+  if (objects.empty() || !SetCursor) return;
+  const ControlRef object =
+      objects[static_cast<std::size_t>(Below(static_cast<int>(objects.size())))];
+  FormUser* surface = main_.CurrentUser();
+  const int form = surface->Number();
+  SetCursor(form, {100, 100});
+  surface->ObjectMouseDown(object, kLeftButton, 0, 30, 30);
+  if (Below(2) == 0) {
+    surface->MouseUp();
+    surface->HandleMouseDown(Below(8), kLeftButton);
+  }
+  SetCursor(form, {Below(300), Below(300)});
+  surface->MouseMove();
+  surface->MouseUp();
+  Did("drag " + object->Tag);
+}
+
+void RandomUser::PressKey() {
+  FormUser* surface = main_.CurrentUser();
+  if (surface == nullptr) return;
+  struct Key {
+    int Code;
+    int Shift;
+  };
+  static constexpr Key kKeys[]{
+      {keys::kLeft, 0},      {keys::kDown, 0},          {keys::kRight, kCtrlBit},
+      {keys::kUp, kCtrlBit}, {keys::kRight, kShiftBit}, {keys::kDown, kShiftBit},
+      {keys::kTab, 0},       {keys::kTab, kShiftBit},   {keys::kC, kCtrlBit},
+      {keys::kV, kCtrlBit},  {keys::kX, kCtrlBit},      {keys::kDelete, 0}};
+  const Key& key = kKeys[static_cast<std::size_t>(Below(static_cast<int>(std::size(kKeys))))];
+  if (key.Code == keys::kV && Objects().size() >= kMostObjects) return;
+  surface->KeyDown(key.Code, key.Shift);
+  Did("key " + std::to_string(key.Code) + " with " + std::to_string(key.Shift));
+}
+
+void RandomUser::RunCommand() {
+  static constexpr Command kCommands[]{
+      Command::Cut,         Command::Copy,      Command::Paste,        Command::Copy,
+      Command::Paste,       Command::Delete,    Command::BringToFront, Command::StayBack,
+      Command::AlignToGrid, Command::Lock,      Command::Lock,         Command::Properties,
+      Command::Forms,       Command::EventsBar, Command::ObjectBar,    Command::Compile};
+  const Command command =
+      kCommands[static_cast<std::size_t>(Below(static_cast<int>(std::size(kCommands))))];
+  if (command == Command::Paste && Objects().size() >= kMostObjects) return;
+  if (command == Command::Compile && main_.Tables().AccionProject != "save") return;
+  Did("run " + std::string(MenuRowOf(command)->Name));
+  if (command == Command::Compile) {
+    Save();
+    return;
+  }
+  main_.Run(command);
+}
+
+void RandomUser::EditCode() {
+  if (Form() == nullptr) return;
+  const std::vector<ControlRef> objects = Objects();
+  std::string owner = Form()->KeyPrefix();
+  Event event = Event::OnShow;
+  if (!objects.empty() && Below(4) != 0) {
+    const ControlRef object =
+        objects[static_cast<std::size_t>(Below(static_cast<int>(objects.size())))];
+    const EventList& events = ListOf(InfoOf(object->Id).Events);
+    if (events.Events.empty()) return;
+    owner += "." + object->ArrayAndIndex();
+    event = events.Events[static_cast<std::size_t>(Below(static_cast<int>(events.Events.size())))];
+  }
+  const std::string code = "x = " + std::to_string(Below(100)) + "\r\nPrint x, \"done\"";
+  main_.Tables().EventTable.Replace(owner, event, code);
+  Did("code of " + owner + std::string(InfoOf(event).Suffix));
+}
+
+void RandomUser::EditProperty() {
+  PropertySheet& sheet = main_.Sheet();
+  if (Form() == nullptr || !main_.PanelShown(Panel::Properties)) return;
+  const int rows = sheet.RowCount();
+  if (rows == 0) return;
+  const int row = Below(rows);
+  sheet.SelectRow(row);
+  const std::string text =
+      row == 0 ? "Name" + std::to_string(++names_given_) : std::to_string(10 + Below(200));
+  sheet.ApplyText(text);
+  Did("row " + std::string(sheet.Label(row)) + " of " + sheet.SelName() + " to " + text);
+}
+
+void RandomUser::ChooseForm() {
+  const int lines = static_cast<int>(main_.Tables().ListaFrms.Lines().size());
+  if (lines == 0) return;
+  const int place = Below(lines);
+  main_.SelectFormLine(place);
+  Did("form line " + std::to_string(place));
+}
+
+void RandomUser::ChangeForms() {
+  if (main_.Tables().ListaFrms.Lines().size() >= kMostForms || Below(3) == 0) {
+    const bool yes = Below(2) == 0;
+    ports_.Messages.Answers.push_back(yes);
+    main_.Run(Command::Remove);
+    ports_.Messages.Answers.clear();
+    Did(std::string("remove the form, answer ") + (yes ? "yes" : "no"));
+  } else {
+    main_.Run(Command::AddNewForm);
+    Did("add a form");
+  }
+}
+
+void RandomUser::StartAnew() {
+  switch (Below(12)) {
+    case 0:
+      ports_.Messages.Answers = {false};
+      main_.Run(Command::New);
+      ports_.Messages.Answers.clear();
+      Did("new project");
+      break;
+    case 1:
+      main_.Run(Command::Open);
+      Did("open, cancelled");
+      break;
+    default:
+      Save();
+      Did("save");
+      break;
+  }
+}
+
+void RandomUser::Save() {
+  ProjectTables& tables = main_.Tables();
+  const std::string folder = "Z:\\soak\\";
+  auto& answers = ports_.Dialogs.SaveAnswers;
+  answers.clear();
+  if (tables.ProjectFile.starts_with(tables.ProgramFolder)) {
+    answers.emplace_back(folder + "p" + std::to_string(++names_given_) + ".tnp");
+  }
+  for (const FormList::Line& line : tables.ListaFrms.Lines()) {
+    if (tables.Form(line.FormNumber)->FileName.empty()) {
+      answers.emplace_back(folder + "f" + std::to_string(++names_given_) + ".ftn");
+    }
+  }
+  main_.Run(Below(3) == 0 ? Command::Compile : Command::Save);
+  answers.clear();
+}
+
+std::map<std::string, std::string> RandomUser::SavedFiles() const {
+  const ProjectTables& tables = main_.Tables();
+  std::map<std::string, std::string> files;
+  for (const FormList::Line& line : tables.ListaFrms.Lines()) {
+    const std::string& path = tables.Form(line.FormNumber)->FileName;
+    std::string bytes = ports_.Files.Bytes(path).value_or("not there");
+    // A removal leaves a gap in the numbers that reading closes.
+    const std::size_t open = bytes.find('(');
+    const std::size_t close = bytes.find(')');
+    if (bytes.starts_with("[Form]")) bytes.replace(open, close - open, "(");
+    files[path] = std::move(bytes);
+  }
+  return files;
+}
+
+std::string RandomUser::SaveAndReload() {
+  if (main_.Tables().ListaFrms.Empty()) main_.Run(Command::AddNewForm);
+  Save();
+  const std::map<std::string, std::string> saved = SavedFiles();
+  ports_.Dialogs.OpenAnswers = {main_.Tables().ProjectFile};
+  main_.Run(Command::Open);
+  Did("save and open again");
+  for (std::size_t i = 0; i < main_.Tables().ListaFrms.Lines().size(); ++i) {
+    main_.SelectFormLine(static_cast<int>(i));
+    objects_read_ += Objects().size();
+  }
+  if (std::string fault = Fault(); !fault.empty()) return fault;
+  Save();
+  for (const auto& [path, bytes] : SavedFiles()) {
+    const auto before = saved.find(path);
+    if (before == saved.end()) return path + " was not saved before";
+    if (before->second == bytes) continue;
+    const auto [old_at, new_at] =
+        std::mismatch(before->second.begin(), before->second.end(), bytes.begin(), bytes.end());
+    const auto place = static_cast<std::size_t>(new_at - bytes.begin());
+    const std::size_t from = place < 300 ? 0 : place - 300;
+    return path + " differs at " + std::to_string(place) + ":\n" +
+           before->second.substr(from, 400) + "\n--- is now ---\n" + bytes.substr(from, 400);
+  }
+  if (SavedFiles().size() != saved.size()) return "a form was lost";
+  return {};
+}
+
+std::string RandomUser::FaultOfForm(int number) const {
+  const DesignForm* form = main_.Tables().UserIfAny(number);
+  if (form == nullptr) return "form without a window";
+  if (form->Number() != number) return "window with another number";
+  if (const ControlRef& selected = form->ControlSel) {
+    const auto& controls = form->Controls();
+    if (std::find(controls.begin(), controls.end(), selected) == controls.end()) {
+      return "selection of a control that is gone";
+    }
+    std::string name(InfoOf(selected->Id).NameWord);
+    if (selected->Id != Kind::TransparentFrame) name += NumberText(std::int64_t{selected->Index});
+    if (form->NameObjet != name) return "NameObjet " + form->NameObjet + " for " + name;
+    if (form->IndexObjet != selected->Index) return "another IndexObjet than " + name;
+  } else if (form->NameObjet != "Form") {
+    return "NameObjet " + form->NameObjet + " without a control";
+  }
+  return {};
+}
+
+std::string RandomUser::Fault() const {
+  const ProjectTables& tables = main_.Tables();
+  if (tables.LoadingProject != 0) return "LoadingProject is left on";
+  if (!main_.State(Command::New).Enabled) return "commands are left off";
+  int before = 0;
+  for (const FormList::Line& line : tables.ListaFrms.Lines()) {
+    if (line.FormNumber <= before) return "lines out of order";
+    before = line.FormNumber;
+    if (!tables.IsLive(line.FormNumber)) return "line of a form that is gone";
+    if (std::string fault = FaultOfForm(line.FormNumber); !fault.empty()) return fault;
+  }
+  for (int form = 1; form <= tables.FormsCount; ++form) {
+    if (tables.IsLive(form) != (tables.ListaFrms.PlaceOf(form) >= 0)) return "form without a line";
+  }
+  if ((tables.CurrentForm == nullptr) != tables.ListaFrms.Empty()) return "no current form";
+  const DesignForm* form = tables.CurrentForm;
+  int down = 0;
+  for (const ToolInfo& tool : AllTools()) down += main_.ToolState(tool.Number).Checked ? 1 : 0;
+  if (down != 1) return std::to_string(down) + " tools are down";
+  const bool has_frame = form != nullptr && form->HasObjects(Kind::TransparentFrame);
+  if (main_.ToolState(kTransparentFrameTool).Enabled == has_frame) return "tool 15 is wrong";
+  for (const std::string& entry : ports_.Log.Entries()) {
+    if (entry.starts_with("show ") && !entry.starts_with("show Need to Unblock")) return entry;
+  }
+  return {};
+}
+
+}  // namespace tarnwick

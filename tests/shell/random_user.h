@@ -1,0 +1,75 @@
+// A user who does random but sensible things to a main window.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "fakes/fake_ports.h"
+#include "shell/mdi_form.h"
+
+namespace tarnwick {
+
+/// Drives a main window that has been started, over fake ports, however its windows are made:
+///
+///   RandomUser user(main, ports, seed);
+///   for (int i = 0; i < 200; ++i) user.Act();
+///   EXPECT_EQ(user.Fault(), "");
+///   user.SaveAndReload();
+///
+/// The same seed gives the same deeds. What was done is told by `Deeds`.
+class RandomUser {
+ public:
+  RandomUser(MDIForm1& main, FakePorts& ports, unsigned seed)
+      : main_(main), ports_(ports), random_(seed), seed_(seed) {}
+
+  /// Does one thing. A window that has grown beyond `kMostObjects` gets no further ones.
+  void Act();
+  /// Saves, reads the project again, saves once more: the files must hold the same bytes. Answers
+  /// the first difference, "" for none.
+  std::string SaveAndReload();
+  /// What is wrong with the state of the window; "" while all is well.
+  [[nodiscard]] std::string Fault() const;
+  /// How many objects came back from files so far.
+  [[nodiscard]] std::size_t ObjectsRead() const { return objects_read_; }
+  /// The last things done, the newest last.
+  [[nodiscard]] std::string Deeds() const;
+
+  /// Sets the cursor of a form's gestures, screen pixels; without it objects are not dragged.
+  std::function<void(int form, ScreenPoint place)> SetCursor;
+
+ private:
+  static constexpr int kMostObjects = 60;
+  static constexpr std::size_t kMostForms = 6;
+
+  int Below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+  void Did(std::string deed);
+  [[nodiscard]] std::vector<ControlRef> Objects();
+  [[nodiscard]] DesignForm* Form() { return main_.Tables().CurrentForm; }
+
+  void PlaceObject();
+  void PressObject();
+  void DragObject();
+  void PressKey();
+  void RunCommand();
+  void EditCode();
+  void EditProperty();
+  void ChooseForm();
+  void ChangeForms();
+  void StartAnew();
+  void Save();
+  [[nodiscard]] std::map<std::string, std::string> SavedFiles() const;
+  [[nodiscard]] std::string FaultOfForm(int number) const;
+
+  MDIForm1& main_;
+  FakePorts& ports_;
+  std::mt19937 random_;
+  unsigned seed_;
+  int names_given_ = 0;
+  std::size_t objects_read_ = 0;
+  std::vector<std::string> deeds_;
+};
+
+}  // namespace tarnwick
