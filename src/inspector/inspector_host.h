@@ -18,7 +18,7 @@ class InspectorHost {
   virtual ~InspectorHost() = default;
 
   /// Selects an object of the form as a press on it does, handles included; null selects the
-  /// form itself.
+  /// form itself. While the code editor is open nothing is selected.
   virtual void SelectObject(DesignForm& form, const ControlRef& control) = 0;
   /// Gives the design window the frame of a border code.
   virtual void borderstylea(DesignForm& form, std::int16_t style) = 0;

@@ -328,14 +328,13 @@ void PropertySheet::ChooseComboRow(int place) {
   if (!Contains(text, "(")) return;
   if (ComboRowKind(text) == InfoOf(Kind::Form).Name) {
     host_.SelectObject(*form, nullptr);
-    ShowProperties(InfoOf(Kind::Form).Name, std::string{record->Name});
+    ShowSelection();
     return;
   }
   const ControlRef control = form->FindByTag(ComboRowName(text));
   if (!control) return;
   host_.SelectObject(*form, control);
-  const KindInfo& info = InfoOf(control->Id);
-  ShowProperties(control->Id == Kind::Image ? info.Name : info.Array, std::string{control->Tag});
+  ShowSelection();
 }
 
 void PropertySheet::RemoveComboRow(std::string_view name) {

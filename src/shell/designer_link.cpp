@@ -5,14 +5,12 @@
 namespace tarnwick {
 
 bool DesignerLink::RaiseOpenCodeEditor() {
-  if (!state_.Windows.IsCodeOpen()) return false;
-  state_.Windows.BringCodeToFront();
-  return true;
+  return state_.RaiseOpenCode();
 }
 
 void InspectorLink::SelectObject(DesignForm& form, const ControlRef& control) {
   FormUser* surface = surfaces_.Of(form.Number());
-  if (surface == nullptr) return;
+  if (surface == nullptr || state_.RaiseOpenCode()) return;
   if (control == nullptr) {
     surface->SelectForm();
   } else {

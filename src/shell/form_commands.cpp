@@ -22,12 +22,6 @@ int FormCommands::CurrentNumber() const {
   return form == nullptr ? 0 : form->Number();
 }
 
-bool FormCommands::RaisedOpenEditor() {
-  if (!state_.Windows.IsCodeOpen()) return false;
-  state_.Windows.BringCodeToFront();
-  return true;
-}
-
 void FormCommands::MarkCurrentLine() {
   state_.View.SelectFormLine(state_.Tables.ListaFrms.PlaceOf(CurrentNumber()));
 }
@@ -85,7 +79,7 @@ void FormCommands::Choose(int form) {
 }
 
 void FormCommands::SelectLine(int place) {
-  if (RaisedOpenEditor()) {
+  if (state_.RaiseOpenCode()) {
     MarkCurrentLine();
     return;
   }
@@ -96,7 +90,7 @@ void FormCommands::SelectLine(int place) {
 
 void FormCommands::Activated(int form) {
   if (form == CurrentNumber() || !state_.Tables.IsLive(form)) return;
-  if (!RaisedOpenEditor()) BringUp(form);
+  if (!state_.RaiseOpenCode()) BringUp(form);
 }
 
 void FormCommands::BringUp(int form) {

@@ -44,7 +44,6 @@ class FormCommands final : public ContainerHost {
   void Opened(int form);
   void Choose(int form);
   [[nodiscard]] int CurrentNumber() const;
-  [[nodiscard]] bool RaisedOpenEditor();
   void MarkCurrentLine();
 
   ShellState& state_;

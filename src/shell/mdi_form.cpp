@@ -106,7 +106,7 @@ void MDIForm1::Run(Command command) {
     rooms_->State.View.CloseMainWindow();
     return;
   }
-  if (WaitsForCodeEditor(command) && rooms_->Designer.RaiseOpenCodeEditor()) return;
+  if (WaitsForCodeEditor(command) && rooms_->State.RaiseOpenCode()) return;
   rooms_->Busy = true;
   Dispatch(command);
   rooms_->Busy = false;
@@ -196,7 +196,7 @@ CommandState MDIForm1::ToolState(int number) const {
 void MDIForm1::PressTool(int number) {
   if (rooms_->Busy || !ToolState(number).Enabled) return;
   // What a tool would select is what the open code editor works on.
-  if (rooms_->Designer.RaiseOpenCodeEditor()) return;
+  if (rooms_->State.RaiseOpenCode()) return;
   rooms_->Busy = true;
   rooms_->Edit.PressTool(number);
   rooms_->Busy = false;

@@ -50,6 +50,13 @@ struct ShellState {
     Flags.CommandsEnabled = on;
     View.CommandsChanged();
   }
+  /// While the code editor is open: brings it to the front and answers true. Its text belongs to
+  /// what is selected, so nothing else can be chosen meanwhile.
+  bool RaiseOpenCode() {
+    if (!Windows.IsCodeOpen()) return false;
+    Windows.BringCodeToFront();
+    return true;
+  }
   [[nodiscard]] bool IsShown(Panel panel) const {
     return Flags.PanelShown[static_cast<std::size_t>(panel)];
   }

@@ -17,7 +17,7 @@ std::string GridFile() {
         "Color\x95"
         "FontColor\x95Interval\x95Title\x95"
         "Filter\x95"
-        "Columns\x9E\r\n";
+        "Columns\x8E\r\n";
   }
   return text;
 }

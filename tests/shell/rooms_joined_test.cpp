@@ -6,7 +6,7 @@ namespace tarnwick {
 namespace {
 
 std::string Rows(std::string_view kind, std::string_view rows) {
-  return "[" + std::string(kind) + "]\x8D" + std::string(rows) + "\x9E\r\n";
+  return "[" + std::string(kind) + "]\x8D" + std::string(rows) + "\x8E\r\n";
 }
 
 class RoomsJoinedTest : public ShellTest {
