@@ -1,6 +1,7 @@
 // Growable array of records, indexed as the project text numbers them.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <memory>
@@ -9,8 +10,8 @@
 namespace tarnwick {
 
 /// An array with slots 0 to UBound(), slot 0 normally left empty. Project files may name any
-/// number of the 16-bit range, so storage is made in small chunks on first write: an array with
-/// one record at 32767 costs a table of pointers, not 32767 records.
+/// number of the 16-bit range, so storage is made in small chunks on first write, and only the
+/// chunks that are there are listed: one record at 32767 costs one chunk.
 template <class T>
 class RecordArray {
  public:
@@ -22,8 +23,8 @@ class RecordArray {
     if (this == &other) return *this;
     chunks_.clear();
     chunks_.reserve(other.chunks_.size());
-    for (const auto& chunk : other.chunks_) {
-      chunks_.push_back(chunk ? std::make_unique<Chunk>(*chunk) : nullptr);
+    for (const Entry& entry : other.chunks_) {
+      chunks_.push_back({entry.Number, std::make_unique<Chunk>(*entry.Records)});
     }
     ubound_ = other.ubound_;
     return *this;
@@ -37,18 +38,22 @@ class RecordArray {
   /// a slot reads as an empty record.
   [[nodiscard]] const T* At(int index) const noexcept {
     if (index < 0 || index > ubound_) return nullptr;
-    const auto chunk = static_cast<std::size_t>(index) / kChunk;
-    if (chunk >= chunks_.size() || !chunks_[chunk]) return nullptr;
-    return &(*chunks_[chunk])[static_cast<std::size_t>(index) % kChunk];
+    const std::size_t number = static_cast<std::size_t>(index) / kChunk;
+    const std::size_t place = PlaceOf(number);
+    if (place == chunks_.size() || chunks_[place].Number != number) return nullptr;
+    return &(*chunks_[place].Records)[static_cast<std::size_t>(index) % kChunk];
   }
 
   /// The record at an index for writing, or null outside the array. Never grows the array.
   [[nodiscard]] T* At(int index) {
     if (index < 0 || index > ubound_) return nullptr;
-    const auto chunk = static_cast<std::size_t>(index) / kChunk;
-    if (chunk >= chunks_.size()) chunks_.resize(chunk + 1);
-    if (!chunks_[chunk]) chunks_[chunk] = std::make_unique<Chunk>();
-    return &(*chunks_[chunk])[static_cast<std::size_t>(index) % kChunk];
+    const std::size_t number = static_cast<std::size_t>(index) / kChunk;
+    const std::size_t place = PlaceOf(number);
+    if (place == chunks_.size() || chunks_[place].Number != number) {
+      chunks_.insert(chunks_.begin() + static_cast<std::ptrdiff_t>(place),
+                     Entry{number, std::make_unique<Chunk>()});
+    }
+    return &(*chunks_[place].Records)[static_cast<std::size_t>(index) % kChunk];
   }
 
   /// Raises the highest index to at least `index`, keeping contents; never shrinks.
@@ -68,10 +73,24 @@ class RecordArray {
   }
 
  private:
-  static constexpr std::size_t kChunk = 16;
+  static constexpr std::size_t kChunk = 4;
   using Chunk = std::array<T, kChunk>;
+  struct Entry {
+    std::size_t Number;  ///< index of its first record / kChunk
+    std::unique_ptr<Chunk> Records;
+  };
 
-  std::vector<std::unique_ptr<Chunk>> chunks_;
+  /// Place of the first chunk whose number is not below this one. An array without gaps, as most
+  /// are, needs no search.
+  [[nodiscard]] std::size_t PlaceOf(std::size_t number) const noexcept {
+    if (number < chunks_.size() && chunks_[number].Number == number) return number;
+    const auto place =
+        std::lower_bound(chunks_.begin(), chunks_.end(), number,
+                         [](const Entry& entry, std::size_t n) { return entry.Number < n; });
+    return static_cast<std::size_t>(place - chunks_.begin());
+  }
+
+  std::vector<Entry> chunks_;  ///< by rising number
   int ubound_ = 0;
 };
 

@@ -60,6 +60,18 @@ TEST(RecordArray, TheHighestNumberOfAFileFindsItsRecord) {
   EXPECT_EQ(*records.At(1), "first");
 }
 
+TEST(RecordArray, RecordsAreFoundInWhateverOrderTheyCame) {
+  RecordArray<int> records;
+  for (const int index : {30000, 7, 12, 0, 31, 29999, 1, 400}) *records.Ensure(index) = index + 1;
+  for (const int index : {0, 1, 7, 12, 31, 400, 29999, 30000}) {
+    ASSERT_NE(records.At(index), nullptr);
+    EXPECT_EQ(*records.At(index), index + 1);
+  }
+  const RecordArray<int>& reading = records;
+  EXPECT_EQ(reading.At(200), nullptr);
+  EXPECT_EQ(RecordOrEmpty(records, 200), 0);
+}
+
 TEST(RecordArray, ACopyIsItsOwn) {
   RecordArray<std::string> records;
   *records.Ensure(20) = "old";
