@@ -159,8 +159,8 @@ void DesignWindow::resizeEvent(QResizeEvent* event) {
 
 void DesignWindow::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  const QColor line = current_ ? AccentOf(palette()) : LineOf(palette()).darker(115);
-  painter.fillRect(rect(), palette().color(QPalette::Button));
+  const QColor line = current_ ? TitleOf() : LineOf(palette()).darker(115);
+  painter.fillRect(rect(), LineOf(palette()));
   painter.setPen(line);
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
   if (FrameOf().Title) PaintTitle(painter);
@@ -170,11 +170,9 @@ void DesignWindow::PaintTitle(QPainter& painter) {
   const Frame frame = FrameOf();
   const int border = BorderWidth();
   const QRect title(1, 1, width() - 2, TitleHeight() + border - 1);
-  const QColor ground =
-      current_ ? AccentOf(palette()) : palette().color(QPalette::Button).darker(104);
+  const QColor ground = current_ ? TitleOf() : palette().color(QPalette::Button);
   painter.fillRect(title, ground);
-  const QColor ink = current_ ? palette().color(QPalette::HighlightedText)
-                              : palette().color(QPalette::PlaceholderText);
+  const QColor ink = current_ ? QColor(Qt::white) : palette().color(QPalette::PlaceholderText);
   int left = border + kGap;
   if (frame.Buttons && !frame.Tool) {
     const int side = 16;
@@ -209,8 +207,7 @@ void DesignWindow::PaintTitle(QPainter& painter) {
 
 void DesignWindow::PaintButton(QPainter& painter, Part part) {
   const QRect button = ButtonRect(part);
-  const QColor ink = current_ ? palette().color(QPalette::HighlightedText)
-                              : palette().color(QPalette::PlaceholderText);
+  const QColor ink = current_ ? QColor(Qt::white) : palette().color(QPalette::PlaceholderText);
   if (part == hovered_) {
     QColor veil = ink;
     veil.setAlpha(48);

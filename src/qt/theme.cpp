@@ -8,16 +8,17 @@ namespace tarnwick {
 namespace {
 
 struct Colors {
-  QColor Window, Base, Alternate, Button, Text, Quiet, Disabled, Accent, OnAccent, Line, Hover;
+  QColor Window, Base, Alternate, Button, Text, Quiet, Disabled, Accent, OnAccent, Line, Hover,
+      Desk;
 };
 
 const Colors& ColorsOf(Theme theme) {
   static const Colors light{QColor(0xF3F5F6), QColor(0xFFFFFF), QColor(0xF8FAFA), QColor(0xFBFCFC),
                             QColor(0x1B2429), QColor(0x5B6870), QColor(0x9AA5AB), QColor(0x0F766E),
-                            QColor(0xFFFFFF), QColor(0xD5DBDF), QColor(0xDDEDEB)};
+                            QColor(0xFFFFFF), QColor(0xD5DBDF), QColor(0xDDEDEB), QColor(0xDDE2E5)};
   static const Colors dark{QColor(0x1E2327), QColor(0x171B1E), QColor(0x1B2024), QColor(0x282F34),
                            QColor(0xE4E9EB), QColor(0x98A4AB), QColor(0x66727A), QColor(0x2DD4BF),
-                           QColor(0x08201D), QColor(0x39424A), QColor(0x24403E)};
+                           QColor(0x08201D), QColor(0x39424A), QColor(0x24403E), QColor(0x262C31)};
   return theme == Theme::Dark ? dark : light;
 }
 
@@ -46,6 +47,10 @@ QToolTip { background: %4; border: 1px solid %1; padding: 4px 6px; }
 QSplitter::handle { background: transparent; }
 QSplitter::handle:hover { background: %2; }
 QFrame[panel="true"] { background: %4; border: 1px solid %1; border-radius: 6px; }
+QLineEdit, QPlainTextEdit { border: 1px solid %1; border-radius: 5px; background: %4; }
+QLineEdit { padding: 3px 4px; }
+QLineEdit:focus, QPlainTextEdit:focus { border-color: %3; }
+tarnwick--PropertyRowView QLineEdit { border: none; border-radius: 0; padding: 0 2px; }
 QLabel[heading="true"] { font-weight: 600; }
 QLabel[quiet="true"] { color: %5; }
 QListWidget { border: 1px solid %1; border-radius: 5px; padding: 2px; background: %4; }
@@ -69,6 +74,10 @@ QColor LineOf(const QPalette& palette) {
   return ColorsOf(ThemeOf(palette)).Line;
 }
 
+QColor TitleOf() {
+  return ColorsOf(Theme::Light).Accent;
+}
+
 QPalette PaletteOf(Theme theme) {
   const Colors& c = ColorsOf(theme);
   QPalette palette(c.Button, c.Window);
@@ -78,7 +87,7 @@ QPalette PaletteOf(Theme theme) {
   palette.setColor(QPalette::Button, c.Button);
   palette.setColor(QPalette::ToolTipBase, c.Base);
   palette.setColor(QPalette::PlaceholderText, c.Quiet);
-  palette.setColor(QPalette::Mid, c.Line);
+  palette.setColor(QPalette::Mid, c.Desk);
   palette.setColor(QPalette::Highlight, c.Accent);
   palette.setColor(QPalette::HighlightedText, c.OnAccent);
   palette.setColor(QPalette::Link, c.Accent);

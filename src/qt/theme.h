@@ -17,6 +17,9 @@ inline constexpr int kRoom = 8;
 /// The theme that a palette belongs to.
 [[nodiscard]] Theme ThemeOf(const QPalette& palette);
 [[nodiscard]] QColor AccentOf(const QPalette& palette);
+/// Ground of the title of the current design window, on which white stands: the deep accent in
+/// both themes.
+[[nodiscard]] QColor TitleOf();
 /// The quiet line between two parts of a window.
 [[nodiscard]] QColor LineOf(const QPalette& palette);
 [[nodiscard]] QPalette PaletteOf(Theme theme);
