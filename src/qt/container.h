@@ -22,6 +22,7 @@ class Container final : public QScrollArea {
   DesignWindow& Open(int form, DesignForm& design, DesignWindowDoors doors);
   /// The form is about to go: its window is hidden now and deleted when no event of it runs.
   void Close(int form);
+  [[nodiscard]] bool IsEmpty() const { return windows_.empty(); }
   /// Null for a form without a window.
   [[nodiscard]] DesignWindow* Window(int form) const;
   /// Shows a window in front of the others, with the focus.

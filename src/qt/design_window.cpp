@@ -342,6 +342,7 @@ void DesignWindow::TellSize() {
   if (form_ == nullptr || user == nullptr) return;
   user->Form_Resize(static_cast<float>(width() * kTwipsPerPixel),
                     static_cast<float>(height() * kTwipsPerPixel), state_);
+  doors_.Resized();
 }
 
 }  // namespace tarnwick

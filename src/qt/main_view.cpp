@@ -222,6 +222,9 @@ DesignWindowDoors MainView::DoorsOf(int form) {
   doors.Escape = [this] {
     if (shell_ != nullptr) shell_->PressTool(kArrowTool);
   };
+  doors.Resized = [this] {
+    if (shell_ != nullptr) shell_->RefreshStatus();
+  };
   return doors;
 }
 
@@ -233,6 +236,8 @@ void MainView::FormOpened(int form) {
 
 void MainView::FormClosing(int form) {
   window_.Forms().Close(form);
+  // The next project's pictures may be others under the same names.
+  if (window_.Forms().IsEmpty()) window_.Pictures().Clear();
 }
 
 void MainView::FormChanged(int form) {

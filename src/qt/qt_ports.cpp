@@ -19,8 +19,13 @@ namespace {
 
 constexpr qint64 kFrameMilliseconds = 16;
 
+/// The window that a box stands over: the active one, or the main window while none is.
 QWidget* Above() {
-  return QApplication::activeWindow();
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && window->windowType() == Qt::Window) return window;
+  }
+  return nullptr;
 }
 
 /// The machine path of a folder as a dialog starts in it; "" for none.

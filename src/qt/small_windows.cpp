@@ -122,6 +122,7 @@ void RunFormMainDialog(MDIForm1& shell, QWidget* parent) {
   dialog.setWindowTitle(QStringLiteral("Select Main Form"));
   auto* list = new QListWidget(&dialog);
   list->setObjectName(QStringLiteral("List1"));
+  list->setIconSize(QSize(16, 16));
   for (const std::string& line : logic.List1()) {
     list->addItem(new QListWidgetItem(IconOf(QStringLiteral("form")), ToQString(line)));
   }

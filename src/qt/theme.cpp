@@ -51,6 +51,12 @@ QLineEdit, QPlainTextEdit { border: 1px solid %1; border-radius: 5px; background
 QLineEdit { padding: 3px 4px; }
 QLineEdit:focus, QPlainTextEdit:focus { border-color: %3; }
 tarnwick--PropertyRowView QLineEdit { border: none; border-radius: 0; padding: 0 2px; }
+QDialogButtonBox, QMessageBox { dialogbuttonbox-buttons-have-icons: 0; }
+QPushButton { border: 1px solid %1; border-radius: 5px; padding: 5px 14px; background: %4; }
+QPushButton:hover:enabled, QPushButton:pressed { background: %2; }
+QPushButton:default, QPushButton:focus { border-color: %3; }
+QPushButton:disabled { color: %7; }
+QDialogButtonBox QPushButton { min-width: 56px; }
 QLabel[heading="true"] { font-weight: 600; }
 QLabel[quiet="true"] { color: %5; }
 QListWidget { border: 1px solid %1; border-radius: 5px; padding: 2px; background: %4; }
