@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "cli/loaded_project.h"
 #include "cli/project_check.h"
 #include "codegen/compile_driver.h"
 #include "persistence/old_project.h"
@@ -75,19 +74,20 @@ int Check(LoadedProject& project, std::ostream& out) {
 
 }  // namespace
 
-int RunCommand(const Arguments& arguments, std::ostream& out, std::ostream& err) {
+int RunCommand(const Arguments& arguments, std::ostream& out, std::ostream& err,
+               std::optional<LoadedProject>& project) {
   if (arguments.What == Command::Convert) return Convert(arguments, err);
   // What `check` has to say of missing files stands among its findings.
   const bool quiet = arguments.What == Command::Check;
-  LoadedProject project(arguments.ProgramFolder, err, quiet);
-  if (!project.Load(arguments.Input)) return Fail(err, "cannot read", arguments.Input);
+  project.emplace(arguments.ProgramFolder, err, quiet);
+  if (!project->Load(arguments.Input)) return Fail(err, "cannot read", arguments.Input);
   switch (arguments.What) {
     case Command::Generate:
-      return Generate(project, arguments, out, err);
+      return Generate(*project, arguments, out, err);
     case Command::Resave:
-      return Resave(project, arguments, err);
+      return Resave(*project, arguments, err);
     default:
-      return Check(project, out);
+      return Check(*project, out);
   }
 }
 

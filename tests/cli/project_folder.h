@@ -26,7 +26,8 @@ inline CallResult Call(const std::vector<std::string>& words) {
   if (const auto* const wrong = std::get_if<WrongUsage>(&parsed)) return {2, "", wrong->Text};
   std::ostringstream out;
   std::ostringstream err;
-  const int exit = RunCommand(std::get<Arguments>(parsed), out, err);
+  std::optional<LoadedProject> project;
+  const int exit = RunCommand(std::get<Arguments>(parsed), out, err, project);
   return {exit, out.str(), err.str()};
 }
 
