@@ -109,6 +109,8 @@ bool LoadProject(ProjectContext& context, const std::string& path) {
     if (main_form_named) tables.MainFormName = std::move(named);
     TellRead(context, 1);
   }
+  // The main form is named behind the forms, which the list has shown by now.
+  if (main_form_named) context.Observer.FormListChanged();
   tables.CurrentForm = tables.User(1);
   context.Container.ActivateForm(1);
   context.Container.ShowContainer();
