@@ -156,7 +156,8 @@ TEST(ProjectReader, TheContainerIsHiddenFirstAndShownWithTheFirstFormAtTheEnd) {
   project.Load("[Form](1) {F}\r\n");
   EXPECT_EQ(project.Ports.Log.Entries(),
             (Log{"read C:\\Work\\Demo.tnp", "hide", "closing 1", "list", "read C:\\Work\\a.ftn",
-                 "opened 1", "bar 1", "list", "activate 1", "container", "current"}));
+                 "opened 1", "bar 1", "list", "list", "activate 1", "container", "current"}))
+      << "the list is told of the form, then of the main form's name behind it";
   EXPECT_EQ(project.Tables.LoadingProject, 0);
 }
 
