@@ -110,6 +110,14 @@ void FormUser::SelectForm() {
   SelectionRefresh();
 }
 
+void FormUser::SelectMenuItem(const ControlRef& item) {
+  if (!IsLive(item) || item->Class() != ControlClass::Menu) return;
+  EndGesture();
+  SelectNothing();
+  Select(form_, item);
+  ports_.Observer.SelectionChanged(Number());
+}
+
 void FormUser::SelectNothing() {
   drag_.DragEnd();
   drag_.ShowHandles(false);

@@ -99,6 +99,8 @@ class FormUser {
   void SelectObject(const ControlRef& control);
   /// Selects the form itself.
   void SelectForm();
+  /// Selects an item of the form's menu bar, by its name alone.
+  void SelectMenuItem(const ControlRef& item);
 
   // Gesture.
   void DragBegin(const ControlRef& control);

@@ -131,10 +131,7 @@ void FormUser::DoubleClick() {
 
 void FormUser::MenuItemPress(const ControlRef& item) {
   if (!IsLive(item) || item->Class() != ControlClass::Menu || !Ready()) return;
-  EndGesture();
-  SelectNothing();
-  Select(form_, item);
-  ports_.Observer.SelectionChanged(Number());
+  SelectMenuItem(item);
   ports_.Host.OpenCode();
 }
 

@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QMenu>
+#include <utility>
 
 #include "qt/command_actions.h"
 #include "qt/container.h"
+#include "qt/events_bar_window.h"
 #include "qt/form_list_panel.h"
 #include "qt/icon_display.h"
 #include "qt/main_window.h"
@@ -136,6 +138,7 @@ void MainView::ShowPanel(Panel panel, bool shown) {
       window_.FloatingTools().setVisible(shown);
       break;
     case Panel::EventsBar:
+      ScheduleBarRefresh();
       break;
   }
 }
@@ -149,8 +152,14 @@ void MainView::ScheduleRefresh() {
   if (!refresh_.isActive()) refresh_.start();
 }
 
+void MainView::ScheduleBarRefresh() {
+  bar_changed_ = true;
+  ScheduleRefresh();
+}
+
 void MainView::Refresh() {
   window_.RefreshCommands();
+  if (std::exchange(bar_changed_, false)) window_.EventButtons().Refresh();
 }
 
 void MainView::SelectFormLine(int place) {
@@ -238,6 +247,7 @@ void MainView::FormClosing(int form) {
   window_.Forms().Close(form);
   // The next project's pictures may be others under the same names.
   if (window_.Forms().IsEmpty()) window_.Pictures().Clear();
+  ScheduleBarRefresh();
 }
 
 void MainView::FormChanged(int form) {
@@ -257,12 +267,16 @@ void MainView::CurrentFormChanged() {
   if (shell_ == nullptr) return;
   const DesignForm* current = shell_->Tables().CurrentForm;
   window_.Forms().SetCurrent(current != nullptr ? current->Number() : 0);
-  ScheduleRefresh();
+  ScheduleBarRefresh();
 }
 
 void MainView::FormListChanged() {
   window_.FormLines().Refresh();
   ScheduleRefresh();
+}
+
+void MainView::EventsBarChanged(int /*form*/) {
+  ScheduleBarRefresh();
 }
 
 void MainView::MenuBarChanged(int form) {

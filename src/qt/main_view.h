@@ -66,11 +66,13 @@ class MainView final : public ShellView, public ProjectObserver {
   void SelectionChanged(int form) override;
   void CurrentFormChanged() override;
   void FormListChanged() override;
+  void EventsBarChanged(int form) override;
   void MenuBarChanged(int form) override;
 
  private:
   [[nodiscard]] DesignWindowDoors DoorsOf(int form);
   void ScheduleRefresh();
+  void ScheduleBarRefresh();
   void Refresh();
 
   MainWindow& window_;
@@ -80,6 +82,7 @@ class MainView final : public ShellView, public ProjectObserver {
   std::unique_ptr<LogoWindow> logo_;
   std::unique_ptr<GesturePort> no_gestures_;
   bool arrow_ = false;
+  bool bar_changed_ = false;  ///< the events bar is read anew with the next refresh
 };
 
 }  // namespace tarnwick

@@ -8,6 +8,7 @@
 
 #include "qt/command_actions.h"
 #include "qt/container.h"
+#include "qt/events_bar_window.h"
 #include "qt/form_list_panel.h"
 #include "qt/icon_display.h"
 #include "qt/panel_frame.h"
@@ -37,6 +38,7 @@ MainWindow::MainWindow(FilePort& files)
       properties_(new PropertyPanel(this)),
       icon_(new IconDisplay(pictures_, this)),
       object_bar_(new ObjectBar(this)),
+      events_bar_(new EventsBarWindow(*container_, this)),
       right_(new QWidget(this)),
       status_(new QLabel(this)),
       selection_(new QLabel(this)),
@@ -105,6 +107,7 @@ void MainWindow::Attach(MDIForm1& shell) {
   actions_->Attach(shell);
   tools_->Attach(shell);
   object_bar_->Attach(shell);
+  events_bar_->Attach(shell);
   form_list_->Attach(shell);
   properties_->Attach(shell);
 }

@@ -13,6 +13,7 @@ namespace tarnwick {
 
 class CommandActions;
 class Container;
+class EventsBarWindow;
 class FormListPanel;
 class IconDisplay;
 class MDIForm1;
@@ -39,6 +40,7 @@ class MainWindow final : public QMainWindow {
   [[nodiscard]] PropertyPanel& Properties() { return *properties_; }
   [[nodiscard]] IconDisplay& ProgramIconView() { return *icon_; }
   [[nodiscard]] ObjectBar& FloatingTools() { return *object_bar_; }
+  [[nodiscard]] EventsBarWindow& EventButtons() { return *events_bar_; }
   [[nodiscard]] CommandActions& Actions() { return *actions_; }
   [[nodiscard]] PictureCache& Pictures() { return pictures_; }
   void SetStatus(const QString& text);
@@ -65,6 +67,7 @@ class MainWindow final : public QMainWindow {
   PropertyPanel* properties_;
   IconDisplay* icon_;
   ObjectBar* object_bar_;
+  EventsBarWindow* events_bar_;
   QWidget* right_;
   QLabel* status_;
   QLabel* selection_;

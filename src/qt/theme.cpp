@@ -31,6 +31,7 @@ QToolBar::separator { background: %1; width: 1px; margin: 5px 6px; }
 QToolButton { border: 1px solid transparent; border-radius: 5px; padding: 4px; }
 QToolButton:hover:enabled { background: %2; }
 QToolButton:pressed, QToolButton:checked { background: %2; border-color: %3; }
+QToolButton:focus { border-color: %3; }
 QMenuBar { border-bottom: 1px solid %1; padding: 2px 4px; }
 QMenuBar::item { padding: 5px 10px; border-radius: 5px; background: transparent; }
 QMenuBar::item:selected { background: %2; }

@@ -4,6 +4,13 @@
 
 namespace tarnwick {
 
+void DesignerLink::RemoveHeadRow(const DesignControl& object) {
+  sheet_->RemoveComboRow(object.Tag);
+  // The object is about to go, and its code with it.
+  const DesignForm* form = state_.Tables.CurrentForm;
+  if (form != nullptr) bar_->ObjectGone(form->Number(), object.ArrayAndIndex());
+}
+
 bool DesignerLink::RaiseOpenCodeEditor() {
   return state_.RaiseOpenCode();
 }

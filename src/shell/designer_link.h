@@ -4,6 +4,7 @@
 #include "designer/designer_host.h"
 #include "inspector/inspector_host.h"
 #include "inspector/property_sheet.h"
+#include "shell/events_bar.h"
 #include "shell/shell_state.h"
 
 namespace tarnwick {
@@ -17,6 +18,8 @@ class DesignerLink final : public DesignerHost {
   explicit DesignerLink(ShellState& state) : state_(state) {}
   /// The sheet is built after the surfaces.
   void SetSheet(PropertySheet& sheet) { sheet_ = &sheet; }
+  /// So is the events bar.
+  void SetBar(EventsBar& bar) { bar_ = &bar; }
 
   [[nodiscard]] bool PropertyPanelVisible() override { return state_.IsShown(Panel::Properties); }
   void ClearPanel() override { sheet_->ClearPanel(); }
@@ -26,7 +29,7 @@ class DesignerLink final : public DesignerHost {
   void SyncRow(std::string_view name_objet, std::string_view row) override {
     sheet_->SyncRow(name_objet, row);
   }
-  void RemoveHeadRow(const DesignControl& object) override { sheet_->RemoveComboRow(object.Tag); }
+  void RemoveHeadRow(const DesignControl& object) override;
 
   void EnableCopyPasteButtons(bool /*on*/) override { state_.View.CommandsChanged(); }
   void EnableTool(int /*tool*/, bool /*on*/) override { state_.View.CommandsChanged(); }
@@ -48,6 +51,7 @@ class DesignerLink final : public DesignerHost {
  private:
   ShellState& state_;
   PropertySheet* sheet_ = nullptr;
+  EventsBar* bar_ = nullptr;
   bool form_maximised_ = false;
 };
 

@@ -7,6 +7,7 @@
 #include "shell/design_surfaces.h"
 #include "shell/designer_link.h"
 #include "shell/edit_commands.h"
+#include "shell/events_bar.h"
 #include "shell/form_commands.h"
 #include "shell/project_commands.h"
 #include "shell/shell_state.h"
@@ -23,6 +24,7 @@ struct MDIForm1::Rooms {
       : State(ports, view, windows, std::move(program_folder)),
         Designer(State),
         Surfaces(State, Designer),
+        Bar(State, Surfaces),
         Inspector(State, Surfaces),
         Sheet(State.Tables, State.Support, State.Ports, State.Observer, Inspector),
         Forms(State, Sheet),
@@ -39,16 +41,19 @@ struct MDIForm1::Rooms {
         Start(State, Forms, Project),
         Status(State, Project) {
     Designer.SetSheet(Sheet);
+    Designer.SetBar(Bar);
     State.Observer.Add(observer);
     State.Observer.Add(Surfaces);
     State.Observer.Add(Status);
-    State.Flags.PanelShown[static_cast<std::size_t>(Panel::Properties)] = true;
-    State.Flags.PanelShown[static_cast<std::size_t>(Panel::Forms)] = true;
+    for (const Panel panel : {Panel::Properties, Panel::Forms, Panel::EventsBar}) {
+      State.Flags.PanelShown[static_cast<std::size_t>(panel)] = true;
+    }
   }
 
   ShellState State;
   DesignerLink Designer;
   DesignSurfaces Surfaces;
+  EventsBar Bar;
   InspectorLink Inspector;
   PropertySheet Sheet;
   FormCommands Forms;
@@ -245,6 +250,10 @@ const SupportTables& MDIForm1::Support() const noexcept {
 
 PropertySheet& MDIForm1::Sheet() noexcept {
   return rooms_->Sheet;
+}
+
+EventsBar& MDIForm1::Bar() noexcept {
+  return rooms_->Bar;
 }
 
 FormUser* MDIForm1::User(int form) {

@@ -15,6 +15,7 @@
 #include "platform/ports.h"
 #include "shell/command_state.h"
 #include "shell/command_table.h"
+#include "shell/events_bar.h"
 #include "shell/form_main.h"
 #include "shell/shell_view.h"
 #include "shell/side_windows.h"
@@ -81,6 +82,8 @@ class MDIForm1 {
   [[nodiscard]] Settings& SettingsFile() noexcept;
   [[nodiscard]] const SupportTables& Support() const noexcept;
   [[nodiscard]] PropertySheet& Sheet() noexcept;
+  /// The events bars of all forms.
+  [[nodiscard]] EventsBar& Bar() noexcept;
   /// The design surface of a form; null for a number without one.
   [[nodiscard]] FormUser* User(int form);
   /// The surface of the current form; null without one.

@@ -106,11 +106,11 @@ TEST_F(StartUpTest, TheSupportFilesFillTheTables) {
   EXPECT_NE(main.Support().ObjectHelp.Find("BUTTON"), nullptr);
 }
 
-TEST_F(StartUpTest, PropertiesAndFormListAreShownAndTheFloatingPartsNot) {
+TEST_F(StartUpTest, AllPanelsAreShownButTheFloatingToolBox) {
   Start();
   EXPECT_TRUE(view.PanelShown[Panel::Properties]);
   EXPECT_TRUE(view.PanelShown[Panel::Forms]);
-  EXPECT_FALSE(view.PanelShown[Panel::EventsBar]);
+  EXPECT_TRUE(view.PanelShown[Panel::EventsBar]);
   EXPECT_FALSE(view.PanelShown[Panel::ObjectBar]);
 }
 

@@ -1,0 +1,63 @@
+// The events bar as a small window over the container.
+#pragma once
+
+#include <QFrame>
+#include <QPoint>
+#include <string>
+#include <vector>
+
+#include "shell/events_bar.h"
+
+class QLabel;
+class QMenu;
+class QToolButton;
+
+namespace tarnwick {
+
+class Container;
+class MDIForm1;
+
+/// `FrmBarra`: shows the bar of the current form. It floats over the container, at its lower edge
+/// until the user drags it elsewhere by its head, and is never out of the main window. Closing it
+/// hides it.
+class EventsBarWindow final : public QFrame {
+  Q_OBJECT
+
+ public:
+  EventsBarWindow(Container& container, QWidget* parent);
+
+  void Attach(MDIForm1& shell);
+  /// Reads buttons, tips and title of the current form anew; hidden while there is none.
+  void Refresh();
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QToolButton* MakeButton(const QString& name);
+  void SetButtons(std::vector<BarButton> buttons);
+  void PutButtons();
+  void Press(int number);
+  void PopUp(QToolButton& button);
+  void Hide();
+  void GiveFocusBack();
+  void Place();
+
+  MDIForm1* shell_ = nullptr;
+  Container& container_;
+  QLabel* title_;
+  QWidget* room_;  ///< where the buttons stand
+  QToolButton* declare_;
+  QMenu* pross_;
+  std::vector<BarButton> shown_;
+  std::vector<QToolButton*> buttons_;  ///< `btncodigo` from element 1
+  bool placed_ = false;                ///< the user has given it a place
+  bool dragging_ = false;
+  QPoint grip_;
+};
+
+}  // namespace tarnwick
