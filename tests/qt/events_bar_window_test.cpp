@@ -1,7 +1,7 @@
 #include "qt/events_bar_window.h"
 
 #include <QApplication>
-#include <QLabel>
+#include <QListWidget>
 #include <QMenu>
 #include <QTest>
 #include <QToolButton>
@@ -12,6 +12,7 @@
 #include "fakes/fake_ports.h"
 #include "fakes/fake_shell.h"
 #include "qt/container.h"
+#include "qt/form_list_panel.h"
 #include "qt/main_view.h"
 #include "qt/main_window.h"
 #include "shell/mdi_form.h"
@@ -128,6 +129,19 @@ TEST_F(EventsBarWindowTest, TheDeclarationsButtonPopsUpItsOneRow) {
   EXPECT_EQ(Pross().actions()[0]->text(), QStringLiteral("Public Declarations"));
   Pross().actions()[0]->trigger();
   EXPECT_EQ(ports.Log.Count("windows declarations"), 1U);
+}
+
+TEST_F(EventsBarWindowTest, TabReachesItFromTheFormListAndWalksItsButtons) {
+  QApplication::setActiveWindow(&window);
+  Store("Form", Event::OnShow, "a");
+  Store("Item1", Event::OnClick, "a");
+  window.FormLines().findChild<QListWidget*>()->setFocus();
+  const auto tab = [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); };
+  for (int i = 0; i < 8 && !Button(QStringLiteral("btnCDeclare"))->hasFocus(); ++i) tab();
+  for (const char* name : {"btnCDeclare", "btncodigo_1", "btncodigo_2", "FrmBarraClose"}) {
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), QString::fromLatin1(name));
+    tab();
+  }
 }
 
 TEST_F(EventsBarWindowTest, ReturnPressesTheButtonWithTheFocusAndEscapeGoesBackToTheForm) {
