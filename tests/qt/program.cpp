@@ -176,20 +176,25 @@ void Program::Drag(QWidget& widget, QPoint from, QPoint to) {
   Settle();
 }
 
+QWindow* Program::KeyWindow() {
+  if (QWidget* popup = QApplication::activePopupWidget()) return popup->windowHandle();
+  if (QApplication::activeWindow() == nullptr) {
+    // No window manager here gives the focus back when a dialog closes.
+    window_->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+  }
+  return QApplication::activeWindow()->windowHandle();
+}
+
 void Program::Key(Qt::Key key, Qt::KeyboardModifiers held) {
-  QWidget* active = QApplication::activeWindow();
-  if (QWidget* popup = QApplication::activePopupWidget()) active = popup;
-  ASSERT_NE(active, nullptr);
-  QTest::keyClick(active->windowHandle(), key, held);
+  QTest::keyClick(KeyWindow(), key, held);
   Settle();
 }
 
 void Program::Type(const QString& text) {
-  QWidget* active = QApplication::activeWindow();
-  ASSERT_NE(active, nullptr);
+  QWindow* window = KeyWindow();
   for (const QChar letter : text) {
-    QTest::sendKeyEvent(QTest::Click, active->windowHandle(), Qt::Key_unknown, QString(letter),
-                        Qt::NoModifier);
+    QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, QString(letter), Qt::NoModifier);
   }
   Settle();
 }

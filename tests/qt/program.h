@@ -30,6 +30,7 @@
 
 class QAction;
 class QDialog;
+class QWindow;
 
 namespace tarnwick {
 
@@ -69,6 +70,25 @@ class Attendant final : public QObject {
   std::deque<std::function<void(QDialog&)>> steps_;
   std::vector<SeenBox> seen_;
   QObject* handled_ = nullptr;
+};
+
+/// Starts real programs and notes each command line in the log: "start C".
+class NotedProcesses final : public ProcessPort {
+ public:
+  explicit NotedProcesses(CallLog& log) : log_(log) {}
+  bool StartHidden(const std::string& command_line) override {
+    log_.Add("start " + command_line);
+    return native_.StartHidden(command_line);
+  }
+  /// No desktop is disturbed: only the entry "open P".
+  bool OpenDocument(const std::string& path) override {
+    log_.Add("open " + path);
+    return false;
+  }
+
+ private:
+  CallLog& log_;
+  NativeProcess native_;
 };
 
 /// The program after its start, on the real files of two temporary folders. Message boxes are the
@@ -136,9 +156,11 @@ class Program {
   bool Close();
 
  private:
+  [[nodiscard]] QWindow* KeyWindow();
+
   NativeFiles files_;
   ProfileFiles profiles_{files_};
-  NativeProcess processes_;
+  NotedProcesses processes_{Log};
   QtMessages messages_;
   QtDialogs real_dialogs_;
   QtScreen screen_;
