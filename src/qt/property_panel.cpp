@@ -290,6 +290,17 @@ bool PropertyPanel::eventFilter(QObject* object, QEvent* event) {
     case QEvent::FocusOut:
       if (view->Row() == sheet_->RowIndex()) sheet_->ApplyText(FromQString(view->Field().text()));
       break;
+    case QEvent::ShortcutOverride: {
+      // These keys are the cell's, also where it takes no typing: the menu would otherwise delete
+      // or paste objects while the user works in the grid.
+      auto* key = static_cast<QKeyEvent*>(event);
+      if (key->matches(QKeySequence::Delete) || key->matches(QKeySequence::Copy) ||
+          key->matches(QKeySequence::Cut) || key->matches(QKeySequence::Paste)) {
+        key->accept();
+        return true;
+      }
+      break;
+    }
     case QEvent::MouseButtonDblClick:
       if (!sheet_->TakesTyping(view->Row()) || sheet_->Boton2Shown()) {
         sheet_->PickValue();
