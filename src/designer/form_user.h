@@ -136,7 +136,7 @@ class FormUser {
   void EndGesture();
   void PressForm(int Button, float X, float Y);
   void PressEmptyForm(int Button);
-  void PlaceObject(Kind kind, float X, float Y);
+  void PutObject(Kind kind, float X, float Y);
   void DragFirstUnder(float X, float Y);
   void ReleaseAndOpenPopUp();
   void SelectNothing();

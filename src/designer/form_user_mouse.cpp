@@ -27,7 +27,7 @@ void FormUser::PressForm(int Button, float X, float Y) {
     PressEmptyForm(Button);
     return;
   }
-  PlaceObject(*kind, X, Y);
+  PutObject(*kind, X, Y);
   // One press places one object.
   Disarm();
   DragFirstUnder(X, Y);
@@ -40,7 +40,7 @@ void FormUser::PressEmptyForm(int Button) {
   if (Button == kRightButton) ReleaseAndOpenPopUp();
 }
 
-void FormUser::PlaceObject(Kind kind, float X, float Y) {
+void FormUser::PutObject(Kind kind, float X, float Y) {
   const ControlRef control = CreateObject(tables_, form_, kind, X, Y);
   if (!control) return;
   Select(form_, control);

@@ -49,7 +49,7 @@ void ObjectCombo::Fill(const DesignForm& form, std::string_view form_name) {
 
 bool ObjectCombo::Bring(const DesignControl* object, std::string_view name,
                         std::string_view suffix) {
-  selected_ = PlaceOf(object, name);
+  selected_ = PositionOf(object, name);
   if (selected_ >= 0) return false;
   selected_ = static_cast<int>(rows_.size());
   rows_.push_back({std::string{name}.append(suffix), object});
@@ -57,7 +57,7 @@ bool ObjectCombo::Bring(const DesignControl* object, std::string_view name,
 }
 
 int ObjectCombo::Rename(const DesignControl* object, std::string_view old_name, std::string text) {
-  const int place = PlaceOf(object, old_name);
+  const int place = PositionOf(object, old_name);
   if (place >= 0) rows_[static_cast<std::size_t>(place)].Text = std::move(text);
   return place;
 }
@@ -98,7 +98,7 @@ std::vector<std::string> ObjectCombo::ParentNames() const {
   return names;
 }
 
-int ObjectCombo::PlaceOf(const DesignControl* object, std::string_view name) const noexcept {
+int ObjectCombo::PositionOf(const DesignControl* object, std::string_view name) const noexcept {
   const std::string_view wanted = Trim(name);
   int place = -1;
   for (std::size_t i = 0; i < rows_.size(); ++i) {

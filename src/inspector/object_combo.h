@@ -45,7 +45,7 @@ class ObjectCombo {
   [[nodiscard]] std::vector<std::string> ParentNames() const;
 
  private:
-  [[nodiscard]] int PlaceOf(const DesignControl* object, std::string_view name) const noexcept;
+  [[nodiscard]] int PositionOf(const DesignControl* object, std::string_view name) const noexcept;
   [[nodiscard]] int PlaceToRemove(std::string_view name) const noexcept;
 
   std::vector<Row> rows_;

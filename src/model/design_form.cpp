@@ -88,14 +88,17 @@ const ControlRef& DesignForm::Load(Kind kind) {
 
 void DesignForm::Unload(const ControlRef& control) {
   if (!control || control->Index == 0) return;
-  const ControlRef keep = control;  // the caller's reference may be a slot that is erased below
-  std::erase(controls_, keep);
-  std::erase(draw_order_, keep);
-  auto& elements = arrays_[static_cast<std::size_t>(keep->Id)];
-  const auto index = static_cast<std::size_t>(keep->Index);
-  if (index < elements.size() && elements[index] == keep) elements[index] = nullptr;
+  // The caller's reference may be one of those erased below, and the last: by then only the place
+  // of the control is asked for.
+  const DesignControl* const gone = control.get();
+  const auto index = static_cast<std::size_t>(control->Index);
+  auto& elements = arrays_[static_cast<std::size_t>(control->Id)];
+  const auto is_gone = [gone](const ControlRef& c) { return c.get() == gone; };
+  std::erase_if(controls_, is_gone);
+  std::erase_if(draw_order_, is_gone);
+  if (index < elements.size() && is_gone(elements[index])) elements[index] = nullptr;
   while (elements.size() > 1 && !elements.back()) elements.pop_back();
-  if (ControlSel == keep) ControlSel = nullptr;
+  if (is_gone(ControlSel)) ControlSel = nullptr;
 }
 
 void DesignForm::UnloadAll(Kind kind) {

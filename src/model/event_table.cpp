@@ -26,7 +26,7 @@ std::array<const std::string*, kEventCount> EventCodeTable::Owner::Codes() const
   return codes;
 }
 
-EventCodeTable::Place EventCodeTable::PlaceOf(std::string_view key) noexcept {
+EventCodeTable::Place EventCodeTable::PositionOf(std::string_view key) noexcept {
   const std::size_t dot = key.rfind('.');
   if (dot != std::string_view::npos) {
     if (const std::optional<Event> event = EventOfName(key.substr(dot + 1))) {
@@ -91,7 +91,7 @@ const EventCodeTable::Owner* EventCodeTable::OwnerOf(std::string_view owner) con
 }
 
 const std::string* EventCodeTable::Find(std::string_view key) const noexcept {
-  const Place place = PlaceOf(key);
+  const Place place = PositionOf(key);
   const Owner* owner = OwnerOf(place.Owner);
   return owner == nullptr ? nullptr : owner->Find(static_cast<Event>(place.Slot));
 }
@@ -112,7 +112,7 @@ bool EventCodeTable::Add(Owner& owner, Event event, std::string value) {
 }
 
 bool EventCodeTable::Add(std::string_view key, std::string value) {
-  const Place place = PlaceOf(key);
+  const Place place = PositionOf(key);
   return Put(OwnerFor(place.Owner), place.Slot, std::move(value), false);
 }
 
@@ -121,7 +121,7 @@ bool EventCodeTable::Add(std::string_view owner, Event event, std::string value)
 }
 
 void EventCodeTable::Replace(std::string_view key, std::string value) {
-  const Place place = PlaceOf(key);
+  const Place place = PositionOf(key);
   Put(OwnerFor(place.Owner), place.Slot, std::move(value), true);
 }
 
@@ -130,7 +130,7 @@ void EventCodeTable::Replace(std::string_view owner, Event event, std::string va
 }
 
 bool EventCodeTable::Remove(std::string_view key) noexcept {
-  const Place place = PlaceOf(key);
+  const Place place = PositionOf(key);
   if (index_.empty()) return false;
   const std::uint32_t number = index_[SlotOf(HashOf(place.Owner), place.Owner)].Number;
   if (number == 0) return false;

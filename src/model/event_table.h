@@ -45,7 +45,7 @@ class EventCodeTable {
   [[nodiscard]] const Owner* OwnerOf(std::string_view owner) const noexcept;
   /// All entries under an owner's key, for adding several; the owner is made where it is missing.
   /// Stays valid until Clear.
-  Owner& OwnerFor(std::string_view owner);
+  Owner& OwnerFor(std::string_view key);
   /// Adds an entry of an owner of this table; false, and nothing changed, when it is there.
   bool Add(Owner& owner, Event event, std::string value);
   /// Adds an entry; false, and nothing changed, when the key is there already.
@@ -75,7 +75,7 @@ class EventCodeTable {
     std::string_view Owner;
     std::uint8_t Slot;
   };
-  [[nodiscard]] static Place PlaceOf(std::string_view key) noexcept;
+  [[nodiscard]] static Place PositionOf(std::string_view key) noexcept;
   [[nodiscard]] static std::uint32_t HashOf(std::string_view key) noexcept;
   [[nodiscard]] static std::string SuffixOf(std::uint8_t slot);
   bool Put(Owner& owner, std::uint8_t slot, std::string&& value, bool replace);

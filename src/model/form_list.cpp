@@ -24,7 +24,7 @@ void FormList::Add(std::string text, int form_number) {
   lines_.push_back({std::move(text), form_number});
 }
 
-int FormList::PlaceOf(int form_number) const noexcept {
+int FormList::PositionOf(int form_number) const noexcept {
   const auto line =
       std::lower_bound(lines_.begin(), lines_.end(), form_number,
                        [](const Line& l, int number) { return l.FormNumber < number; });
@@ -38,7 +38,7 @@ void FormList::Forget(std::string_view text) {
 }
 
 bool FormList::SetText(int form_number, std::string text) {
-  const int place = PlaceOf(form_number);
+  const int place = PositionOf(form_number);
   if (place < 0) return false;
   Line& line = lines_[static_cast<std::size_t>(place)];
   Forget(line.Text);
@@ -48,7 +48,7 @@ bool FormList::SetText(int form_number, std::string text) {
 }
 
 bool FormList::Remove(int form_number) {
-  const int place = PlaceOf(form_number);
+  const int place = PositionOf(form_number);
   if (place < 0) return false;
   Forget(lines_[static_cast<std::size_t>(place)].Text);
   lines_.erase(lines_.begin() + place);

@@ -33,7 +33,7 @@ class FormList {
   bool Remove(int form_number);
   void Clear() noexcept;
   /// Place of a form's line from 0, or -1.
-  [[nodiscard]] int PlaceOf(int form_number) const noexcept;
+  [[nodiscard]] int PositionOf(int form_number) const noexcept;
   /// True when some line equals the text without regard to case.
   [[nodiscard]] bool Holds(std::string_view text) const noexcept;
 

@@ -39,7 +39,7 @@ class RecordArray {
   [[nodiscard]] const T* At(int index) const noexcept {
     if (index < 0 || index > ubound_) return nullptr;
     const std::size_t number = static_cast<std::size_t>(index) / kChunk;
-    const std::size_t place = PlaceOf(number);
+    const std::size_t place = PositionOf(number);
     if (place == chunks_.size() || chunks_[place].Number != number) return nullptr;
     return &(*chunks_[place].Records)[static_cast<std::size_t>(index) % kChunk];
   }
@@ -48,7 +48,7 @@ class RecordArray {
   [[nodiscard]] T* At(int index) {
     if (index < 0 || index > ubound_) return nullptr;
     const std::size_t number = static_cast<std::size_t>(index) / kChunk;
-    const std::size_t place = PlaceOf(number);
+    const std::size_t place = PositionOf(number);
     if (place == chunks_.size() || chunks_[place].Number != number) {
       chunks_.insert(chunks_.begin() + static_cast<std::ptrdiff_t>(place),
                      Entry{number, std::make_unique<Chunk>()});
@@ -82,7 +82,7 @@ class RecordArray {
 
   /// Place of the first chunk whose number is not below this one. An array without gaps, as most
   /// are, needs no search.
-  [[nodiscard]] std::size_t PlaceOf(std::size_t number) const noexcept {
+  [[nodiscard]] std::size_t PositionOf(std::size_t number) const noexcept {
     if (number < chunks_.size() && chunks_[number].Number == number) return number;
     const auto place =
         std::lower_bound(chunks_.begin(), chunks_.end(), number,

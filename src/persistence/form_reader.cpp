@@ -26,7 +26,7 @@ void ReadPlace(std::string_view value, float& twips) {
   if (const auto read = ToSingle(Val(value) * kTwipsPerPixel)) twips = *read;
 }
 
-float* PlaceOf(DesignControl& control, Member member) {
+float* PositionOf(DesignControl& control, Member member) {
   switch (member) {
     case Member::Left:
       return &control.Left;
@@ -217,7 +217,7 @@ void FormReader::Take(Object& object, Tag tag, Special special) {
 }
 
 void FormReader::Take(Object& object, Tag tag, Member member) {
-  if (float* const place = PlaceOf(object.Control, member)) {
+  if (float* const place = PositionOf(object.Control, member)) {
     return ReadPlace(scanner_.Stored(tag), *place);
   }
   object.Control.SetFromText(member, scanner_.Value(tag));

@@ -203,7 +203,7 @@ const std::vector<SourceWord>& SourceWords() {
   return words;
 }
 
-Source SourceOf(std::string_view word) {
+Source SourceFor(std::string_view word) {
   for (const SourceWord& entry : SourceWords()) {
     if (entry.Word == word) return entry.Value;
   }
@@ -228,7 +228,7 @@ RecordLayout Parse(std::string_view text) {
     const std::size_t close = text.find('@', open + 1);
     LayoutField field;
     field.Before = text.substr(at, open - at);
-    field.Value = SourceOf(text.substr(open + 1, close - open - 1));
+    field.Value = SourceFor(text.substr(open + 1, close - open - 1));
     const auto* const special = std::get_if<Special>(&field.Value);
     const bool in_head =
         special != nullptr && (*special == Special::Number || *special == Special::Name);
@@ -240,7 +240,7 @@ RecordLayout Parse(std::string_view text) {
   return layout;
 }
 
-constexpr std::array kFaceOnly{InheritedMember{Member::BackColor, Tag::Color}};
+constexpr std::array kFaceColor{InheritedMember{Member::BackColor, Tag::Color}};
 constexpr std::array kLabelBorder{InheritedMember{Member::BorderStyle, Tag::Border},
                                   InheritedMember{Member::WordWrap, Tag::Icon}};
 constexpr std::array kComboInk{InheritedMember{Member::ForeColor, Tag::FontClr}};
@@ -269,7 +269,7 @@ std::span<const InheritedMember> InheritedMembersOf(Kind kind) noexcept {
     case Kind::Button:
     case Kind::OptionButton:
     case Kind::CheckBox:
-      return kFaceOnly;
+      return kFaceColor;
     case Kind::Label:
       return kLabelBorder;
     case Kind::RichTextBox:

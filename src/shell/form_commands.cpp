@@ -23,7 +23,7 @@ int FormCommands::CurrentNumber() const {
 }
 
 void FormCommands::MarkCurrentLine() {
-  state_.View.SelectFormLine(state_.Tables.ListaFrms.PlaceOf(CurrentNumber()));
+  state_.View.SelectFormLine(state_.Tables.ListaFrms.PositionOf(CurrentNumber()));
 }
 
 void FormCommands::Opened(int form) {
@@ -44,7 +44,7 @@ void FormCommands::AddNew() {
 void FormCommands::Remove() {
   ProjectTables& tables = state_.Tables;
   const int form = CurrentNumber();
-  const int place = tables.ListaFrms.PlaceOf(form);
+  const int place = tables.ListaFrms.PositionOf(form);
   if (place < 0) return;
   FormRec* record = tables.Form(form);
   if (!state_.Ports.Messages.AskYesNo("Delete " + record->Name + "?", kApplicationTitle,

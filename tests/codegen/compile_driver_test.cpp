@@ -103,7 +103,8 @@ TEST(CompileDriver, SubOfTheTransparentFrame) {
                    "Glass.TransparentColor = 16777215", "Glass.Transparency = 60", "Glass.Top = 2",
                    "Glass.Left = -3", "Glass.Width = 105", "Glass.Height = 106", "Glassy.Show",
                    "Do", "DoEvents", "Loop Until Glassy.Visible = 0", "End Sub"}));
-  EXPECT_LT(PlaceOf(lines, "End Sub"), PlaceOf(lines, "$Include \"C:\\Tarnwick\\Tarnwick1.lib\""));
+  EXPECT_LT(PositionOf(lines, "End Sub"),
+            PositionOf(lines, "$Include \"C:\\Tarnwick\\Tarnwick1.lib\""));
 }
 
 TEST(CompileDriver, ShowHintOfAFormWithATransparentFrameIsRewrittenToo) {

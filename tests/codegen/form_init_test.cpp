@@ -114,8 +114,8 @@ TEST(FormInit, ObjectsStandInTheOrderOfTheCollection) {
   form.Add(Kind::TextBox, "T2");
   EXPECT_EQ(Starting(Generate(project), "T1.Parent"), Lines{"T1.Parent = Form1"});
   const Lines lines = Generate(project);
-  EXPECT_LT(PlaceOf(lines, "T1.Parent = Form1"), PlaceOf(lines, "B1.Parent = Form1"));
-  EXPECT_LT(PlaceOf(lines, "B1.Parent = Form1"), PlaceOf(lines, "T2.Parent = Form1"));
+  EXPECT_LT(PositionOf(lines, "T1.Parent = Form1"), PositionOf(lines, "B1.Parent = Form1"));
+  EXPECT_LT(PositionOf(lines, "B1.Parent = Form1"), PositionOf(lines, "T2.Parent = Form1"));
 }
 
 TEST(FormInit, FileStreamAndHiddenObjectsArePassedOver) {
@@ -138,7 +138,7 @@ TEST(FormInit, TransparentFrameGivesABlankLineOnly) {
   form2.Add(Kind::TransparentFrame, "");
   const Lines lines = Generate(project);
   const Lines rest(
-      lines.begin() + static_cast<std::ptrdiff_t>(PlaceOf(lines, "Form2.WindowState = 0")),
+      lines.begin() + static_cast<std::ptrdiff_t>(PositionOf(lines, "Form2.WindowState = 0")),
       lines.end());
   EXPECT_EQ(rest, (Lines{"Form2.WindowState = 0", "", "", "", "", "Form1.ShowModal", ""}));
   static_cast<void>(form);
@@ -165,8 +165,8 @@ TEST(FormInit, MenuBarStandsWhereTheFirstTitleIsMetAndOnlyOnce) {
   form.Add(Kind::Label, "L2");
   const Lines lines = Generate(project);
   EXPECT_EQ(CountOf(lines, "MenuBar.Parent = Form1"), 1);
-  EXPECT_LT(PlaceOf(lines, "L1.Parent = Form1"), PlaceOf(lines, "MenuBar.Parent = Form1"));
-  EXPECT_LT(PlaceOf(lines, "MenuBar.Parent = Form1"), PlaceOf(lines, "L2.Parent = Form1"));
+  EXPECT_LT(PositionOf(lines, "L1.Parent = Form1"), PositionOf(lines, "MenuBar.Parent = Form1"));
+  EXPECT_LT(PositionOf(lines, "MenuBar.Parent = Form1"), PositionOf(lines, "L2.Parent = Form1"));
 }
 
 }  // namespace

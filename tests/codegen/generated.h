@@ -37,7 +37,7 @@ inline bool Has(const Lines& lines, std::string_view line) {
 }
 
 /// Place of the first such line, or the number of lines when there is none.
-inline std::size_t PlaceOf(const Lines& lines, std::string_view line) {
+inline std::size_t PositionOf(const Lines& lines, std::string_view line) {
   return static_cast<std::size_t>(std::find(lines.begin(), lines.end(), line) - lines.begin());
 }
 

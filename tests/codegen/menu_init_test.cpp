@@ -95,8 +95,8 @@ TEST(MenuInit, SecondFormRepeatsTheMenuAndLooksItsOwnCodeUp) {
   EXPECT_TRUE(Has(lines, "MenuBar.Parent = Form2"));
   EXPECT_EQ(CountOf(lines, "mnuA.AddItems mnuA1"), 2);
   EXPECT_EQ(CountOf(lines, "mnuA1.OnClick = mnuA1_OnClick"), 1);
-  EXPECT_LT(PlaceOf(lines, "MenuBar.Parent = Form2"),
-            PlaceOf(lines, "mnuA1.OnClick = mnuA1_OnClick"));
+  EXPECT_LT(PositionOf(lines, "MenuBar.Parent = Form2"),
+            PositionOf(lines, "mnuA1.OnClick = mnuA1_OnClick"));
 }
 
 TEST(MenuInit, BarWithoutTitlesHasAnEmptyList) {

@@ -20,7 +20,7 @@ TEST(Resources, TwoFormsWithDefaultIconsShareOneLine) {
   project.AddForm();
   const Lines lines = Generate(project);
   EXPECT_EQ(Resources(project), Lines{kDefaultIconLine});
-  EXPECT_LT(PlaceOf(lines, kDefaultIconLine), PlaceOf(lines, "Dim Form2 As QForm"));
+  EXPECT_LT(PositionOf(lines, kDefaultIconLine), PositionOf(lines, "Dim Form2 As QForm"));
 }
 
 TEST(Resources, DefaultIconIsDeclaredAnewInTheNextCompilation) {

@@ -157,7 +157,7 @@ TEST_F(FormUserPress, PlacingATransparentFrameTurnsItsToolAndCopyAndPasteOff) {
   EXPECT_EQ(ports.Log.Count("copy-paste on"), 1U) << "the release turns them on again";
 }
 
-TEST_F(FormUserPress, ASecondTransparentFrameCannotBeArmedOnceOneExists) {
+TEST_F(FormUserPress, ASecondTransparentFrameCannotBeArmedWhileOneExists) {
   EXPECT_TRUE(ToolFits(kTransparentFrameTool, &form));
   Place("TransparentFrame", 10, 10);
   EXPECT_FALSE(ToolFits(kTransparentFrameTool, &form));

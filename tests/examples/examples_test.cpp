@@ -178,7 +178,7 @@ TEST(OldExample, IsConvertedToAProjectOfOneForm) {
   ExpectSameText(*example.Files.Bytes(example.Folder + "notes.ftn"), kExpected / "notes.ftn");
 }
 
-TEST(OldExample, GeneratesTheExpectedSourceOnceConverted) {
+TEST(OldExample, GeneratesTheExpectedSourceWhenConverted) {
   Example example(kExamples / "old");
   ASSERT_TRUE(ConvertOldProject(example.Files, example.Folder + "notes.ptn"));
   example.Load("notes.tnp");

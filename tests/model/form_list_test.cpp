@@ -22,11 +22,11 @@ TEST(FormList, LinesStandInTheOrderOfTheirNumbers) {
   list.Add("A ()", 1);
   list.Add("B ()", 2);
   list.Add("C ()", 5);
-  EXPECT_EQ(list.PlaceOf(5), 2);
-  EXPECT_EQ(list.PlaceOf(3), -1);
+  EXPECT_EQ(list.PositionOf(5), 2);
+  EXPECT_EQ(list.PositionOf(3), -1);
   EXPECT_TRUE(list.Remove(2));
   EXPECT_FALSE(list.Remove(2));
-  EXPECT_EQ(list.PlaceOf(5), 1);
+  EXPECT_EQ(list.PositionOf(5), 1);
   EXPECT_EQ(list.Lines()[1].Text, "C ()");
 }
 

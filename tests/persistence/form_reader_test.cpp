@@ -370,7 +370,7 @@ TEST(FormReader, AFramesValuesGoToTheFormAndItsControlStandsWhereTheySay) {
   EXPECT_EQ(frame.ToolTipText, "t");
 }
 
-TEST(FormReader, SmallKindsTakeTheirPlaceOnly) {
+TEST(FormReader, SmallKindsTakeOnlyTheirPlace) {
   FakeProject project;
   project.Load(
       WithForm("[Button](1) {B} Width<99>Width Height<98>Height\r\n"

@@ -120,7 +120,7 @@ TEST_P(EveryKind, IsSelectedByAPressAndStaysWhereItIs) {
 INSTANTIATE_TEST_SUITE_P(Placing, EveryKind, testing::ValuesIn(PlacedKinds()),
                          [](const auto& test) { return std::string(InfoOf(test.param.Id).Name); });
 
-TEST(Placing, TwoPressesAfterOneToolPlaceOneObject) {
+TEST(Placing, OneToolPlacesOneObjectWhateverThePresses) {
   Program program;
   program.Place(0, {20, 20});
   program.Click(program.Surface(), {200, 200});

@@ -45,7 +45,7 @@ void RandomUser::Act() {
     case 2:
     case 3:
     case 4:
-      return PlaceObject();
+      return PutObject();
     case 5:
     case 6:
       return PressObject();
@@ -73,7 +73,7 @@ void RandomUser::Act() {
   }
 }
 
-void RandomUser::PlaceObject() {
+void RandomUser::PutObject() {
   if (Objects().size() >= kMostObjects) return;
   const auto tools = AllTools();
   const ToolInfo& tool = tools[static_cast<std::size_t>(Below(static_cast<int>(tools.size())))];
@@ -319,7 +319,8 @@ std::string RandomUser::Fault() const {
     if (std::string fault = FaultOfForm(line.FormNumber); !fault.empty()) return fault;
   }
   for (int form = 1; form <= tables.FormsCount; ++form) {
-    if (tables.IsLive(form) != (tables.ListaFrms.PlaceOf(form) >= 0)) return "form without a line";
+    if (tables.IsLive(form) != (tables.ListaFrms.PositionOf(form) >= 0))
+      return "form without a line";
   }
   if ((tables.CurrentForm == nullptr) != tables.ListaFrms.Empty()) return "no current form";
   const DesignForm* form = tables.CurrentForm;

@@ -49,7 +49,7 @@ class RandomUser {
   [[nodiscard]] std::vector<ControlRef> Objects();
   [[nodiscard]] DesignForm* Form() { return main_.Tables().CurrentForm; }
 
-  void PlaceObject();
+  void PutObject();
   void PressObject();
   void DragObject();
   void PressKey();

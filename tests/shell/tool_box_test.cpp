@@ -51,7 +51,7 @@ TEST_F(ToolBoxTest, TheArmedToolStaysDownUntilTheObjectIsPlaced) {
   EXPECT_TRUE(form().HasObjects(Kind::Label));
 }
 
-TEST_F(ToolBoxTest, TwoPressesAfterOneToolPlaceOneObject) {
+TEST_F(ToolBoxTest, OneToolPlacesOneObjectWhateverThePresses) {
   Place(3, 10, 10);
   surface().Form_MouseDown(kLeftButton, 0, Twips(200), Twips(200));
   surface().MouseUp();

@@ -126,7 +126,7 @@ std::map<std::string, long> NumbersOf(std::string_view kind, std::string_view pr
   return numbers;
 }
 
-TEST(GridFile, ThePlaceOfAValueIsTheNumberOfTheLanguage) {
+TEST(GridFile, AValuesPlaceIsTheNumberOfTheLanguage) {
   std::size_t lists = 0;
   for (const std::string& kind : kKinds) {
     for (const ReadRow& row : GridOf(kind)) {
