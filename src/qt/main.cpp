@@ -1,5 +1,6 @@
 // The desktop program.
 #include <QApplication>
+#include <QFileInfo>
 
 #include "platform/native_files.h"
 #include "platform/native_process.h"
@@ -13,6 +14,7 @@
 #include "qt/theme.h"
 #include "shell/mdi_form.h"
 #include "shell/program_setup.h"
+#include "text/path_text.h"
 
 int main(int argc, char** argv) {
   using namespace tarnwick;
@@ -39,6 +41,10 @@ int main(int argc, char** argv) {
   SideWindowsView side_windows(window);
   MDIForm1 shell(ports, view, side_windows, view, folder);
   view.Attach(shell);
+  if (const QStringList words = QApplication::arguments(); words.size() > 1) {
+    const QString path = QFileInfo(words[1]).absoluteFilePath();
+    view.OpenAfterStart(PathFromNative(path.toStdString()));
+  }
   side_windows.Attach(shell);
   window.show();
   shell.Load();

@@ -40,7 +40,9 @@ MainView::MainView(MainWindow& window)
   time_.setObjectName(QStringLiteral("Time"));
   time_.setInterval(1);
   QObject::connect(&time_, &QTimer::timeout, &window_, [this] {
-    if (shell_ != nullptr) shell_->Time_Timer();
+    if (shell_ == nullptr) return;
+    shell_->Time_Timer();
+    if (!start_project_.empty()) shell_->OpenNamed(std::exchange(start_project_, {}));
   });
   refresh_.setSingleShot(true);
   refresh_.setInterval(0);

@@ -3,6 +3,8 @@
 
 #include <QTimer>
 #include <memory>
+#include <string>
+#include <utility>
 
 #include "model/project_observer.h"
 #include "qt/design_surface.h"
@@ -22,6 +24,8 @@ class MainView final : public ShellView, public ProjectObserver {
   ~MainView() override;
 
   void Attach(MDIForm1& shell);
+  /// A project to open as soon as the start is through.
+  void OpenAfterStart(std::string path) { start_project_ = std::move(path); }
 
   // ShellView
   void SetApplicationTitle(std::string_view title) override;
@@ -77,6 +81,7 @@ class MainView final : public ShellView, public ProjectObserver {
 
   MainWindow& window_;
   MDIForm1* shell_ = nullptr;
+  std::string start_project_;
   QTimer time_;
   QTimer refresh_;
   std::unique_ptr<LogoWindow> logo_;

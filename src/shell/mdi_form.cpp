@@ -83,6 +83,13 @@ void MDIForm1::Time_Timer() {
   rooms_->Start.Time_Timer();
 }
 
+void MDIForm1::OpenNamed(const std::string& path) {
+  if (rooms_->Busy || !rooms_->Start.Done()) return;
+  rooms_->Busy = true;
+  rooms_->Project.OpenNamed(path);
+  rooms_->Busy = false;
+}
+
 bool MDIForm1::Close() {
   if (rooms_->Closed) return true;
   // A close request in the midst of a command, or of the start, waits for its end.

@@ -45,6 +45,9 @@ class MDIForm1 {
   void Load();
   /// The first tick of `Time` does the long initialisation behind the logo window.
   void Time_Timer();
+  /// Opens the project that the desktop started the program with; nothing before the start is
+  /// through, or when the file cannot be read.
+  void OpenNamed(const std::string& path);
   /// A close request: asks about saving, then unloads every window. False: the window stays.
   [[nodiscard]] bool Close();
 

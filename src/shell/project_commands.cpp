@@ -44,33 +44,42 @@ std::optional<std::string> ProjectCommands::ChooseProject(bool old_version) {
     request.Title = "Open Old Version";
     request.Filter = "Tarnwick Project (Old Version)|*.ptn|All Files|*.*";
   }
-  const std::optional<std::string> chosen = state_.Ports.Dialogs.OpenFile(request);
+  std::optional<std::string> chosen = state_.Ports.Dialogs.OpenFile(request);
   if (!chosen || chosen->empty()) return std::nullopt;
+  return ReadableProject(*std::move(chosen), old_version);
+}
+
+std::optional<std::string> ProjectCommands::ReadableProject(std::string path, bool old_version) {
   // The open project goes only when another one is there to take its place.
-  std::optional<std::string> path;
-  if (old_version) {
-    path = ConvertOldProject(state_.Ports.Files, *chosen);
-  } else if (state_.Ports.Files.Read(*chosen)) {
-    path = *chosen;
-  }
+  if (old_version) return ConvertOldProject(state_.Ports.Files, path);
+  if (!state_.Ports.Files.Read(path)) return std::nullopt;
   return path;
 }
 
 void ProjectCommands::Open(bool old_version) {
-  ProjectTables& tables = state_.Tables;
-  tables.LoadingProject = 1;
-  std::optional<std::string> path = ChooseProject(old_version);
-  if (!path) {
-    tables.LoadingProject = 0;
-    return;
+  state_.Tables.LoadingProject = 1;
+  if (std::optional<std::string> path = ChooseProject(old_version)) Take(*std::move(path));
+  state_.Tables.LoadingProject = 0;
+}
+
+void ProjectCommands::OpenNamed(const std::string& path) {
+  state_.Tables.LoadingProject = 1;
+  const bool old_version = Lower(path).ends_with(".ptn");
+  if (std::optional<std::string> found = ReadableProject(path, old_version)) {
+    Take(*std::move(found));
   }
+  state_.Tables.LoadingProject = 0;
+}
+
+void ProjectCommands::Take(std::string path) {
+  ProjectTables& tables = state_.Tables;
   state_.Windows.CloseCode();
   tables.AccionProject = "open";
   state_.EnableCommands(false);
   tables.JumpKey.clear();
   forms_.HideContainer();
   forms_.CloseAll();
-  SetProjectFile(tables, *std::move(path));
+  SetProjectFile(tables, std::move(path));
   state_.View.SetTitle(TitleOfOpened(tables.ProjectFile));
   state_.Settings.Write(kProjectFolder, FolderOf(tables.ProjectFile));
   LoadProject(context_, tables.ProjectFile);
@@ -79,7 +88,6 @@ void ProjectCommands::Open(bool old_version) {
   forms_.BringUp(forms_.FirstForm());
   state_.ShowPanel(Panel::EventsBar, true);
   ShowIcon();
-  tables.LoadingProject = 0;
   state_.EnableCommands(true);
 }
 

@@ -22,6 +22,9 @@ class ProjectCommands {
   /// Opens a project, or with `old_version` one of the former version, converted beside it. When
   /// the dialog is cancelled, or the file cannot be read, everything stays as it is.
   void Open(bool old_version);
+  /// Opens the project in a file that the desktop names, without a dialog; a ".ptn" is converted
+  /// first. A file that cannot be read leaves everything as it is.
+  void OpenNamed(const std::string& path);
   /// True when the project was saved whole; false when a dialog was cancelled or a file could not
   /// be written.
   bool Save();
@@ -43,6 +46,9 @@ class ProjectCommands {
   void WriteForm(int form);
   [[nodiscard]] bool AskFormFile(int form);
   [[nodiscard]] std::optional<std::string> ChooseProject(bool old_version);
+  /// The project's path when it can be read, converted where it is an old one.
+  [[nodiscard]] std::optional<std::string> ReadableProject(std::string path, bool old_version);
+  void Take(std::string path);
 
   ShellState& state_;
   ProjectContext& context_;

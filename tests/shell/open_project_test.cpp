@@ -125,6 +125,24 @@ TEST_F(OpenProjectTest, TheIconDisplayShowsTheIconOfFormOne) {
   EXPECT_EQ(view.IconPicture, "Z:\\q\\my.ico");
 }
 
+TEST_F(OpenProjectTest, AProjectThatTheDesktopNamesOpensWithoutADialog) {
+  SaveTwoForms();
+  main.OpenNamed("Z:\\p\\two.tnp");
+  EXPECT_EQ(log().Count("dialog"), 0U);
+  EXPECT_EQ(tables().ProjectFile, "Z:\\p\\two.tnp");
+  EXPECT_EQ(tables().AccionProject, "open");
+  EXPECT_EQ(tables().LoadingProject, 0);
+  EXPECT_EQ(Lines(), (std::vector<std::string>{"Form1 (one.ftn)", "Form2 (second.ftn)"}));
+  EXPECT_TRUE(main.State(Command::Save).Enabled);
+}
+
+TEST_F(OpenProjectTest, AFileThatTheDesktopNamesInVainLeavesEverythingAsItWas) {
+  main.OpenNamed("Z:\\p\\none.tnp");
+  EXPECT_EQ(tables().AccionProject, "app");
+  EXPECT_EQ(tables().LoadingProject, 0);
+  EXPECT_EQ(log().Count("told closing"), 0U);
+}
+
 class OpenOldTest : public OpenProjectTest {
  protected:
   static constexpr std::string_view kOld =
