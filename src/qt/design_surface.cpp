@@ -118,7 +118,7 @@ void DesignSurface::UpdateBand(const QRect& band) {
 }
 
 void DesignSurface::TakeFocus() {
-  setFocus();
+  if (!doors_.FocusIsKept || !doors_.FocusIsKept()) setFocus();
 }
 
 void DesignSurface::paintEvent(QPaintEvent* event) {

@@ -22,6 +22,7 @@ struct DesignWindowDoors {
   std::function<void(QPoint)> PointerMoved;  ///< place in pixels of the form
   std::function<void()> Escape;              ///< back to the arrow
   std::function<void()> Resized;             ///< the form has taken a new size from its window
+  std::function<bool()> FocusIsKept;         ///< a value is just being typed elsewhere
 };
 
 /// Paints the form and forwards presses, moves, releases, double clicks and keys. It is the

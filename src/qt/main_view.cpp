@@ -236,6 +236,7 @@ DesignWindowDoors MainView::DoorsOf(int form) {
   doors.Resized = [this] {
     if (shell_ != nullptr) shell_->RefreshStatus();
   };
+  doors.FocusIsKept = [this] { return window_.Properties().KeepsFocus(); };
   return doors;
 }
 

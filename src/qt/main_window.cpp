@@ -24,8 +24,8 @@ namespace {
 
 constexpr int kToolColumns = 2;
 constexpr int kRightWidth = 290;
-constexpr int kPropertiesHeight = 520;
-constexpr int kFormsHeight = 200;
+constexpr int kPropertiesHeight = 590;
+constexpr int kFormsHeight = 130;
 
 }  // namespace
 
@@ -35,7 +35,7 @@ MainWindow::MainWindow(FilePort& files)
       container_(new Container(pictures_, texts_, this)),
       tools_(new ToolBoxPanel(QStringLiteral("BtnObjet"), kToolColumns, this)),
       form_list_(new FormListPanel(*actions_, this)),
-      properties_(new PropertyPanel(this)),
+      properties_(new PropertyPanel(pictures_, this)),
       icon_(new IconDisplay(pictures_, this)),
       object_bar_(new ObjectBar(this)),
       events_bar_(new EventsBarWindow(*container_, this)),
@@ -110,6 +110,11 @@ void MainWindow::Attach(MDIForm1& shell) {
   events_bar_->Attach(shell);
   form_list_->Attach(shell);
   properties_->Attach(shell);
+  connect(properties_, &PropertyPanel::Left, this, [this] {
+    const DesignForm* current = shell_->Tables().CurrentForm;
+    DesignWindow* form = current != nullptr ? container_->Window(current->Number()) : nullptr;
+    if (form != nullptr) form->Surface().setFocus();
+  });
 }
 
 void MainWindow::RefreshCommands() {

@@ -1,63 +1,54 @@
 #include "qt/property_panel.h"
 
 #include <QComboBox>
-#include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QPlainTextEdit>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
+#include <QSplitter>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include "inspector/property_sheet.h"
+#include "inspector/row_help.h"
 #include "qt/icon_set.h"
 #include "qt/panel_frame.h"
-#include "qt/property_row_view.h"
+#include "qt/property_grid.h"
 #include "qt/text_bridge.h"
 #include "qt/theme.h"
 #include "shell/mdi_form.h"
+#include "text/strings.h"
 
 namespace tarnwick {
 
 namespace {
 
-constexpr int kButton = 22;
-constexpr int kButtonIcon = 14;
-constexpr int kMostListRows = 12;
-
-bool IsColor(int mark) {
-  return mark == row_mark::kColor || mark == row_mark::kColorToo;
-}
-
-QToolButton* MakeButton(const char* name, const char* icon, const char* tip, QWidget* parent) {
-  auto* button = new QToolButton(parent);
-  button->setObjectName(QString::fromLatin1(name));
-  button->setIcon(IconOf(QString::fromLatin1(icon)));
-  button->setIconSize(QSize(kButtonIcon, kButtonIcon));
-  button->setToolTip(QString::fromLatin1(tip));
-  button->setAutoRaise(true);
-  button->hide();
-  return button;
-}
+constexpr int kCloseIcon = 14;
+constexpr int kHelpHeight = 92;
+constexpr int kGridHeight = 400;
 
 }  // namespace
 
-PropertyPanel::PropertyPanel(QWidget* parent)
+PropertyPanel::PropertyPanel(PictureCache& pictures, QWidget* parent)
     : QWidget(parent),
       combo_(new QComboBox),
       filter_(new QLineEdit),
       scroll_(new QScrollArea),
-      grid_(new QWidget),
-      boton1_(MakeButton("Boton1", "choose", "Choose...", grid_)),
-      boton2_(MakeButton("Boton2", "drop", "List", grid_)),
-      boton3_(MakeButton("Boton3", "reset", "Reset", grid_)),
-      list_(new QListWidget(this)) {
+      grid_(new PropertyGrid(pictures, scroll_)),
+      help_name_(new QLabel),
+      help_(new QPlainTextEdit) {
   BuildHead();
   BuildGrid();
-  BuildList();
+  auto* go = new QShortcut(QKeySequence(Qt::Key_F4), window());
+  connect(go, &QShortcut::activated, this, [this] {
+    if (shell_ == nullptr) return;
+    if (!sheet_->PanelVisible()) shell_->SetPanelShown(Panel::Properties, true);
+    grid_->FocusRow();
+  });
 }
 
 PropertyPanel::~PropertyPanel() {
@@ -70,7 +61,7 @@ void PropertyPanel::BuildHead() {
   auto* close = new QToolButton(frame);
   close->setObjectName(QStringLiteral("btnClose"));
   close->setIcon(IconOf(QStringLiteral("close")));
-  close->setIconSize(QSize(kButtonIcon, kButtonIcon));
+  close->setIconSize(QSize(kCloseIcon, kCloseIcon));
   close->setToolTip(QStringLiteral("Close"));
   close->setAutoRaise(true);
   close->setFocusPolicy(Qt::NoFocus);
@@ -80,6 +71,7 @@ void PropertyPanel::BuildHead() {
   });
   combo_->setObjectName(QStringLiteral("Combo"));
   combo_->setToolTip(QStringLiteral("Objects of the form"));
+  combo_->setAccessibleName(combo_->toolTip());
   combo_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   combo_->setMinimumContentsLength(8);
   connect(combo_, &QComboBox::activated, this, [this](int place) {
@@ -88,14 +80,31 @@ void PropertyPanel::BuildHead() {
   filter_->setObjectName(QStringLiteral("RowFilter"));
   filter_->setPlaceholderText(QStringLiteral("Filter rows"));
   filter_->setToolTip(QStringLiteral("Show only rows whose name holds this text"));
+  filter_->setAccessibleName(QStringLiteral("Filter rows"));
   filter_->setClearButtonEnabled(true);
   filter_->addAction(IconOf(QStringLiteral("search")), QLineEdit::LeadingPosition);
+  filter_->installEventFilter(this);
   connect(filter_, &QLineEdit::textChanged, this, [this](const QString& text) {
     if (sheet_ != nullptr) sheet_->SetFilter(FromQString(text));
   });
+
+  auto* help = new QWidget;
+  auto* help_column = new QVBoxLayout(help);
+  help_column->setContentsMargins(0, kGap, 0, 0);
+  help_column->setSpacing(0);
+  help_column->addWidget(help_name_);
+  help_column->addWidget(help_);
+  auto* parts = new QSplitter(Qt::Vertical);
+  parts->setObjectName(QStringLiteral("GridAndHelp"));
+  parts->setHandleWidth(kGap);
+  parts->addWidget(scroll_);
+  parts->addWidget(help);
+  parts->setStretchFactor(0, 1);
+  parts->setSizes({kGridHeight, kHelpHeight});
+
   frame->Body().addWidget(combo_);
   frame->Body().addWidget(filter_);
-  frame->Body().addWidget(scroll_, 1);
+  frame->Body().addWidget(parts, 1);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(frame);
@@ -104,233 +113,135 @@ void PropertyPanel::BuildHead() {
 void PropertyPanel::BuildGrid() {
   scroll_->setObjectName(QStringLiteral("PropertyGrid"));
   scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setFocusPolicy(Qt::NoFocus);
   scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroll_->verticalScrollBar()->setObjectName(QStringLiteral("VScroll1"));
   scroll_->setWidgetResizable(true);
-  grid_->setObjectName(QStringLiteral("GridRows"));
   grid_->setBackgroundRole(QPalette::Base);
-  auto* column = new QVBoxLayout(grid_);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(0);
-  column->addStretch();
   scroll_->setWidget(grid_);
-  const auto pick = [this] {
-    if (sheet_ != nullptr) sheet_->PickValue();
-  };
-  connect(boton1_, &QToolButton::clicked, this, pick);
-  connect(boton2_, &QToolButton::clicked, this, pick);
-  connect(boton3_, &QToolButton::clicked, this, [this] {
-    if (sheet_ != nullptr) sheet_->ResetValue();
+  connect(grid_, &PropertyGrid::RowEntered, this, [this](const QWidget& row) {
+    scroll_->ensureVisible(0, row.y() + row.height() / 2, 0, row.height());
   });
-}
+  connect(grid_, &PropertyGrid::Left, this, &PropertyPanel::Left);
 
-void PropertyPanel::BuildList() {
-  list_->setObjectName(QStringLiteral("ListBox"));
-  list_->setWindowFlags(Qt::Popup);
-  list_->installEventFilter(this);
-  list_->hide();
-  connect(list_, &QListWidget::itemClicked, this,
-          [this](QListWidgetItem* item) { ChooseListRow(list_->row(item)); });
+  help_name_->setObjectName(QStringLiteral("RowHelpName"));
+  help_name_->setProperty("heading", true);
+  help_name_->setTextFormat(Qt::PlainText);
+  help_->setObjectName(QStringLiteral("RowHelp"));
+  help_->setAccessibleName(QStringLiteral("What the row is for"));
+  help_->setReadOnly(true);
+  help_->setFrameShape(QFrame::NoFrame);
+  help_->setFocusPolicy(Qt::ClickFocus);
+  help_->document()->setDocumentMargin(0);
 }
 
 void PropertyPanel::Attach(MDIForm1& shell) {
   shell_ = &shell;
   sheet_ = &shell.Sheet();
+  grid_->Attach(shell);
   sheet_->SetView(this);
   ComboChanged();
   RowsChanged();
 }
 
 void PropertyPanel::Commit() {
-  for (PropertyRowView* row : rows_) {
-    if (!row->Field().hasFocus() || sheet_ == nullptr || row->Row() != sheet_->RowIndex()) continue;
-    sheet_->ApplyText(FromQString(row->Field().text()));
-  }
+  grid_->Commit();
+}
+
+bool PropertyPanel::KeepsFocus() const {
+  return grid_->IsApplying();
 }
 
 void PropertyPanel::RowsChanged() {
-  if (sheet_ == nullptr) return;
-  auto* column = static_cast<QVBoxLayout*>(grid_->layout());
-  const int count = sheet_->RowCount();
-  for (int row = static_cast<int>(rows_.size()); row < count; ++row) {
-    auto* view = new PropertyRowView(row, grid_);
-    view->Field().installEventFilter(this);
-    connect(&view->Field(), &QLineEdit::textEdited, this, [this, row](const QString& text) {
-      SelectRow(row);
-      if (sheet_ != nullptr) sheet_->ApplyText(FromQString(text));
-    });
-    column->insertWidget(row, view);
-    rows_.push_back(view);
-  }
-  for (PropertyRowView* view : rows_) view->hide();
-  for (const int row : sheet_->ShownRows()) {
-    if (row < static_cast<int>(rows_.size())) rows_[static_cast<std::size_t>(row)]->show();
-  }
-  for (int row = 0; row < count; ++row) FillRow(row);
-  RowSelected();
-}
-
-void PropertyPanel::FillRow(int row) {
-  if (row < 0 || row >= static_cast<int>(rows_.size())) return;
-  PropertyRowView* view = rows_[static_cast<std::size_t>(row)];
-  view->SetName(sheet_->Label(row));
-  view->SetValue(sheet_->Text(row), IsColor(sheet_->RowMark(row)), sheet_->TakesTyping(row));
+  grid_->ShowRows();
+  ShowHelp();
 }
 
 void PropertyPanel::RowTextChanged(int row) {
-  if (sheet_ != nullptr) FillRow(row);
+  grid_->ShowRow(row);
 }
 
 void PropertyPanel::RowSelected() {
-  if (sheet_ == nullptr) return;
-  for (PropertyRowView* view : rows_) {
-    const bool selected = sheet_->HasSelectedRow() && view->Row() == sheet_->RowIndex();
-    view->SetSelected(selected);
-    if (!selected) view->SetButtonRoom(0);
-  }
-  PlaceButtons();
-}
-
-void PropertyPanel::PlaceButtons() {
-  const int row = sheet_->RowIndex();
-  const bool shown = sheet_->HasSelectedRow() && row >= 0 && row < static_cast<int>(rows_.size());
-  boton1_->setVisible(shown && sheet_->Boton1Shown());
-  boton2_->setVisible(shown && sheet_->Boton2Shown());
-  boton3_->setVisible(shown && sheet_->Boton3Shown());
-  if (!shown) return;
-  const bool color = IsColor(sheet_->RowMark(row));
-  boton2_->setIcon(IconOf(color ? QStringLiteral("colour") : QStringLiteral("drop")));
-  boton2_->setToolTip(color ? QStringLiteral("Colour...") : QStringLiteral("List"));
-  PropertyRowView* view = rows_[static_cast<std::size_t>(row)];
-  int room = 0;
-  for (QToolButton* button : {boton3_, boton2_, boton1_}) {
-    if (button->isHidden()) continue;
-    button->setParent(view);
-    button->setGeometry(view->width() - room - kButton - 1, (view->height() - kButton) / 2, kButton,
-                        kButton);
-    button->show();
-    button->raise();
-    room += kButton + 1;
-  }
-  view->SetButtonRoom(room);
-}
-
-void PropertyPanel::SelectRow(int row) {
-  if (sheet_ == nullptr || filling_) return;
-  if (sheet_->HasSelectedRow() && sheet_->RowIndex() == row) return;
-  filling_ = true;
-  sheet_->SelectRow(row);
-  filling_ = false;
-  scroll_->ensureWidgetVisible(rows_[static_cast<std::size_t>(row)], 0, 0);
+  grid_->ShowSelection();
+  ShowHelp();
 }
 
 void PropertyPanel::ListOpened(bool is_open) {
+  grid_->ShowList(is_open);
+}
+
+void PropertyPanel::ShowHelp() {
   if (sheet_ == nullptr) return;
-  if (!is_open) {
-    list_->hide();
-    return;
+  QString name;
+  QString text;
+  if (sheet_->HasSelectedRow()) {
+    const std::string_view row = sheet_->Label(sheet_->RowIndex());
+    name = ToQString(row);
+    text = ToQString(RowHelp(shell_->Support(), sheet_->SelKind(), row));
   }
-  const QSignalBlocker quiet(list_);
-  list_->clear();
-  for (const std::string& text : sheet_->ListRows()) list_->addItem(ToQString(text));
-  list_->setCurrentRow(sheet_->ListMarked());
-  const auto row = static_cast<std::size_t>(sheet_->RowIndex());
-  if (row >= rows_.size() || list_->count() == 0) return;
-  QWidget& field = rows_[row]->Field();
-  const int height = list_->sizeHintForRow(0) * qMin(list_->count(), kMostListRows) + 6;
-  const int width = rows_[row]->width() - field.x();
-  list_->setGeometry(QRect(field.mapToGlobal(QPoint(0, field.height())), QSize(width, height)));
-  list_->show();
-  list_->setFocus();
+  if (help_name_->text() != name) help_name_->setText(name);
+  if (help_->toPlainText() != text) help_->setPlainText(text);
 }
 
-void PropertyPanel::ChooseListRow(int place) {
-  if (sheet_ == nullptr || place < 0 || place >= list_->count()) return;
-  list_->hide();
-  sheet_->ApplyChoice(FromQString(list_->item(place)->text()), place);
-}
-
+/// Brings the list to the rows of the sheet. Mostly one row is new at the end or one has gone, so
+/// what is the same at the head stays.
 void PropertyPanel::ComboChanged() {
   if (sheet_ == nullptr) return;
   const QSignalBlocker quiet(combo_);
   const auto& rows = sheet_->Combo().Rows();
-  const bool same = combo_->count() == static_cast<int>(rows.size());
-  if (!same) combo_->clear();
-  for (int i = 0; i < static_cast<int>(rows.size()); ++i) {
-    const QString text = ToQString(rows[static_cast<std::size_t>(i)].Text);
-    if (!same) {
+  const int count = static_cast<int>(rows.size());
+  const auto text_of = [&rows](int row) {
+    return ToQString(rows[static_cast<std::size_t>(row)].Text);
+  };
+  int same = 0;
+  while (same < count && same < combo_->count() && combo_->itemText(same) == text_of(same)) ++same;
+  if (same == 0) combo_->clear();
+  if (combo_->count() == count + 1) combo_->removeItem(same);
+  while (combo_->count() > count) combo_->removeItem(combo_->count() - 1);
+  for (int row = same; row < count; ++row) {
+    const QString text = text_of(row);
+    if (row >= combo_->count()) {
       combo_->addItem(text);
-    } else if (combo_->itemText(i) != text) {
-      combo_->setItemText(i, text);
+    } else if (combo_->itemText(row) != text) {
+      combo_->setItemText(row, text);
     }
   }
   combo_->setCurrentIndex(sheet_->Combo().Selected());
 }
 
+void PropertyPanel::ComboRowTextChanged(int row) {
+  const auto& rows = sheet_->Combo().Rows();
+  if (row < 0 || row >= static_cast<int>(rows.size()) || row >= combo_->count()) return;
+  const QSignalBlocker quiet(combo_);
+  combo_->setItemText(row, ToQString(rows[static_cast<std::size_t>(row)].Text));
+}
+
+void PropertyPanel::ComboRowSelected(int row) {
+  const QSignalBlocker quiet(combo_);
+  combo_->setCurrentIndex(row);
+}
+
+/// In the filter Down and Enter go on to the rows, Esc empties it and then leaves the panel.
 bool PropertyPanel::eventFilter(QObject* object, QEvent* event) {
-  if (object == list_) {
-    if (event->type() == QEvent::Hide && sheet_ != nullptr && sheet_->ListOpen()) {
-      sheet_->CloseList();
-    }
-    if (event->type() == QEvent::KeyPress) {
-      const int key = static_cast<QKeyEvent*>(event)->key();
-      if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-        ChooseListRow(list_->currentRow());
-        return true;
-      }
-    }
+  if (object != filter_ || event->type() != QEvent::KeyPress) {
     return QWidget::eventFilter(object, event);
   }
-  auto* view = qobject_cast<PropertyRowView*>(object->parent());
-  if (view == nullptr || sheet_ == nullptr) return QWidget::eventFilter(object, event);
-  switch (event->type()) {
-    case QEvent::FocusIn:
-      SelectRow(view->Row());
-      break;
-    case QEvent::FocusOut:
-      if (view->Row() == sheet_->RowIndex()) sheet_->ApplyText(FromQString(view->Field().text()));
-      break;
-    case QEvent::ShortcutOverride: {
-      // These keys are the cell's, also where it takes no typing: the menu would otherwise delete
-      // or paste objects while the user works in the grid.
-      auto* key = static_cast<QKeyEvent*>(event);
-      if (key->matches(QKeySequence::Delete) || key->matches(QKeySequence::Copy) ||
-          key->matches(QKeySequence::Cut) || key->matches(QKeySequence::Paste)) {
-        key->accept();
-        return true;
-      }
-      break;
-    }
-    case QEvent::MouseButtonDblClick:
-      if (!sheet_->TakesTyping(view->Row()) || sheet_->Boton2Shown()) {
-        sheet_->PickValue();
-        return true;
-      }
-      break;
-    case QEvent::KeyPress: {
-      const int key = static_cast<QKeyEvent*>(event)->key();
-      const bool down = key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter;
-      if (!down && key != Qt::Key_Up) break;
-      const bool opens = static_cast<QKeyEvent*>(event)->modifiers().testFlag(Qt::AltModifier);
-      if (down && opens && sheet_->Boton2Shown()) {
-        sheet_->PickValue();
-        return true;
-      }
-      const auto& shown = sheet_->ShownRows();
-      const auto here = std::find(shown.begin(), shown.end(), view->Row());
-      if (here == shown.end()) break;
-      const auto next = down ? std::next(here) : (here == shown.begin() ? here : std::prev(here));
-      if (next != shown.end()) {
-        QLineEdit& field = rows_[static_cast<std::size_t>(*next)]->Field();
-        field.setFocus();
-        field.selectAll();
+  switch (static_cast<QKeyEvent*>(event)->key()) {
+    case Qt::Key_Down:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      grid_->FocusRow();
+      return true;
+    case Qt::Key_Escape:
+      if (filter_->text().isEmpty()) {
+        Q_EMIT Left();
+      } else {
+        filter_->clear();
       }
       return true;
-    }
     default:
-      break;
+      return QWidget::eventFilter(object, event);
   }
-  return QWidget::eventFilter(object, event);
 }
 
 }  // namespace tarnwick

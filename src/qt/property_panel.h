@@ -1,40 +1,49 @@
-// The property panel: head strip, list of objects, and the grid.
+// The property panel: head strip, list of objects, filter, grid, and what a row is for.
 #pragma once
 
 #include <QWidget>
-#include <vector>
 
 #include "inspector/inspector_host.h"
 
 class QComboBox;
+class QLabel;
 class QLineEdit;
-class QListWidget;
+class QPlainTextEdit;
 class QScrollArea;
-class QToolButton;
 
 namespace tarnwick {
 
 class MDIForm1;
-class PropertyRowView;
+class PictureCache;
+class PropertyGrid;
 class PropertySheet;
 
-/// View of `PropertySheet`: paints its rows and forwards what the user does in them.
+/// View of `PropertySheet`. F4 anywhere in the main window goes to the grid.
 class PropertyPanel final : public QWidget, public PropertySheetView {
   Q_OBJECT
 
  public:
-  explicit PropertyPanel(QWidget* parent);
+  PropertyPanel(PictureCache& pictures, QWidget* parent);
   ~PropertyPanel() override;
 
   void Attach(MDIForm1& shell);
   /// Takes a half-typed value into the tables.
   void Commit();
+  /// True while a keystroke in the grid is being applied: a window that takes the focus for itself
+  /// would take it from the cell being typed in.
+  [[nodiscard]] bool KeepsFocus() const;
 
   void RowsChanged() override;
   void RowTextChanged(int row) override;
   void RowSelected() override;
   void ListOpened(bool is_open) override;
   void ComboChanged() override;
+  void ComboRowTextChanged(int row) override;
+  void ComboRowSelected(int row) override;
+
+ Q_SIGNALS:
+  /// Esc: the user goes back to the form.
+  void Left();
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -42,24 +51,16 @@ class PropertyPanel final : public QWidget, public PropertySheetView {
  private:
   void BuildHead();
   void BuildGrid();
-  void BuildList();
-  void FillRow(int row);
-  void PlaceButtons();
-  void SelectRow(int row);
-  void ChooseListRow(int place);
+  void ShowHelp();
 
   MDIForm1* shell_ = nullptr;
   PropertySheet* sheet_ = nullptr;
   QComboBox* combo_;
   QLineEdit* filter_;
   QScrollArea* scroll_;
-  QWidget* grid_;
-  QToolButton* boton1_;
-  QToolButton* boton2_;
-  QToolButton* boton3_;
-  QListWidget* list_;
-  std::vector<PropertyRowView*> rows_;
-  bool filling_ = false;
+  PropertyGrid* grid_;
+  QLabel* help_name_;
+  QPlainTextEdit* help_;
 };
 
 }  // namespace tarnwick

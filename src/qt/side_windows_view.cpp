@@ -13,6 +13,12 @@ void SideWindowsView::OpenItemEdit(int form) {
   if (design != nullptr) RunItemDialog(*shell_, *design, &parent_);
 }
 
+void SideWindowsView::OpenExaminer() {
+  if (shell_ == nullptr) return;
+  if (examiner_.isNull()) examiner_ = new ObjectsExaminerWindow(shell_->Support(), &parent_);
+  examiner_->Open();
+}
+
 void SideWindowsView::NameChanged(int /*form*/, std::string_view /*old_name*/,
                                   std::string_view /*new_name*/) {}
 

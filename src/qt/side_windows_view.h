@@ -1,6 +1,9 @@
 // The windows beside the main window, as the shell opens them.
 #pragma once
 
+#include <QPointer>
+
+#include "qt/objects_examiner_window.h"
 #include "shell/side_windows.h"
 
 class QWidget;
@@ -28,12 +31,13 @@ class SideWindowsView final : public SideWindows {
   void OpenMenuEdit() override {}
   void OpenPopUpEdit(int form, int index) override;
   void OpenItemEdit(int form) override;
-  void OpenExaminer() override {}
+  void OpenExaminer() override;
   void NameChanged(int form, std::string_view old_name, std::string_view new_name) override;
 
  private:
   QWidget& parent_;
   MDIForm1* shell_ = nullptr;
+  QPointer<ObjectsExaminerWindow> examiner_;
 };
 
 }  // namespace tarnwick

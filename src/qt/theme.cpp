@@ -23,7 +23,7 @@ const Colors& ColorsOf(Theme theme) {
 }
 
 /// What the style's own drawing leaves to be said. %1 line, %2 hover, %3 accent, %4 base,
-/// %5 quiet text, %6 window, %7 disabled text.
+/// %5 quiet text, %6 window, %7 disabled text, %8 the theme.
 constexpr auto kSheet = R"(
 QToolBar { border: none; padding: 4px 6px; spacing: 2px; }
 QToolBar#BtnMenuBar { border-bottom: 1px solid %1; }
@@ -45,6 +45,14 @@ QStatusBar { border-top: 1px solid %1; }
 QStatusBar::item { border: none; }
 QStatusBar QLabel { padding: 2px 8px; color: %5; }
 QToolTip { background: %4; border: 1px solid %1; padding: 4px 6px; }
+QScrollBar:vertical { width: 12px; margin: 0; border: none; background: transparent; }
+QScrollBar:horizontal { height: 12px; margin: 0; border: none; background: transparent; }
+QScrollBar::handle { margin: 2px; border-radius: 4px; background: %1; }
+QScrollBar::handle:vertical { min-height: 28px; }
+QScrollBar::handle:horizontal { min-width: 28px; }
+QScrollBar::handle:hover { background: %5; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QSplitter::handle { background: transparent; }
 QSplitter::handle:hover { background: %2; }
 QFrame[panel="true"] { background: %4; border: 1px solid %1; border-radius: 6px; }
@@ -52,6 +60,13 @@ QLineEdit, QPlainTextEdit { border: 1px solid %1; border-radius: 5px; background
 QLineEdit { padding: 3px 4px; }
 QLineEdit:focus, QPlainTextEdit:focus { border-color: %3; }
 tarnwick--PropertyRowView QLineEdit { border: none; border-radius: 0; padding: 0 2px; }
+QPlainTextEdit#RowHelp { border: none; border-radius: 0; color: %5; }
+QListWidget#ListBox { border: 1px solid %3; border-radius: 0; }
+tarnwick--PropertyGrid QToolButton { padding: 2px; background: %4; }
+tarnwick--PropertyGrid QToolButton:focus { border-color: %3; background: %2; }
+QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid %5; border-radius: 3px; background: %4; }
+QCheckBox::indicator:checked { border-color: %3; background: %3; image: url(:/icons/tick-%8.svg); }
+QCheckBox::indicator:focus { border-color: %3; }
 QDialogButtonBox, QMessageBox { dialogbuttonbox-buttons-have-icons: 0; }
 QPushButton { border: 1px solid %1; border-radius: 5px; padding: 5px 14px; background: %4; }
 QPushButton:hover:enabled, QPushButton:pressed { background: %2; }
@@ -60,7 +75,7 @@ QPushButton:disabled { color: %7; }
 QDialogButtonBox QPushButton { min-width: 56px; }
 QLabel[heading="true"] { font-weight: 600; }
 QLabel[quiet="true"] { color: %5; }
-QListWidget { border: 1px solid %1; border-radius: 5px; padding: 2px; background: %4; }
+QListWidget { border: 1px solid %1; border-radius: 5px; padding: 2px; background: %4; outline: 0; }
 QFrame[panel="true"] QListWidget { border: none; }
 QListWidget::item { padding: 4px 6px; border-radius: 4px; }
 QListWidget::item:hover { background: %6; }
@@ -111,9 +126,9 @@ void ApplyTheme(QApplication& application, Theme theme) {
   const Colors& c = ColorsOf(theme);
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setPalette(PaletteOf(theme));
-  application.setStyleSheet(
-      QString::fromLatin1(kSheet).arg(c.Line.name(), c.Hover.name(), c.Accent.name(), c.Base.name(),
-                                      c.Quiet.name(), c.Window.name(), c.Disabled.name()));
+  application.setStyleSheet(QString::fromLatin1(kSheet).arg(
+      c.Line.name(), c.Hover.name(), c.Accent.name(), c.Base.name(), c.Quiet.name(),
+      c.Window.name(), c.Disabled.name(), QLatin1String(theme == Theme::Dark ? "dark" : "light")));
 }
 
 }  // namespace tarnwick
