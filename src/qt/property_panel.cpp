@@ -51,9 +51,8 @@ PropertyPanel::PropertyPanel(PictureCache& pictures, QWidget* parent)
   });
 }
 
-PropertyPanel::~PropertyPanel() {
-  if (sheet_ != nullptr) sheet_->SetView(nullptr);
-}
+// The logic is built after the windows and is gone before them: nothing is told to it here.
+PropertyPanel::~PropertyPanel() = default;
 
 void PropertyPanel::BuildHead() {
   auto* frame = new PanelFrame(QStringLiteral("Picture1"), QStringLiteral("Properties"), this);

@@ -60,6 +60,10 @@ void Attendant::Look() {
   });
   auto* box = qobject_cast<QMessageBox*>(dialog);
   if (box == nullptr) {
+    if (steps_.empty() && AnyDialog) {
+      AnyDialog(*dialog);
+      return;
+    }
     if (steps_.empty()) {
       ADD_FAILURE() << "a dialog nobody waits for: " << dialog->windowTitle().toStdString();
       dialog->reject();
@@ -72,6 +76,7 @@ void Attendant::Look() {
   }
   seen_.push_back(
       {box->windowTitle(), box->text(), box->icon(), static_cast<int>(box->standardButtons())});
+  if (answers_.empty() && AnyBox) answers_.push_back(AnyBox(seen_.back()));
   if (answers_.empty()) {
     ADD_FAILURE() << "a box nobody waits for: " << box->text().toStdString();
     box->reject();
@@ -183,7 +188,8 @@ QWindow* Program::KeyWindow() {
     window_->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(window_.get()));
   }
-  return QApplication::activeWindow()->windowHandle();
+  const QWidget* active = QApplication::activeWindow();
+  return active != nullptr ? active->windowHandle() : window_->windowHandle();
 }
 
 void Program::Key(Qt::Key key, Qt::KeyboardModifiers held) {

@@ -57,6 +57,9 @@ class Attendant final : public QObject {
   void Escape() { answers_.push_back(0); }
   /// The next dialog of the program is given to the step, which must close it.
   void Do(std::function<void(QDialog&)> step) { steps_.push_back(std::move(step)); }
+  /// For tests that cannot say what comes: asked when nothing is scripted.
+  std::function<int(const SeenBox&)> AnyBox;
+  std::function<void(QDialog&)> AnyDialog;
   [[nodiscard]] const std::vector<SeenBox>& Seen() const { return seen_; }
   /// The boxes since the last call.
   std::vector<SeenBox> TakeSeen() { return std::exchange(seen_, {}); }
