@@ -62,7 +62,12 @@ void Container::BringUp(int form) {
   window->raise();
   FitCanvas();
   ensureWidgetVisible(window, 0, 0);
-  window->Surface().setFocus();
+  if (window->Surface().isVisibleTo(this)) {
+    window->Surface().setFocus();
+  } else {
+    // A rolled-up window takes no keys, and no other form may get those meant for it.
+    setFocus();
+  }
 }
 
 void Container::SetCurrent(int form) {

@@ -224,6 +224,12 @@ void DesignSurface::keyPressEvent(QKeyEvent* event) {
   if (code == 0 || !user->KeyDown(code, ShiftBitsOf(*event))) event->ignore();
 }
 
+void DesignSurface::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  // However the focus came, keys go here now: this form is the one that all commands mean.
+  if (form_ != nullptr && doors_.Activated) doors_.Activated();
+}
+
 bool DesignSurface::focusNextPrevChild(bool /*next*/) {
   // Tab walks the objects of the form.
   return false;

@@ -16,9 +16,9 @@ namespace tarnwick {
 /// What a design window is given. The callbacks are asked each time, for the logic of a form comes
 /// after its window and goes before it.
 struct DesignWindowDoors {
-  std::function<FormUser*()> User;           ///< null while there is none
-  std::function<const FormRec*()> Record;    ///< null while there is none
-  std::function<void()> Activated;           ///< the user pressed into a window behind others
+  std::function<FormUser*()> User;         ///< null while there is none
+  std::function<const FormRec*()> Record;  ///< null while there is none
+  std::function<void()> Activated;  ///< the user pressed into this window, or it has the focus now
   std::function<void(QPoint)> PointerMoved;  ///< place in pixels of the form
   std::function<void()> Escape;              ///< back to the arrow
   std::function<void()> Resized;             ///< the form has taken a new size from its window
@@ -54,6 +54,7 @@ class DesignSurface final : public QWidget, public GesturePort {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   bool focusNextPrevChild(bool next) override;
   void leaveEvent(QEvent* event) override;
 

@@ -301,6 +301,39 @@ TEST(Selecting, AFormBehindComesForwardWithTheSamePress) {
   ExpectPanelShows(program, "Form1");
 }
 
+TEST(Selecting, TheFormWithTheFocusIsTheCurrentOne) {
+  Program program;
+  program.Place(0, {20, 20});
+  program.PressTool(9);
+  ASSERT_EQ(program.Form().Number(), 2);
+  // The focus may come without a press: when the window that had it is hidden.
+  program.Surface(1).setFocus();
+  Program::Settle();
+  EXPECT_EQ(program.Form().Number(), 1);
+  program.Key(Qt::Key_Tab);
+  ASSERT_NE(program.Selected(), nullptr);
+  ExpectPanelShows(program, "Form1Btn1");
+}
+
+TEST(Selecting, ARolledUpFormLeavesNoKeysToAnother) {
+  Program program;
+  program.Place(0, {20, 20});
+  program.PressTool(9);
+  QWidget* window = program.Surface(2).parentWidget();
+  // The third button from the right rolls the window up to its title.
+  program.Click(*window, {window->width() - 70, 14});
+  ASSERT_FALSE(program.Surface(2).isVisible());
+  auto& list = program.Find<QListWidget>(QStringLiteral("ListaFrms"));
+  program.Click(*list.viewport(), list.visualItemRect(list.item(0)).center());
+  ASSERT_TRUE(program.Surface(1).hasFocus());
+  program.Click(*list.viewport(), list.visualItemRect(list.item(1)).center());
+  ASSERT_EQ(program.Form().Number(), 2);
+  program.Key(Qt::Key_Tab);
+  EXPECT_EQ(program.Tables().User(1)->NameObjet, "Button1");
+  EXPECT_FALSE(program.Surface(1).hasFocus());
+  ExpectPanelShows(program, "Form2");
+}
+
 TEST(Selecting, TheFormListBringsItsFormUp) {
   Program program;
   program.PressTool(9);
