@@ -49,7 +49,7 @@ int Resave(LoadedProject& project, const Arguments& arguments, std::ostream& err
     std::string& name = tables.Form(form)->FileName;
     // A form that never had a file stays without one: there is no name to give it.
     all_named = all_named && !name.empty();
-    if (!name.empty()) name = folder + std::string(BareName(name));
+    if (!name.empty()) name = std::string(folder).append(BareName(name));
   }
   const bool saved = SaveProject(project.Context, tables.ProjectFile);
   if (saved || (!all_named && project.Files.Exists(tables.ProjectFile))) return 0;

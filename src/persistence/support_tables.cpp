@@ -92,7 +92,9 @@ void FillPanelLists(SupportTables& tables, std::string_view text) {
 }  // namespace
 
 bool KeyedTexts::Add(std::string_view key, std::string value) {
-  return texts_.try_emplace(std::string{key}, std::move(value)).second;
+  const auto [place, added] = texts_.try_emplace(std::string{key});
+  if (added) place->second = std::move(value);
+  return added;
 }
 
 const std::string* KeyedTexts::Find(std::string_view key) const noexcept {
