@@ -12,6 +12,10 @@
 
 namespace tarnwick {
 
+/// A number that prints as its digits. A yes/no value is none: it has a wording of its own.
+template <class T>
+concept WholeNumber = std::integral<T> && !std::same_as<T, bool>;
+
 /// A length of a design control, printed in pixels.
 struct Pixels {
   float Twips = 0;
@@ -58,8 +62,8 @@ class SourceText {
   static constexpr std::size_t kMostPixels = 64;  ///< of a single in its longest decimal form
 
   static std::size_t MostOf(std::string_view text) noexcept { return text.size(); }
-  static std::size_t MostOf(std::integral auto) noexcept { return kMostDigits; }
-  static std::size_t MostOf(Pixels) noexcept { return kMostPixels; }
+  static std::size_t MostOf(WholeNumber auto /*number*/) noexcept { return kMostDigits; }
+  static std::size_t MostOf(Pixels /*length*/) noexcept { return kMostPixels; }
   static std::size_t MostOf(Quoted quoted) noexcept { return quoted.Text.size() + 2; }
   static std::size_t MostOf(const Numbered& numbered) noexcept {
     return numbered.Text.size() + kMostDigits;
@@ -78,8 +82,7 @@ class SourceText {
     *at++ = byte;
     return at;
   }
-  static char* Put(char* at, bool) = delete;  // a yes/no value has a wording of its own
-  static char* Put(char* at, std::integral auto number) noexcept {
+  static char* Put(char* at, WholeNumber auto number) noexcept {
     return std::to_chars(at, at + kMostDigits, number).ptr;
   }
   static char* Put(char* at, Pixels length);
