@@ -212,6 +212,14 @@ void PropertyGrid::ShowSelection() {
     if (!selected) view->SetButtonRoom(0);
   }
   PlaceButtons();
+  if (stop == nullptr || stop == tab_stop_) return;
+  tab_stop_ = stop;
+  QWidget* before = tab_before_;
+  for (QWidget* next : {static_cast<QWidget*>(&stop->Field()), static_cast<QWidget*>(boton1_),
+                        static_cast<QWidget*>(boton2_), static_cast<QWidget*>(boton3_)}) {
+    if (before != nullptr) setTabOrder(before, next);
+    before = next;
+  }
 }
 
 void PropertyGrid::PlaceButtons() {
@@ -243,11 +251,7 @@ void PropertyGrid::PlaceButtons() {
     }
     button->setVisible(is_shown);
   }
-  if (!shown) return;
-  view->SetButtonRoom(room);
-  setTabOrder(&view->Field(), boton1_);
-  setTabOrder(boton1_, boton2_);
-  setTabOrder(boton2_, boton3_);
+  if (shown) view->SetButtonRoom(room);
 }
 
 void PropertyGrid::FocusRow() {
@@ -372,7 +376,8 @@ bool PropertyGrid::FilterList(QEvent* event) {
     ChooseListRow(list_->currentRow());
     return true;
   }
-  if (key.key() == Qt::Key_F4 || key.modifiers().testFlag(Qt::AltModifier)) {
+  if (key.key() == Qt::Key_Escape || key.key() == Qt::Key_F4 ||
+      key.modifiers().testFlag(Qt::AltModifier)) {
     list_->hide();
     return true;
   }
@@ -390,7 +395,11 @@ bool PropertyGrid::FilterCell(QObject* object, int row, QEvent* event) {
   const bool is_field = object == &ViewAt(row)->Field();
   switch (event->type()) {
     case QEvent::FocusIn:
-      if (is_field && !IsSelected(row)) EnterRow(row, Focus::Text);
+      // A press says itself what it does.
+      if (is_field && !IsSelected(row) &&
+          static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason) {
+        EnterRow(row, Focus::Text);
+      }
       break;
     case QEvent::FocusOut:
       if (is_field && IsSelected(row)) {

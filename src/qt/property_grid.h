@@ -33,6 +33,8 @@ class PropertyGrid final : public QWidget {
   PropertyGrid(PictureCache& pictures, QWidget* parent);
 
   void Attach(MDIForm1& shell);
+  /// The widget from which the Tab key comes to the grid.
+  void SetTabBefore(QWidget* widget) { tab_before_ = widget; }
   /// Takes a half-typed value into the tables.
   void Commit();
   /// True while a keystroke is being applied: nothing may take the focus from its cell.
@@ -83,6 +85,8 @@ class PropertyGrid final : public QWidget {
   MDIForm1* shell_ = nullptr;
   PropertySheet* sheet_ = nullptr;
   std::vector<PropertyRowView*> rows_;
+  QWidget* tab_before_ = nullptr;
+  const PropertyRowView* tab_stop_ = nullptr;
   QToolButton* boton1_;
   QToolButton* boton2_;
   QToolButton* boton3_;

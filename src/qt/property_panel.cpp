@@ -118,6 +118,7 @@ void PropertyPanel::BuildGrid() {
   scroll_->setWidgetResizable(true);
   grid_->setBackgroundRole(QPalette::Base);
   scroll_->setWidget(grid_);
+  grid_->SetTabBefore(filter_);
   connect(grid_, &PropertyGrid::RowEntered, this, [this](const QWidget& row) {
     scroll_->ensureVisible(0, row.y() + row.height() / 2, 0, row.height());
   });
