@@ -141,7 +141,7 @@ void EventsBarWindow::SetButtons(std::vector<BarButton> buttons) {
 void EventsBarWindow::PutButtons() {
   constexpr int width = kButtonsInARow * kButton;
   const auto put = [&](QToolButton& button, int number) {
-    const BarPlace place = PlaceOnBar(number, width, kButton);
+    const BarPlace place = SpotOnBar(number, width, kButton);
     button.setGeometry(place.Left, place.Top, kButton, kButton);
     return place.Top + kButton;
   };

@@ -45,7 +45,7 @@ int main(int argc, char** argv) {
     const QString path = QFileInfo(words[1]).absoluteFilePath();
     view.OpenAfterStart(PathFromNative(path.toStdString()));
   }
-  side_windows.Attach(shell);
+  side_windows.Attach(shell, view);
   window.show();
   shell.Load();
   return QApplication::exec();

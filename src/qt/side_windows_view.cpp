@@ -1,11 +1,20 @@
 #include "qt/side_windows_view.h"
 
+#include <string>
+
 #include "qt/item_dialog.h"
 #include "shell/mdi_form.h"
+#include "shell/shell_view.h"
 
 namespace tarnwick {
 
-void SideWindowsView::OpenPopUpEdit(int /*form*/, int /*index*/) {}
+void SideWindowsView::TellMissing(std::string_view window) {
+  if (view_ != nullptr) view_->SetStatus(std::string(window) + " is not part of this version.");
+}
+
+void SideWindowsView::OpenPopUpEdit(int /*form*/, int /*index*/) {
+  TellMissing("The designer of popup menus");
+}
 
 void SideWindowsView::OpenItemEdit(int form) {
   if (shell_ == nullptr) return;

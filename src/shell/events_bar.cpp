@@ -38,7 +38,7 @@ bool HoldsItem(const PopUpFormRec& popup, std::string_view name) {
 
 }  // namespace
 
-BarPlace PlaceOnBar(int number, int bar_width, int side) noexcept {
+BarPlace SpotOnBar(int number, int bar_width, int side) noexcept {
   const int in_a_row = std::max(1, bar_width / std::max(1, side));
   return {number % in_a_row * side, number / in_a_row * side};
 }

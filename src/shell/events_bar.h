@@ -32,7 +32,7 @@ struct BarPlace {
 
 /// The place of a square button counted from 0: behind the one before, or at the start of a new
 /// row when it would pass the right edge.
-[[nodiscard]] BarPlace PlaceOnBar(int number, int bar_width, int side) noexcept;
+[[nodiscard]] BarPlace SpotOnBar(int number, int bar_width, int side) noexcept;
 
 /// The bars of all forms. Each form's `FrmBarra` holds the names of the objects that were told to
 /// have code; here they become buttons, and a button the events that can be opened. A view shows

@@ -183,7 +183,7 @@ TEST(CompileWithoutForm, F5DoesNothing) {
   EXPECT_FALSE(program.Find<QToolButton>(QStringLiteral("BtnMenu_10")).isEnabled());
 }
 
-TEST(CompileNewProject, ACancelledSaveWritesTheSourceOfTheDefaultProject) {
+TEST(CompileNewProject, ACancelledSaveWritesTheDefaultProjectsSource) {
   Program program;
   program.Dialogs.SaveAnswers = {std::nullopt};
   program.Key(Qt::Key_F5);

@@ -89,7 +89,7 @@ TEST_F(EventsBarWindowTest, AnObjectThatGetsCodeGetsAButtonWithItsName) {
   EXPECT_EQ(Button(QStringLiteral("btncodigo_2")), nullptr);
 }
 
-TEST_F(EventsBarWindowTest, LaterButtonsMoveIntoThePlaceOfARemovedOne) {
+TEST_F(EventsBarWindowTest, LaterButtonsMoveWhereARemovedOneStood) {
   Store("Item1", Event::OnClick, "a");
   Store("Item2", Event::OnClick, "a");
   Store("Item3", Event::OnClick, "a");

@@ -52,7 +52,7 @@ TEST_F(FileCommands, TheTitleAtTheStartNamesTheDefaultProject) {
   EXPECT_EQ(program.Title(), "Tarnwick    " + program.Home.Path("UnTitle.tnp"));
 }
 
-TEST_F(FileCommands, SaveAsksForAPlaceOnceAndWritesBothFiles) {
+TEST_F(FileCommands, SaveAsksWhereOnceAndWritesBothFiles) {
   program.Place(0, {20, 20});
   SaveAs("p.tnp", "f.ftn");
   EXPECT_EQ(program.Title(), Saved("p.tnp"));

@@ -107,7 +107,7 @@ Program::Program(FileDialogs dialogs) {
   side_windows_ = std::make_unique<SideWindowsView>(*window_);
   shell_ = std::make_unique<MDIForm1>(ports, *view_, *side_windows_, *view_, Home.Path());
   view_->Attach(*shell_);
-  side_windows_->Attach(*shell_);
+  side_windows_->Attach(*shell_, *view_);
   window_->show();
   shell_->Load();
   EXPECT_TRUE(QTest::qWaitFor(

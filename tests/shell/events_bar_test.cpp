@@ -342,20 +342,20 @@ TEST_F(EventsBarTest, ItIsShownFromTheFirstStartAndHiddenByItsEntry) {
   EXPECT_FALSE(view.PanelShown[Panel::EventsBar]);
 }
 
-TEST(PlaceOnBar, AButtonStandsBehindTheOneBefore) {
-  EXPECT_EQ(PlaceOnBar(0, 100, 30), (BarPlace{0, 0}));
-  EXPECT_EQ(PlaceOnBar(2, 100, 30), (BarPlace{60, 0}));
+TEST(SpotOnBar, AButtonStandsBehindTheOneBefore) {
+  EXPECT_EQ(SpotOnBar(0, 100, 30), (BarPlace{0, 0}));
+  EXPECT_EQ(SpotOnBar(2, 100, 30), (BarPlace{60, 0}));
 }
 
-TEST(PlaceOnBar, AButtonThatWouldPassTheRightEdgeStartsANewRow) {
-  EXPECT_EQ(PlaceOnBar(2, 90, 30), (BarPlace{60, 0}));
-  EXPECT_EQ(PlaceOnBar(3, 100, 30), (BarPlace{0, 30}));
-  EXPECT_EQ(PlaceOnBar(3, 90, 30), (BarPlace{0, 30}));
-  EXPECT_EQ(PlaceOnBar(7, 100, 30), (BarPlace{30, 60}));
+TEST(SpotOnBar, AButtonThatWouldPassTheRightEdgeStartsANewRow) {
+  EXPECT_EQ(SpotOnBar(2, 90, 30), (BarPlace{60, 0}));
+  EXPECT_EQ(SpotOnBar(3, 100, 30), (BarPlace{0, 30}));
+  EXPECT_EQ(SpotOnBar(3, 90, 30), (BarPlace{0, 30}));
+  EXPECT_EQ(SpotOnBar(7, 100, 30), (BarPlace{30, 60}));
 }
 
-TEST(PlaceOnBar, ABarNarrowerThanAButtonHasOneInEachRow) {
-  EXPECT_EQ(PlaceOnBar(2, 10, 30), (BarPlace{0, 60}));
+TEST(SpotOnBar, ABarNarrowerThanAButtonHasOneInEachRow) {
+  EXPECT_EQ(SpotOnBar(2, 10, 30), (BarPlace{0, 60}));
 }
 
 }  // namespace
