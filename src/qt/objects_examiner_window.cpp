@@ -1,6 +1,7 @@
 #include "qt/objects_examiner_window.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -185,6 +186,12 @@ void ObjectsExaminerWindow::keyPressEvent(QKeyEvent* event) {
     return;
   }
   QWidget::keyPressEvent(event);
+}
+
+void ObjectsExaminerWindow::closeEvent(QCloseEvent* event) {
+  QWidget::closeEvent(event);
+  // Back to where it was opened, also where no window manager sees to that.
+  if (parentWidget() != nullptr) parentWidget()->activateWindow();
 }
 
 }  // namespace tarnwick

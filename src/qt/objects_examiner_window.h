@@ -32,6 +32,7 @@ class ObjectsExaminerWindow final : public QWidget {
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
 
  private:
   void Build();
