@@ -55,7 +55,8 @@ TEST(PropertySheet, ArrayNamesOfImagesAndPopupsAreTheirKinds) {
 }
 
 TEST(PropertySheet, AKindWithoutRowsGivesAnEmptyGrid) {
-  SheetBench bench{SupportTables{}};
+  const SupportTables no_rows;
+  SheetBench bench{no_rows};
   bench.Make(Kind::Button);
   EXPECT_EQ(bench.Labels(), Rows{"Name"});
   bench.Sheet.ShowProperties("Nothing7", "x");

@@ -401,7 +401,8 @@ TEST(FormWriter, EachVisibleMenuControlGivesAnEmptyLineInTheWalk) {
   project.Builder.AddForm();
   AddTitleControl(project.User(), "&File", "mnuFile");
   AddItemControl(project.User(), "&New", "mnuNew");
-  const auto lines = Split(project.Saved(), "\r\n");
+  const std::string saved = project.Saved();
+  const auto lines = Split(saved, "\r\n");
   ASSERT_EQ(lines.size(), 6U);
   EXPECT_EQ(lines[1], "");
   EXPECT_EQ(lines[2], "");
@@ -431,7 +432,8 @@ TEST(FormWriter, CodeOfMenuItemsStandsAheadOfTheirTitleUnderTheRunningNumber) {
   AddItemControl(project.User(), "Direct", "b1");
   AddItemControl(project.User(), "...Nested", "b2");
   form.ItemCode("b1", "one").ItemCode("b2", "two");
-  const auto lines = Split(project.Saved(), "\r\n");
+  const std::string saved = project.Saved();
+  const auto lines = Split(saved, "\r\n");
   ASSERT_EQ(lines.size(), 12U);
   EXPECT_EQ(lines[6].substr(0, 12), "[Menu]  (1) ");
   EXPECT_EQ(lines[7], "[MenuItem]   (2)  {b1}  Click<one>Click");
@@ -445,7 +447,8 @@ TEST(FormWriter, PopUpEntriesWithCodeStandAheadOfTheirPopUp) {
   form.Add(Kind::PopUpMenu, "P");
   project.Builder.PopUpItem(1, "top", "Top").PopUpEntry(1, "sub", "Sub").PopUpItem(1, "none", "N");
   form.ItemCode("sub", "s").ItemCode("top", "t").ItemCode("none", "");
-  const auto lines = Split(project.Saved(), "\r\n");
+  const std::string saved = project.Saved();
+  const auto lines = Split(saved, "\r\n");
   ASSERT_EQ(lines.size(), 7U);
   EXPECT_EQ(lines[1], "");
   EXPECT_EQ(lines[2], "[Sub]{top} Click<t>Click");
