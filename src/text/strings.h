@@ -1,6 +1,7 @@
 // Trimming, splitting, joining and replacing. A blank is the byte 0x20 and nothing else.
 #pragma once
 
+#include <concepts>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,9 @@ namespace tarnwick {
 /// gives one empty piece. The views live as long as `text`.
 [[nodiscard]] std::vector<std::string_view> Split(std::string_view text,
                                                   std::string_view separator);
+/// Not of a string that is gone at the end of the statement: its pieces would be gone with it.
+template <std::same_as<std::string> Text>
+std::vector<std::string_view> Split(Text&& text, std::string_view separator) = delete;
 [[nodiscard]] std::string Join(const std::vector<std::string>& pieces, std::string_view separator);
 /// Every `from` replaced by `to`, in one pass from the left; an empty `from` changes nothing.
 [[nodiscard]] std::string ReplaceAll(std::string_view text, std::string_view from,

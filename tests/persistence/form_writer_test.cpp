@@ -139,7 +139,8 @@ TEST(FormWriter, WritesEveryKindToTheByte) {
 
 /// The one record of a form with one object.
 std::string ObjectLine(const FakeProject& project) {
-  return std::string(Split(project.Saved(), "\r\n")[2]);
+  const std::string saved = project.Saved();
+  return std::string(Split(saved, "\r\n")[2]);
 }
 
 /// The value of a tag in a line.
