@@ -223,8 +223,8 @@ void PropertyGrid::ShowSelection() {
 }
 
 void PropertyGrid::PlaceButtons() {
-  PropertyRowView* view =
-      sheet_ != nullptr && sheet_->HasSelectedRow() ? ViewAt(sheet_->RowIndex()) : nullptr;
+  if (sheet_ == nullptr) return;
+  PropertyRowView* view = sheet_->HasSelectedRow() ? ViewAt(sheet_->RowIndex()) : nullptr;
   const bool shown = view != nullptr && !view->isHidden();
   if (shown) {
     const bool color = IsColor(sheet_->RowMark(view->Row()));
