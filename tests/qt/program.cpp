@@ -52,12 +52,25 @@ void Attendant::Ok() {
 
 void Attendant::Look() {
   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-  if (dialog == nullptr || !dialog->isVisible() || handled_ == dialog) return;
+  if (dialog == nullptr || !dialog->isVisible()) return;
+  if (watched_ != dialog) {
+    watched_ = dialog;
+    handled_ = false;
+    open_.start();
+    connect(dialog, &QObject::destroyed, this, [this, dialog] {
+      if (watched_ == dialog) watched_ = nullptr;
+    });
+  }
+  if (open_.hasExpired(kPatience)) {
+    ADD_FAILURE() << "a dialog that stays open: " << dialog->windowTitle().toStdString();
+    open_.start();
+    dialog->reject();
+    return;
+  }
+  // Keys that stand for a button do nothing in a window that is not active yet.
+  if (handled_ || !dialog->isActiveWindow()) return;
   // The steps themselves let events run.
-  handled_ = dialog;
-  connect(dialog, &QObject::destroyed, this, [this, dialog] {
-    if (handled_ == dialog) handled_ = nullptr;
-  });
+  handled_ = true;
   auto* box = qobject_cast<QMessageBox*>(dialog);
   if (box == nullptr) {
     if (steps_.empty() && AnyDialog) {

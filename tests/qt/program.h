@@ -1,6 +1,7 @@
 // The whole desktop program within a test, over folders of its own, driven by real events.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPoint>
 #include <QString>
@@ -43,7 +44,8 @@ struct SeenBox {
 };
 
 /// Sits before the screen: presses the scripted button of each message box and hands any other
-/// dialog to the next scripted step. What comes unasked is closed and counts as a failure.
+/// dialog to the next scripted step. What comes unasked, or stays open, is closed and counts as a
+/// failure.
 class Attendant final : public QObject {
  public:
   Attendant();
@@ -72,7 +74,9 @@ class Attendant final : public QObject {
   std::deque<int> answers_;
   std::deque<std::function<void(QDialog&)>> steps_;
   std::vector<SeenBox> seen_;
-  QObject* handled_ = nullptr;
+  QObject* watched_ = nullptr;  ///< the dialog on the screen
+  bool handled_ = false;        ///< it had its answer or step
+  QElapsedTimer open_;          ///< since it came
 };
 
 /// Starts real programs and notes each command line in the log: "start C".
