@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
+#include <iterator>
+
+#include "text/short_bytes.h"
 
 namespace tarnwick {
 namespace {
@@ -131,6 +135,24 @@ Decoded DecodeOne(std::string_view utf8) noexcept {
   return {value, size};
 }
 
+/// The bits of eight bytes in which the two cases of a letter never differ: all but three of each.
+constexpr std::uint64_t kCaseless = 0x8F8F8F8F8F8F8F8FU;
+
+constexpr bool CaselessHolds() {
+  return std::all_of(std::begin(kCaseRuns), std::end(kCaseRuns), [](const CaseRun& run) {
+    for (unsigned upper = run.First; upper <= run.Last; ++upper) {
+      if (((upper ^ (upper + run.ToLower)) & kCaseless & 0xFFU) != 0) return false;
+    }
+    return true;
+  });
+}
+static_assert(CaselessHolds());
+
+constexpr std::uint64_t Mixed(std::uint64_t bits) noexcept {
+  bits *= 0x9E3779B97F4A7C15U;
+  return bits ^ bits >> 32U;
+}
+
 }  // namespace
 
 constexpr ByteTable kLowerBytes = MakeCaseTable(true);
@@ -145,7 +167,8 @@ std::string Upper(std::string_view text) {
 }
 
 bool EqualsFolded(std::string_view a, std::string_view b) noexcept {
-  return a.size() == b.size() && StartsWithFolded(a, b);
+  // Most texts that are equal are so to the byte.
+  return a.size() == b.size() && (SameBytes(a.data(), b) || StartsWithFolded(a, b));
 }
 
 bool StartsWithFolded(std::string_view text, std::string_view start) noexcept {
@@ -171,13 +194,15 @@ std::size_t FindFolded(std::string_view text, std::string_view part, std::size_t
 }
 
 std::size_t FoldedHash::operator()(std::string_view text) const noexcept {
-  // FNV-1a: keys are short names, and the fold goes into the same pass.
-  std::uint64_t hash = 0xCBF29CE484222325U;
-  for (const char c : text) {
-    hash ^= Index(LowerByte(c));
-    hash *= 0x100000001B3U;
+  std::uint64_t hash = text.size();
+  for (; text.size() >= sizeof hash; text.remove_prefix(sizeof hash)) {
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, text.data(), sizeof bytes);
+    hash = Mixed(hash ^ (bytes & kCaseless));
   }
-  return static_cast<std::size_t>(hash);
+  std::uint64_t rest = 0;
+  for (const char c : text) rest = rest << 8U | Index(c);
+  return static_cast<std::size_t>(Mixed(hash ^ (rest & kCaseless)));
 }
 
 std::string CodePageToUtf8(std::string_view text) {

@@ -61,42 +61,13 @@ double OutOfRange(std::string_view number) noexcept {
   return place + exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 }
 
-template <typename Whole>
-std::optional<Whole> ToWhole(double value) noexcept {
-  const double rounded = RoundHalfEven(value);
-  // Written so that a value that is no number fails too.
-  const bool fits = rounded >= static_cast<double>(std::numeric_limits<Whole>::min()) &&
-                    rounded <= static_cast<double>(std::numeric_limits<Whole>::max());
-  if (!fits) return std::nullopt;
-  return static_cast<Whole>(rounded);
-}
-
-template <typename Whole>
-bool ReadWhole(std::string_view text, Whole& field) noexcept {
-  const std::optional<Whole> value = ToWhole<Whole>(Val(text));
-  if (value) field = *value;
-  return value.has_value();
-}
-
-/// A text of a few digits and nothing else, as nearly all are; nothing for any other.
-std::optional<double> PlainDigits(std::string_view text) noexcept {
-  constexpr std::size_t kExactDigits = 15;
-  if (text.empty() || text.size() > kExactDigits) return std::nullopt;
-  std::int64_t value = 0;
-  for (const char c : text) {
-    if (!IsDigit(c)) return std::nullopt;
-    value = value * 10 + (c - '0');
-  }
-  return static_cast<double>(value);
-}
-
 }  // namespace
 
 double Val(std::string_view text) noexcept {
+  if (const std::optional<double> plain = PlainDigits<double>(text)) return *plain;
   const std::size_t start = text.find_first_not_of(' ');
   if (start == std::string_view::npos) return 0;
   text.remove_prefix(start);
-  if (const std::optional<double> plain = PlainDigits(text)) return *plain;
   const bool negative = text.front() == '-';
   if (negative || text.front() == '+') text.remove_prefix(1);
   const std::string_view number = NumberHead(text);
@@ -111,26 +82,10 @@ double RoundHalfEven(double value) noexcept {
   return std::nearbyint(value);
 }
 
-std::optional<std::int16_t> ToInt16(double value) noexcept {
-  return ToWhole<std::int16_t>(value);
-}
-
-std::optional<std::int32_t> ToInt32(double value) noexcept {
-  return ToWhole<std::int32_t>(value);
-}
-
 std::optional<float> ToSingle(double value) noexcept {
   const bool fits = std::abs(value) <= static_cast<double>(std::numeric_limits<float>::max());
   if (!fits) return std::nullopt;
   return static_cast<float>(value);
-}
-
-bool ReadNumber(std::string_view text, std::int16_t& field) noexcept {
-  return ReadWhole(text, field);
-}
-
-bool ReadNumber(std::string_view text, std::int32_t& field) noexcept {
-  return ReadWhole(text, field);
 }
 
 void AppendNumber(std::string& out, std::int64_t value) {

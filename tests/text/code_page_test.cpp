@@ -93,6 +93,11 @@ TEST(CodePage, FoldedTablesLookUpByView) {
   table["Form2.Button1.OnClick"] = 7;
   EXPECT_EQ(table.count(std::string_view("FORM2.button1.onclick")), 1U);
   EXPECT_EQ(table.count(std::string_view("Form2.Button1.OnClic")), 0U);
+  for (const char c : AllBytes()) {
+    const std::string text = "Name" + std::string(7, c);
+    EXPECT_EQ(FoldedHash{}(Lower(text)), FoldedHash{}(Upper(text)));
+    EXPECT_EQ(FoldedHash{}(text), FoldedHash{}(Lower(text)));
+  }
 }
 
 TEST(CodePage, EveryByteSurvivesUtf8AndBack) {
