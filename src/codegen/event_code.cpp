@@ -32,6 +32,7 @@ void ForEachObjectEvent(Generation& gen, Write write) {
     if (kind == Kind::Menu && !gen.MenuBarVisible()) continue;
     if (kStepping.Has(kind)) state.CurrentOrdinal = state.KindCounters.Step(kind);
     const OwnerCode code = gen.Code.OfObject(kind, state.CurrentOrdinal);
+    if (code.Empty()) continue;
     for (const Event event : kObjectEvents) {
       const std::string_view text = code.Of(event);
       if (!text.empty()) write(SubNameOf(control->Tag, state.CurrentOrdinal), event, text);

@@ -14,7 +14,7 @@ void EventLookup::SetForm(int form) {
   key_ = "Form";
   AppendNumber(key_, std::int64_t{form});
   form_size_ = key_.size();
-  for (auto& owners : known_) owners.clear();
+  for (auto& codes : known_) codes.clear();
 }
 
 const EventCodeTable::Owner* EventLookup::OwnerBehindDot(std::string_view name, int number) {
@@ -36,12 +36,12 @@ OwnerCode EventLookup::OfForm() {
 }
 
 OwnerCode EventLookup::OfObject(Kind kind, int ordinal) {
-  auto& owners = known_[static_cast<std::size_t>(kind)];
+  auto& codes = known_[static_cast<std::size_t>(kind)];
   const auto place = static_cast<std::size_t>(ordinal) - 1;
-  if (ordinal >= 1 && place < owners.size()) return OwnerCode(owners[place]);
-  const EventCodeTable::Owner* owner = OwnerBehindDot(InfoOf(kind).Array, ordinal);
-  if (ordinal >= 1 && place == owners.size()) owners.push_back(owner);
-  return OwnerCode(owner);
+  if (ordinal >= 1 && place < codes.size()) return codes[place];
+  const OwnerCode code(OwnerBehindDot(InfoOf(kind).Array, ordinal));
+  if (ordinal >= 1 && place == codes.size()) codes.push_back(code);
+  return code;
 }
 
 std::string_view EventLookup::OnClickOf(std::string_view item) {

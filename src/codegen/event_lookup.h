@@ -31,16 +31,19 @@ inline constexpr std::array kObjectEvents{Event::OnTimer,     Event::OnClick,   
 class OwnerCode {
  public:
   OwnerCode() = default;
-  explicit OwnerCode(const EventCodeTable::Owner* owner) {
-    if (owner != nullptr) codes_ = owner->Codes();
+  explicit OwnerCode(const EventCodeTable::Owner* owner) : owner_(owner) {
+    if (owner != nullptr) filled_ = owner->FilledEvents();
   }
   [[nodiscard]] std::string_view Of(Event event) const noexcept {
-    const std::string* code = codes_[static_cast<std::size_t>(event)];
-    return code == nullptr ? std::string_view() : std::string_view(*code);
+    if (!filled_.test(static_cast<std::size_t>(event))) return {};
+    return *owner_->Find(event);
   }
+  /// True when no event has code.
+  [[nodiscard]] bool Empty() const noexcept { return filled_.none(); }
 
  private:
-  std::array<const std::string*, kEventCount> codes_{};
+  const EventCodeTable::Owner* owner_ = nullptr;
+  EventSet filled_;
 };
 
 /// Looks code up for one form at a time. Keys are built in one buffer that is used again.
@@ -64,9 +67,9 @@ class EventLookup {
   [[nodiscard]] static std::string_view CodeOf(const EventCodeTable::Owner* owner, Event event);
 
   const EventCodeTable& table_;
-  /// Owners found for the form's objects, by kind and number from 1: bodies and hooks of a form
+  /// What was found for the form's objects, by kind and number from 1: bodies and hooks of a form
   /// ask for the same ones in the same order, and the table stays as it is meanwhile.
-  std::array<std::vector<const EventCodeTable::Owner*>, kKindCount> known_;
+  std::array<std::vector<OwnerCode>, kKindCount> known_;
   std::string key_;
   std::size_t form_size_ = 0;  ///< length of "Form3" at the head of the buffer
 };

@@ -238,6 +238,7 @@ void WriteObjectInit(Generation& gen, const DesignControl& control) {
 void WriteObjectHooks(Generation& gen, const DesignControl& control) {
   const int ordinal = gen.State.CurrentOrdinal;
   const OwnerCode code = gen.Code.OfObject(control.Id, ordinal);
+  if (code.Empty()) return;
   for (const Event event : kObjectEvents) {
     if (IsBlank(code.Of(event))) continue;
     gen.Out.Line(control.Tag, InfoOf(event).Suffix, " = ", SubNameOf(control.Tag, ordinal), "_",

@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "text/short_bytes.h"
+
 namespace tarnwick {
 
 /// A number that prints as its digits. A yes/no value is none: it has a wording of its own.
@@ -74,10 +76,7 @@ class SourceText {
     std::memcpy(at, literal, N - 1);
     return at + (N - 1);
   }
-  static char* Put(char* at, std::string_view text) noexcept {
-    if (!text.empty()) std::memcpy(at, text.data(), text.size());
-    return at + text.size();
-  }
+  static char* Put(char* at, std::string_view text) noexcept { return CopyBytes(at, text); }
   static char* Put(char* at, char byte) noexcept {
     *at++ = byte;
     return at;

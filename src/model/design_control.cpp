@@ -1,7 +1,6 @@
 #include "model/design_control.h"
 
 #include <array>
-#include <bitset>
 #include <initializer_list>
 #include <utility>
 
@@ -12,62 +11,53 @@ namespace tarnwick {
 
 namespace {
 
-using Members = std::bitset<kMemberCount>;
+/// A set of members, one bit each.
+using Members = std::uint32_t;
+static_assert(kMemberCount <= 32);
 
-constexpr std::array<std::string_view, kMemberCount> kMemberNames{
-    "Appearance", "AutoSize", "BackColor", "BackStyle",      "BorderStyle",
-    "Cancel",     "Caption",  "Default",   "Enabled",        "FontBold",
-    "FontItalic", "FontName", "FontSize",  "FontStrikethru", "FontUnderline",
-    "ForeColor",  "Height",   "Left",      "List",           "Picture",
-    "Stretch",    "TabIndex", "Tag",       "Text",           "ToolTipText",
-    "Top",        "Value",    "Visible",   "Width",          "WordWrap",
-};
-
-Members Of(std::initializer_list<Member> members) {
-  Members set;
-  for (const Member member : members) set.set(static_cast<std::size_t>(member));
+constexpr Members Of(std::initializer_list<Member> members) {
+  Members set = 0;
+  for (const Member member : members) set |= Members{1} << static_cast<unsigned>(member);
   return set;
 }
 
 using enum Member;
 
-const Members kPlace = Of({Enabled, Height, Left, Tag, ToolTipText, Top, Visible, Width});
-const Members kFont = Of({FontBold, FontItalic, FontName, FontSize, FontStrikethru, FontUnderline});
+constexpr Members kPlace = Of({Enabled, Height, Left, Tag, ToolTipText, Top, Visible, Width});
+constexpr Members kFont =
+    Of({FontBold, FontItalic, FontName, FontSize, FontStrikethru, FontUnderline});
 
 /// The members of each control class. What a class lacks here is what the form file, the property
 /// sheet and the generated program leave out for its kinds.
-const std::array<Members, 12>& MemberTable() {
-  static const std::array<Members, 12> table{{
-      // CommandButton: no foreground colour, hence the font colour in its record
-      kPlace | kFont | Of({Appearance, BackColor, Cancel, Caption, Default, Picture, TabIndex}),
-      // Label
-      kPlace | kFont |
-          Of({Appearance, AutoSize, BackColor, BackStyle, BorderStyle, Caption, ForeColor, TabIndex,
-              WordWrap}),
-      // Image
-      kPlace | Of({Appearance, BorderStyle, Picture, Stretch}),
-      // CheckBox
-      kPlace | kFont | Of({Appearance, BackColor, Caption, ForeColor, TabIndex, Value}),
-      // OptionButton
-      kPlace | kFont | Of({Appearance, BackColor, Caption, ForeColor, TabIndex, Value}),
-      // TextBox
-      kPlace | kFont | Of({Appearance, BackColor, BorderStyle, ForeColor, TabIndex, Text}),
-      // ListBox
-      kPlace | kFont | Of({Appearance, BackColor, ForeColor, List, TabIndex}),
-      // UserControl1: its font is one object, not members
-      kPlace | Of({Appearance, BackColor, BackStyle, BorderStyle, ForeColor, List, TabIndex, Text}),
-      // PictureBox
-      kPlace | kFont |
-          Of({Appearance, AutoSize, BackColor, BorderStyle, ForeColor, Picture, TabIndex}),
-      // Frame
-      kPlace | kFont | Of({Appearance, BackColor, BorderStyle, Caption, ForeColor, TabIndex}),
-      // Menu
-      Of({Caption, Enabled, Tag, Visible}),
-      // Form
-      kPlace | kFont | Of({Appearance, BackColor, BorderStyle, Caption, ForeColor, Picture}),
-  }};
-  return table;
-}
+constexpr std::array<Members, 12> kMembersOf{{
+    // CommandButton: no foreground colour, hence the font colour in its record
+    kPlace | kFont | Of({Appearance, BackColor, Cancel, Caption, Default, Picture, TabIndex}),
+    // Label
+    kPlace | kFont |
+        Of({Appearance, AutoSize, BackColor, BackStyle, BorderStyle, Caption, ForeColor, TabIndex,
+            WordWrap}),
+    // Image
+    kPlace | Of({Appearance, BorderStyle, Picture, Stretch}),
+    // CheckBox
+    kPlace | kFont | Of({Appearance, BackColor, Caption, ForeColor, TabIndex, Value}),
+    // OptionButton
+    kPlace | kFont | Of({Appearance, BackColor, Caption, ForeColor, TabIndex, Value}),
+    // TextBox
+    kPlace | kFont | Of({Appearance, BackColor, BorderStyle, ForeColor, TabIndex, Text}),
+    // ListBox
+    kPlace | kFont | Of({Appearance, BackColor, ForeColor, List, TabIndex}),
+    // UserControl1: its font is one object, not members
+    kPlace | Of({Appearance, BackColor, BackStyle, BorderStyle, ForeColor, List, TabIndex, Text}),
+    // PictureBox
+    kPlace | kFont |
+        Of({Appearance, AutoSize, BackColor, BorderStyle, ForeColor, Picture, TabIndex}),
+    // Frame
+    kPlace | kFont | Of({Appearance, BackColor, BorderStyle, Caption, ForeColor, TabIndex}),
+    // Menu
+    Of({Caption, Enabled, Tag, Visible}),
+    // Form
+    kPlace | kFont | Of({Appearance, BackColor, BorderStyle, Caption, ForeColor, Picture}),
+}};
 
 double NumberOf(const MemberValue& value) {
   return std::visit(
@@ -133,10 +123,12 @@ bool SetField(Field& field, const MemberValue& value) {
 }
 
 template <class Field>
-bool SetFieldFromText(Field& field, std::string&& text) {
+bool SetFieldFromText(Field& field, std::string_view text) {
   if constexpr (std::is_same_v<Field, std::string>) {
-    field = std::move(text);
+    field = text;
     return true;
+  } else if constexpr (std::is_same_v<Field, std::int16_t> || std::is_same_v<Field, std::int32_t>) {
+    return ReadNumber(text, field);
   } else {
     return SetNumber(field, Val(text));
   }
@@ -233,8 +225,8 @@ std::optional<Member> MemberOfName(std::string_view name) noexcept {
 }
 
 bool HasMember(ControlClass control_class, Member member) noexcept {
-  return MemberTable()[static_cast<std::size_t>(control_class)].test(
-      static_cast<std::size_t>(member));
+  const Members members = kMembersOf[static_cast<std::size_t>(control_class)];
+  return (members >> static_cast<unsigned>(member) & 1U) != 0;
 }
 
 std::string DesignControl::ArrayAndIndex() const {
@@ -262,14 +254,13 @@ bool DesignControl::Set(Member member, const MemberValue& value) {
   return WithField(*this, member, [&](auto& field) { return SetField(field, value); });
 }
 
-bool DesignControl::SetFromText(Member member, std::string text) {
+bool DesignControl::SetFromText(Member member, std::string_view text) {
   if (!Has(member) || member == Member::List) return false;
   if (member == Member::Value && Class() == ControlClass::OptionButton) {
     SetOption(Value, Val(text));
     return true;
   }
-  return WithField(*this, member,
-                   [&](auto& field) { return SetFieldFromText(field, std::move(text)); });
+  return WithField(*this, member, [&](auto& field) { return SetFieldFromText(field, text); });
 }
 
 bool DesignControl::Set(std::string_view name, const MemberValue& value) {

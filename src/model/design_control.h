@@ -1,6 +1,8 @@
 // A design control: the object on a design form, with late-bound members.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -46,6 +48,15 @@ enum class Member : std::uint8_t {
   WordWrap,
 };
 inline constexpr std::size_t kMemberCount = 30;
+/// Their names, by enumerator.
+inline constexpr std::array<std::string_view, kMemberCount> kMemberNames{
+    "Appearance", "AutoSize", "BackColor", "BackStyle",      "BorderStyle",
+    "Cancel",     "Caption",  "Default",   "Enabled",        "FontBold",
+    "FontItalic", "FontName", "FontSize",  "FontStrikethru", "FontUnderline",
+    "ForeColor",  "Height",   "Left",      "List",           "Picture",
+    "Stretch",    "TabIndex", "Tag",       "Text",           "ToolTipText",
+    "Top",        "Value",    "Visible",   "Width",          "WordWrap",
+};
 
 /// The member of a name without regard to case; nothing for a word no class knows.
 [[nodiscard]] std::optional<Member> MemberOfName(std::string_view name) noexcept;
@@ -107,7 +118,7 @@ struct DesignControl {
   bool Set(Member member, const MemberValue& value);
   bool Set(std::string_view name, const MemberValue& value);
   /// Sets a member from text, as Set does.
-  bool SetFromText(Member member, std::string text);
+  bool SetFromText(Member member, std::string_view text);
   /// Adds a row to the control's list; false for a class without one.
   bool AddItem(std::string_view row);
 };

@@ -6,24 +6,34 @@ namespace tarnwick {
 
 namespace {
 
-/// Room for the events of most kinds.
-constexpr std::size_t kUsualEntries = 4;
+/// What an entry without code holds.
+const std::string kNoCode;
 
 }  // namespace
 
 const std::string* EventCodeTable::Owner::Find(Event event) const noexcept {
-  for (const auto& [slot, value] : entries_) {
-    if (slot == static_cast<std::uint8_t>(event)) return &value;
-  }
-  return nullptr;
+  return FindSlot(static_cast<std::size_t>(event));
 }
 
-std::array<const std::string*, kEventCount> EventCodeTable::Owner::Codes() const noexcept {
-  std::array<const std::string*, kEventCount> codes{};
-  for (const auto& [slot, value] : entries_) {
-    if (slot < kEventCount) codes[slot] = &value;
+const std::string* EventCodeTable::Owner::FindSlot(std::size_t slot) const noexcept {
+  if (!present_[slot]) return nullptr;
+  for (const auto& [held, code] : codes_) {
+    if (held == slot) return &code;
   }
-  return codes;
+  return &kNoCode;
+}
+
+std::vector<EventCodeTable::Owner::Code>::iterator EventCodeTable::Owner::SpotOf(
+    std::size_t slot) noexcept {
+  return std::find_if(codes_.begin(), codes_.end(), [&](const Code& c) { return c.first == slot; });
+}
+
+EventSet EventCodeTable::Owner::FilledEvents() const noexcept {
+  EventSet events;
+  for (const auto& [slot, code] : codes_) {
+    if (slot < kEventCount) events.set(slot);
+  }
+  return events;
 }
 
 EventCodeTable::Place EventCodeTable::PositionOf(std::string_view key) noexcept {
@@ -67,7 +77,6 @@ EventCodeTable::Owner& EventCodeTable::OwnerFor(std::string_view key) {
   if (slot.Number == 0) {
     Owner& made = owners_.emplace_back();
     made.key_ = key;
-    made.entries_.reserve(kUsualEntries);
     slot = {hash, static_cast<std::uint32_t>(owners_.size())};
   }
   return owners_[slot.Number - 1];
@@ -96,37 +105,34 @@ const std::string* EventCodeTable::Find(std::string_view key) const noexcept {
   return owner == nullptr ? nullptr : owner->Find(static_cast<Event>(place.Slot));
 }
 
-bool EventCodeTable::Put(Owner& owner, std::uint8_t slot, std::string&& value, bool replace) {
-  for (auto& [held, text] : owner.entries_) {
-    if (held != slot) continue;
-    if (replace) text = std::move(value);
-    return replace;
-  }
-  owner.entries_.emplace_back(slot, std::move(value));
-  ++size_;
-  return true;
-}
-
-bool EventCodeTable::Add(Owner& owner, Event event, std::string value) {
-  return Put(owner, static_cast<std::uint8_t>(event), std::move(value), false);
-}
-
-bool EventCodeTable::Add(std::string_view key, std::string value) {
+bool EventCodeTable::Add(std::string_view key, std::string_view value) {
   const Place place = PositionOf(key);
-  return Put(OwnerFor(place.Owner), place.Slot, std::move(value), false);
+  return Add(OwnerFor(place.Owner), place.Slot, value);
 }
 
-bool EventCodeTable::Add(std::string_view owner, Event event, std::string value) {
-  return Add(OwnerFor(owner), event, std::move(value));
+bool EventCodeTable::Add(std::string_view owner, Event event, std::string_view value) {
+  return Add(OwnerFor(owner), event, value);
+}
+
+void EventCodeTable::Replace(Owner& owner, std::uint8_t slot, std::string&& value) {
+  if (Add(owner, slot, value)) return;
+  const auto spot = owner.SpotOf(slot);
+  if (spot == owner.codes_.end()) {
+    if (!value.empty()) owner.codes_.emplace_back(slot, std::move(value));
+  } else if (value.empty()) {
+    owner.codes_.erase(spot);
+  } else {
+    spot->second = std::move(value);
+  }
 }
 
 void EventCodeTable::Replace(std::string_view key, std::string value) {
   const Place place = PositionOf(key);
-  Put(OwnerFor(place.Owner), place.Slot, std::move(value), true);
+  Replace(OwnerFor(place.Owner), place.Slot, std::move(value));
 }
 
 void EventCodeTable::Replace(std::string_view owner, Event event, std::string value) {
-  Put(OwnerFor(owner), static_cast<std::uint8_t>(event), std::move(value), true);
+  Replace(OwnerFor(owner), static_cast<std::uint8_t>(event), std::move(value));
 }
 
 bool EventCodeTable::Remove(std::string_view key) noexcept {
@@ -134,11 +140,11 @@ bool EventCodeTable::Remove(std::string_view key) noexcept {
   if (index_.empty()) return false;
   const std::uint32_t number = index_[SlotOf(HashOf(place.Owner), place.Owner)].Number;
   if (number == 0) return false;
-  auto& entries = owners_[number - 1].entries_;
-  const auto entry = std::find_if(entries.begin(), entries.end(),
-                                  [&](const auto& e) { return e.first == place.Slot; });
-  if (entry == entries.end()) return false;
-  entries.erase(entry);
+  Owner& owner = owners_[number - 1];
+  if (!owner.present_[place.Slot]) return false;
+  owner.present_.reset(place.Slot);
+  const auto spot = owner.SpotOf(place.Slot);
+  if (spot != owner.codes_.end()) owner.codes_.erase(spot);
   --size_;
   return true;
 }

@@ -1,7 +1,7 @@
 // `EventTable`: the code of every event of every form, object and menu item.
 #pragma once
 
-#include <array>
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -14,6 +14,9 @@
 #include "text/code_page.h"
 
 namespace tarnwick {
+
+/// Events by enumerator.
+using EventSet = std::bitset<kEventCount>;
 
 /// A keyed collection of texts; keys are unique and compare without regard to case. A key is an
 /// owner ("Form1.Button2") and an event suffix (".OnClick"). The entries of one owner stand
@@ -28,15 +31,20 @@ class EventCodeTable {
    public:
     /// The code of an event; null when there is no entry.
     [[nodiscard]] const std::string* Find(Event event) const noexcept;
-    /// The codes of all events by enumerator, null where there is no entry: one pass for callers
-    /// that ask for many events of one owner.
-    [[nodiscard]] std::array<const std::string*, kEventCount> Codes() const noexcept;
-    [[nodiscard]] bool Empty() const noexcept { return entries_.empty(); }
+    /// The events with an entry that is not empty, for callers that ask for many of one owner.
+    [[nodiscard]] EventSet FilledEvents() const noexcept;
+    [[nodiscard]] bool Empty() const noexcept { return present_.none(); }
 
    private:
     friend class EventCodeTable;
+    using Code = std::pair<std::uint8_t, std::string>;
+    [[nodiscard]] const std::string* FindSlot(std::size_t slot) const noexcept;
+    [[nodiscard]] std::vector<Code>::iterator SpotOf(std::size_t slot) noexcept;
+
     std::string key_;
-    std::vector<std::pair<std::uint8_t, std::string>> entries_;
+    // Nearly all entries are empty, so those are bits alone.
+    std::bitset<kEventCount + 1> present_;
+    std::vector<Code> codes_;  ///< of the entries that are not empty
   };
 
   /// The entry of a key; null when there is none. Valid until the table changes.
@@ -47,11 +55,13 @@ class EventCodeTable {
   /// Stays valid until Clear.
   Owner& OwnerFor(std::string_view key);
   /// Adds an entry of an owner of this table; false, and nothing changed, when it is there.
-  bool Add(Owner& owner, Event event, std::string value);
+  bool Add(Owner& owner, Event event, std::string_view value) {
+    return Add(owner, static_cast<std::uint8_t>(event), value);
+  }
   /// Adds an entry; false, and nothing changed, when the key is there already.
-  bool Add(std::string_view key, std::string value);
+  bool Add(std::string_view key, std::string_view value);
   /// The same for an owner and an event, without building the key.
-  bool Add(std::string_view owner, Event event, std::string value);
+  bool Add(std::string_view owner, Event event, std::string_view value);
   /// Removes the key if it is there, then adds it.
   void Replace(std::string_view key, std::string value);
   void Replace(std::string_view owner, Event event, std::string value);
@@ -60,11 +70,15 @@ class EventCodeTable {
   void Clear() noexcept;
   [[nodiscard]] std::size_t Size() const noexcept { return size_; }
 
-  /// Calls `visit(key, value)` for every entry, owners in the order in which they first came.
+  /// Calls `visit(key, value)` for every entry: owners in the order in which they first came, the
+  /// entries of each by enumerator.
   template <class Visit>
   void ForEach(Visit visit) const {
     for (const Owner& owner : owners_) {
-      for (const auto& [slot, value] : owner.entries_) visit(owner.key_ + SuffixOf(slot), value);
+      for (std::uint8_t slot = 0; slot <= kNoEvent; ++slot) {
+        const std::string* const value = owner.FindSlot(slot);
+        if (value != nullptr) visit(owner.key_ + SuffixOf(slot), *value);
+      }
     }
   }
 
@@ -78,7 +92,14 @@ class EventCodeTable {
   [[nodiscard]] static Place PositionOf(std::string_view key) noexcept;
   [[nodiscard]] static std::uint32_t HashOf(std::string_view key) noexcept;
   [[nodiscard]] static std::string SuffixOf(std::uint8_t slot);
-  bool Put(Owner& owner, std::uint8_t slot, std::string&& value, bool replace);
+  bool Add(Owner& owner, std::uint8_t slot, std::string_view value) {
+    if (owner.present_[slot]) return false;
+    owner.present_.set(slot);
+    ++size_;
+    if (!value.empty()) owner.codes_.emplace_back(slot, value);
+    return true;
+  }
+  void Replace(Owner& owner, std::uint8_t slot, std::string&& value);
   [[nodiscard]] const Owner* FindOwner(std::string_view key) const noexcept;
   [[nodiscard]] std::size_t SlotOf(std::uint32_t hash, std::string_view key) const noexcept;
   void GrowIndex();

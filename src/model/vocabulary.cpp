@@ -10,75 +10,6 @@ namespace {
 
 using enum Event;
 
-constexpr std::array<EventInfo, kEventCount> kEvents{{
-    {OnTimer, "160", "OnTimer", ".OnTimer", "OnTimer"},
-    {OnClick, "10", "OnClick", ".OnClick", "OnClick"},
-    {OnClose, "20", "OnClose", ".OnClose", "OnClose (Action As Integer)"},
-    {OnChange, "120", "OnChange", ".OnChange", "OnChange"},
-    {OnEnter, "100", "OnEnter", ".OnEnter", "OnEnter"},
-    {OnDblClick, "110", "OnDblClick", ".OnDblClick", "OnDblClick"},
-    {OnHint, "30", "OnHint", ".OnHint", "OnHint (Hint As String)"},
-    {OnKeyDown, "40", "OnKeyDown", ".OnKeyDown", "OnKeyDown (Key As Word, Shift As Integer)"},
-    {OnKeyPress, "50", "OnKeyPress", ".OnKeyPress", "OnKeyPress (Key As Byte)"},
-    {OnKeyUp, "60", "OnKeyUp", ".OnKeyUp", "OnKeyUp (Key As Word, Shift As Integer)"},
-    {OnMouseDown, "70", "OnMouseDown", ".OnMouseDown",
-     "OnMouseDown (Btn As Integer, X  As Integer, Y  As Integer, Shift  As Integer)"},
-    {OnMouseMove, "80", "OnMouseMove", ".OnMouseMove",
-     "OnMouseMove (X  As Integer, Y  As Integer, Shift  As Integer)"},
-    {OnMouseUp, "90", "OnMouseUp", ".OnMouseUp",
-     "OnMouseUp (Btn As Integer, X  As Integer, Y  As Integer, Shift  As Integer)"},
-    {OnPaint, "130", "OnPaint", ".OnPaint", "OnPaint"},
-    {OnResize, "140", "OnResize", ".OnResize", "OnResize"},
-    {OnShow, "150", "OnShow", ".OnShow", "OnShow"},
-    {OnPopUp, "170", "OnPopUp", ".OnPopUp", "OnPopUp"},
-}};
-
-using Class = ControlClass;
-using List = EventListId;
-
-constexpr std::array<KindInfo, kKindCount> kKinds{{
-    {Kind::Button, "Button", "button", "Button", "Button", "Btn", "   (Button)",
-     Class::CommandButton, List::Button},
-    {Kind::Label, "Label", "label", "Label", "Label", "Label", "   (Label)", Class::Label,
-     List::Picture},
-    {Kind::Image, "Image", "images", "Images", "Image", "Image", "   (Images)", Class::Image,
-     List::Picture},
-    {Kind::CheckBox, "CheckBox", "checkbox", "CheckBox", "CheckBox", "Check", "   (CheckBox)",
-     Class::CheckBox, List::Click},
-    {Kind::OptionButton, "OptionButton", "optionbutton", "OptionButton", "OptionButton",
-     "OptionBtn", "   (OptionButton)", Class::OptionButton, List::Click},
-    {Kind::TextBox, "TextBox", "textbox", "TextBox", "TextBox", "Text", "   (TextBox)",
-     Class::TextBox, List::Edit},
-    {Kind::RichTextBox, "RichTextBox", "richtextbox", "RichTextBox", "RichTextBox", "RichText",
-     "   (RichTextBox)", Class::TextBox, List::Rich},
-    {Kind::ListBox, "ListBox", "listbox", "ListBox", "ListBox", "List", "   (ListBox)",
-     Class::ListBox, List::List},
-    {Kind::ComboBox, "ComboBox", "combobox", "ComboBox", "ComboBox", "Combo", "   (ComboBox)",
-     Class::UserControl1, List::Combo},
-    {Kind::Time, "Time", "time", "Time", "Time", "Time", "   (Time)", Class::PictureBox,
-     List::Timer},
-    {Kind::OpenDialog, "OpenDialog", "opendialog", "OpenDialog", "OpenDialog", "OpenDlg",
-     "   (OpenDialog)", Class::PictureBox, List::None},
-    {Kind::SaveDialog, "SaveDialog", "savedialog", "SaveDialog", "SaveDialog", "SaveDlg",
-     "   (SaveDialog)", Class::PictureBox, List::None},
-    {Kind::FileStream, "FileStream", "filestream", "FileStream", "FileStream", "FileStr",
-     "   (FileStream)", Class::PictureBox, List::None},
-    {Kind::TransparentFrame, "TransparentFrame", "transparentframe", "TransparentFrame",
-     "TransparentFrame", "TrnspFrm", "  (TransparentFrame)", Class::PictureBox, List::None},
-    {Kind::HtmlViewer, "HtmlViewer", "htmlviewer", "HtmlViewer", "HtmlViewer", "Html",
-     "   (HtmlViewer)", Class::TextBox, List::None},
-    {Kind::WinSock, "WinSock", "winsock", "WinSock", "WinSock", "Sock", "   (WinSock)",
-     Class::PictureBox, List::None},
-    {Kind::PopUpMenu, "PopUpMenu", "popupmnu", "PopUpMnu", "PopupMenu", "pMenu", "  (PopupMenu)",
-     Class::PictureBox, List::PopUp},
-    {Kind::Menu, "Menu", "menu", "mnuBar", "", "", "", Class::Menu, List::Click},
-    {Kind::MenuItem, "MenuItem", "itemmnubar", "ItemMnuBar", "", "", "", Class::Menu, List::None},
-    {Kind::Frame, "Frame", "frame", "Frame", "Frame", "", "", Class::Frame, List::None},
-    {Kind::Numero, "", "numero", "Numero", "", "", "", Class::Label, List::None},
-    {Kind::Handle, "", "pichandle", "picHandle", "", "", "", Class::PictureBox, List::None},
-    {Kind::Form, "Form", "form", "Form", "Form", "Form", "   (Form)", Class::Form, List::Form},
-}};
-
 constexpr std::array kFormEvents{OnClick,    OnClose, OnHint,      OnKeyDown,
                                  OnKeyPress, OnKeyUp, OnMouseDown, OnMouseMove,
                                  OnMouseUp,  OnPaint, OnResize,    OnShow};
@@ -133,14 +64,6 @@ constexpr std::array kNewObjectEvents{OnTimer,    OnClick, OnDblClick,  OnKeyDow
 
 }  // namespace
 
-const EventInfo& InfoOf(Event event) noexcept {
-  return kEvents[static_cast<std::size_t>(event)];
-}
-
-std::span<const EventInfo, kEventCount> AllEvents() noexcept {
-  return kEvents;
-}
-
 std::optional<Event> EventOfName(std::string_view name) noexcept {
   for (const EventInfo& info : kEvents) {
     if (EqualsFolded(info.Name, name)) return info.Id;
@@ -153,14 +76,6 @@ std::optional<Event> EventOfCode(std::string_view code) noexcept {
     if (info.Code == code) return info.Id;
   }
   return std::nullopt;
-}
-
-const KindInfo& InfoOf(Kind kind) noexcept {
-  return kKinds[static_cast<std::size_t>(kind)];
-}
-
-std::span<const KindInfo, kKindCount> AllKinds() noexcept {
-  return kKinds;
 }
 
 std::optional<Kind> KindOfTag(std::string_view tag) noexcept {

@@ -42,9 +42,37 @@ struct EventInfo {
   std::string_view Signature;  ///< Sub header text, parameters included
 };
 
-[[nodiscard]] const EventInfo& InfoOf(Event event) noexcept;
 /// All events by enumerator.
-[[nodiscard]] std::span<const EventInfo, kEventCount> AllEvents() noexcept;
+inline constexpr std::array<EventInfo, kEventCount> kEvents{{
+    {Event::OnTimer, "160", "OnTimer", ".OnTimer", "OnTimer"},
+    {Event::OnClick, "10", "OnClick", ".OnClick", "OnClick"},
+    {Event::OnClose, "20", "OnClose", ".OnClose", "OnClose (Action As Integer)"},
+    {Event::OnChange, "120", "OnChange", ".OnChange", "OnChange"},
+    {Event::OnEnter, "100", "OnEnter", ".OnEnter", "OnEnter"},
+    {Event::OnDblClick, "110", "OnDblClick", ".OnDblClick", "OnDblClick"},
+    {Event::OnHint, "30", "OnHint", ".OnHint", "OnHint (Hint As String)"},
+    {Event::OnKeyDown, "40", "OnKeyDown", ".OnKeyDown",
+     "OnKeyDown (Key As Word, Shift As Integer)"},
+    {Event::OnKeyPress, "50", "OnKeyPress", ".OnKeyPress", "OnKeyPress (Key As Byte)"},
+    {Event::OnKeyUp, "60", "OnKeyUp", ".OnKeyUp", "OnKeyUp (Key As Word, Shift As Integer)"},
+    {Event::OnMouseDown, "70", "OnMouseDown", ".OnMouseDown",
+     "OnMouseDown (Btn As Integer, X  As Integer, Y  As Integer, Shift  As Integer)"},
+    {Event::OnMouseMove, "80", "OnMouseMove", ".OnMouseMove",
+     "OnMouseMove (X  As Integer, Y  As Integer, Shift  As Integer)"},
+    {Event::OnMouseUp, "90", "OnMouseUp", ".OnMouseUp",
+     "OnMouseUp (Btn As Integer, X  As Integer, Y  As Integer, Shift  As Integer)"},
+    {Event::OnPaint, "130", "OnPaint", ".OnPaint", "OnPaint"},
+    {Event::OnResize, "140", "OnResize", ".OnResize", "OnResize"},
+    {Event::OnShow, "150", "OnShow", ".OnShow", "OnShow"},
+    {Event::OnPopUp, "170", "OnPopUp", ".OnPopUp", "OnPopUp"},
+}};
+
+[[nodiscard]] constexpr const EventInfo& InfoOf(Event event) noexcept {
+  return kEvents[static_cast<std::size_t>(event)];
+}
+[[nodiscard]] constexpr std::span<const EventInfo, kEventCount> AllEvents() noexcept {
+  return kEvents;
+}
 /// The event of a name without regard to case ("onclick").
 [[nodiscard]] std::optional<Event> EventOfName(std::string_view name) noexcept;
 /// The event of a code such as "120".
@@ -122,8 +150,61 @@ struct KindInfo {
   EventListId Events;
 };
 
-[[nodiscard]] const KindInfo& InfoOf(Kind kind) noexcept;
-[[nodiscard]] std::span<const KindInfo, kKindCount> AllKinds() noexcept;
+/// All kinds by enumerator.
+inline constexpr std::array<KindInfo, kKindCount> kKinds{{
+    {Kind::Button, "Button", "button", "Button", "Button", "Btn", "   (Button)",
+     ControlClass::CommandButton, EventListId::Button},
+    {Kind::Label, "Label", "label", "Label", "Label", "Label", "   (Label)", ControlClass::Label,
+     EventListId::Picture},
+    {Kind::Image, "Image", "images", "Images", "Image", "Image", "   (Images)", ControlClass::Image,
+     EventListId::Picture},
+    {Kind::CheckBox, "CheckBox", "checkbox", "CheckBox", "CheckBox", "Check", "   (CheckBox)",
+     ControlClass::CheckBox, EventListId::Click},
+    {Kind::OptionButton, "OptionButton", "optionbutton", "OptionButton", "OptionButton",
+     "OptionBtn", "   (OptionButton)", ControlClass::OptionButton, EventListId::Click},
+    {Kind::TextBox, "TextBox", "textbox", "TextBox", "TextBox", "Text", "   (TextBox)",
+     ControlClass::TextBox, EventListId::Edit},
+    {Kind::RichTextBox, "RichTextBox", "richtextbox", "RichTextBox", "RichTextBox", "RichText",
+     "   (RichTextBox)", ControlClass::TextBox, EventListId::Rich},
+    {Kind::ListBox, "ListBox", "listbox", "ListBox", "ListBox", "List", "   (ListBox)",
+     ControlClass::ListBox, EventListId::List},
+    {Kind::ComboBox, "ComboBox", "combobox", "ComboBox", "ComboBox", "Combo", "   (ComboBox)",
+     ControlClass::UserControl1, EventListId::Combo},
+    {Kind::Time, "Time", "time", "Time", "Time", "Time", "   (Time)", ControlClass::PictureBox,
+     EventListId::Timer},
+    {Kind::OpenDialog, "OpenDialog", "opendialog", "OpenDialog", "OpenDialog", "OpenDlg",
+     "   (OpenDialog)", ControlClass::PictureBox, EventListId::None},
+    {Kind::SaveDialog, "SaveDialog", "savedialog", "SaveDialog", "SaveDialog", "SaveDlg",
+     "   (SaveDialog)", ControlClass::PictureBox, EventListId::None},
+    {Kind::FileStream, "FileStream", "filestream", "FileStream", "FileStream", "FileStr",
+     "   (FileStream)", ControlClass::PictureBox, EventListId::None},
+    {Kind::TransparentFrame, "TransparentFrame", "transparentframe", "TransparentFrame",
+     "TransparentFrame", "TrnspFrm", "  (TransparentFrame)", ControlClass::PictureBox,
+     EventListId::None},
+    {Kind::HtmlViewer, "HtmlViewer", "htmlviewer", "HtmlViewer", "HtmlViewer", "Html",
+     "   (HtmlViewer)", ControlClass::TextBox, EventListId::None},
+    {Kind::WinSock, "WinSock", "winsock", "WinSock", "WinSock", "Sock", "   (WinSock)",
+     ControlClass::PictureBox, EventListId::None},
+    {Kind::PopUpMenu, "PopUpMenu", "popupmnu", "PopUpMnu", "PopupMenu", "pMenu", "  (PopupMenu)",
+     ControlClass::PictureBox, EventListId::PopUp},
+    {Kind::Menu, "Menu", "menu", "mnuBar", "", "", "", ControlClass::Menu, EventListId::Click},
+    {Kind::MenuItem, "MenuItem", "itemmnubar", "ItemMnuBar", "", "", "", ControlClass::Menu,
+     EventListId::None},
+    {Kind::Frame, "Frame", "frame", "Frame", "Frame", "", "", ControlClass::Frame,
+     EventListId::None},
+    {Kind::Numero, "", "numero", "Numero", "", "", "", ControlClass::Label, EventListId::None},
+    {Kind::Handle, "", "pichandle", "picHandle", "", "", "", ControlClass::PictureBox,
+     EventListId::None},
+    {Kind::Form, "Form", "form", "Form", "Form", "Form", "   (Form)", ControlClass::Form,
+     EventListId::Form},
+}};
+
+[[nodiscard]] constexpr const KindInfo& InfoOf(Kind kind) noexcept {
+  return kKinds[static_cast<std::size_t>(kind)];
+}
+[[nodiscard]] constexpr std::span<const KindInfo, kKindCount> AllKinds() noexcept {
+  return kKinds;
+}
 /// The kind of a lower-case tag: array names and file words both ("images", "image"). Nothing for
 /// an unknown word.
 [[nodiscard]] std::optional<Kind> KindOfTag(std::string_view tag) noexcept;

@@ -1,6 +1,7 @@
 #include "model/project_records.h"
 
 #include <algorithm>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -67,13 +68,13 @@ TEST(NewForm, HasAWindowOfItsNumberAndSize) {
 TEST(NewForm, HasAnEmptyEntryForEachFormEvent) {
   ProjectTables tables;
   AddForm(tables);
-  std::vector<std::string> keys;
+  std::set<std::string> keys;
   tables.EventTable.ForEach([&](const std::string& key, const std::string& code) {
-    keys.push_back(key);
+    keys.insert(key);
     EXPECT_EQ(code, "");
   });
   EXPECT_EQ(keys,
-            (std::vector<std::string>{
+            (std::set<std::string>{
                 "Form1.OnTimer", "Form1.OnClick", "Form1.OnClose", "Form1.OnHint", "Form1.OnPaint",
                 "Form1.OnResize", "Form1.OnShow", "Form1.OnKeyDown", "Form1.OnKeyPress",
                 "Form1.OnKeyUp", "Form1.OnMouseDown", "Form1.OnMouseMove", "Form1.OnMouseUp"}));
