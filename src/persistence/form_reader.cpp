@@ -23,22 +23,11 @@ bool HasPicture(std::string_view path) {
 
 /// Twips from a number of pixels as text; a number too large for single precision is refused.
 void ReadPlace(std::string_view value, float& twips) {
-  if (const auto read = ToSingle(Val(value) * kTwipsPerPixel)) twips = *read;
-}
-
-float* PositionOf(DesignControl& control, Member member) {
-  switch (member) {
-    case Member::Left:
-      return &control.Left;
-    case Member::Top:
-      return &control.Top;
-    case Member::Width:
-      return &control.Width;
-    case Member::Height:
-      return &control.Height;
-    default:
-      return nullptr;
+  if (const auto pixels = PlainDigits<std::int16_t>(value)) {
+    twips = static_cast<float>(*pixels * kTwipsPerPixel);
+    return;
   }
+  if (const auto read = ToSingle(Val(value) * kTwipsPerPixel)) twips = *read;
 }
 
 }  // namespace
@@ -78,11 +67,11 @@ bool FormReader::ReadLine(std::string_view line) {
   if (StartsWithFolded(line, "[menu]")) {
     ReadMenuTitle();
   } else if (StartsWithFolded(line, "[menuitem]") || StartsWithFolded(line, "[itemmenu]") ||
-             EqualsFolded(scanner_.Kind(), "sub")) {
+             EqualsFolded(scanner_.KindWord(), "sub")) {
     ReadItemCode();
-  } else if (scanner_.Kind() == "DeclarePbl") {
+  } else if (scanner_.KindWord() == "DeclarePbl") {
     ReadDeclarations();
-  } else if (const std::optional<Kind> kind = KindOfFileWord(scanner_.Kind())) {
+  } else if (const std::optional<Kind> kind = scanner_.ObjectKind()) {
     ReadObject(*kind);
   }
   return true;
@@ -126,9 +115,9 @@ void FormReader::ReadFormValues(int form) {
   for (const LayoutField& field : LayoutOf(Kind::Form).Fields) {
     if (field.In == Tag::None) continue;
     if (const auto* const event = std::get_if<Event>(&field.Value)) {
-      std::string code = scanner_.Value(field.In);
+      const std::string_view code = scanner_.Value(field.In);
       if (!code.empty()) TellBar("Form", *event);
-      tables_.EventTable.Replace(form_key_, *event, std::move(code));
+      tables_.EventTable.Replace(form_key_, *event, std::string(code));
     } else {
       std::visit([&](const auto& source) { Take(object, field.In, source); }, field.Value);
     }
@@ -175,20 +164,20 @@ void FormReader::ReadPicture(Kind kind, Object& object) {
 
 void FormReader::ReadMenuTitle() {
   if (!std::exchange(menu_met_, true)) tables_.ClearMenuArrays();
-  ReadMenu(tables_, *window_, scanner_.Value(Tag::String), scanner_.Name(),
-           scanner_.Value(Tag::Items));
+  const std::string caption(scanner_.Value(Tag::String));
+  ReadMenu(tables_, *window_, caption, scanner_.Name(), scanner_.Value(Tag::Items));
 }
 
 void FormReader::ReadItemCode() {
-  const std::string code = scanner_.Value(Tag::Click);
+  const std::string_view code = scanner_.Value(Tag::Click);
   const std::string owner = form_key_ + "." + std::string(scanner_.Name());
-  tables_.EventTable.Replace(owner, Event::OnClick, code);
+  tables_.EventTable.Replace(owner, Event::OnClick, std::string(code));
   if (!code.empty()) TellBar(scanner_.Name(), Event::OnClick);
 }
 
 void FormReader::ReadDeclarations() {
-  std::string text = scanner_.Value(Tag::String);
-  if (!text.empty()) record_->DeclarePbl = std::move(text);
+  const std::string_view text = scanner_.Value(Tag::String);
+  if (!text.empty()) record_->DeclarePbl = text;
 }
 
 void FormReader::TellBar(std::string_view name, Event event) {
@@ -217,19 +206,29 @@ void FormReader::Take(Object& object, Tag tag, Special special) {
 }
 
 void FormReader::Take(Object& object, Tag tag, Member member) {
-  if (float* const place = PositionOf(object.Control, member)) {
-    return ReadPlace(scanner_.Stored(tag), *place);
+  DesignControl& control = object.Control;
+  switch (member) {
+    case Member::Left:
+      return ReadPlace(scanner_.Stored(tag), control.Left);
+    case Member::Top:
+      return ReadPlace(scanner_.Stored(tag), control.Top);
+    case Member::Width:
+      return ReadPlace(scanner_.Stored(tag), control.Width);
+    case Member::Height:
+      return ReadPlace(scanner_.Stored(tag), control.Height);
+    default:
+      break;
   }
-  object.Control.SetFromText(member, scanner_.Value(tag));
+  control.SetFromText(member, scanner_.Value(tag));
   // The state of a check or option object is kept on the control and in its record both.
   if (member == Member::Value) Take(object, tag, &ObjectRec::Checked);
 }
 
 void FormReader::Take(Object& object, Tag tag, Event event) {
   if (object.Code == nullptr) return;
-  std::string code = scanner_.Value(tag);
+  const std::string_view code = scanner_.Value(tag);
   if (!code.empty()) TellBar(object.BarName, event);
-  tables_.EventTable.Add(*object.Code, event, std::move(code));
+  tables_.EventTable.Add(*object.Code, event, code);
 }
 
 void FormReader::Take(Object& object, Tag tag, std::int16_t ObjectRec::*field) {
@@ -251,8 +250,9 @@ void FormReader::Take(Object& object, Tag tag, std::string ObjectRec::*field) {
 }
 
 void FormReader::Take(Object& object, Tag tag, ItemsText items) {
-  if (object.Record != nullptr) object.Record->*items.Field = scanner_.Value(tag);
-  object.Control.Items = ItemRows(scanner_.Value(tag));
+  const std::string_view rows = scanner_.Value(tag);
+  if (object.Record != nullptr) object.Record->*items.Field = rows;
+  object.Control.Items = ItemRows(rows);
 }
 
 void FormReader::Take(Object& /*object*/, Tag tag, std::int16_t FormRec::*field) {

@@ -53,18 +53,17 @@ class FormChecker {
  private:
   void Tell(std::string what) {
     faults_.push_back(
-        {line_, std::string(scanner_.Kind()), std::string(scanner_.Name()), std::move(what)});
+        {line_, std::string(scanner_.KindWord()), std::string(scanner_.Name()), std::move(what)});
   }
 
   void CheckLine(std::string_view line) {
     scanner_.Scan(line);
     const bool is_form = StartsWithFolded(line, kStartHeads[0]);
     form_met_ = form_met_ || is_form;
-    const std::optional<Kind> kind =
-        is_form ? std::optional(Kind::Form) : KindOfFileWord(scanner_.Kind());
-    if (IsOtherRecord(line, scanner_.Kind()) && !is_form) return;
+    const std::optional<Kind> kind = is_form ? std::optional(Kind::Form) : scanner_.ObjectKind();
+    if (IsOtherRecord(line, scanner_.KindWord()) && !is_form) return;
     if (!kind) {
-      Tell(scanner_.Kind().empty() ? "the line is no record" : "the kind is not known");
+      Tell(scanner_.KindWord().empty() ? "the line is no record" : "the kind is not known");
       return;
     }
     CheckNumbers(*kind);

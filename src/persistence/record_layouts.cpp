@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
-
-#include "text/code_page.h"
+#include <cstddef>
+#include <utility>
 
 namespace tarnwick {
 
@@ -144,101 +144,147 @@ struct SourceWord {
 };
 
 /// The words of the layouts that are no control members and no events.
-const std::vector<SourceWord>& SourceWords() {
-  static const std::vector<SourceWord> words{
-      {"number", Special::Number},
-      {"name", Special::Name},
-      {"window.caption", Special::WindowCaption},
-      {"window.color", Special::WindowColor},
-      {"rows", Special::ItemList},
-      {"one", Special::One},
-      {"items", ItemsText{&ObjectRec::Items}},
-      {"rec.Title", &ObjectRec::Title},
-      {"rec.Filter", &ObjectRec::Filter},
-      {"rec.InitialDir", &ObjectRec::InitialDir},
-      {"rec.FileName", &ObjectRec::FileName},
-      {"rec.ImageFile", &ObjectRec::ImageFile},
-      {"rec.FontColor", &ObjectRec::FontColor},
-      {"rec.Interval", &ObjectRec::Interval},
-      {"rec.Sorted", &ObjectRec::Sorted},
-      {"rec.MultiSelect", &ObjectRec::MultiSelect},
-      {"rec.HideScrollBars", &ObjectRec::HideScrollBars},
-      {"rec.Icon", &ObjectRec::Icon},
-      {"rec.ScrollBars", &ObjectRec::ScrollBars},
-      {"rec.Visible", &ObjectRec::Visible},
-      {"rec.Enabled", &ObjectRec::Enabled},
-      {"rec.Cursor", &ObjectRec::Cursor},
-      {"rec.Columns", &ObjectRec::Columns},
-      {"rec.TabOrder", &ObjectRec::TabOrder},
-      {"rec.ReadOnly", &ObjectRec::ReadOnly},
-      {"form.Left", &FormRec::Left},
-      {"form.Top", &FormRec::Top},
-      {"form.Width", &FormRec::Width},
-      {"form.Height", &FormRec::Height},
-      {"form.ImageFile", &FormRec::ImageFile},
-      {"form.IconFile", &FormRec::IconFile},
-      {"form.BorderStyle", &FormRec::BorderStyle},
-      {"form.Cursor", &FormRec::Cursor},
-      {"form.Hint", CommaText{&FormRec::Hint}},
-      {"form.WndState", &FormRec::WndState},
-      {"form.Center", &FormRec::Center},
-      {"form.Visible", &FormRec::Visible},
-      {"form.TfLeft", &FormRec::TfLeft},
-      {"form.TfTop", &FormRec::TfTop},
-      {"form.TfWidth", &FormRec::TfWidth},
-      {"form.TfHeight", &FormRec::TfHeight},
-      {"form.TfCursor", &FormRec::TfCursor},
-      {"form.TfAlign", &FormRec::TfAlign},
-      {"form.TfTransparency", &FormRec::TfTransparency},
-      {"form.TfTranspColor", &FormRec::TfTranspColor},
-      {"sock.Family", &WinSockRec::Family},
-      {"sock.Protocol", &WinSockRec::Protocol},
-      {"sock.Type", &WinSockRec::Type},
-      {"sock.WMessage", &WinSockRec::WMessage},
-      {"html.Navigate", &HtmlViewerRec::Navigate},
-      {"popup.Alignment", &PopUpItemRec::Alignment},
-      {"popup.AutoPopUp", &PopUpItemRec::AutoPopUp},
-      {"popup.PopUpMenu", &PopUpItemRec::PopUpMenu},
-  };
-  return words;
-}
+constexpr std::array kSourceWords{
+    SourceWord{"number", Special::Number},
+    SourceWord{"name", Special::Name},
+    SourceWord{"window.caption", Special::WindowCaption},
+    SourceWord{"window.color", Special::WindowColor},
+    SourceWord{"rows", Special::ItemList},
+    SourceWord{"one", Special::One},
+    SourceWord{"items", ItemsText{&ObjectRec::Items}},
+    SourceWord{"rec.Title", &ObjectRec::Title},
+    SourceWord{"rec.Filter", &ObjectRec::Filter},
+    SourceWord{"rec.InitialDir", &ObjectRec::InitialDir},
+    SourceWord{"rec.FileName", &ObjectRec::FileName},
+    SourceWord{"rec.ImageFile", &ObjectRec::ImageFile},
+    SourceWord{"rec.FontColor", &ObjectRec::FontColor},
+    SourceWord{"rec.Interval", &ObjectRec::Interval},
+    SourceWord{"rec.Sorted", &ObjectRec::Sorted},
+    SourceWord{"rec.MultiSelect", &ObjectRec::MultiSelect},
+    SourceWord{"rec.HideScrollBars", &ObjectRec::HideScrollBars},
+    SourceWord{"rec.Icon", &ObjectRec::Icon},
+    SourceWord{"rec.ScrollBars", &ObjectRec::ScrollBars},
+    SourceWord{"rec.Visible", &ObjectRec::Visible},
+    SourceWord{"rec.Enabled", &ObjectRec::Enabled},
+    SourceWord{"rec.Cursor", &ObjectRec::Cursor},
+    SourceWord{"rec.Columns", &ObjectRec::Columns},
+    SourceWord{"rec.TabOrder", &ObjectRec::TabOrder},
+    SourceWord{"rec.ReadOnly", &ObjectRec::ReadOnly},
+    SourceWord{"form.Left", &FormRec::Left},
+    SourceWord{"form.Top", &FormRec::Top},
+    SourceWord{"form.Width", &FormRec::Width},
+    SourceWord{"form.Height", &FormRec::Height},
+    SourceWord{"form.ImageFile", &FormRec::ImageFile},
+    SourceWord{"form.IconFile", &FormRec::IconFile},
+    SourceWord{"form.BorderStyle", &FormRec::BorderStyle},
+    SourceWord{"form.Cursor", &FormRec::Cursor},
+    SourceWord{"form.Hint", CommaText{&FormRec::Hint}},
+    SourceWord{"form.WndState", &FormRec::WndState},
+    SourceWord{"form.Center", &FormRec::Center},
+    SourceWord{"form.Visible", &FormRec::Visible},
+    SourceWord{"form.TfLeft", &FormRec::TfLeft},
+    SourceWord{"form.TfTop", &FormRec::TfTop},
+    SourceWord{"form.TfWidth", &FormRec::TfWidth},
+    SourceWord{"form.TfHeight", &FormRec::TfHeight},
+    SourceWord{"form.TfCursor", &FormRec::TfCursor},
+    SourceWord{"form.TfAlign", &FormRec::TfAlign},
+    SourceWord{"form.TfTransparency", &FormRec::TfTransparency},
+    SourceWord{"form.TfTranspColor", &FormRec::TfTranspColor},
+    SourceWord{"sock.Family", &WinSockRec::Family},
+    SourceWord{"sock.Protocol", &WinSockRec::Protocol},
+    SourceWord{"sock.Type", &WinSockRec::Type},
+    SourceWord{"sock.WMessage", &WinSockRec::WMessage},
+    SourceWord{"html.Navigate", &HtmlViewerRec::Navigate},
+    SourceWord{"popup.Alignment", &PopUpItemRec::Alignment},
+    SourceWord{"popup.AutoPopUp", &PopUpItemRec::AutoPopUp},
+    SourceWord{"popup.PopUpMenu", &PopUpItemRec::PopUpMenu},
+};
 
-Source SourceFor(std::string_view word) {
-  for (const SourceWord& entry : SourceWords()) {
+constexpr Source SourceFor(std::string_view word) {
+  for (const SourceWord& entry : kSourceWords) {
     if (entry.Word == word) return entry.Value;
   }
-  if (const auto event = EventOfName(word)) return *event;
-  return MemberOfName(word).value_or(Member::Tag);
+  for (const EventInfo& event : kEvents) {
+    if (event.Name == word) return event.Id;
+  }
+  for (std::size_t member = 0; member < kMemberCount; ++member) {
+    if (kMemberNames[member] == word) return static_cast<Member>(member);
+  }
+  throw "a layout names what does not exist";
 }
 
 /// The tag whose "<" ends the literal before a value.
-Tag TagOf(std::string_view before) {
+constexpr Tag TagOf(std::string_view before) {
   const std::size_t bracket = before.rfind('<');
   if (bracket == std::string_view::npos) return Tag::None;
-  const std::size_t blank = before.rfind(' ', bracket);
-  const std::size_t start = blank == std::string_view::npos ? 0 : blank + 1;
-  return TagOfWord(Lower(before.substr(start, bracket - start)));
+  const std::size_t start = before.rfind(' ', bracket) + 1;  // 0 where there is no blank
+  const Tag tag = TagOfWord(before.substr(start, bracket - start));
+  if (tag == Tag::None) throw "a layout has a tag that does not exist";
+  return tag;
 }
 
-RecordLayout Parse(std::string_view text) {
-  RecordLayout layout;
-  std::size_t at = 0;
-  for (std::size_t open = text.find('@'); open != std::string_view::npos;
-       open = text.find('@', at)) {
+constexpr std::size_t CountFields(std::string_view text) {
+  std::size_t marks = 0;
+  for (const char c : text) marks += c == '@' ? 1 : 0;
+  return marks / 2;
+}
+
+/// The fields of a layout's text.
+template <std::size_t Count>
+constexpr std::array<LayoutField, Count> FieldsOf(std::string_view text) {
+  std::array<LayoutField, Count> fields{};
+  for (LayoutField& field : fields) {
+    const std::size_t open = text.find('@');
     const std::size_t close = text.find('@', open + 1);
-    LayoutField field;
-    field.Before = text.substr(at, open - at);
+    field.Before = text.substr(0, open);
     field.Value = SourceFor(text.substr(open + 1, close - open - 1));
     const auto* const special = std::get_if<Special>(&field.Value);
     const bool in_head =
         special != nullptr && (*special == Special::Number || *special == Special::Name);
     if (!in_head) field.In = TagOf(field.Before);
-    layout.Fields.push_back(std::move(field));
-    at = close + 1;
+    field.Lead = field.Before.substr(0, field.Before.rfind('<') + 1);
+    text.remove_prefix(close + 1);
   }
-  layout.End = text.substr(at);
-  return layout;
+  return fields;
 }
+
+template <std::size_t Place>
+constexpr auto kFields = FieldsOf<CountFields(kLayoutTexts[Place].Text)>(kLayoutTexts[Place].Text);
+
+/// The layouts by kind; kinds without a record have an empty one.
+constexpr std::array<RecordLayout, kKindCount> kLayouts =
+    []<std::size_t... Places>(std::index_sequence<Places...>) {
+  std::array<RecordLayout, kKindCount> layouts{};
+  const auto put = [&](std::span<const LayoutField> fields, const LayoutText& entry) {
+    const std::size_t last = entry.Text.rfind('@');
+    layouts[static_cast<std::size_t>(entry.Id)] = {fields, entry.Text.substr(last + 1)};
+  };
+  (put(kFields<Places>, kLayoutTexts[Places]), ...);
+  return layouts;
+}
+(std::make_index_sequence<kLayoutTexts.size()>{});
+
+/// True when the literal behind a value ends it: ">" and the tag's own word.
+constexpr bool Closes(std::string_view literal, Tag tag) {
+  const std::size_t size = InfoOf(tag).Word.size();
+  return literal.starts_with('>') && TagOfWord(literal.substr(1, size)) == tag &&
+         literal.find('>', 1) == std::string_view::npos;
+}
+
+constexpr bool ReadsByPlace(const RecordLayout& layout) {
+  for (std::size_t i = 0; i < layout.Fields.size(); ++i) {
+    const Tag tag = layout.Fields[i].In;
+    if (tag == Tag::None) continue;
+    const bool last = i + 1 == layout.Fields.size();
+    if (!Closes(last ? layout.End : layout.Fields[i + 1].Before, tag)) return false;
+    for (const LayoutField& before : layout.Fields.first(i)) {
+      if (before.In == Tag::None) continue;
+      if (InfoOf(before.In).Word.ends_with(InfoOf(tag).Word)) return false;
+    }
+  }
+  return true;
+}
+static_assert(std::all_of(kLayouts.begin(), kLayouts.end(), ReadsByPlace));
 
 constexpr std::array kFaceColor{InheritedMember{Member::BackColor, Tag::Color}};
 constexpr std::array kLabelBorder{InheritedMember{Member::BorderStyle, Tag::Border},
@@ -253,15 +299,8 @@ constexpr std::array kFramePlace{
 
 }  // namespace
 
-const RecordLayout& LayoutOf(Kind kind) {
-  static const std::array<RecordLayout, kKindCount> layouts = [] {
-    std::array<RecordLayout, kKindCount> all;
-    for (const LayoutText& entry : kLayoutTexts) {
-      all[static_cast<std::size_t>(entry.Id)] = Parse(entry.Text);
-    }
-    return all;
-  }();
-  return layouts[static_cast<std::size_t>(kind)];
+const RecordLayout& LayoutOf(Kind kind) noexcept {
+  return kLayouts[static_cast<std::size_t>(kind)];
 }
 
 std::span<const InheritedMember> InheritedMembersOf(Kind kind) noexcept {

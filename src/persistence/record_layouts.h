@@ -7,7 +7,6 @@
 #include <string>
 #include <string_view>
 #include <variant>
-#include <vector>
 
 #include "model/design_control.h"
 #include "model/project_records.h"
@@ -45,18 +44,23 @@ using Source =
 /// A piece of a record: literal text, then a value. `In` is the tag in which the value stands;
 /// None for the head's number and name.
 struct LayoutField {
-  std::string Before;
+  std::string_view Before;
   Source Value;
   Tag In = Tag::None;
+  /// The literal up to its "<": what a layout has behind it is read as part of the value.
+  std::string_view Lead;
 };
 
+/// The tags of a record differ, none is the end of one before it, and each value lies between
+/// its tag's two words and no others: a line that holds all literals of a layout can be read by
+/// their places.
 struct RecordLayout {
-  std::vector<LayoutField> Fields;
-  std::string End;
+  std::span<const LayoutField> Fields;
+  std::string_view End;
 };
 
 /// The layout of an object kind or of the form itself (Kind::Form).
-[[nodiscard]] const RecordLayout& LayoutOf(Kind kind);
+[[nodiscard]] const RecordLayout& LayoutOf(Kind kind) noexcept;
 
 /// A control member that reading sets beside what the layout names: from a tag of another field,
 /// or from one that the kind's own record does not carry, whose value a line before left behind.

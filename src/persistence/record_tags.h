@@ -1,6 +1,7 @@
 // The tags of record lines.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -106,10 +107,15 @@ inline constexpr std::array<TagInfo, kTagCount> kTags{{
   return kTags[static_cast<std::size_t>(tag)];
 }
 
-/// The tag of a lower-case word; None for a word that is no tag.
+/// The tag of a word of letters in any case; None for a word that is no tag.
 [[nodiscard]] constexpr Tag TagOfWord(std::string_view word) noexcept {
+  constexpr char kCaseBit = 0x20;
+  const auto equal = [](char letter, char lower) { return (letter | kCaseBit) == lower; };
   for (std::size_t tag = 0; tag < kTagCount; ++tag) {
-    if (kTags[tag].Word == word) return static_cast<Tag>(tag);
+    const std::string_view own = kTags[tag].Word;
+    if (std::equal(word.begin(), word.end(), own.begin(), own.end(), equal)) {
+      return static_cast<Tag>(tag);
+    }
   }
   return Tag::None;
 }

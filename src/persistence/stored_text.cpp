@@ -15,6 +15,13 @@ void AppendReplacing(std::string& out, std::string_view text, char from, char to
   std::replace(out.begin() + static_cast<std::ptrdiff_t>(start), out.end(), from, to);
 }
 
+std::string_view RestoredByte(std::string_view text, char stored, std::string& buffer) {
+  if (text.find(stored) == std::string_view::npos) return text;
+  buffer = text;
+  ReplaceByte(buffer, stored, ',');
+  return buffer;
+}
+
 }  // namespace
 
 void AppendStoredText(std::string& out, std::string_view text) {
@@ -51,18 +58,19 @@ std::vector<std::string> ItemRows(std::string_view items) {
   return rows;
 }
 
-void RestoreCommas(std::string& text) {
-  ReplaceByte(text, kStoredComma, ',');
+std::string_view RestoredCommas(std::string_view text, std::string& buffer) {
+  return RestoredByte(text, kStoredComma, buffer);
 }
 
-void RestoreListCommas(std::string& text) {
-  ReplaceByte(text, kStoredListComma, ',');
+std::string_view RestoredListCommas(std::string_view text, std::string& buffer) {
+  return RestoredByte(text, kStoredListComma, buffer);
 }
 
-void RestoreLines(std::string& text) {
-  RestoreCommas(text);
-  if (text.find(kStoredLineBreak) == std::string::npos) return;
-  text = ReplaceAll(text, std::string_view(&kStoredLineBreak, 1), "\r\n");
+std::string_view RestoredLines(std::string_view text, std::string& buffer) {
+  const std::string_view restored = RestoredByte(text, kStoredComma, buffer);
+  if (restored.find(kStoredLineBreak) == std::string_view::npos) return restored;
+  buffer = ReplaceAll(restored, std::string_view(&kStoredLineBreak, 1), "\r\n");
+  return buffer;
 }
 
 }  // namespace tarnwick

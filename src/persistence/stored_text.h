@@ -20,10 +20,11 @@ void AppendStoredItems(std::string& out, std::string_view items);
 /// comma-separated.
 [[nodiscard]] std::vector<std::string> ItemRows(std::string_view items);
 
-/// Turns stored bytes back in place.
-void RestoreCommas(std::string& text);
-void RestoreListCommas(std::string& text);
+/// A text with its stored bytes turned back: the text itself where it has none of them, as most,
+/// otherwise the buffer, which then holds the result.
+[[nodiscard]] std::string_view RestoredCommas(std::string_view text, std::string& buffer);
+[[nodiscard]] std::string_view RestoredListCommas(std::string_view text, std::string& buffer);
 /// Commas and line ends; a line end is CR LF in memory.
-void RestoreLines(std::string& text);
+[[nodiscard]] std::string_view RestoredLines(std::string_view text, std::string& buffer);
 
 }  // namespace tarnwick

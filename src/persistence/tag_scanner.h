@@ -3,9 +3,11 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "model/vocabulary.h"
 #include "persistence/record_tags.h"
 
 namespace tarnwick {
@@ -25,20 +27,30 @@ class TagScanner {
   [[nodiscard]] std::string_view Stored(Tag tag) const noexcept {
     return values_[static_cast<std::size_t>(tag)];
   }
-  /// Value of a tag, restored from its stored form.
-  [[nodiscard]] std::string Value(Tag tag) const;
+  /// Value of a tag, restored from its stored form. Valid until the next call.
+  [[nodiscard]] std::string_view Value(Tag tag) {
+    const std::string_view stored = Stored(tag);
+    return stored.empty() || InfoOf(tag).How == Restore::Plain ? stored : Restored(tag);
+  }
   /// The word in the first square brackets; "" when the line has none.
-  [[nodiscard]] std::string_view Kind() const noexcept { return kind_; }
+  [[nodiscard]] std::string_view KindWord() const noexcept { return kind_word_; }
+  /// The object kind of that word; nothing for any other.
+  [[nodiscard]] std::optional<Kind> ObjectKind() const noexcept { return object_kind_; }
   /// What stood in the first round brackets, of this line or the last one that had them.
   [[nodiscard]] std::string_view Number() const noexcept { return number_; }
   /// What stood in the first curly brackets, likewise.
   [[nodiscard]] std::string_view Name() const noexcept { return name_; }
 
  private:
+  [[nodiscard]] std::string_view Restored(Tag tag);
+
   std::array<std::string_view, kTagCount> values_;
-  std::string_view kind_;
+  std::string_view kind_word_;
+  std::optional<Kind> object_kind_;
   std::string_view number_;
   std::string_view name_;
+
+  std::string restored_;  ///< the value asked for last, where it is stored in another form
 };
 
 }  // namespace tarnwick
