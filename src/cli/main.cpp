@@ -7,9 +7,11 @@
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
+#include "platform/large_pages.h"
 
 int main(int argc, char** argv) {
   using namespace tarnwick;
+  PreferLargePages();
   const ParsedArguments parsed =
       ParseArguments(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
   if (const auto* const print = std::get_if<PrintAndLeave>(&parsed)) {

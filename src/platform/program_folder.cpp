@@ -4,7 +4,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include <pwd.h>
 #include <unistd.h>
 
 #include "text/path_text.h"
@@ -17,15 +16,6 @@ namespace fs = std::filesystem;
 std::string Environment(const char* name) {
   const char* const value = std::getenv(name);
   return value == nullptr ? std::string() : std::string(value);
-}
-
-std::string HomeFolder() {
-  std::string home = Environment("HOME");
-  if (home.empty()) {
-    const passwd* const user = ::getpwuid(::getuid());
-    if (user != nullptr && user->pw_dir != nullptr) home = user->pw_dir;
-  }
-  return home;
 }
 
 std::string RunningExecutable() {
@@ -47,7 +37,7 @@ std::string ExecutableFolder() {
 }
 
 std::string ProgramFolder() {
-  return ProgramFolderFor({RunningExecutable(), Environment("XDG_DATA_HOME"), HomeFolder()});
+  return ProgramFolderFor({RunningExecutable(), Environment("XDG_DATA_HOME"), Environment("HOME")});
 }
 
 std::string ProgramFolderFor(const ProgramSurroundings& surroundings) {

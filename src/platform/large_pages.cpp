@@ -1,0 +1,42 @@
+#include "platform/large_pages.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#include <sys/mman.h>
+#include <unistd.h>
+#endif
+
+namespace tarnwick {
+
+#ifdef __GLIBC__
+
+void PreferLargePages() noexcept {
+  constexpr std::uintptr_t kLargePage = std::uintptr_t{2} << 20U;
+  constexpr std::uintptr_t kFirstHeap = std::uintptr_t{256} << 10U;  ///< more than it starts with
+  constexpr std::uintptr_t kHeader = 64;
+  constexpr int kAtOnce = 64 << 20;  // bytes by which the heap grows; untouched, they cost nothing
+  mallopt(M_TOP_PAD, kAtOnce);
+  mallopt(M_TRIM_THRESHOLD, 2 * kAtOnce);
+  mallopt(M_MMAP_THRESHOLD, kAtOnce / 2);
+  void* const probe = std::malloc(kHeader * kHeader);
+  const auto here = reinterpret_cast<std::uintptr_t>(probe);
+  std::free(probe);
+  // The heap grows by a block that ends right below a large page. The block is left as it is; what
+  // follows it must not be touched before the system knows.
+  const std::uintptr_t start = ((here + kFirstHeap) / kLargePage + 1) * kLargePage;
+  void* volatile below = std::malloc(start - kHeader - here);
+  const auto end = reinterpret_cast<std::uintptr_t>(sbrk(0));
+  if (below == nullptr || end <= start) return;
+  madvise(reinterpret_cast<void*>(start), end - start, MADV_HUGEPAGE);
+}
+
+#else
+
+void PreferLargePages() noexcept {}
+
+#endif
+
+}  // namespace tarnwick
