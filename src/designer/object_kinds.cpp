@@ -136,8 +136,8 @@ std::span<const CreationRule> CreationRules() noexcept {
 }
 
 const CreationRule* RuleOf(Kind kind) noexcept {
-  const auto found = std::find_if(kRules.begin(), kRules.end(),
-                                  [kind](const CreationRule& rule) { return rule.Id == kind; });
+  const auto* const found = std::find_if(
+      kRules.begin(), kRules.end(), [kind](const CreationRule& rule) { return rule.Id == kind; });
   return found == kRules.end() ? nullptr : &*found;
 }
 
@@ -186,7 +186,7 @@ ControlRef LoadObject(ProjectTables& tables, DesignForm& form, Kind kind,
   const int index = form.UBound(kind) + 1;
   if (record == nullptr || index > std::numeric_limits<std::int16_t>::max()) return nullptr;
   PutFreshRecord(tables, form.Number(), kind, index);
-  const ControlRef control = form.Load(kind);
+  ControlRef control = form.Load(kind);
   control->Tag = NewObjectName(record->Name, kind, index, name_prefix);
   return control;
 }

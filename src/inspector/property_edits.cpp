@@ -1,4 +1,5 @@
 // Edits of the property sheet: what a typed text or a picked row does.
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -14,10 +15,8 @@ namespace {
 /// Rows whose value goes through `RowChoice` into the record of the kind.
 bool GoesThroughRowChoice(std::string_view row) noexcept {
   constexpr std::array<std::string_view, 4> kRows{"cursor", "enabled", "taborder", "visible"};
-  for (const std::string_view known : kRows) {
-    if (EqualsFolded(known, row)) return true;
-  }
-  return false;
+  return std::any_of(kRows.begin(), kRows.end(),
+                     [row](std::string_view known) { return EqualsFolded(known, row); });
 }
 
 bool IsHeldAsText(RowShape shape) noexcept {
@@ -49,7 +48,7 @@ bool PropertySheet::ApplyText(std::string_view text) {
 }
 
 /// Takes a text into the selected row and applies it; the row keeps it even where it is refused.
-bool PropertySheet::ApplyToRow(std::string text) {
+bool PropertySheet::ApplyToRow(const std::string& text) {
   const int row = RowIndex_;
   const std::optional<RowTarget> target = Target();
   SetText(row, text);

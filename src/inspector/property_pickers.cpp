@@ -137,7 +137,7 @@ void PropertySheet::PickColor() {
 void PropertySheet::PickFolder() {
   if (auto folder = ports_.Dialogs.PickFolder(Text(RowIndex_))) {
     folder->resize(std::min(folder->size(), kLongestFolder));
-    Picked(std::move(*folder));
+    Picked(*folder);
   }
 }
 
@@ -151,8 +151,8 @@ void PropertySheet::OpenDesigner(const RowTarget& target) {
 
 /// A picker filled the row. Even the text that stood there is applied again: the file behind it
 /// may be another now.
-void PropertySheet::Picked(std::string text) {
-  if (IsEditable()) ApplyToRow(std::move(text));
+void PropertySheet::Picked(const std::string& text) {
+  if (IsEditable()) ApplyToRow(text);
 }
 
 void PropertySheet::ResetValue() {

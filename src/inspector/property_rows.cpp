@@ -46,7 +46,7 @@ PropertyRow ParseRow(std::string_view row) noexcept {
 }
 
 std::string KindWordOf(std::string_view kind_or_name) {
-  const std::string word = WithoutDigits(kind_or_name);
+  std::string word = WithoutDigits(kind_or_name);
   for (const Kind kind : {Kind::Image, Kind::PopUpMenu}) {
     if (EqualsFolded(word, InfoOf(kind).Array)) return std::string{InfoOf(kind).NameWord};
   }

@@ -173,7 +173,7 @@ class PropertySheet {
   void FillList(const Cell& cell);
   [[nodiscard]] bool IsEditable() const noexcept;
 
-  bool ApplyToRow(std::string text);
+  bool ApplyToRow(const std::string& text);
   bool ApplyTyped(const Cell& cell, const RowTarget& target, const std::string& text);
   bool StoreChoice(const RowBinding& binding, const RowTarget& target, const std::string& value,
                    int place);
@@ -194,7 +194,7 @@ class PropertySheet {
   void PickColor();
   void PickFolder();
   void OpenDesigner(const RowTarget& target);
-  void Picked(std::string text);
+  void Picked(const std::string& text);
 
   ProjectTables& tables_;
   const SupportTables& support_;

@@ -34,7 +34,7 @@ int main(int argc, char** argv) {
   // An installed program keeps its support files where it cannot write; the first start of each
   // user copies them.
   const std::string folder = ProgramFolder();
-  FillProgramFolder(files, ExecutableFolder() + "\\..\\share\\tarnwick", folder);
+  FillProgramFolder(files, ExecutableFolder() + R"(\..\share\tarnwick)", folder);
 
   MainWindow window(files);
   MainView view(window);
