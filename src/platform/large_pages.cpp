@@ -1,5 +1,6 @@
 #include "platform/large_pages.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 
@@ -27,10 +28,13 @@ void PreferLargePages() noexcept {
   // The heap grows by a block that ends right below a large page. The block is left as it is; what
   // follows it must not be touched before the system knows.
   const std::uintptr_t start = ((here + kFirstHeap) / kLargePage + 1) * kLargePage;
-  void* volatile below = std::malloc(start - kHeader - here);
-  const auto end = reinterpret_cast<std::uintptr_t>(sbrk(0));
-  if (below == nullptr || end <= start) return;
-  madvise(reinterpret_cast<void*>(start), end - start, MADV_HUGEPAGE);
+  static void* volatile below = nullptr;
+  below = std::malloc(start - kHeader - here);
+  char* const end = static_cast<char*>(sbrk(0));
+  const auto end_place = reinterpret_cast<std::uintptr_t>(end);
+  if (below == nullptr || end_place <= start) return;
+  const std::size_t size = end_place - start;
+  madvise(end - size, size, MADV_HUGEPAGE);
 }
 
 #else

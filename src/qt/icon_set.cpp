@@ -59,8 +59,9 @@ QPixmap Drawn(const QString& name, const QSize& pixels, const IconColors& colors
   QPainter painter(&pixmap);
   if (pale) painter.setOpacity(kPaleOpacity);
   const int side = qMin(pixels.width(), pixels.height());
-  renderer.render(&painter,
-                  QRectF((pixels.width() - side) / 2, (pixels.height() - side) / 2, side, side));
+  // On whole pixels, so that its lines stay sharp.
+  const QRect square((pixels.width() - side) / 2, (pixels.height() - side) / 2, side, side);
+  renderer.render(&painter, square);
   painter.end();
   QPixmapCache::insert(key, pixmap);
   return pixmap;
@@ -84,7 +85,7 @@ class SvgIconEngine final : public QIconEngine {
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*state*/) override {
     return Drawn(name_, size, ColorsOf(QApplication::palette()), mode == QIcon::Disabled);
   }
-  QIconEngine* clone() const override { return new SvgIconEngine(name_); }
+  [[nodiscard]] QIconEngine* clone() const override { return new SvgIconEngine(name_); }
   bool isNull() override { return false; }
 
  private:

@@ -241,12 +241,12 @@ void PropertyGrid::PlaceButtons() {
   } buttons[] = {{boton3_, shown && sheet_->Boton3Shown()},
                  {boton2_, shown && sheet_->Boton2Shown()},
                  {boton1_, shown && sheet_->Boton1Shown()}};
+  const int top = shown ? view->y() + (view->height() - 1 - kButton) / 2 : 0;
   int room = 0;
   for (const auto& [button, is_shown] : buttons) {
     if (is_shown) {
       room += kButton + 1;
-      button->setGeometry(width() - room, view->y() + (view->height() - 1 - kButton) / 2, kButton,
-                          kButton);
+      button->setGeometry(width() - room, top, kButton, kButton);
       button->raise();
     }
     button->setVisible(is_shown);
