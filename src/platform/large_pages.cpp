@@ -19,6 +19,8 @@ void PreferLargePages() noexcept {
   constexpr std::uintptr_t kFirstHeap = std::uintptr_t{256} << 10U;  ///< more than it starts with
   constexpr std::uintptr_t kHeader = 64;
   constexpr int kAtOnce = 64 << 20;  // bytes by which the heap grows; untouched, they cost nothing
+  static void* volatile below = nullptr;
+  if (below != nullptr) return;
   mallopt(M_TOP_PAD, kAtOnce);
   mallopt(M_TRIM_THRESHOLD, 2 * kAtOnce);
   mallopt(M_MMAP_THRESHOLD, kAtOnce / 2);
@@ -28,7 +30,6 @@ void PreferLargePages() noexcept {
   // The heap grows by a block that ends right below a large page. The block is left as it is; what
   // follows it must not be touched before the system knows.
   const std::uintptr_t start = ((here + kFirstHeap) / kLargePage + 1) * kLargePage;
-  static void* volatile below = nullptr;
   below = std::malloc(start - kHeader - here);
   char* const end = static_cast<char*>(sbrk(0));
   const auto end_place = reinterpret_cast<std::uintptr_t>(end);
