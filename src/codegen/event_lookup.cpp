@@ -4,24 +4,17 @@
 
 namespace tarnwick {
 
-namespace {
-
-constexpr int kNoNumber = -1;
-
-}  // namespace
-
 void EventLookup::SetForm(int form) {
+  form_ = form;
   key_ = "Form";
   AppendNumber(key_, std::int64_t{form});
   form_size_ = key_.size();
-  for (auto& codes : known_) codes.clear();
 }
 
-const EventCodeTable::Owner* EventLookup::OwnerBehindDot(std::string_view name, int number) {
+const EventCodeTable::Owner* EventLookup::OwnerBehindDot(std::string_view name) {
   key_.resize(form_size_);
   key_ += '.';
   key_ += name;
-  if (number != kNoNumber) AppendNumber(key_, std::int64_t{number});
   return table_.OwnerOf(key_);
 }
 
@@ -36,22 +29,17 @@ OwnerCode EventLookup::OfForm() {
 }
 
 OwnerCode EventLookup::OfObject(Kind kind, int ordinal) {
-  auto& codes = known_[static_cast<std::size_t>(kind)];
-  const auto place = static_cast<std::size_t>(ordinal) - 1;
-  if (ordinal >= 1 && place < codes.size()) return codes[place];
-  const OwnerCode code(OwnerBehindDot(InfoOf(kind).Array, ordinal));
-  if (ordinal >= 1 && place == codes.size()) codes.push_back(code);
-  return code;
+  return OwnerCode(table_.OwnerOf({form_, kind, ordinal}));
 }
 
 std::string_view EventLookup::OnClickOf(std::string_view item) {
-  return CodeOf(OwnerBehindDot(item, kNoNumber), Event::OnClick);
+  return CodeOf(OwnerBehindDot(item), Event::OnClick);
 }
 
 std::string_view EventLookup::OnPopUpOf(std::string_view name, int number) {
-  const std::string_view code = CodeOf(OwnerBehindDot(name, kNoNumber), Event::OnPopUp);
+  const std::string_view code = CodeOf(OwnerBehindDot(name), Event::OnPopUp);
   if (!code.empty()) return code;
-  return CodeOf(OwnerBehindDot(InfoOf(Kind::PopUpMenu).Array, number), Event::OnPopUp);
+  return CodeOf(table_.OwnerOf({form_, Kind::PopUpMenu, number}), Event::OnPopUp);
 }
 
 }  // namespace tarnwick

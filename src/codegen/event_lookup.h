@@ -4,7 +4,6 @@
 #include <array>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "model/event_table.h"
 #include "model/vocabulary.h"
@@ -63,13 +62,11 @@ class EventLookup {
   [[nodiscard]] std::string_view OnPopUpOf(std::string_view name, int number);
 
  private:
-  [[nodiscard]] const EventCodeTable::Owner* OwnerBehindDot(std::string_view name, int number);
+  [[nodiscard]] const EventCodeTable::Owner* OwnerBehindDot(std::string_view name);
   [[nodiscard]] static std::string_view CodeOf(const EventCodeTable::Owner* owner, Event event);
 
   const EventCodeTable& table_;
-  /// What was found for the form's objects, by kind and number from 1: bodies and hooks of a form
-  /// ask for the same ones in the same order, and the table stays as it is meanwhile.
-  std::array<std::vector<OwnerCode>, kKindCount> known_;
+  int form_ = 0;
   std::string key_;
   std::size_t form_size_ = 0;  ///< length of "Form3" at the head of the buffer
 };

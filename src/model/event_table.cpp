@@ -1,6 +1,9 @@
 #include "model/event_table.h"
 
 #include <algorithm>
+#include <charconv>
+
+#include "text/short_bytes.h"
 
 namespace tarnwick {
 
@@ -8,6 +11,19 @@ namespace {
 
 /// What an entry without code holds.
 const std::string kNoCode;
+
+/// Room for the longest key of an object: the words and two numbers.
+using KeyBuffer = std::array<char, 64>;
+
+std::string_view KeyOf(const ObjectPlace& object, KeyBuffer& buffer) noexcept {
+  char* const end = buffer.data() + buffer.size();
+  char* at = CopyBytes(buffer.data(), InfoOf(Kind::Form).Name);
+  at = std::to_chars(at, end, object.Form).ptr;
+  *at++ = '.';
+  at = CopyBytes(at, InfoOf(object.Id).Array);
+  at = std::to_chars(at, end, object.Number).ptr;
+  return {buffer.data(), static_cast<std::size_t>(at - buffer.data())};
+}
 
 }  // namespace
 
@@ -64,13 +80,11 @@ std::size_t EventCodeTable::SlotOf(std::uint32_t hash, std::string_view key) con
   return slot;
 }
 
-const EventCodeTable::Owner* EventCodeTable::FindOwner(std::string_view key) const noexcept {
-  if (index_.empty()) return nullptr;
-  const std::uint32_t number = index_[SlotOf(HashOf(key), key)].Number;
-  return number == 0 ? nullptr : &owners_[number - 1];
+std::uint32_t EventCodeTable::NumberOf(std::string_view key) const noexcept {
+  return index_.empty() ? 0 : index_[SlotOf(HashOf(key), key)].Number;
 }
 
-EventCodeTable::Owner& EventCodeTable::OwnerFor(std::string_view key) {
+std::uint32_t EventCodeTable::NumberFor(std::string_view key) {
   if (2 * (owners_.size() + 1) > index_.size()) GrowIndex();
   const std::uint32_t hash = HashOf(key);
   Slot& slot = index_[SlotOf(hash, key)];
@@ -79,7 +93,7 @@ EventCodeTable::Owner& EventCodeTable::OwnerFor(std::string_view key) {
     made.key_ = key;
     slot = {hash, static_cast<std::uint32_t>(owners_.size())};
   }
-  return owners_[slot.Number - 1];
+  return slot.Number;
 }
 
 void EventCodeTable::GrowIndex() {
@@ -96,7 +110,38 @@ void EventCodeTable::GrowIndex() {
 }
 
 const EventCodeTable::Owner* EventCodeTable::OwnerOf(std::string_view owner) const noexcept {
-  return FindOwner(owner);
+  const std::uint32_t number = NumberOf(owner);
+  return number == 0 ? nullptr : &owners_[number - 1];
+}
+
+EventCodeTable::Owner& EventCodeTable::OwnerFor(std::string_view key) {
+  return owners_[NumberFor(key) - 1];
+}
+
+const EventCodeTable::Owner* EventCodeTable::OwnerOf(const ObjectPlace& object) const noexcept {
+  const auto form = static_cast<std::size_t>(object.Form);
+  if (form < places_.size()) {
+    const auto& numbers = places_[form][static_cast<std::size_t>(object.Id)];
+    const auto place = static_cast<std::size_t>(object.Number) - 1;
+    if (place < numbers.size()) return &owners_[numbers[place] - 1];
+  }
+  KeyBuffer buffer;
+  return OwnerOf(KeyOf(object, buffer));
+}
+
+EventCodeTable::Owner& EventCodeTable::OwnerFor(const ObjectPlace& object) {
+  KeyBuffer buffer;
+  const std::uint32_t number = NumberFor(KeyOf(object, buffer));
+  const auto form = static_cast<std::size_t>(object.Form);
+  // A form or an object far ahead of the others is not worth the empty places before it.
+  if (form <= places_.size() + 1) {
+    if (form >= places_.size()) places_.resize(form + 1);
+    auto& numbers = places_[form][static_cast<std::size_t>(object.Id)];
+    if (object.Number >= 1 && static_cast<std::size_t>(object.Number) == numbers.size() + 1) {
+      numbers.push_back(number);
+    }
+  }
+  return owners_[number - 1];
 }
 
 const std::string* EventCodeTable::Find(std::string_view key) const noexcept {
@@ -137,8 +182,7 @@ void EventCodeTable::Replace(std::string_view owner, Event event, std::string va
 
 bool EventCodeTable::Remove(std::string_view key) noexcept {
   const Place place = PositionOf(key);
-  if (index_.empty()) return false;
-  const std::uint32_t number = index_[SlotOf(HashOf(place.Owner), place.Owner)].Number;
+  const std::uint32_t number = NumberOf(place.Owner);
   if (number == 0) return false;
   Owner& owner = owners_[number - 1];
   if (!owner.present_[place.Slot]) return false;
@@ -151,6 +195,7 @@ bool EventCodeTable::Remove(std::string_view key) noexcept {
 
 void EventCodeTable::Clear() noexcept {
   index_.clear();
+  places_.clear();
   owners_.clear();
   size_ = 0;
 }

@@ -1,6 +1,7 @@
 // `EventTable`: the code of every event of every form, object and menu item.
 #pragma once
 
+#include <array>
 #include <bitset>
 #include <cstddef>
 #include <cstdint>
@@ -17,6 +18,13 @@ namespace tarnwick {
 
 /// Events by enumerator.
 using EventSet = std::bitset<kEventCount>;
+
+/// An object by what its key is made of: "Form1.Button2".
+struct ObjectPlace {
+  int Form = 0;
+  Kind Id = Kind::Button;
+  int Number = 0;
+};
 
 /// A keyed collection of texts; keys are unique and compare without regard to case. A key is an
 /// owner ("Form1.Button2") and an event suffix (".OnClick"). The entries of one owner stand
@@ -54,6 +62,10 @@ class EventCodeTable {
   /// All entries under an owner's key, for adding several; the owner is made where it is missing.
   /// Stays valid until Clear.
   Owner& OwnerFor(std::string_view key);
+  /// The same for an object. One that was made here is found without a search while the objects of
+  /// its kind came in the order of their numbers, as they do in reading.
+  [[nodiscard]] const Owner* OwnerOf(const ObjectPlace& object) const noexcept;
+  Owner& OwnerFor(const ObjectPlace& object);
   /// Adds an entry of an owner of this table; false, and nothing changed, when it is there.
   bool Add(Owner& owner, Event event, std::string_view value) {
     return Add(owner, static_cast<std::uint8_t>(event), value);
@@ -100,7 +112,8 @@ class EventCodeTable {
     return true;
   }
   void Replace(Owner& owner, std::uint8_t slot, std::string&& value);
-  [[nodiscard]] const Owner* FindOwner(std::string_view key) const noexcept;
+  [[nodiscard]] std::uint32_t NumberOf(std::string_view key) const noexcept;
+  std::uint32_t NumberFor(std::string_view key);
   [[nodiscard]] std::size_t SlotOf(std::uint32_t hash, std::string_view key) const noexcept;
   void GrowIndex();
 
@@ -116,6 +129,8 @@ class EventCodeTable {
   // every object, mostly in vain, so a miss must cost one look at a small place. Its size is a
   // power of two and it is never more than half full; owners never leave but all at once.
   std::vector<Slot> index_;
+  // Owners' numbers by form, kind and number from 1, as far as they came in that order.
+  std::vector<std::array<std::vector<std::uint32_t>, kKindCount>> places_;
   std::size_t size_ = 0;
 };
 

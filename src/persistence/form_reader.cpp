@@ -45,6 +45,7 @@ FormReader::FormReader(ProjectContext& context, std::string file_name, int targe
   window_ = nowhere_ ? nowhere_.get() : tables_.User(form_);
   record_ = tables_.Form(form_);
   form_key_ = window_->KeyPrefix();
+  window_number_ = window_->Number();
 }
 
 FormReadResult FormReader::Read(std::string_view text) {
@@ -98,6 +99,7 @@ bool FormReader::ReadForm() {
   window_ = tables_.User(form_);
   record_ = tables_.Form(form_);
   form_key_ = window_->KeyPrefix();
+  window_number_ = window_->Number();
   ReadFormValues(form_);
   return true;
 }
@@ -111,7 +113,7 @@ void FormReader::ReadFormValues(int form) {
   ReadPlace(scanner_.Stored(Tag::Height), window_->Height);
   window_->NameObjet = "Form";
   DesignControl no_control;
-  Object object{no_control, std::nullopt, nullptr, nullptr, {}};
+  Object object{no_control, std::nullopt, nullptr, nullptr};
   for (const LayoutField& field : LayoutOf(Kind::Form).Fields) {
     if (field.In == Tag::None) continue;
     if (const auto* const event = std::get_if<Event>(&field.Value)) {
@@ -134,13 +136,11 @@ void FormReader::ReadObject(Kind kind) {
   DesignControl& control = *window_->Load(kind);
   control.Tag = scanner_.Name();
   control.Visible = true;
-  Object object{control, ToInt16(Val(scanner_.Number())), nullptr, nullptr, {}};
+  Object object{control, ToInt16(Val(scanner_.Number())), nullptr, nullptr};
   if (object.Number && *object.Number < 0) object.Number.reset();
   if (object.Number) {
     if (InfoOf(kind).Events != EventListId::None) {
-      object.BarName = InfoOf(kind).Array;
-      AppendNumber(object.BarName, std::int64_t{*object.Number});
-      object.Code = &tables_.EventTable.OwnerFor(form_key_ + "." + object.BarName);
+      object.Code = &tables_.EventTable.OwnerFor({window_number_, kind, *object.Number});
     }
     if (auto* const records = record_->Objects(kind))
       object.Record = records->Ensure(*object.Number);
@@ -227,7 +227,11 @@ void FormReader::Take(Object& object, Tag tag, Member member) {
 void FormReader::Take(Object& object, Tag tag, Event event) {
   if (object.Code == nullptr) return;
   const std::string_view code = scanner_.Value(tag);
-  if (!code.empty()) TellBar(object.BarName, event);
+  if (!code.empty()) {
+    std::string name(InfoOf(object.Control.Id).Array);
+    AppendNumber(name, std::int64_t{*object.Number});
+    TellBar(name, event);
+  }
   tables_.EventTable.Add(*object.Code, event, code);
 }
 

@@ -32,9 +32,7 @@ class FormReader {
     DesignControl& Control;
     std::optional<std::int16_t> Number;
     ObjectRec* Record;
-    /// Where its code goes, and by what name the events bar knows it.
-    EventCodeTable::Owner* Code;
-    std::string BarName;
+    EventCodeTable::Owner* Code;  ///< where its code goes
   };
 
   /// False when the form is refused and the file is read no further.
@@ -83,7 +81,9 @@ class FormReader {
   std::unique_ptr<DesignForm> nowhere_;
   DesignForm* window_ = nullptr;
   FormRec* record_ = nullptr;
+  // What the keys of its code begin with.
   std::string form_key_;
+  int window_number_ = 0;
 };
 
 }  // namespace tarnwick

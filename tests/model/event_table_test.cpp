@@ -109,5 +109,39 @@ TEST(EventTable, ClearingForgetsEverything) {
   EXPECT_TRUE(table.Add("Form1.OnClick", "y"));
 }
 
+TEST(EventTable, AnObjectIsTheSameByItsPlaceAndByItsKey) {
+  EventCodeTable table;
+  for (int number = 1; number <= 3; ++number) {
+    auto& owner = table.OwnerFor({1, Kind::Image, number});
+    EXPECT_TRUE(table.Add(owner, Event::OnClick, std::to_string(number)));
+  }
+  EXPECT_EQ(*table.Find("form1.images2.onclick"), "2");
+  EXPECT_EQ(table.OwnerOf({1, Kind::Image, 3}), table.OwnerOf("Form1.Images3"));
+  EXPECT_EQ(table.OwnerOf({1, Kind::Image, 4}), nullptr);
+  EXPECT_EQ(table.OwnerOf({1, Kind::Image, 0}), nullptr);
+  EXPECT_EQ(table.OwnerOf({1, Kind::Label, 1}), nullptr);
+  EXPECT_EQ(table.OwnerOf({2, Kind::Image, 1}), nullptr);
+}
+
+TEST(EventTable, AnObjectIsFoundByItsPlaceHoweverItCame) {
+  EventCodeTable table;
+  table.Add("Form2.Button5.OnClick", "by key");
+  table.Add(table.OwnerFor({7, Kind::Button, 9}), Event::OnClick, "far ahead");
+  table.Add(table.OwnerFor({2, Kind::Button, 1}), Event::OnClick, "first");
+  EXPECT_EQ(*table.OwnerOf({2, Kind::Button, 5})->Find(Event::OnClick), "by key");
+  EXPECT_EQ(*table.OwnerOf({7, Kind::Button, 9})->Find(Event::OnClick), "far ahead");
+  EXPECT_EQ(*table.OwnerOf({2, Kind::Button, 1})->Find(Event::OnClick), "first");
+  EXPECT_EQ(&table.OwnerFor({2, Kind::Button, 5}), table.OwnerOf("FORM2.BUTTON5"));
+}
+
+TEST(EventTable, AClearedTableKnowsNoPlaces) {
+  EventCodeTable table;
+  table.OwnerFor({1, Kind::Button, 1});
+  table.Clear();
+  EXPECT_EQ(table.OwnerOf({1, Kind::Button, 1}), nullptr);
+  table.Add(table.OwnerFor({1, Kind::Button, 1}), Event::OnClick, "new");
+  EXPECT_EQ(*table.Find("Form1.Button1.OnClick"), "new");
+}
+
 }  // namespace
 }  // namespace tarnwick
