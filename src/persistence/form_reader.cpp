@@ -23,10 +23,6 @@ bool HasPicture(std::string_view path) {
 
 /// Twips from a number of pixels as text; a number too large for single precision is refused.
 void ReadPlace(std::string_view value, float& twips) {
-  if (const auto pixels = PlainDigits<std::int16_t>(value)) {
-    twips = static_cast<float>(*pixels * kTwipsPerPixel);
-    return;
-  }
   if (const auto read = ToSingle(Val(value) * kTwipsPerPixel)) twips = *read;
 }
 

@@ -264,11 +264,12 @@ constexpr std::array<RecordLayout, kKindCount> kLayouts =
 }
 (std::make_index_sequence<kLayoutTexts.size()>{});
 
-/// True when the literal behind a value ends it: ">" and the tag's own word.
+/// True when the literal behind a value ends it, ">" and the tag's own word, and starts one other
+/// at most.
 constexpr bool Closes(std::string_view literal, Tag tag) {
   const std::size_t size = InfoOf(tag).Word.size();
   return literal.starts_with('>') && TagOfWord(literal.substr(1, size)) == tag &&
-         literal.find('>', 1) == std::string_view::npos;
+         literal.find('>', 1) == std::string_view::npos && literal.find('<') == literal.rfind('<');
 }
 
 constexpr bool ReadsByPlace(const RecordLayout& layout) {

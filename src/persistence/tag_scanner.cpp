@@ -18,7 +18,7 @@ constexpr std::size_t kLetters = 32;  ///< the low five bits of a letter
 constexpr std::size_t kMostPerPair = 5;
 
 /// Tags that share two letters, as a short list.
-struct alignas(8) Candidates {
+struct Candidates {
   std::array<std::uint8_t, kMostPerPair> Tags{};
   std::uint8_t Count = 0;
 };
@@ -77,32 +77,25 @@ struct WindowWord {
 
 using WindowWords = std::array<WindowWord, kTagCount>;
 
-constexpr WindowWord MakeWindowWord(std::string_view word, std::size_t from) {
-  std::array<char, kWindow> bytes{};
-  std::array<char, kWindow> mask{};
-  for (std::size_t i = 0; i < word.size(); ++i) {
-    bytes[from + i] = word[i];
-    mask[from + i] = '\xFF';
+/// The words as they stand at the end or at the start of a window.
+constexpr WindowWords MakeWindowWords(bool at_end) {
+  WindowWords words{};
+  for (std::size_t tag = 0; tag < kTagCount; ++tag) {
+    const std::string_view word = kTags[tag].Word;
+    std::array<char, kWindow> bytes{};
+    std::array<char, kWindow> mask{};
+    const std::size_t from = at_end ? kWindow - word.size() : 0;
+    for (std::size_t i = 0; i < word.size(); ++i) {
+      bytes[from + i] = word[i];
+      mask[from + i] = '\xFF';
+    }
+    words[tag] = {std::bit_cast<Window>(bytes), std::bit_cast<Window>(mask)};
   }
-  return {std::bit_cast<Window>(bytes), std::bit_cast<Window>(mask)};
+  return words;
 }
 
-/// The words as they stand at the end of a window, whatever is before them.
-constexpr WindowWords kEndWords = [] {
-  WindowWords words{};
-  for (std::size_t tag = 0; tag < kTagCount; ++tag) {
-    words[tag] = MakeWindowWord(kTags[tag].Word, kWindow - kTags[tag].Word.size());
-  }
-  return words;
-}();
-/// The words at the start of a window.
-constexpr WindowWords kStartWords = [] {
-  WindowWords words{};
-  for (std::size_t tag = 0; tag < kTagCount; ++tag) {
-    words[tag] = MakeWindowWord(kTags[tag].Word, 0);
-  }
-  return words;
-}();
+constexpr WindowWords kEndWords = MakeWindowWords(true);
+constexpr WindowWords kStartWords = MakeWindowWords(false);
 
 /// Marks each of the eight bytes from `text` on that is "<" or ">" by its top bit. The two differ
 /// in one bit, which is set first.

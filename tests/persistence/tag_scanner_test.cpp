@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "persistence/record_layouts.h"
+
 namespace tarnwick::test {
 namespace {
 
@@ -27,6 +29,30 @@ TEST(TagScanner, ARecordOfTheProgramGivesTheValueOfEveryTag) {
   EXPECT_EQ(scanner.Stored(Tag::Tip), "All");
   EXPECT_EQ(scanner.Stored(Tag::Width), "a.txt");
   EXPECT_EQ(scanner.Stored(Tag::Height), "C:\\");
+}
+
+TEST(TagScanner, OneMoreBlankAnywhereInARecordChangesNoValueOfAnyKind) {
+  for (const KindInfo& kind : AllKinds().first(kObjectKindCount)) {
+    const RecordLayout& layout = LayoutOf(kind.Id);
+    // The widened literal; with none widened the record stands as the program writes it.
+    for (std::size_t widened = 0; widened <= layout.Fields.size(); ++widened) {
+      std::string line;
+      for (std::size_t i = 0; i < layout.Fields.size(); ++i) {
+        std::string literal(layout.Fields[i].Lead.empty() ? layout.Fields[i].Before
+                                                          : layout.Fields[i].Lead);
+        if (i + 1 == widened) literal.insert(literal.find(' '), 1, ' ');
+        line += literal + "v" + std::to_string(i);
+      }
+      line += layout.End;
+      TagScanner scanner;
+      scanner.Scan(line);
+      EXPECT_EQ(scanner.ObjectKind(), kind.Id) << line;
+      for (std::size_t i = 0; i < layout.Fields.size(); ++i) {
+        if (layout.Fields[i].In == Tag::None) continue;
+        EXPECT_EQ(scanner.Stored(layout.Fields[i].In), "v" + std::to_string(i)) << line;
+      }
+    }
+  }
 }
 
 TEST(TagScanner, ATagInAnEarlierValueComesFirst) {
