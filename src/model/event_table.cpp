@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <charconv>
 
+#include "text/code_page.h"
+#include "text/numbers.h"
 #include "text/short_bytes.h"
 
 namespace tarnwick {
@@ -25,31 +27,48 @@ std::string_view KeyOf(const ObjectPlace& object, KeyBuffer& buffer) noexcept {
   return {buffer.data(), static_cast<std::size_t>(at - buffer.data())};
 }
 
+/// Takes the number off the end of a text: digits as a number prints.
+std::optional<int> TakeNumber(std::string_view& text) noexcept {
+  std::size_t start = text.size();
+  while (start > 0 && text[start - 1] >= '0' && text[start - 1] <= '9') --start;
+  const std::string_view digits = text.substr(start);
+  if (digits.size() > 1 && digits.front() == '0') return std::nullopt;
+  text.remove_suffix(digits.size());
+  return PlainDigits<int>(digits);
+}
+
+/// The object that a key names, if it is the key of one: "Form1.Button2".
+std::optional<ObjectPlace> PlaceOf(std::string_view key) noexcept {
+  const std::size_t dot = key.find('.');
+  if (dot == std::string_view::npos) return std::nullopt;
+  std::string_view form_word = key.substr(0, dot);
+  std::string_view word = key.substr(dot + 1);
+  const std::optional<int> form = TakeNumber(form_word);
+  if (!form || !EqualsFolded(form_word, InfoOf(Kind::Form).Name)) return std::nullopt;
+  const std::optional<int> number = TakeNumber(word);
+  if (!number) return std::nullopt;
+  for (const KindInfo& kind : kKinds) {
+    if (EqualsFolded(kind.Array, word)) return ObjectPlace{*form, kind.Id, *number};
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 const std::string* EventCodeTable::Owner::Find(Event event) const noexcept {
   return FindSlot(static_cast<std::size_t>(event));
 }
 
+EventCodeTable::Code* EventCodeTable::Owner::CodeOf(std::size_t slot) const noexcept {
+  Code* code = last_code_;
+  while (code != nullptr && code->Slot != slot) code = code->Before;
+  return code;
+}
+
 const std::string* EventCodeTable::Owner::FindSlot(std::size_t slot) const noexcept {
   if (!present_[slot]) return nullptr;
-  for (const auto& [held, code] : codes_) {
-    if (held == slot) return &code;
-  }
-  return &kNoCode;
-}
-
-std::vector<EventCodeTable::Owner::Code>::iterator EventCodeTable::Owner::SpotOf(
-    std::size_t slot) noexcept {
-  return std::find_if(codes_.begin(), codes_.end(), [&](const Code& c) { return c.first == slot; });
-}
-
-EventSet EventCodeTable::Owner::FilledEvents() const noexcept {
-  EventSet events;
-  for (const auto& [slot, code] : codes_) {
-    if (slot < kEventCount) events.set(slot);
-  }
-  return events;
+  const Code* const code = CodeOf(slot);
+  return code == nullptr ? &kNoCode : &code->Text;
 }
 
 EventCodeTable::Place EventCodeTable::PositionOf(std::string_view key) noexcept {
@@ -66,88 +85,121 @@ std::string EventCodeTable::SuffixOf(std::uint8_t slot) {
   return slot < kEventCount ? std::string(AllEvents()[slot].Suffix) : std::string();
 }
 
-std::uint32_t EventCodeTable::HashOf(std::string_view key) noexcept {
-  return static_cast<std::uint32_t>(FoldedHash{}(key));
+std::string EventCodeTable::KeyOf(const Owner& owner) {
+  if (owner.name_ != nullptr) return *owner.name_;
+  KeyBuffer buffer;
+  return std::string(tarnwick::KeyOf(owner.place_, buffer));
 }
 
-std::size_t EventCodeTable::SlotOf(std::uint32_t hash, std::string_view key) const noexcept {
-  const std::size_t mask = index_.size() - 1;
-  std::size_t slot = hash & mask;
-  while (index_[slot].Number != 0 &&
-         (index_[slot].Hash != hash || !EqualsFolded(owners_[index_[slot].Number - 1].key_, key))) {
-    slot = (slot + 1) & mask;
-  }
-  return slot;
+EventCodeTable::Number EventCodeTable::NumberOfName(std::string_view key) const noexcept {
+  const auto found = named_.find(key);
+  return found == named_.end() ? 0 : found->second;
 }
 
-std::uint32_t EventCodeTable::NumberOf(std::string_view key) const noexcept {
-  return index_.empty() ? 0 : index_[SlotOf(HashOf(key), key)].Number;
-}
-
-std::uint32_t EventCodeTable::NumberFor(std::string_view key) {
-  if (2 * (owners_.size() + 1) > index_.size()) GrowIndex();
-  const std::uint32_t hash = HashOf(key);
-  Slot& slot = index_[SlotOf(hash, key)];
-  if (slot.Number == 0) {
-    Owner& made = owners_.emplace_back();
-    made.key_ = key;
-    slot = {hash, static_cast<std::uint32_t>(owners_.size())};
-  }
-  return slot.Number;
-}
-
-void EventCodeTable::GrowIndex() {
-  constexpr std::size_t kLeast = 64;
-  std::vector<Slot> old(std::max(kLeast, 2 * index_.size()));
-  old.swap(index_);
-  const std::size_t mask = index_.size() - 1;
-  for (const Slot& entry : old) {
-    if (entry.Number == 0) continue;
-    std::size_t slot = entry.Hash & mask;
-    while (index_[slot].Number != 0) slot = (slot + 1) & mask;
-    index_[slot] = entry;
-  }
-}
-
-const EventCodeTable::Owner* EventCodeTable::OwnerOf(std::string_view owner) const noexcept {
-  const std::uint32_t number = NumberOf(owner);
-  return number == 0 ? nullptr : &owners_[number - 1];
-}
-
-EventCodeTable::Owner& EventCodeTable::OwnerFor(std::string_view key) {
-  return owners_[NumberFor(key) - 1];
-}
-
-const EventCodeTable::Owner* EventCodeTable::OwnerOf(const ObjectPlace& object) const noexcept {
+EventCodeTable::Number EventCodeTable::NumberOf(const ObjectPlace& object) const noexcept {
   const auto form = static_cast<std::size_t>(object.Form);
+  const auto place = static_cast<std::size_t>(object.Number);
   if (form < places_.size()) {
     const auto& numbers = places_[form][static_cast<std::size_t>(object.Id)];
-    const auto place = static_cast<std::size_t>(object.Number) - 1;
-    if (place < numbers.size()) return &owners_[numbers[place] - 1];
+    if (place < numbers.size() && numbers[place] != 0) return numbers[place];
   }
+  if (!objects_named_) return 0;
   KeyBuffer buffer;
-  return OwnerOf(KeyOf(object, buffer));
+  return NumberOfName(tarnwick::KeyOf(object, buffer));
+}
+
+EventCodeTable::Number EventCodeTable::NumberOf(std::string_view key) const noexcept {
+  const std::optional<ObjectPlace> object = PlaceOf(key);
+  return object ? NumberOf(*object) : NumberOfName(key);
+}
+
+EventCodeTable::Number* EventCodeTable::SpotFor(const ObjectPlace& object) {
+  // The empty places before a number far ahead of the others would not be worth it.
+  constexpr std::size_t kGap = 16;
+  const auto form = static_cast<std::size_t>(object.Form);
+  const auto place = static_cast<std::size_t>(object.Number);
+  if (form >= places_.size()) {
+    if (form > places_.size() + kGap) return nullptr;
+    places_.resize(form + 1);
+  }
+  auto& numbers = places_[form][static_cast<std::size_t>(object.Id)];
+  if (place >= numbers.size()) {
+    if (place > numbers.size() + kGap) return nullptr;
+    numbers.resize(place + 1);
+  }
+  return &numbers[place];
+}
+
+EventCodeTable::Owner& EventCodeTable::MakeOwner(Number& number) {
+  Owner& made = owners_.emplace_back();
+  number = static_cast<Number>(owners_.size());
+  return made;
+}
+
+EventCodeTable::Owner& EventCodeTable::OwnerNamed(std::string_view key) {
+  if (const Number number = NumberOfName(key); number != 0) return owners_[number - 1];
+  auto& entry = *named_.emplace(key, 0).first;
+  Owner& made = MakeOwner(entry.second);
+  made.name_ = &entry.first;
+  return made;
 }
 
 EventCodeTable::Owner& EventCodeTable::OwnerFor(const ObjectPlace& object) {
-  KeyBuffer buffer;
-  const std::uint32_t number = NumberFor(KeyOf(object, buffer));
-  const auto form = static_cast<std::size_t>(object.Form);
-  // A form or an object far ahead of the others is not worth the empty places before it.
-  if (form <= places_.size() + 1) {
-    if (form >= places_.size()) places_.resize(form + 1);
-    auto& numbers = places_[form][static_cast<std::size_t>(object.Id)];
-    if (object.Number >= 1 && static_cast<std::size_t>(object.Number) == numbers.size() + 1) {
-      numbers.push_back(number);
-    }
+  if (objects_named_) {
+    if (const Number number = NumberOf(object); number != 0) return owners_[number - 1];
   }
-  return owners_[number - 1];
+  if (Number* const spot = SpotFor(object)) {
+    if (*spot != 0) return owners_[*spot - 1];
+    Owner& made = MakeOwner(*spot);
+    made.place_ = object;
+    return made;
+  }
+  objects_named_ = true;
+  KeyBuffer buffer;
+  return OwnerNamed(tarnwick::KeyOf(object, buffer));
+}
+
+EventCodeTable::Owner& EventCodeTable::OwnerFor(std::string_view key) {
+  const std::optional<ObjectPlace> object = PlaceOf(key);
+  if (!object) return OwnerNamed(key);
+  KeyBuffer buffer;
+  if (tarnwick::KeyOf(*object, buffer) == key) return OwnerFor(*object);
+  // A key in other letters is told as it was written.
+  if (const Number number = NumberOf(*object); number != 0) return owners_[number - 1];
+  objects_named_ = true;
+  return OwnerNamed(key);
 }
 
 const std::string* EventCodeTable::Find(std::string_view key) const noexcept {
   const Place place = PositionOf(key);
-  const Owner* owner = OwnerOf(place.Owner);
-  return owner == nullptr ? nullptr : owner->Find(static_cast<Event>(place.Slot));
+  const Owner* const owner = OwnerOf(place.Owner);
+  return owner == nullptr ? nullptr : owner->FindSlot(place.Slot);
+}
+
+void EventCodeTable::Set(Owner& owner, std::uint8_t slot, std::string_view value) {
+  owner.filled_.set(slot, !value.empty());
+  if (Code* const code = owner.CodeOf(slot)) {
+    code->Text = value;
+  } else if (!value.empty()) {
+    owner.last_code_ = &codes_.emplace_back(Code{std::string(value), owner.last_code_, slot});
+  }
+}
+
+void EventCodeTable::SetCode(Owner& owner, Event event, std::string_view code) {
+  Set(owner, static_cast<std::uint8_t>(event), code);
+}
+
+bool EventCodeTable::Add(Owner& owner, std::uint8_t slot, std::string_view value) {
+  if (owner.present_[slot]) return false;
+  owner.present_.set(slot);
+  Set(owner, slot, value);
+  return true;
+}
+
+EventSet EventCodeTable::AddEmpty(Owner& owner, EventSet events) {
+  const SlotSet added = SlotSet(events.to_ulong()) & ~owner.present_;
+  owner.present_ |= added;
+  return EventSet(added.to_ulong());
 }
 
 bool EventCodeTable::Add(std::string_view key, std::string_view value) {
@@ -159,45 +211,42 @@ bool EventCodeTable::Add(std::string_view owner, Event event, std::string_view v
   return Add(OwnerFor(owner), event, value);
 }
 
-void EventCodeTable::Replace(Owner& owner, std::uint8_t slot, std::string&& value) {
-  if (Add(owner, slot, value)) return;
-  const auto spot = owner.SpotOf(slot);
-  if (spot == owner.codes_.end()) {
-    if (!value.empty()) owner.codes_.emplace_back(slot, std::move(value));
-  } else if (value.empty()) {
-    owner.codes_.erase(spot);
-  } else {
-    spot->second = std::move(value);
-  }
+void EventCodeTable::Replace(Owner& owner, std::uint8_t slot, std::string_view value) {
+  if (!Add(owner, slot, value)) Set(owner, slot, value);
 }
 
-void EventCodeTable::Replace(std::string_view key, std::string value) {
+void EventCodeTable::Replace(std::string_view key, std::string_view value) {
   const Place place = PositionOf(key);
-  Replace(OwnerFor(place.Owner), place.Slot, std::move(value));
+  Replace(OwnerFor(place.Owner), place.Slot, value);
 }
 
-void EventCodeTable::Replace(std::string_view owner, Event event, std::string value) {
-  Replace(OwnerFor(owner), static_cast<std::uint8_t>(event), std::move(value));
+void EventCodeTable::Replace(std::string_view owner, Event event, std::string_view value) {
+  Replace(OwnerFor(owner), static_cast<std::uint8_t>(event), value);
 }
 
 bool EventCodeTable::Remove(std::string_view key) noexcept {
   const Place place = PositionOf(key);
-  const std::uint32_t number = NumberOf(place.Owner);
+  const Number number = NumberOf(place.Owner);
   if (number == 0) return false;
   Owner& owner = owners_[number - 1];
   if (!owner.present_[place.Slot]) return false;
+  Set(owner, place.Slot, "");
   owner.present_.reset(place.Slot);
-  const auto spot = owner.SpotOf(place.Slot);
-  if (spot != owner.codes_.end()) owner.codes_.erase(spot);
-  --size_;
   return true;
 }
 
+std::size_t EventCodeTable::Size() const noexcept {
+  std::size_t size = 0;
+  for (const Owner& owner : owners_) size += owner.present_.count();
+  return size;
+}
+
 void EventCodeTable::Clear() noexcept {
-  index_.clear();
+  named_.clear();
+  objects_named_ = false;
   places_.clear();
   owners_.clear();
-  size_ = 0;
+  codes_.clear();
 }
 
 }  // namespace tarnwick

@@ -8,6 +8,7 @@
 #include <deque>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -19,7 +20,7 @@ namespace tarnwick {
 /// Events by enumerator.
 using EventSet = std::bitset<kEventCount>;
 
-/// An object by what its key is made of: "Form1.Button2".
+/// An object by what its key is made of: "Form1.Button2". No number is negative.
 struct ObjectPlace {
   int Form = 0;
   Kind Id = Kind::Button;
@@ -33,6 +34,15 @@ struct ObjectPlace {
 ///   if (const auto* owner = table.OwnerOf("Form1.Button2"))
 ///     if (const std::string* code = owner->Find(Event::OnClick)) ...
 class EventCodeTable {
+  /// The places of an owner's entries: its events, and one for a key that ends in no event.
+  using SlotSet = std::bitset<kEventCount + 1>;
+  /// The text of an entry that is not empty, or once was, and the one its owner got before.
+  struct Code {
+    std::string Text;
+    Code* Before;
+    std::size_t Slot;
+  };
+
  public:
   /// All entries of one owner.
   class Owner {
@@ -40,47 +50,63 @@ class EventCodeTable {
     /// The code of an event; null when there is no entry.
     [[nodiscard]] const std::string* Find(Event event) const noexcept;
     /// The events with an entry that is not empty, for callers that ask for many of one owner.
-    [[nodiscard]] EventSet FilledEvents() const noexcept;
+    [[nodiscard]] EventSet FilledEvents() const noexcept { return EventSet(filled_.to_ulong()); }
     [[nodiscard]] bool Empty() const noexcept { return present_.none(); }
 
    private:
     friend class EventCodeTable;
-    using Code = std::pair<std::uint8_t, std::string>;
+    [[nodiscard]] Code* CodeOf(std::size_t slot) const noexcept;
     [[nodiscard]] const std::string* FindSlot(std::size_t slot) const noexcept;
-    [[nodiscard]] std::vector<Code>::iterator SpotOf(std::size_t slot) noexcept;
 
-    std::string key_;
+    ObjectPlace place_;                  ///< of an object; of no meaning where there is a name
+    const std::string* name_ = nullptr;  ///< the key of any other owner
     // Nearly all entries are empty, so those are bits alone.
-    std::bitset<kEventCount + 1> present_;
-    std::vector<Code> codes_;  ///< of the entries that are not empty
+    SlotSet present_;
+    SlotSet filled_;
+    Code* last_code_ = nullptr;
   };
+
+  EventCodeTable() = default;
+  EventCodeTable(const EventCodeTable&) = delete;
+  EventCodeTable& operator=(const EventCodeTable&) = delete;
+  EventCodeTable(EventCodeTable&&) noexcept = default;
+  EventCodeTable& operator=(EventCodeTable&&) noexcept = default;
+  ~EventCodeTable() = default;
 
   /// The entry of a key; null when there is none. Valid until the table changes.
   [[nodiscard]] const std::string* Find(std::string_view key) const noexcept;
   /// All entries under an owner's key; null when there never was one.
-  [[nodiscard]] const Owner* OwnerOf(std::string_view owner) const noexcept;
+  [[nodiscard]] const Owner* OwnerOf(std::string_view owner) const noexcept {
+    return OwnerAt(NumberOf(owner));
+  }
   /// All entries under an owner's key, for adding several; the owner is made where it is missing.
-  /// Stays valid until Clear.
+  /// Stays valid until another one is made.
   Owner& OwnerFor(std::string_view key);
-  /// The same for an object. One that was made here is found without a search while the objects of
-  /// its kind came in the order of their numbers, as they do in reading.
-  [[nodiscard]] const Owner* OwnerOf(const ObjectPlace& object) const noexcept;
+  /// The same for an object.
+  [[nodiscard]] const Owner* OwnerOf(const ObjectPlace& object) const noexcept {
+    return OwnerAt(NumberOf(object));
+  }
   Owner& OwnerFor(const ObjectPlace& object);
   /// Adds an entry of an owner of this table; false, and nothing changed, when it is there.
   bool Add(Owner& owner, Event event, std::string_view value) {
     return Add(owner, static_cast<std::uint8_t>(event), value);
   }
+  /// Adds an empty entry for each of `events` that has none yet and answers which these were.
+  EventSet AddEmpty(Owner& owner, EventSet events);
+  /// Sets the code of an entry that is there.
+  void SetCode(Owner& owner, Event event, std::string_view code);
   /// Adds an entry; false, and nothing changed, when the key is there already.
   bool Add(std::string_view key, std::string_view value);
   /// The same for an owner and an event, without building the key.
   bool Add(std::string_view owner, Event event, std::string_view value);
   /// Removes the key if it is there, then adds it.
-  void Replace(std::string_view key, std::string value);
-  void Replace(std::string_view owner, Event event, std::string value);
+  void Replace(std::string_view key, std::string_view value);
+  void Replace(std::string_view owner, Event event, std::string_view value);
   /// False when there was no such key.
   bool Remove(std::string_view key) noexcept;
   void Clear() noexcept;
-  [[nodiscard]] std::size_t Size() const noexcept { return size_; }
+  /// The number of entries, counted anew each time.
+  [[nodiscard]] std::size_t Size() const noexcept;
 
   /// Calls `visit(key, value)` for every entry: owners in the order in which they first came, the
   /// entries of each by enumerator.
@@ -89,7 +115,7 @@ class EventCodeTable {
     for (const Owner& owner : owners_) {
       for (std::uint8_t slot = 0; slot <= kNoEvent; ++slot) {
         const std::string* const value = owner.FindSlot(slot);
-        if (value != nullptr) visit(owner.key_ + SuffixOf(slot), *value);
+        if (value != nullptr) visit(KeyOf(owner) + SuffixOf(slot), *value);
       }
     }
   }
@@ -102,36 +128,36 @@ class EventCodeTable {
     std::uint8_t Slot;
   };
   [[nodiscard]] static Place PositionOf(std::string_view key) noexcept;
-  [[nodiscard]] static std::uint32_t HashOf(std::string_view key) noexcept;
+  [[nodiscard]] static std::string KeyOf(const Owner& owner);
   [[nodiscard]] static std::string SuffixOf(std::uint8_t slot);
-  bool Add(Owner& owner, std::uint8_t slot, std::string_view value) {
-    if (owner.present_[slot]) return false;
-    owner.present_.set(slot);
-    ++size_;
-    if (!value.empty()) owner.codes_.emplace_back(slot, value);
-    return true;
+  bool Add(Owner& owner, std::uint8_t slot, std::string_view value);
+  void Set(Owner& owner, std::uint8_t slot, std::string_view value);
+  void Replace(Owner& owner, std::uint8_t slot, std::string_view value);
+
+  /// The numbers of owners: their places in the table from 1, and 0 for nobody.
+  using Number = std::uint32_t;
+  [[nodiscard]] Number NumberOf(std::string_view key) const noexcept;
+  [[nodiscard]] Number NumberOf(const ObjectPlace& object) const noexcept;
+  [[nodiscard]] Number NumberOfName(std::string_view key) const noexcept;
+  [[nodiscard]] const Owner* OwnerAt(Number number) const noexcept {
+    return number == 0 ? nullptr : &owners_[number - 1];
   }
-  void Replace(Owner& owner, std::uint8_t slot, std::string&& value);
-  [[nodiscard]] std::uint32_t NumberOf(std::string_view key) const noexcept;
-  std::uint32_t NumberFor(std::string_view key);
-  [[nodiscard]] std::size_t SlotOf(std::uint32_t hash, std::string_view key) const noexcept;
-  void GrowIndex();
+  Owner& MakeOwner(Number& number);
+  Owner& OwnerNamed(std::string_view key);
+  /// Where the number of an object's owner is noted; null for an object whose own number is far
+  /// ahead of the others.
+  [[nodiscard]] Number* SpotFor(const ObjectPlace& object);
 
-  /// A place of the index: the number of an owner from 1 and a part of its key's hash; 0 for
-  /// nobody.
-  struct Slot {
-    std::uint32_t Hash = 0;
-    std::uint32_t Number = 0;
-  };
-
-  std::deque<Owner> owners_;
-  // Owners by key, open to probing from the hash's place on. Generating asks it several times for
-  // every object, mostly in vain, so a miss must cost one look at a small place. Its size is a
-  // power of two and it is never more than half full; owners never leave but all at once.
-  std::vector<Slot> index_;
-  // Owners' numbers by form, kind and number from 1, as far as they came in that order.
-  std::vector<std::array<std::vector<std::uint32_t>, kKindCount>> places_;
-  std::size_t size_ = 0;
+  // None of these leaves but all at once.
+  std::vector<Owner> owners_;
+  std::deque<Code> codes_;
+  // Generating asks for every object several times, mostly in vain, so objects are found by their
+  // form, kind and number.
+  std::vector<std::array<std::vector<Number>, kKindCount>> places_;
+  // All others by key: forms, menu items, and objects with a number far ahead or a key in letters
+  // of its own.
+  std::unordered_map<std::string, Number, FoldedHash, FoldedEqual> named_;
+  bool objects_named_ = false;  ///< there are such objects
 };
 
 }  // namespace tarnwick

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -132,6 +133,71 @@ TEST(EventTable, AnObjectIsFoundByItsPlaceHoweverItCame) {
   EXPECT_EQ(*table.OwnerOf({7, Kind::Button, 9})->Find(Event::OnClick), "far ahead");
   EXPECT_EQ(*table.OwnerOf({2, Kind::Button, 1})->Find(Event::OnClick), "first");
   EXPECT_EQ(&table.OwnerFor({2, Kind::Button, 5}), table.OwnerOf("FORM2.BUTTON5"));
+}
+
+TEST(EventTable, ANumberThatIsWrittenInAnotherWayIsAnotherKey) {
+  EventCodeTable table;
+  for (const char* key : {"Form1.Button2", "Form1.Button02", "Form01.Button2", "Form1.Button-2",
+                          "Form1.Button12345678901", "Form1.Button2.Button2", "Form1.Button"}) {
+    table.Add(key, Event::OnClick, key);
+  }
+  EXPECT_EQ(table.Size(), 7U);
+  EXPECT_EQ(CodeOf(table, "form01.button2.onclick"), "Form01.Button2");
+  EXPECT_EQ(*table.OwnerOf({1, Kind::Button, 2})->Find(Event::OnClick), "Form1.Button2");
+  table.Add("Form1.Button123456789", Event::OnClick, "far");
+  EXPECT_EQ(*table.OwnerOf({1, Kind::Button, 123456789})->Find(Event::OnClick), "far");
+}
+
+TEST(EventTable, AKeyIsToldAsItWasFirstWritten) {
+  EventCodeTable table;
+  table.Add("FORM1.button2", Event::OnClick, "a");
+  table.Add(table.OwnerFor({1, Kind::Button, 2}), Event::OnKeyUp, "b");
+  table.Add(table.OwnerFor({1, Kind::Button, 1}), Event::OnClick, "c");
+  table.Add("FORM1.BUTTON1", Event::OnKeyUp, "d");
+  std::vector<std::string> keys;
+  table.ForEach([&](const std::string& key, const std::string&) { keys.push_back(key); });
+  EXPECT_EQ(keys, (std::vector<std::string>{"FORM1.button2.OnClick", "FORM1.button2.OnKeyUp",
+                                            "Form1.Button1.OnClick", "Form1.Button1.OnKeyUp"}));
+}
+
+TEST(EventTable, EmptyEntriesAreAddedWhereThereIsNone) {
+  EventCodeTable table;
+  auto& owner = table.OwnerFor({1, Kind::Button, 1});
+  table.Add(owner, Event::OnClick, "code");
+  EventSet events;
+  events.set(static_cast<std::size_t>(Event::OnClick));
+  events.set(static_cast<std::size_t>(Event::OnKeyUp));
+  const EventSet added = table.AddEmpty(owner, events);
+  EXPECT_EQ(added.count(), 1U);
+  EXPECT_TRUE(added.test(static_cast<std::size_t>(Event::OnKeyUp)));
+  EXPECT_EQ(CodeOf(table, "Form1.Button1.OnClick"), "code");
+  EXPECT_EQ(CodeOf(table, "Form1.Button1.OnKeyUp"), "");
+  table.SetCode(owner, Event::OnKeyUp, "more");
+  EXPECT_EQ(CodeOf(table, "Form1.Button1.OnKeyUp"), "more");
+  EXPECT_EQ(owner.FilledEvents().count(), 2U);
+}
+
+TEST(EventTable, ACodeThatIsEmptiedAndFilledAgainIsTheNewOne) {
+  EventCodeTable table;
+  table.Add("Form1.Button1", Event::OnClick, "old");
+  table.Replace("Form1.Button1", Event::OnClick, "");
+  EXPECT_EQ(CodeOf(table, "Form1.Button1.OnClick"), "");
+  EXPECT_TRUE(table.OwnerOf("Form1.Button1")->FilledEvents().none());
+  table.Remove("Form1.Button1.OnClick");
+  EXPECT_EQ(CodeOf(table, "Form1.Button1.OnClick"), "(none)");
+  EXPECT_TRUE(table.Add("Form1.Button1", Event::OnClick, "new"));
+  EXPECT_EQ(CodeOf(table, "Form1.Button1.OnClick"), "new");
+}
+
+TEST(EventTable, AnObjectFarAheadStaysItsOwnWhenTheOthersCatchUp) {
+  EventCodeTable table;
+  table.Add(table.OwnerFor({1, Kind::Button, 100}), Event::OnClick, "far");
+  for (int number = 1; number <= 120; ++number) {
+    table.Add(table.OwnerFor({1, Kind::Button, number}), Event::OnKeyUp, std::to_string(number));
+  }
+  EXPECT_EQ(CodeOf(table, "Form1.Button100.OnClick"), "far");
+  EXPECT_EQ(CodeOf(table, "Form1.Button100.OnKeyUp"), "100");
+  EXPECT_EQ(table.Size(), 121U);
 }
 
 TEST(EventTable, AClearedTableKnowsNoPlaces) {
