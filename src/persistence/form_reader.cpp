@@ -21,6 +21,16 @@ bool HasPicture(std::string_view path) {
   return !path.empty() && path != kNoPicture;
 }
 
+/// The events of a layout, a bit each.
+constexpr unsigned long EventBitsOf(Kind kind) {
+  unsigned long bits = 0;
+  for (const LayoutField& field : LayoutOf(kind).Fields) {
+    const auto* const event = std::get_if<Event>(&field.Value);
+    if (event != nullptr) bits |= 1UL << static_cast<unsigned>(*event);
+  }
+  return bits;
+}
+
 /// Twips from a number of pixels as text; a number too large for single precision is refused.
 void ReadPlace(std::string_view value, float& twips) {
   if (const auto read = ToSingle(Val(value) * kTwipsPerPixel)) twips = *read;
@@ -60,6 +70,10 @@ FormReadResult FormReader::Read(std::string_view text) {
 
 bool FormReader::ReadLine(std::string_view line) {
   scanner_.Scan(line);
+  if (const std::optional<Kind> kind = scanner_.ObjectKind()) {
+    ReadObject(*kind);
+    return true;
+  }
   if (StartsWithFolded(line, "[form]")) return ReadForm();
   if (StartsWithFolded(line, "[menu]")) {
     ReadMenuTitle();
@@ -68,8 +82,6 @@ bool FormReader::ReadLine(std::string_view line) {
     ReadItemCode();
   } else if (scanner_.KindWord() == "DeclarePbl") {
     ReadDeclarations();
-  } else if (const std::optional<Kind> kind = scanner_.ObjectKind()) {
-    ReadObject(*kind);
   }
   return true;
 }
@@ -109,17 +121,8 @@ void FormReader::ReadFormValues(int form) {
   ReadPlace(scanner_.Stored(Tag::Height), window_->Height);
   window_->NameObjet = "Form";
   DesignControl no_control;
-  Object object{no_control, std::nullopt, nullptr, nullptr};
-  for (const LayoutField& field : LayoutOf(Kind::Form).Fields) {
-    if (field.In == Tag::None) continue;
-    if (const auto* const event = std::get_if<Event>(&field.Value)) {
-      const std::string_view code = scanner_.Value(field.In);
-      if (!code.empty()) TellBar("Form", *event);
-      tables_.EventTable.Replace(form_key_, *event, std::string(code));
-    } else {
-      std::visit([&](const auto& source) { Take(object, field.In, source); }, field.Value);
-    }
-  }
+  Object object{no_control, std::nullopt, nullptr, nullptr, {}};
+  TakeFields<Kind::Form>(object);
   if (record_->ImageFile != kDefaultFile) {
     window_->WindowPicture = ResolveProjectPath(tables_, record_->ImageFile, true);
   }
@@ -132,7 +135,7 @@ void FormReader::ReadObject(Kind kind) {
   DesignControl& control = *window_->Load(kind);
   control.Tag = scanner_.Name();
   control.Visible = true;
-  Object object{control, ToInt16(Val(scanner_.Number())), nullptr, nullptr};
+  Object object{control, ToInt16(Val(scanner_.Number())), nullptr, nullptr, {}};
   if (object.Number && *object.Number < 0) object.Number.reset();
   if (object.Number) {
     if (InfoOf(kind).Events != EventListId::None) {
@@ -141,13 +144,7 @@ void FormReader::ReadObject(Kind kind) {
     if (auto* const records = record_->Objects(kind))
       object.Record = records->Ensure(*object.Number);
   }
-  for (const LayoutField& field : LayoutOf(kind).Fields) {
-    if (field.In == Tag::None) continue;
-    std::visit([&](const auto& source) { Take(object, field.In, source); }, field.Value);
-  }
-  for (const InheritedMember& member : InheritedMembersOf(kind)) {
-    Take(object, member.In, member.Target);
-  }
+  WithObjectKind(kind, [&](auto constant) { TakeFields<constant>(object); });
   ReadPicture(kind, object);
 }
 
@@ -167,8 +164,8 @@ void FormReader::ReadMenuTitle() {
 void FormReader::ReadItemCode() {
   const std::string_view code = scanner_.Value(Tag::Click);
   const std::string owner = form_key_ + "." + std::string(scanner_.Name());
-  tables_.EventTable.Replace(owner, Event::OnClick, std::string(code));
-  if (!code.empty()) TellBar(scanner_.Name(), Event::OnClick);
+  tables_.EventTable.Replace(owner, Event::OnClick, code);
+  if (!code.empty()) TellBar(std::string(scanner_.Name()), Event::OnClick);
 }
 
 void FormReader::ReadDeclarations() {
@@ -176,19 +173,17 @@ void FormReader::ReadDeclarations() {
   if (!text.empty()) record_->DeclarePbl = text;
 }
 
-void FormReader::TellBar(std::string_view name, Event event) {
+void FormReader::TellBar(std::string name, Event event) {
   FrmBarra* const bar = tables_.Bar(form_);
-  if (bar != nullptr) bar->Entries.push_back({std::string(name), std::string(InfoOf(event).Name)});
+  if (bar != nullptr) bar->Entries.push_back({std::move(name), std::string(InfoOf(event).Name)});
 }
 
 void FormReader::Take(Object& object, Tag tag, Special special) {
   switch (special) {
     case Special::WindowCaption:
-      window_->Caption = scanner_.Value(tag);
-      return;
+      return Put(tag, window_->Caption);
     case Special::WindowColor:
-      TakeNumber(tag, window_->BackColor);
-      return;
+      return Put(tag, window_->BackColor);
     case Special::ItemList:
       if (object.Number) {
         ReadPopUpRows(*tables_.PopUpMenus.Ensure(*object.Number), scanner_.Value(tag));
@@ -201,52 +196,22 @@ void FormReader::Take(Object& object, Tag tag, Special special) {
   }
 }
 
-void FormReader::Take(Object& object, Tag tag, Member member) {
-  DesignControl& control = object.Control;
-  switch (member) {
-    case Member::Left:
-      return ReadPlace(scanner_.Stored(tag), control.Left);
-    case Member::Top:
-      return ReadPlace(scanner_.Stored(tag), control.Top);
-    case Member::Width:
-      return ReadPlace(scanner_.Stored(tag), control.Width);
-    case Member::Height:
-      return ReadPlace(scanner_.Stored(tag), control.Height);
-    default:
-      break;
-  }
-  control.SetFromText(member, scanner_.Value(tag));
-  // The state of a check or option object is kept on the control and in its record both.
-  if (member == Member::Value) Take(object, tag, &ObjectRec::Checked);
-}
-
-void FormReader::Take(Object& object, Tag tag, Event event) {
-  if (object.Code == nullptr) return;
+void FormReader::TakeCode(Object& object, Tag tag, Event event) {
   const std::string_view code = scanner_.Value(tag);
-  if (!code.empty()) {
-    std::string name(InfoOf(object.Control.Id).Array);
-    AppendNumber(name, std::int64_t{*object.Number});
-    TellBar(name, event);
-  }
-  tables_.EventTable.Add(*object.Code, event, code);
-}
-
-void FormReader::Take(Object& object, Tag tag, std::int16_t ObjectRec::*field) {
-  if (object.Record == nullptr) return;
-  TakeNumber(tag, object.Record->*field);
-  if (field == &ObjectRec::TabOrder) {
-    const double next = static_cast<double>(object.Record->TabOrder) + 1;
-    window_->NextTabOrder =
-        std::max(window_->NextTabOrder, ToInt16(next).value_or(object.Record->TabOrder));
+  if (object.Code == nullptr || code.empty()) return;
+  std::string name(InfoOf(object.Control.Id).Array);
+  AppendNumber(name, std::int64_t{*object.Number});
+  TellBar(std::move(name), event);
+  // Of two objects with one number the first keeps its code.
+  if (object.NewEvents.test(static_cast<std::size_t>(event))) {
+    tables_.EventTable.SetCode(*object.Code, event, code);
   }
 }
 
-void FormReader::Take(Object& object, Tag tag, std::int32_t ObjectRec::*field) {
-  if (object.Record != nullptr) TakeNumber(tag, object.Record->*field);
-}
-
-void FormReader::Take(Object& object, Tag tag, std::string ObjectRec::*field) {
-  if (object.Record != nullptr) object.Record->*field = scanner_.Value(tag);
+void FormReader::TakeFormCode(Tag tag, Event event) {
+  const std::string_view code = scanner_.Value(tag);
+  if (!code.empty()) TellBar("Form", event);
+  tables_.EventTable.Replace(form_key_, event, code);
 }
 
 void FormReader::Take(Object& object, Tag tag, ItemsText items) {
@@ -255,36 +220,84 @@ void FormReader::Take(Object& object, Tag tag, ItemsText items) {
   object.Control.Items = ItemRows(rows);
 }
 
-void FormReader::Take(Object& /*object*/, Tag tag, std::int16_t FormRec::*field) {
-  TakeNumber(tag, record_->*field);
-}
-
-void FormReader::Take(Object& /*object*/, Tag tag, std::int32_t FormRec::*field) {
-  TakeNumber(tag, record_->*field);
-}
-
-void FormReader::Take(Object& /*object*/, Tag tag, std::string FormRec::*field) {
-  record_->*field = scanner_.Value(tag);
-}
-
 void FormReader::Take(Object& /*object*/, Tag tag, CommaText text) {
-  record_->*text.Field = scanner_.Value(tag);
+  Put(tag, record_->*text.Field);
 }
 
-void FormReader::Take(Object& object, Tag tag, std::string WinSockRec::*field) {
-  if (object.Number) record_->WinSocks.Ensure(*object.Number)->*field = scanner_.Value(tag);
+template <class T>
+void FormReader::Take(Object& object, Tag tag, T ObjectRec::*field) {
+  if (object.Record == nullptr) return;
+  Put(tag, object.Record->*field);
+  if constexpr (std::is_same_v<T, std::int16_t>) {
+    if (field != &ObjectRec::TabOrder) return;
+    const double next = static_cast<double>(object.Record->TabOrder) + 1;
+    window_->NextTabOrder =
+        std::max(window_->NextTabOrder, ToInt16(next).value_or(object.Record->TabOrder));
+  }
 }
 
-void FormReader::Take(Object& object, Tag tag, std::string HtmlViewerRec::*field) {
-  if (object.Number) record_->HtmlViewers.Ensure(*object.Number)->*field = scanner_.Value(tag);
+template <class T>
+void FormReader::Take(Object& /*object*/, Tag tag, T FormRec::*field) {
+  Put(tag, record_->*field);
 }
 
-void FormReader::Take(Object& object, Tag tag, std::int16_t PopUpItemRec::*field) {
-  if (object.Number) TakeNumber(tag, record_->PopUps.Ensure(*object.Number)->*field);
+template <class T>
+void FormReader::Take(Object& object, Tag tag, T WinSockRec::*field) {
+  if (object.Number) Put(tag, record_->WinSocks.Ensure(*object.Number)->*field);
 }
 
-void FormReader::Take(Object& object, Tag tag, std::string PopUpItemRec::*field) {
-  if (object.Number) record_->PopUps.Ensure(*object.Number)->*field = scanner_.Value(tag);
+template <class T>
+void FormReader::Take(Object& object, Tag tag, T HtmlViewerRec::*field) {
+  if (object.Number) Put(tag, record_->HtmlViewers.Ensure(*object.Number)->*field);
+}
+
+template <class T>
+void FormReader::Take(Object& object, Tag tag, T PopUpItemRec::*field) {
+  if (object.Number) Put(tag, record_->PopUps.Ensure(*object.Number)->*field);
+}
+
+template <Kind kind, Tag tag, Member member>
+void FormReader::TakeMember(Object& object) {
+  constexpr ControlClass control_class = InfoOf(kind).Class;
+  constexpr auto field = std::get<FieldOf(member).index()>(FieldOf(member));
+  if constexpr (!HasMember(control_class, member)) {
+    return;
+  } else if constexpr (member == Member::Left || member == Member::Top || member == Member::Width ||
+                       member == Member::Height) {
+    ReadPlace(scanner_.Stored(tag), object.Control.*field);
+  } else if constexpr (member == Member::Value && control_class == ControlClass::OptionButton) {
+    object.Control.SetOption(Val(scanner_.Stored(tag)));
+  } else {
+    Put(tag, object.Control.*field);
+  }
+  // The state of a check or option object is kept on the control and in its record both.
+  if constexpr (member == Member::Value) Take(object, tag, &ObjectRec::Checked);
+}
+
+template <Kind kind>
+void FormReader::TakeFields(Object& object) {
+  if (object.Code != nullptr) {
+    object.NewEvents = tables_.EventTable.AddEmpty(*object.Code, EventSet(EventBitsOf(kind)));
+  }
+  ForEachField<kind>([&](auto place) {
+    constexpr const LayoutField& field = LayoutOf(kind).Fields[place];
+    constexpr auto source = std::get<field.Value.index()>(field.Value);
+    if constexpr (std::is_same_v<decltype(source), const Member>) {
+      TakeMember<kind, field.In, source>(object);
+    } else if constexpr (!std::is_same_v<decltype(source), const Event>) {
+      Take(object, field.In, source);
+    } else if constexpr (kind == Kind::Form) {
+      TakeFormCode(field.In, source);
+    } else if (!scanner_.Stored(field.In).empty()) {
+      TakeCode(object, field.In, source);
+    }
+    return true;
+  });
+  static constexpr std::span<const InheritedMember> inherited = InheritedMembersOf(kind);
+  [&]<std::size_t... Places>(std::index_sequence<Places...>) {
+    (TakeMember<kind, inherited[Places].In, inherited[Places].Target>(object), ...);
+  }
+  (std::make_index_sequence<inherited.size()>{});
 }
 
 }  // namespace tarnwick

@@ -6,11 +6,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "persistence/project_reader.h"
 #include "persistence/record_layouts.h"
 #include "persistence/tag_scanner.h"
-#include "text/numbers.h"
 
 namespace tarnwick {
 
@@ -33,6 +33,7 @@ class FormReader {
     std::optional<std::int16_t> Number;
     ObjectRec* Record;
     EventCodeTable::Owner* Code;  ///< where its code goes
+    EventSet NewEvents;           ///< those that had no entry there before
   };
 
   /// False when the form is refused and the file is read no further.
@@ -45,29 +46,35 @@ class FormReader {
   void ReadItemCode();
   void ReadDeclarations();
 
+  /// Takes the values of a record, field by field, to where they live.
+  template <Kind kind>
+  void TakeFields(Object& object);
+  template <Kind kind, Tag tag, Member member>
+  void TakeMember(Object& object);
   void Take(Object& object, Tag tag, Special special);
-  void Take(Object& object, Tag tag, Member member);
-  void Take(Object& object, Tag tag, Event event);
-  void Take(Object& object, Tag tag, std::int16_t ObjectRec::*field);
-  void Take(Object& object, Tag tag, std::int32_t ObjectRec::*field);
-  void Take(Object& object, Tag tag, std::string ObjectRec::*field);
+  void TakeCode(Object& object, Tag tag, Event event);
+  void TakeFormCode(Tag tag, Event event);
   void Take(Object& object, Tag tag, ItemsText items);
-  void Take(Object& object, Tag tag, std::int16_t FormRec::*field);
-  void Take(Object& object, Tag tag, std::int32_t FormRec::*field);
-  void Take(Object& object, Tag tag, std::string FormRec::*field);
   void Take(Object& object, Tag tag, CommaText text);
-  void Take(Object& object, Tag tag, std::string WinSockRec::*field);
-  void Take(Object& object, Tag tag, std::string HtmlViewerRec::*field);
-  void Take(Object& object, Tag tag, std::int16_t PopUpItemRec::*field);
-  void Take(Object& object, Tag tag, std::string PopUpItemRec::*field);
+  template <class T>
+  void Take(Object& object, Tag tag, T ObjectRec::*field);
+  template <class T>
+  void Take(Object& object, Tag tag, T FormRec::*field);
+  template <class T>
+  void Take(Object& object, Tag tag, T WinSockRec::*field);
+  template <class T>
+  void Take(Object& object, Tag tag, T HtmlViewerRec::*field);
+  template <class T>
+  void Take(Object& object, Tag tag, T PopUpItemRec::*field);
 
-  void TellBar(std::string_view name, Event event);
-
-  /// The number that a tag's value reads into a field; a bad one leaves the field alone.
-  template <class Number>
-  void TakeNumber(Tag tag, Number& field) {
-    ReadNumber(scanner_.Stored(tag), field);
+  /// Puts a value into a field: a number as it is stored, a text restored.
+  template <class T>
+  void Put(Tag tag, T& field) {
+    constexpr bool is_text = std::is_same_v<T, std::string>;
+    SetFromText(field, is_text ? scanner_.Value(tag) : scanner_.Stored(tag));
   }
+
+  void TellBar(std::string name, Event event);
 
   ProjectContext& context_;
   ProjectTables& tables_;

@@ -31,10 +31,8 @@ std::string FormPathOf(const ProjectTables& tables, std::string_view line) {
 }
 
 void ReadListedForm(ProjectContext& context, const std::string& path) {
-  if (context.Files.Exists(path)) {
-    ReadFormFile(context, path);
-    return;
-  }
+  if (ReadFormFile(context, path) != FormReadResult::Unreadable) return;
+  if (context.Files.Exists(path)) return;
   context.Messages.Show("Error: File ' " + path + " ' does not exist!", "Tarnwick");
 }
 

@@ -9,6 +9,10 @@
 #include "text/short_bytes.h"
 #include "text/strings.h"
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 namespace tarnwick {
 
 namespace {
@@ -97,35 +101,38 @@ constexpr WindowWords MakeWindowWords(bool at_end) {
 constexpr WindowWords kEndWords = MakeWindowWords(true);
 constexpr WindowWords kStartWords = MakeWindowWords(false);
 
-/// Marks each of the eight bytes from `text` on that is "<" or ">" by its top bit. The two differ
-/// in one bit, which is set first.
-constexpr std::size_t kStep = sizeof(std::uint64_t);
-std::uint64_t BracketMarks(const char* text) {
-  constexpr std::uint64_t kEachByte = 0x0101010101010101U;
-  constexpr std::uint64_t kLowBits = 0x7F * kEachByte;
-  constexpr auto kDifference = static_cast<std::uint64_t>('<' ^ '>');
+constexpr std::size_t kBlock = 64;
+
+/// What a look at a block tells.
+struct BlockBits {
+  std::uint64_t Brackets = 0;  ///< the bytes that are "<" or ">", a bit each, the first one lowest
+  bool AboveAscii = false;     ///< one of its bytes is
+};
+
+BlockBits LookAt(const char* block) {
+  // The two brackets differ in one bit, which is set first.
+  constexpr char kDifference = '<' ^ '>';
   static_assert(('<' | kDifference) == '>');
-  std::uint64_t bytes = 0;
-  std::memcpy(&bytes, text, kStep);
-  const std::uint64_t others = (bytes | kDifference * kEachByte) ^ ('>' * kEachByte);
-  return ~(((others & kLowBits) + kLowBits) | others | kLowBits);
-}
-
-/// The place in memory of the first marked byte.
-std::size_t FirstMark(std::uint64_t marks) {
-  const int before = std::endian::native == std::endian::little ? std::countr_zero(marks)
-                                                                : std::countl_zero(marks);
-  return static_cast<std::size_t>(before) / 8;
-}
-
-/// The first "<" or ">" from a place on; the end where there is none.
-const char* FindBracket(const char* at, const char* end) {
-  for (; end - at >= static_cast<std::ptrdiff_t>(kStep); at += kStep) {
-    const std::uint64_t marks = BracketMarks(at);
-    if (marks != 0) return at + FirstMark(marks);
+  BlockBits bits;
+#ifdef __SSE2__
+  constexpr std::size_t kStep = sizeof(__m128i);
+  __m128i all = _mm_setzero_si128();
+  for (std::size_t at = 0; at < kBlock; at += kStep) {
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block + at));
+    const __m128i either = _mm_or_si128(bytes, _mm_set1_epi8(kDifference));
+    const int found = _mm_movemask_epi8(_mm_cmpeq_epi8(either, _mm_set1_epi8('>')));
+    bits.Brackets |= static_cast<std::uint64_t>(static_cast<unsigned>(found)) << at;
+    all = _mm_or_si128(all, bytes);
   }
-  while (at != end && *at != '<' && *at != '>') ++at;
-  return at;
+  bits.AboveAscii = _mm_movemask_epi8(all) != 0;
+#else
+  for (std::size_t at = 0; at < kBlock; ++at) {
+    const bool found = (block[at] | kDifference) == '>';
+    bits.Brackets |= std::uint64_t{found} << at;
+    bits.AboveAscii |= static_cast<unsigned char>(block[at]) >= 0x80;
+  }
+#endif
+  return bits;
 }
 
 /// The window of the `size` bytes before a place; zeros where the line has none.
@@ -156,34 +163,85 @@ bool TakeHead(std::string_view line, char open, char close, std::string_view& va
 
 using Values = std::array<std::string_view, kTagCount>;
 
-/// Takes the values of a record that stands as the program itself writes it, from the end of its
-/// name on: all literals of the layout in their order, and no bracket in any value. There the
-/// first start and the first end of a tag are those of its field. False, and nothing taken, for
-/// any other line.
-bool TakeAsWritten(std::string_view line, std::size_t head_size, const RecordLayout& layout,
-                   Values& values) {
-  std::array<const char*, kTagCount> closes;
-  std::size_t count = 0;
-  const char* const end = line.data() + line.size();
-  const char* at = line.data() + head_size;
-  if (FindBracket(line.data(), at) != at) return false;
-  for (const LayoutField& field : layout.Fields) {
-    if (field.In == Tag::None) continue;
-    const std::string_view lead = field.Lead;
-    if (static_cast<std::size_t>(end - at) < lead.size() || !SameBytes(at, lead)) return false;
-    at = FindBracket(at + lead.size(), end);
-    closes[count++] = at;
-  }
-  if (std::string_view(at, static_cast<std::size_t>(end - at)) != layout.End) return false;
-  count = 0;
-  at = line.data() + head_size;
-  for (const LayoutField& field : layout.Fields) {
-    if (field.In == Tag::None) continue;
-    const char* const value = at + field.Lead.size();
-    at = closes[count++];
-    values[static_cast<std::size_t>(field.In)] = {value, static_cast<std::size_t>(at - value)};
-  }
+/// The head of a record.
+struct Head {
+  std::string_view& Number;
+  std::string_view& Name;
+};
+
+/// Passes a literal; false, and the text as it was, where another one stands.
+bool Pass(std::string_view& text, std::string_view literal) {
+  if (!text.starts_with(literal)) return false;
+  text.remove_prefix(literal.size());
   return true;
+}
+
+/// Takes the digits at the head of a text.
+std::string_view TakeDigits(std::string_view& text) {
+  std::size_t size = 0;
+  while (size < text.size() && text[size] >= '0' && text[size] <= '9') ++size;
+  const std::string_view digits = text.substr(0, size);
+  text.remove_prefix(size);
+  return digits;
+}
+
+/// Takes a record that stands as the program itself writes it: all literals of the layout in their
+/// order, digits for a number, and no bracket in any value. There the first brackets of the head
+/// are its own, and the first start and the first end of a tag are those of its field. False, and
+/// nothing taken, for any other line.
+template <Kind kind>
+bool TakeAsWritten(std::string_view line, std::span<const std::uint32_t> brackets, Head head,
+                   Values& values) {
+  constexpr const RecordLayout& layout = LayoutOf(kind);
+  // Behind the two of the head each field has a bracket at its start and one at its end.
+  constexpr std::size_t kFields = layout.Fields.size() - 2;
+  if (brackets.size() != 2 * kFields) return false;
+  std::string_view rest = line;
+  if (!Pass(rest, layout.Fields[0].Before)) return false;
+  const std::string_view number = TakeDigits(rest);
+  if (!Pass(rest, layout.Fields[1].Before)) return false;
+  const std::string_view name = rest.substr(0, rest.find('}'));
+  // Where the literal of each field begins.
+  const auto name_end = static_cast<std::uint32_t>(name.data() + name.size() - line.data());
+  const auto begin = [&](std::size_t field) {
+    return field == 0 ? name_end : brackets[2 * field - 1];
+  };
+  // All places first, and then all bytes: what does not hang on the field before is quicker.
+  bool as_written = line.substr(brackets.back()) == layout.End;
+  ForEachField<kind>([&](auto place) {
+    constexpr std::size_t size = layout.Fields[place].Lead.size();
+    constexpr std::size_t field = place - 2;
+    as_written &= begin(field) + size == brackets[2 * field] + 1;
+    return true;
+  });
+  if (!as_written) return false;
+  ForEachField<kind>([&](auto place) {
+    constexpr std::string_view lead = layout.Fields[place].Lead;
+    as_written &= SameBytes(line.data() + begin(place - 2), lead);
+    return true;
+  });
+  if (!as_written) return false;
+  head.Number = number;
+  head.Name = name;
+  return ForEachField<kind>([&](auto place) {
+    const std::uint32_t start = brackets[2 * (place - 2)] + 1;
+    values[static_cast<std::size_t>(layout.Fields[place].In)] =
+        std::string_view(line.data() + start, brackets[2 * (place - 2) + 1] - start);
+    return true;
+  });
+}
+
+/// Takes the line of an object of any kind as above; kinds without a number are not taken so.
+bool TakeAsWritten(Kind kind, std::string_view line, std::span<const std::uint32_t> brackets,
+                   Head head, Values& values) {
+  return WithObjectKind(kind, [&](auto constant) {
+    constexpr std::span<const LayoutField> fields = LayoutOf(constant).Fields;
+    if constexpr (std::get<Special>(fields[0].Value) == Special::Number) {
+      return TakeAsWritten<constant>(line, brackets, head, values);
+    } else {
+      return false;
+    }
+  });
 }
 
 /// Takes the values of any line: of each tag from its first start to its first end.
@@ -192,8 +250,9 @@ class LineSearch {
   LineSearch(std::string_view line, Values& values)
       : begin_(line.data()), end_(begin_ + line.size()), values_(values) {}
 
-  void Run() {
-    for (const char* at = FindBracket(begin_, end_); at != end_; at = FindBracket(at + 1, end_)) {
+  void Run(std::span<const std::uint32_t> brackets) {
+    for (const std::uint32_t place : brackets) {
+      const char* const at = begin_ + place;
       if (*at == '<') {
         NoteStart(at);
       } else {
@@ -249,22 +308,45 @@ class LineSearch {
 
 }  // namespace
 
-void TagScanner::Scan(std::string_view line) {
-  kind_word_ = {};
-  TakeHead(line, '[', ']', kind_word_);
-  TakeHead(line, '(', ')', number_);
-  const bool named = TakeHead(line, '{', '}', name_);
-  object_kind_ = KindOfFileWord(kind_word_);
-  if (named && object_kind_) {
-    const auto head_size = static_cast<std::size_t>(name_.data() - line.data()) + name_.size();
-    if (TakeAsWritten(line, head_size, LayoutOf(*object_kind_), values_)) return;
+std::span<const std::uint32_t> LineBytes::BracketsOf(std::string_view line) {
+  std::size_t count = 0;
+  const auto note = [&](std::size_t base, const char* block, std::size_t passed) {
+    if (places_.size() < count + kBlock) places_.resize(2 * (count + kBlock));
+    const BlockBits bits = LookAt(block);
+    ascii_ = ascii_ && !bits.AboveAscii;
+    for (std::uint64_t left = bits.Brackets >> passed; left != 0; left &= left - 1) {
+      places_[count++] =
+          static_cast<std::uint32_t>(base + static_cast<std::size_t>(std::countr_zero(left)));
+    }
+  };
+  std::size_t base = 0;
+  for (; line.size() - base >= kBlock; base += kBlock) note(base, line.data() + base, 0);
+  const std::size_t rest = line.size() - base;
+  if (rest > 0 && base > 0) {
+    // The last block whole: its first bytes were looked at before.
+    note(base, line.data() + line.size() - kBlock, kBlock - rest);
+  } else if (rest > 0) {
+    std::array<char, kBlock> block{};
+    std::memcpy(block.data(), line.data(), rest);
+    note(0, block.data(), 0);
   }
-  LineSearch(line, values_).Run();
+  return {places_.data(), count};
 }
 
-std::string_view TagScanner::Restored(Tag tag) {
-  const std::string_view stored = Stored(tag);
-  switch (InfoOf(tag).How) {
+void TagScanner::Scan(std::string_view line) {
+  const std::span<const std::uint32_t> brackets = bytes_.BracketsOf(line);
+  kind_word_ = {};
+  TakeHead(line, '[', ']', kind_word_);
+  object_kind_ = KindOfFileWord(kind_word_);
+  if (object_kind_ && TakeAsWritten(*object_kind_, line, brackets, {number_, name_}, values_))
+    return;
+  TakeHead(line, '(', ')', number_);
+  TakeHead(line, '{', '}', name_);
+  LineSearch(line, values_).Run(brackets);
+}
+
+std::string_view TagScanner::Restored(std::string_view stored, Restore how) {
+  switch (how) {
     case Restore::Plain:
       return stored;
     case Restore::Lines:

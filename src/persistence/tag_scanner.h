@@ -3,14 +3,31 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/vocabulary.h"
 #include "persistence/record_tags.h"
+#include "text/strings.h"
 
 namespace tarnwick {
+
+/// What one look at each line tells.
+class LineBytes {
+ public:
+  /// The places of "<" and ">" in a line, by rising place. Valid until the next call.
+  [[nodiscard]] std::span<const std::uint32_t> BracketsOf(std::string_view line);
+  /// True while no line had a byte above ASCII.
+  [[nodiscard]] bool AllAscii() const noexcept { return ascii_; }
+
+ private:
+  std::vector<std::uint32_t> places_;  ///< with room behind those in use
+  bool ascii_ = true;
+};
 
 /// Reads the lines of one form file in turn and keeps, for every tag, the value it last had: a
 /// record without a tag inherits the value of a line before. All values start empty.
@@ -30,7 +47,11 @@ class TagScanner {
   /// Value of a tag, restored from its stored form. Valid until the next call.
   [[nodiscard]] std::string_view Value(Tag tag) {
     const std::string_view stored = Stored(tag);
-    return stored.empty() || InfoOf(tag).How == Restore::Plain ? stored : Restored(tag);
+    const Restore how = InfoOf(tag).How;
+    if (stored.empty() || how == Restore::Plain) return stored;
+    // The bytes that stand for others are none of ASCII.
+    if (bytes_.AllAscii()) return how == Restore::Code ? Trim(stored) : stored;
+    return Restored(stored, how);
   }
   /// The word in the first square brackets; "" when the line has none.
   [[nodiscard]] std::string_view KindWord() const noexcept { return kind_word_; }
@@ -42,7 +63,7 @@ class TagScanner {
   [[nodiscard]] std::string_view Name() const noexcept { return name_; }
 
  private:
-  [[nodiscard]] std::string_view Restored(Tag tag);
+  [[nodiscard]] std::string_view Restored(std::string_view stored, Restore how);
 
   std::array<std::string_view, kTagCount> values_;
   std::string_view kind_word_;
@@ -50,6 +71,7 @@ class TagScanner {
   std::string_view number_;
   std::string_view name_;
 
+  LineBytes bytes_;
   std::string restored_;  ///< the value asked for last, where it is stored in another form
 };
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 #include <limits>
 #include <system_error>
 
@@ -63,8 +62,7 @@ double OutOfRange(std::string_view number) noexcept {
 
 }  // namespace
 
-double Val(std::string_view text) noexcept {
-  if (const std::optional<double> plain = PlainDigits<double>(text)) return *plain;
+double ValOfAny(std::string_view text) noexcept {
   const std::size_t start = text.find_first_not_of(' ');
   if (start == std::string_view::npos) return 0;
   text.remove_prefix(start);
@@ -76,16 +74,6 @@ double Val(std::string_view text) noexcept {
   const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
   if (read.ec == std::errc::result_out_of_range) value = OutOfRange(number);
   return negative ? -value : value;
-}
-
-double RoundHalfEven(double value) noexcept {
-  return std::nearbyint(value);
-}
-
-std::optional<float> ToSingle(double value) noexcept {
-  const bool fits = std::abs(value) <= static_cast<double>(std::numeric_limits<float>::max());
-  if (!fits) return std::nullopt;
-  return static_cast<float>(value);
 }
 
 void AppendNumber(std::string& out, std::int64_t value) {

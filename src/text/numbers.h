@@ -1,6 +1,7 @@
 // Numbers as the system reads and prints them.
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -25,11 +26,18 @@ template <class Number>
   }
   return static_cast<Number>(value);
 }
+/// `Val` for any text.
+[[nodiscard]] double ValOfAny(std::string_view text) noexcept;
 /// The number at the head of a text: leading blanks, a sign, digits, fraction, exponent. 0 when
 /// the text begins with no number. May be infinite for a giant exponent.
-[[nodiscard]] double Val(std::string_view text) noexcept;
+[[nodiscard]] inline double Val(std::string_view text) noexcept {
+  const std::optional<double> plain = PlainDigits<double>(text);
+  return plain ? *plain : ValOfAny(text);
+}
 /// Nearest whole number, half to even.
-[[nodiscard]] double RoundHalfEven(double value) noexcept;
+[[nodiscard]] inline double RoundHalfEven(double value) noexcept {
+  return std::nearbyint(value);
+}
 /// `value` rounded half to even, or nothing when it does not fit the width.
 template <class Whole>
 [[nodiscard]] std::optional<Whole> ToWhole(double value) noexcept {
@@ -47,7 +55,11 @@ template <class Whole>
   return ToWhole<std::int32_t>(value);
 }
 /// `value` as single precision, or nothing when it does not fit.
-[[nodiscard]] std::optional<float> ToSingle(double value) noexcept;
+[[nodiscard]] inline std::optional<float> ToSingle(double value) noexcept {
+  const bool fits = std::abs(value) <= static_cast<double>(std::numeric_limits<float>::max());
+  if (!fits) return std::nullopt;
+  return static_cast<float>(value);
+}
 /// The text's number into a field: rounded half to even; a number that does not fit leaves the
 /// field as it is and answers false.
 template <class Whole>

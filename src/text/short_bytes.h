@@ -27,8 +27,9 @@ inline char* CopyBytes(char* at, std::string_view text) noexcept {
   return at + size;
 }
 
-/// True when the bytes from `at` on are those of `text`; as many must be there.
-inline bool SameBytes(const char* at, std::string_view text) noexcept {
+/// True when the bytes from `at` on are those of `text`; as many must be there. For a literal the
+/// size is settled where it is called.
+[[gnu::always_inline]] inline bool SameBytes(const char* at, std::string_view text) noexcept {
   const auto difference = [&](std::size_t place) {
     std::uint64_t here = 0;
     std::uint64_t there = 0;

@@ -183,5 +183,57 @@ TEST(DesignControl, NumbersAndYesNoConvertBothWays) {
   EXPECT_EQ(label.BackStyle, -1);
 }
 
+TEST(DesignControl, EachMemberIsTheFieldOfItsName) {
+  DesignControl control;
+  control.Caption = "Caption";
+  control.FontName = "FontName";
+  control.Picture = "Picture";
+  control.Tag = "Tag";
+  control.Text = "Text";
+  control.ToolTipText = "ToolTipText";
+  // The others hold the number of their member, yes/no fields whether that is the one in turn.
+  const auto number = [](Member member) { return static_cast<std::int16_t>(member); };
+  control.Appearance = number(Member::Appearance);
+  control.BackColor = number(Member::BackColor);
+  control.BackStyle = number(Member::BackStyle);
+  control.BorderStyle = number(Member::BorderStyle);
+  control.FontSize = number(Member::FontSize);
+  control.ForeColor = number(Member::ForeColor);
+  control.Height = number(Member::Height);
+  control.Left = number(Member::Left);
+  control.TabIndex = number(Member::TabIndex);
+  control.Top = number(Member::Top);
+  control.Value = number(Member::Value);
+  control.Width = number(Member::Width);
+  for (std::size_t i = 0; i < kMemberCount; ++i) {
+    const auto member = static_cast<Member>(i);
+    control.AutoSize = member == Member::AutoSize;
+    control.Cancel = member == Member::Cancel;
+    control.Default = member == Member::Default;
+    control.Enabled = member == Member::Enabled;
+    control.FontBold = member == Member::FontBold;
+    control.FontItalic = member == Member::FontItalic;
+    control.FontStrikethru = member == Member::FontStrikethru;
+    control.FontUnderline = member == Member::FontUnderline;
+    control.Stretch = member == Member::Stretch;
+    control.Visible = member == Member::Visible;
+    control.WordWrap = member == Member::WordWrap;
+    std::visit(
+        [&](auto field) {
+          using Field = decltype(field);
+          if constexpr (std::is_same_v<Field, std::monostate>) {
+            EXPECT_EQ(member, Member::List);
+          } else if constexpr (std::is_same_v<Field, bool DesignControl::*>) {
+            EXPECT_TRUE(control.*field) << kMemberNames[i];
+          } else if constexpr (std::is_same_v<Field, std::string DesignControl::*>) {
+            EXPECT_EQ(control.*field, kMemberNames[i]);
+          } else {
+            EXPECT_EQ(control.*field, number(member)) << kMemberNames[i];
+          }
+        },
+        FieldOf(member));
+  }
+}
+
 }  // namespace
 }  // namespace tarnwick
