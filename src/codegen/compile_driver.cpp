@@ -1,5 +1,6 @@
 #include "codegen/compile_driver.h"
 
+#include <utility>
 #include <vector>
 
 #include "codegen/declarations.h"
@@ -34,7 +35,7 @@ bool HasTransparentFrame(const ProjectTables& tables, int form) {
 
 /// Room for the text of a project, so that it grows without being copied in most cases.
 std::size_t ExpectedSize(const ProjectTables& tables) {
-  constexpr std::size_t kPerControl = 1024;
+  constexpr std::size_t kPerControl = 768;
   constexpr std::size_t kPerForm = 1024;
   std::size_t size = kPerForm;
   for (int i = 1; i <= tables.FormsCount; ++i) {
@@ -68,7 +69,18 @@ void WriteFreeLines(Generation& gen) {
   }
 }
 
-void WriteSections(Generation& gen) {
+/// Forms with a transparent frame are not shown by their own name.
+std::vector<ShowDiversion> DiversionsOf(const ProjectTables& tables) {
+  std::vector<ShowDiversion> diverted;
+  for (int i = 1; i <= tables.FormsCount; ++i) {
+    if (!tables.IsLive(i) || !HasTransparentFrame(tables, i)) continue;
+    diverted.push_back({tables.Form(i)->Name, TransparentFrameSubName(i)});
+  }
+  return diverted;
+}
+
+void WriteSections(ProjectTables& tables, GeneratorState& state, SourceSink sink) {
+  Generation gen(tables, state, std::move(sink));
   gen.Out.Line("Dim Font As QFont");
   ForEachForm(gen, [&] { WriteDeclarations(gen); });
   ForEachForm(gen, [&] {
@@ -86,6 +98,7 @@ void WriteSections(Generation& gen) {
   gen.Out.Blank();
   WriteStartLine(gen);
   ForEachForm(gen, [&] { WriteFreeLines(gen); });
+  gen.Out.Flush();
 }
 
 void SetFormVisible(CompileHost& host, DesignForm* form, bool visible) {
@@ -100,20 +113,26 @@ std::string InQuotes(std::string_view text) {
 
 }  // namespace
 
-std::string GenerateSource(ProjectTables& tables, GeneratorState& state) {
+void WriteSource(ProjectTables& tables, GeneratorState& state, const SourceSink& sink) {
   state.KindCounters.ResetAllBut(kKeptBetweenForms);
   state.DefaultIconDone = false;
-  Generation gen(tables, state, ExpectedSize(tables));
-  WriteSections(gen);
-  std::vector<ShowDiversion> diverted;
-  ForEachForm(gen, [&] {
-    if (!gen.User().HasObjects(Kind::TransparentFrame)) return;
-    diverted.push_back({gen.Record().Name, TransparentFrameSubName(gen.State.i)});
-  });
-  std::string text = gen.Out.Take();
-  if (!diverted.empty()) text = DivertShowCalls(text, diverted);
+  const std::vector<ShowDiversion> diverted = DiversionsOf(tables);
+  if (diverted.empty()) {
+    WriteSections(tables, state, sink);
+  } else {
+    std::string text;
+    text.reserve(ExpectedSize(tables));
+    WriteSections(tables, state, [&](std::string_view piece) { text += piece; });
+    sink(DivertShowCalls(text, diverted));
+  }
   // The text is printed whole, as one more line.
-  text += "\r\n";
+  sink("\r\n");
+}
+
+std::string GenerateSource(ProjectTables& tables, GeneratorState& state) {
+  std::string text;
+  text.reserve(ExpectedSize(tables));
+  WriteSource(tables, state, [&](std::string_view piece) { text += piece; });
   return text;
 }
 

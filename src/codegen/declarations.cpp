@@ -1,10 +1,10 @@
 #include "codegen/declarations.h"
 
-#include <algorithm>
 #include <array>
 #include <string_view>
 
 #include "codegen/resources.h"
+#include "model/control_walk.h"
 
 namespace tarnwick {
 
@@ -80,12 +80,14 @@ void DeclareObjects(Generation& gen, const DimRow& row) {
     return;
   }
   const auto& objects = gen.User().Elements(row.Id);
-  const std::size_t end =
-      row.Rule == DimRule::FirstOnly ? std::min<std::size_t>(objects.size(), 2) : objects.size();
   NameDeclarer declarer(gen, row, objects.size() - 1);
-  for (std::size_t j = 1; j < end; ++j) {
-    if (objects[j]) declarer.Declare(objects[j]->Tag);
+  if (row.Rule == DimRule::FirstOnly) {
+    if (objects.size() > 1 && objects[1]) declarer.Declare(objects[1]->Tag);
+    return;
   }
+  WalkControls<ControlPart::Head>(objects, 1, [&](const ControlRef& object) {
+    if (object) declarer.Declare(object->Tag);
+  });
 }
 
 void DeclarePopUpItems(Generation& gen, int number) {

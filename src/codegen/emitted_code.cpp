@@ -8,7 +8,7 @@ namespace tarnwick {
 EmittedCode FindEmittedCode(ProjectTables& tables) {
   EmittedCode emitted;
   GeneratorState state;
-  Generation gen(tables, state, 0);
+  Generation gen(tables, state, [](std::string_view) {});
   gen.Bodies = &emitted.texts_;
   for (int form = 1; form <= tables.FormsCount; ++form) {
     if (!tables.IsLive(form)) continue;

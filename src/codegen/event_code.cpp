@@ -1,5 +1,7 @@
 #include "codegen/event_code.h"
 
+#include "model/control_walk.h"
+
 namespace tarnwick {
 
 namespace {
@@ -26,18 +28,16 @@ void WriteBody(Generation& gen, std::string_view code) {
 template <class Write>
 void ForEachObjectEvent(Generation& gen, Write write) {
   GeneratorState& state = gen.State;
-  for (const ControlRef& control : gen.User().Controls()) {
+  WalkControls<ControlPart::Head>(gen.User().Controls(), 0, [&](const ControlRef& control) {
     const Kind kind = control->Id;
-    if (!control->Visible || kPassedOver.Has(kind)) continue;
-    if (kind == Kind::Menu && !gen.MenuBarVisible()) continue;
+    if (!control->Visible || kPassedOver.Has(kind)) return;
+    if (kind == Kind::Menu && !gen.MenuBarVisible()) return;
     if (kStepping.Has(kind)) state.CurrentOrdinal = state.KindCounters.Step(kind);
     const OwnerCode code = gen.Code.OfObject(kind, state.CurrentOrdinal);
-    if (code.Empty()) continue;
-    for (const Event event : kObjectEvents) {
-      const std::string_view text = code.Of(event);
-      if (!text.empty()) write(SubNameOf(control->Tag, state.CurrentOrdinal), event, text);
-    }
-  }
+    code.ForEach<kObjectEvents>([&](Event event, std::string_view text) {
+      write(SubNameOf(control->Tag, state.CurrentOrdinal), event, text);
+    });
+  });
 }
 
 /// Calls `write(name)` with each item and sub-item of popup number `p` from item `first` on. A
@@ -97,26 +97,21 @@ void WritePopUpBodies(Generation& gen) {
 }
 
 void WriteFormBodies(Generation& gen) {
-  const OwnerCode code = gen.Code.OfForm();
-  for (const Event event : kFormSubEvents) {
-    const std::string_view text = code.Of(event);
-    if (text.empty()) continue;
+  gen.Code.OfForm().ForEach<kFormSubEvents>([&](Event event, std::string_view code) {
     gen.Out.Line("Sub ", gen.Record().Name, "_", InfoOf(event).Signature);
-    WriteBody(gen, text);
+    WriteBody(gen, code);
     gen.Out.Line("End Sub");
     gen.Out.Blank();
-  }
+  });
 }
 
 }  // namespace
 
 void WriteSubDeclares(Generation& gen) {
-  const OwnerCode form_code = gen.Code.OfForm();
-  for (const Event event : kFormSubEvents) {
+  gen.Code.OfForm().ForEach<kFormSubEvents>([&](Event event, std::string_view) {
     // The bare event name: the parameters stand in the Sub line alone.
-    if (form_code.Of(event).empty()) continue;
     gen.Out.Line("Declare Sub ", gen.Record().Name, "_", InfoOf(event).Name);
-  }
+  });
   gen.Out.Blank();
   ForEachObjectEvent(gen, [&](const Numbered& sub, Event event, std::string_view) {
     gen.Out.Line("Declare Sub ", sub, "_", InfoOf(event).Signature);

@@ -1,7 +1,9 @@
 // Event code by the keys that the generator builds: form, kind and running number, or item name.
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <string>
 #include <string_view>
 
@@ -37,8 +39,20 @@ class OwnerCode {
     if (!filled_.test(static_cast<std::size_t>(event))) return {};
     return *owner_->Find(event);
   }
-  /// True when no event has code.
-  [[nodiscard]] bool Empty() const noexcept { return filled_.none(); }
+  /// Calls `use(event, code)` for each of `events` that has code, in their order.
+  template <const auto& events, class Use>
+  void ForEach(Use use) const {
+    static_assert(std::is_sorted(events.begin(), events.end()));
+    constexpr unsigned long wanted = [] {
+      unsigned long bits = 0;
+      for (const Event event : events) bits |= 1UL << static_cast<unsigned>(event);
+      return bits;
+    }();
+    for (unsigned long left = filled_.to_ulong() & wanted; left != 0; left &= left - 1) {
+      const auto event = static_cast<Event>(std::countr_zero(left));
+      use(event, std::string_view(*owner_->Find(event)));
+    }
+  }
 
  private:
   const EventCodeTable::Owner* owner_ = nullptr;

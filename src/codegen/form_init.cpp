@@ -3,6 +3,7 @@
 #include "codegen/menu_init.h"
 #include "codegen/object_init.h"
 #include "codegen/object_lines.h"
+#include "model/control_walk.h"
 
 namespace tarnwick {
 
@@ -41,11 +42,9 @@ void WriteFormLines(Generation& gen) {
 
 void WriteFormHooks(Generation& gen) {
   const std::string& name = gen.Record().Name;
-  const OwnerCode code = gen.Code.OfForm();
-  for (const Event event : kFormHookEvents) {
-    if (code.Of(event).empty()) continue;
+  gen.Code.OfForm().ForEach<kFormHookEvents>([&](Event event, std::string_view) {
     gen.Out.Line(name, InfoOf(event).Suffix, " = ", name, "_", InfoOf(event).Name);
-  }
+  });
 }
 
 void WriteObject(Generation& gen, const DesignControl& control, std::int16_t& button_count) {
@@ -82,8 +81,8 @@ void WriteFormInit(Generation& gen) {
   counters.Set(Kind::PopUpMenu, 1);
   std::int16_t button_count = 0;
   bool menu_bar_done = false;
-  for (const ControlRef& control : gen.User().Controls()) {
-    if (!control->Visible || kPassedOver.Has(control->Id)) continue;
+  WalkControls<ControlPart::Whole>(gen.User().Controls(), 0, [&](const ControlRef& control) {
+    if (!control->Visible || kPassedOver.Has(control->Id)) return;
     if (control->Id == Kind::PopUpMenu) {
       WritePopUpInit(gen, control->Tag);
       counters.Step(Kind::PopUpMenu);
@@ -93,7 +92,7 @@ void WriteFormInit(Generation& gen) {
     } else {
       WriteObject(gen, *control, button_count);
     }
-  }
+  });
   counters.Set(Kind::PopUpMenu, 0);
 }
 

@@ -9,8 +9,8 @@ void Generation::SelectForm(int form) {
   numero_ = user_->Element(Kind::Numero, 0)->Caption;
   menu_bar_visible_ = user_->MenuBarVisible();
   Code.SetForm(form);
-  ButtonImages.SetRecords(record_->Buttons);
-  PictureImages.SetRecords(record_->Images);
+  const FormImages none{ImageIndex(record_->Buttons), ImageIndex(record_->Images)};
+  images_ = &images_of_.try_emplace(form, none).first->second;
 }
 
 }  // namespace tarnwick

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <span>
 #include <string_view>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -19,8 +20,8 @@ namespace tarnwick {
 /// One run of the generator: the tables it reads, the text it writes, and the form it is at.
 class Generation {
  public:
-  Generation(ProjectTables& tables, GeneratorState& state, std::size_t expected_size)
-      : Tables(tables), State(state), Out(expected_size), Code(tables.EventTable) {}
+  Generation(ProjectTables& tables, GeneratorState& state, SourceSink sink)
+      : Tables(tables), State(state), Out(std::move(sink)), Code(tables.EventTable) {}
 
   /// Turns to a form of the project; everything below then speaks of it.
   void SelectForm(int form);
@@ -30,21 +31,30 @@ class Generation {
   /// The form's number as its design window holds it, as text.
   [[nodiscard]] std::string_view NumeroText() const noexcept { return numero_; }
   [[nodiscard]] bool MenuBarVisible() const noexcept { return menu_bar_visible_; }
+  /// Pictures of the form's buttons and of its images.
+  [[nodiscard]] ImageIndex& ButtonImages() noexcept { return images_->Buttons; }
+  [[nodiscard]] ImageIndex& PictureImages() noexcept { return images_->Images; }
 
   ProjectTables& Tables;
   GeneratorState& State;
   SourceText Out;
   EventLookup Code;
-  ImageIndex ButtonImages;
-  ImageIndex PictureImages;
   /// Where the code that becomes a Sub is noted down, by the place of its text; null for nowhere.
   std::unordered_set<const char*>* Bodies = nullptr;
 
  private:
+  struct FormImages {
+    ImageIndex Buttons;
+    ImageIndex Images;
+  };
+
   const FormRec* record_ = nullptr;
   DesignForm* user_ = nullptr;
   std::string_view numero_;
   bool menu_bar_visible_ = false;
+  FormImages* images_ = nullptr;
+  // By form: more than one section asks them, and no record changes meanwhile.
+  std::unordered_map<int, FormImages> images_of_;
 };
 
 /// The first part of an object's Sub name: for a name in array form the stem and a number.

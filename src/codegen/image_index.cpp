@@ -3,11 +3,10 @@
 namespace tarnwick {
 
 int ImageIndex::FindFirstImage(std::string_view path) {
-  if (records_ == nullptr) return 0;
   if (!first_) {
     first_.emplace();
-    for (int j = 1; j <= records_->UBound(); ++j) {
-      const std::string& held = RecordOrEmpty(*records_, j).ImageFile;
+    for (int j = 1; j <= records_.UBound(); ++j) {
+      const std::string& held = RecordOrEmpty(records_, j).ImageFile;
       // A "(none)" in other letters counts as a path, and meets the "(None)" of another object.
       if (!held.empty()) first_->emplace(held, j);
     }

@@ -20,11 +20,8 @@ namespace tarnwick {
 /// without regard to case. The index is made at the first question, in one pass.
 class ImageIndex {
  public:
-  /// Turns to the records of a form's kind. They must stay as they are while questions are asked.
-  void SetRecords(const RecordArray<ObjectRec>& records) noexcept {
-    records_ = &records;
-    first_.reset();
-  }
+  /// The records must stay as they are while questions are asked.
+  explicit ImageIndex(const RecordArray<ObjectRec>& records) noexcept : records_(records) {}
   /// The number of the first record with the path; 0 when none has it.
   [[nodiscard]] int FindFirstImage(std::string_view path);
   /// The number of the first record before number `k` with the path; 0 when none has it.
@@ -33,7 +30,7 @@ class ImageIndex {
  private:
   using FirstByPath = std::unordered_map<std::string_view, int, FoldedHash, FoldedEqual>;
 
-  const RecordArray<ObjectRec>* records_ = nullptr;
+  const RecordArray<ObjectRec>& records_;
   std::optional<FirstByPath> first_;
 };
 

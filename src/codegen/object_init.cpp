@@ -5,6 +5,7 @@
 #include <string>
 
 #include "codegen/form_init.h"
+#include "model/control_walk.h"
 #include "text/code_page.h"
 
 namespace tarnwick {
@@ -56,7 +57,7 @@ constexpr std::array kCheckLines{
 constexpr std::array kTimeLines{RecordLine{".Enabled = ", &R::Enabled},
                                 RecordLine{".Interval = ", &R::Interval}};
 
-std::span<const RecordLine> LinesOf(Kind kind) noexcept {
+constexpr std::span<const RecordLine> LinesOf(Kind kind) noexcept {
   switch (kind) {
     case Kind::Button:
       return kButtonLines;
@@ -93,7 +94,7 @@ void WritePicture(Generation& gen, std::string_view name, std::string_view membe
 
 void WriteButtonPicture(Generation& gen, std::string_view name, std::string_view file) {
   if (!HasPicturePath(file)) return;
-  WritePicture(gen, name, ".BmpHandle = Frm", "Btn", file, gen.ButtonImages);
+  WritePicture(gen, name, ".BmpHandle = Frm", "Btn", file, gen.ButtonImages());
 }
 
 void WriteImagePicture(Generation& gen, std::string_view name, std::string_view file) {
@@ -102,7 +103,7 @@ void WriteImagePicture(Generation& gen, std::string_view name, std::string_view 
   const bool bitmap = file.size() >= kBitmap.size() &&
                       EqualsFolded(file.substr(file.size() - kBitmap.size()), kBitmap);
   WritePicture(gen, name, bitmap ? ".BmpHandle = Frm" : ".IcoHandle = Frm", "Image", file,
-               gen.PictureImages);
+               gen.PictureImages());
 }
 
 /// The rows of a list. A list of one row is never written, and neither is one whose first row is
@@ -229,21 +230,26 @@ void WriteObjectInit(Generation& gen, const DesignControl& control) {
   static const ObjectRec empty{};
   const RecordArray<ObjectRec>* records = gen.Record().Objects(kind);
   const ObjectRec& record = records == nullptr ? empty : RecordOrEmpty(*records, ordinal);
-  for (const RecordLine& line : LinesOf(kind)) {
-    gen.Out.Line(control.Tag, line.Text, record.*line.Field);
-  }
+  // The next object of the kind mostly has the record behind this one.
+  FetchAhead(&record + 1, 1);
+  WithObjectKind(kind, [&](auto constant) {
+    static constexpr std::span<const RecordLine> lines = LinesOf(constant);
+    [&]<std::size_t... Lines>(std::index_sequence<Lines...>) {
+      (gen.Out.Line(control.Tag, lines[Lines].Text, record.*lines[Lines].Field), ...);
+    }
+    (std::make_index_sequence<lines.size()>{});
+  });
   WriteKindRest(gen, control, record, ordinal);
 }
 
 void WriteObjectHooks(Generation& gen, const DesignControl& control) {
   const int ordinal = gen.State.CurrentOrdinal;
   const OwnerCode code = gen.Code.OfObject(control.Id, ordinal);
-  if (code.Empty()) return;
-  for (const Event event : kObjectEvents) {
-    if (IsBlank(code.Of(event))) continue;
+  code.ForEach<kObjectEvents>([&](Event event, std::string_view text) {
+    if (IsBlank(text)) return;
     gen.Out.Line(control.Tag, InfoOf(event).Suffix, " = ", SubNameOf(control.Tag, ordinal), "_",
                  InfoOf(event).Name);
-  }
+  });
 }
 
 }  // namespace tarnwick

@@ -2,8 +2,11 @@
 
 #include <array>
 #include <optional>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
 #include <variant>
-#include <vector>
 
 #include "text/numbers.h"
 
@@ -21,117 +24,109 @@ enum class Derived : std::uint8_t {
   On,          ///< 1
 };
 
-using LineValue = std::variant<Derived, std::string DesignControl::*, float DesignControl::*,
-                               bool DesignControl::*, std::int16_t DesignControl::*,
-                               std::int32_t DesignControl::*>;
-
 /// One line. A text that begins with "." follows the object's name. Kinds that lack the member
 /// write no line, and neither do those of `HeldBack`, although they have it.
 struct CommonLine {
   std::string_view Text;
-  std::optional<Member> Needs;
-  LineValue Value;
+  std::variant<Member, Derived> Value;
   KindSet HeldBack;
+  std::optional<Member> Needs{};  ///< of a derived value
 };
-
-using C = DesignControl;
 
 constexpr std::array kCommonLines{
-    CommonLine{"Font.Name = ", Member::FontName, &C::FontName, {}},
-    CommonLine{"Font.Size = ", Member::FontSize, Derived::FontSize, {}},
-    CommonLine{"Font.Bold = ", Member::FontBold, &C::FontBold, {}},
-    CommonLine{"Font.Italic = ", Member::FontItalic, &C::FontItalic, {}},
-    CommonLine{"Font.Color = ", Member::ForeColor, &C::ForeColor, {}},
-    CommonLine{"Font.Color = ", {}, Derived::FontColor, KindSet::AllBut(Kind::Button)},
-    CommonLine{".Font = Font", {}, Derived::SharedFont, {}},
-    CommonLine{".Parent = ", {}, Derived::Parent, {}},
-    CommonLine{".WordWrap = ", Member::WordWrap, Derived::WordWrap, {}},
-    CommonLine{".AutoSize = ", Member::AutoSize, &C::AutoSize, {}},
-    CommonLine{".Top = ", Member::Top, &C::Top, {}},
-    CommonLine{".Left = ", Member::Left, &C::Left, {}},
-    CommonLine{".Width = ", Member::Width, &C::Width, {}},
-    CommonLine{".Height = ", Member::Height, &C::Height, {}},
-    CommonLine{".Caption = ", Member::Caption, &C::Caption, {}},
-    CommonLine{".Stretch = ", Member::Stretch, &C::Stretch, {}},
-    CommonLine{".Text = ", Member::Text, &C::Text, {}},
-    CommonLine{".BorderStyle = ", Member::BorderStyle, &C::BorderStyle,
+    CommonLine{"Font.Name = ", Member::FontName, {}},
+    CommonLine{"Font.Size = ", Derived::FontSize, {}, Member::FontSize},
+    CommonLine{"Font.Bold = ", Member::FontBold, {}},
+    CommonLine{"Font.Italic = ", Member::FontItalic, {}},
+    CommonLine{"Font.Color = ", Member::ForeColor, {}},
+    CommonLine{"Font.Color = ", Derived::FontColor, KindSet::AllBut(Kind::Button)},
+    CommonLine{".Font = Font", Derived::SharedFont, {}},
+    CommonLine{".Parent = ", Derived::Parent, {}},
+    CommonLine{".WordWrap = ", Derived::WordWrap, {}, Member::WordWrap},
+    CommonLine{".AutoSize = ", Member::AutoSize, {}},
+    CommonLine{".Top = ", Member::Top, {}},
+    CommonLine{".Left = ", Member::Left, {}},
+    CommonLine{".Width = ", Member::Width, {}},
+    CommonLine{".Height = ", Member::Height, {}},
+    CommonLine{".Caption = ", Member::Caption, {}},
+    CommonLine{".Stretch = ", Member::Stretch, {}},
+    CommonLine{".Text = ", Member::Text, {}},
+    CommonLine{".BorderStyle = ", Member::BorderStyle,
                KindSet::Of(Kind::Label, Kind::Image, Kind::ComboBox)},
-    CommonLine{".BorderStyle = ", Member::Appearance, &C::Appearance,
-               KindSet::AllBut(Kind::ListBox)},
-    CommonLine{".Color = ", Member::BackColor, &C::BackColor,
+    CommonLine{".BorderStyle = ", Member::Appearance, KindSet::AllBut(Kind::ListBox)},
+    CommonLine{".Color = ", Member::BackColor,
                KindSet::Of(Kind::CheckBox, Kind::ComboBox, Kind::OptionButton)},
-    CommonLine{".Hint = ", Member::ToolTipText, &C::ToolTipText, {}},
-    CommonLine{".ShowHint = ", {}, Derived::On, {}},
+    CommonLine{".Hint = ", Member::ToolTipText, {}},
+    CommonLine{".ShowHint = ", Derived::On, {}},
 };
 
-using KindLines = std::vector<const CommonLine*>;
-
-/// The lines of each kind, settled once.
-const KindLines& LinesOf(Kind kind) {
-  static const std::array<KindLines, kKindCount> table = [] {
-    std::array<KindLines, kKindCount> lines;
-    for (const KindInfo& info : AllKinds()) {
-      for (const CommonLine& line : kCommonLines) {
-        const bool has = !line.Needs || HasMember(info.Class, *line.Needs);
-        if (has && !line.HeldBack.Has(info.Id)) {
-          lines[static_cast<std::size_t>(info.Id)].push_back(&line);
-        }
-      }
-    }
-    return lines;
-  }();
-  return table[static_cast<std::size_t>(kind)];
+constexpr bool Writes(Kind kind, const CommonLine& line) {
+  const auto* const member = std::get_if<Member>(&line.Value);
+  const std::optional<Member> needs = member != nullptr ? *member : line.Needs;
+  return (!needs || HasMember(InfoOf(kind).Class, *needs)) && !line.HeldBack.Has(kind);
 }
 
+/// A member's value as it prints: texts in quotes, lengths in pixels.
+Quoted Printed(const std::string& value) {
+  return {value};
+}
+Pixels Printed(float value) {
+  return {value};
+}
+std::string_view Printed(bool value) {
+  return value ? "True" : "False";
+}
+std::int32_t Printed(std::int32_t value) {
+  return value;
+}
+
+/// Writes the lines of one object.
 struct LineWriter {
   Generation& gen;
   const DesignControl& control;
   std::int16_t& button_count;
-  std::string_view text;
 
   /// Font lines fill the shared Font object; all others are members of the object itself.
-  template <class... Parts>
+  template <std::size_t line, class... Parts>
   void Put(const Parts&... parts) const {
-    if (text.front() == '.') {
+    constexpr std::string_view text = kCommonLines[line].Text;
+    if constexpr (text.front() == '.') {
       gen.Out.Line(control.Tag, text, parts...);
     } else {
       gen.Out.Line(text, parts...);
     }
   }
 
-  void operator()(std::string DesignControl::*field) const { Put(Quoted{control.*field}); }
-  void operator()(float DesignControl::*field) const { Put(Pixels{control.*field}); }
-  void operator()(bool DesignControl::*field) const {
-    Put(control.*field ? std::string_view("True") : std::string_view("False"));
-  }
-  void operator()(std::int16_t DesignControl::*field) const { Put(control.*field); }
-  void operator()(std::int32_t DesignControl::*field) const { Put(control.*field); }
-  void operator()(Derived value) const {
-    const FormRec& form = gen.Record();
-    switch (value) {
-      case Derived::FontSize:
-        return PutFontSize();
-      case Derived::FontColor:
-        StepOrdinal(button_count);
-        return Put(RecordOrEmpty(form.Buttons, button_count).FontColor);
-      case Derived::WordWrap:
-        gen.State.CurrentOrdinal = gen.State.KindCounters.Step(Kind::Label);
-        return Put(RecordOrEmpty(form.Labels, gen.State.CurrentOrdinal).Icon);
-      case Derived::SharedFont:
-        return Put();
-      case Derived::Parent:
-        return Put(form.Name);
-      case Derived::On:
-        return Put("1");
+  template <std::size_t line>
+  void Write() const {
+    constexpr auto value = std::get<kCommonLines[line].Value.index()>(kCommonLines[line].Value);
+    if constexpr (std::is_same_v<decltype(value), const Member>) {
+      Put<line>(Printed(control.*std::get<FieldOf(value).index()>(FieldOf(value))));
+    } else if constexpr (value == Derived::FontSize) {
+      PutFontSize<line>();
+    } else if constexpr (value == Derived::FontColor) {
+      StepOrdinal(button_count);
+      Put<line>(RecordOrEmpty(gen.Record().Buttons, button_count).FontColor);
+    } else if constexpr (value == Derived::WordWrap) {
+      gen.State.CurrentOrdinal = gen.State.KindCounters.Step(Kind::Label);
+      Put<line>(RecordOrEmpty(gen.Record().Labels, gen.State.CurrentOrdinal).Icon);
+    } else if constexpr (value == Derived::SharedFont) {
+      Put<line>();
+    } else if constexpr (value == Derived::Parent) {
+      Put<line>(gen.Record().Name);
+    } else {
+      static_assert(value == Derived::On);
+      Put<line>('1');
     }
   }
 
+  template <std::size_t line>
   void PutFontSize() const {
     const double size = RoundHalfEven(static_cast<double>(control.FontSize));
     if (const std::optional<std::int32_t> whole = ToInt32(size)) {
-      Put(*whole);
+      Put<line>(*whole);
     } else {
-      Put(NumberText(static_cast<float>(size)));
+      Put<line>(NumberText(static_cast<float>(size)));
     }
   }
 };
@@ -139,9 +134,17 @@ struct LineWriter {
 }  // namespace
 
 void WriteCommonLines(Generation& gen, const DesignControl& control, std::int16_t& button_count) {
-  for (const CommonLine* line : LinesOf(control.Id)) {
-    std::visit(LineWriter{gen, control, button_count, line->Text}, line->Value);
-  }
+  const LineWriter writer{gen, control, button_count};
+  // Straight code for each kind: most of a text is these lines.
+  WithObjectKind(control.Id, [&](auto kind) {
+    [&]<std::size_t... Lines>(std::index_sequence<Lines...>) {
+      const auto write = [&](auto line) {
+        if constexpr (Writes(kind, kCommonLines[line])) writer.Write<line>();
+      };
+      (write(std::integral_constant<std::size_t, Lines>{}), ...);
+    }
+    (std::make_index_sequence<kCommonLines.size()>{});
+  });
 }
 
 }  // namespace tarnwick

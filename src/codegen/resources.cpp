@@ -38,8 +38,8 @@ void WritePictures(Generation& gen, Kind kind, std::string_view word, ImageIndex
 
 void WriteResources(Generation& gen) {
   WriteIcon(gen);
-  WritePictures(gen, Kind::Button, "Btn", gen.ButtonImages);
-  WritePictures(gen, Kind::Image, "Image", gen.PictureImages);
+  WritePictures(gen, Kind::Button, "Btn", gen.ButtonImages());
+  WritePictures(gen, Kind::Image, "Image", gen.PictureImages());
 }
 
 }  // namespace tarnwick

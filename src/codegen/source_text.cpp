@@ -28,13 +28,12 @@ char* SourceText::Put(char* at, Pixels length) {
 
 void SourceText::TurnPage(std::size_t most) {
   constexpr std::size_t kPage = 32768;
-  text_.append(page_.data(), std::exchange(filled_, 0));
+  Flush();
   if (page_.size() < most) page_.resize(std::max(kPage, most));
 }
 
-std::string SourceText::Take() {
-  text_.append(page_.data(), std::exchange(filled_, 0));
-  return std::exchange(text_, {});
+void SourceText::Flush() {
+  if (filled_ > 0) sink_({page_.data(), std::exchange(filled_, 0)});
 }
 
 }  // namespace tarnwick

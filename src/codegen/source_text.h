@@ -6,8 +6,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "text/short_bytes.h"
@@ -35,7 +37,10 @@ struct Numbered {
   bool HasNumber = false;
 };
 
-/// A text of lines, each ended by CR LF. A line is given as its parts:
+/// Takes a text piece by piece.
+using SourceSink = std::function<void(std::string_view)>;
+
+/// A text of lines, each ended by CR LF, on its way to a sink. A line is given as its parts:
 ///
 ///   text.Line(name, ".Caption = ", Quoted{caption});
 ///
@@ -43,8 +48,7 @@ struct Numbered {
 /// the buffer without a string of their own.
 class SourceText {
  public:
-  /// Makes room for about `expected` bytes; more may follow.
-  explicit SourceText(std::size_t expected = 0) { text_.reserve(expected); }
+  explicit SourceText(SourceSink sink) : sink_(std::move(sink)) {}
 
   template <class... Parts>
   void Line(const Parts&... parts) {
@@ -56,8 +60,8 @@ class SourceText {
   }
   void Blank() { Line(); }
 
-  /// The text; the writer is empty afterwards.
-  [[nodiscard]] std::string Take();
+  /// Hands on what was written since the last time. Nobody else does so at the end.
+  void Flush();
 
  private:
   static constexpr std::size_t kMostDigits = 20;  ///< of a 64-bit number with its sign
@@ -103,9 +107,8 @@ class SourceText {
   }
   void TurnPage(std::size_t most);
 
-  // Lines are set on a page that stays in the processor's cache; full pages go to the text, whose
-  // memory is thus touched once.
-  std::string text_;
+  // Lines are set on a page that stays in the processor's cache.
+  SourceSink sink_;
   std::vector<char> page_;
   std::size_t filled_ = 0;
 };

@@ -1,6 +1,7 @@
 #include "model/design_form.h"
 
 #include <algorithm>
+#include <memory_resource>
 #include <string_view>
 
 #include "model/units.h"
@@ -36,8 +37,16 @@ constexpr std::array<TemplateInfo, 19> kTemplates{{
     {Kind::MenuItem, 0, 0, kFaceColor},
 }};
 
+/// Controls stand side by side in memory: a walk over a large form meets them in their order. The
+/// pool outlives them all, whoever holds the last of them.
+std::pmr::polymorphic_allocator<DesignControl> ControlPool() {
+  static auto* const pool = new std::pmr::unsynchronized_pool_resource(
+      std::pmr::pool_options{.max_blocks_per_chunk = 256, .largest_required_pool_block = 512});
+  return pool;
+}
+
 ControlRef MakeElement(Kind kind, int index, int width, int height, std::int32_t back_color) {
-  auto control = std::make_shared<DesignControl>();
+  auto control = std::allocate_shared<DesignControl>(ControlPool());
   control->Id = kind;
   control->Index = index;
   control->Width = static_cast<float>(width * kTwipsPerPixel);
@@ -78,7 +87,7 @@ std::string DesignForm::KeyPrefix() const {
 
 const ControlRef& DesignForm::Load(Kind kind) {
   auto& elements = arrays_[static_cast<std::size_t>(kind)];
-  auto control = std::make_shared<DesignControl>(*elements.front());
+  auto control = std::allocate_shared<DesignControl>(ControlPool(), *elements.front());
   control->Index = static_cast<int>(elements.size());
   control->Visible = false;
   elements.push_back(control);

@@ -21,9 +21,7 @@ inline constexpr std::string_view kFirstMainForm = "Form1 ()";
 /// The properties of one object that its design control cannot carry. One record serves all
 /// kinds; each uses some of the fields.
 struct ObjectRec {
-  std::string Title;  ///< dialog title; for Button and Image the picture's resource name
-  std::string Filter;
-  std::string InitialDir;
+  // Numbers first: what every object has lies together.
   std::int16_t Interval = 0;
   std::int16_t Checked = 0;
   std::int16_t Sorted = 0;
@@ -36,13 +34,16 @@ struct ObjectRec {
   std::int16_t Cursor = 0;
   std::int16_t Columns = 0;
   std::int16_t TabOrder = 0;
-  std::string ImageFile;
   std::int16_t ReadOnly = 0;
-  std::string FileName;
-  std::string PictureName;
-  std::string Items;
   std::int16_t HasPicture = 0;
   std::int32_t FontColor = 0;
+  std::string ImageFile;
+  std::string Items;
+  std::string Title;  ///< dialog title; for Button and Image the picture's resource name
+  std::string Filter;
+  std::string InitialDir;
+  std::string FileName;
+  std::string PictureName;
 };
 
 struct WinSockRec {

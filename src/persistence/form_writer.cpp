@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 
+#include "model/control_walk.h"
 #include "model/units.h"
 #include "persistence/menu_text.h"
 #include "persistence/record_layouts.h"
@@ -23,14 +24,18 @@ using CodeValues = std::array<std::string, kEventCount>;
 class FormWriter {
  public:
   FormWriter(const ProjectTables& tables, const DesignForm& window, const FormRec& record)
-      : tables_(tables), window_(window), record_(record), form_key_(window.KeyPrefix()) {}
+      : tables_(tables),
+        window_(window),
+        record_(record),
+        form_key_(window.KeyPrefix()),
+        window_number_(window.Number()) {}
 
   std::string Write() {
     out_.reserve(window_.Controls().size() * 512);
     WriteFormRecord();
-    for (const ControlRef& control : window_.Controls()) {
+    WalkControls<ControlPart::Whole>(window_.Controls(), 0, [&](const ControlRef& control) {
       if (control->Visible && control->Id != Kind::Handle) WriteControl(*control);
-    }
+    });
     AppendMenuRecords(out_, tables_, window_);
     out_ += "[DeclarePbl] String<";
     AppendStoredLines(out_, record_.DeclarePbl);
@@ -69,11 +74,7 @@ class FormWriter {
 
   /// The look-up uses the element's index: it comes before the running number is stepped.
   void TakeCodes(const DesignControl& control) {
-    key_ = form_key_;
-    key_ += '.';
-    key_ += InfoOf(control.Id).Array;
-    AppendNumber(key_, std::int64_t{control.Index});
-    const auto* owner = tables_.EventTable.OwnerOf(key_);
+    const auto* owner = tables_.EventTable.OwnerOf({window_number_, control.Id, control.Index});
     if (owner == nullptr) return;
     for (const Event event : NewObjectEvents()) Take(*owner, event);
     Take(*owner, Event::OnPopUp);
@@ -230,8 +231,8 @@ class FormWriter {
   const DesignForm& window_;
   const FormRec& record_;
   const std::string form_key_;
+  const int window_number_;
   std::string out_;
-  std::string key_;
   CodeValues codes_;
   std::array<int, kObjectKindCount> counts_{};
 };

@@ -129,6 +129,21 @@ TEST(CompileDriver, ShowCallsInUserCodeAreRewrittenFormByForm) {
             std::string::npos);
 }
 
+TEST(CompileDriver, PiecesMakeTheWholeTextWithFramesAndWithout) {
+  for (const bool framed : {false, true}) {
+    ProjectBuilder project;
+    const BuiltForm form = project.AddForm();
+    for (int n = 0; n < 300; ++n) form.Add(Kind::Button, "B" + std::to_string(n));
+    project.AddForm().Add(framed ? Kind::TransparentFrame : Kind::Label, "Last");
+    GeneratorState state;
+    GeneratorState again;
+    std::string joined;
+    WriteSource(project.Tables, state, [&](std::string_view piece) { joined += piece; });
+    EXPECT_EQ(joined, GenerateSource(project.Tables, again));
+    EXPECT_GT(joined.size(), 100000U);
+  }
+}
+
 TEST(CompileDriver, FreeLinesOfAllHtmlViewersEndTheProgram) {
   ProjectBuilder project;
   const BuiltForm form1 = project.AddForm();

@@ -125,8 +125,7 @@ TEST(ImageIndex, FindsTheFirstAndTheEarlierHolder) {
   records.Ensure(1)->ImageFile = "a.bmp";
   records.Ensure(2)->ImageFile = "b.bmp";
   records.Ensure(3)->ImageFile = "A.BMP";
-  ImageIndex index;
-  index.SetRecords(records);
+  ImageIndex index(records);
   EXPECT_EQ(index.FindFirstImage("A.bmp"), 1);
   EXPECT_EQ(index.FindEarlierImage("a.bmp", 3), 1);
   EXPECT_EQ(index.FindEarlierImage("a.bmp", 1), 0);
@@ -134,25 +133,11 @@ TEST(ImageIndex, FindsTheFirstAndTheEarlierHolder) {
   EXPECT_EQ(index.FindFirstImage("c.bmp"), 0);
 }
 
-TEST(ImageIndex, ForgetsTheFormBefore) {
-  RecordArray<ObjectRec> first;
-  first.Ensure(1)->ImageFile = "a.bmp";
-  RecordArray<ObjectRec> second;
-  second.Ensure(1)->ImageFile = "b.bmp";
-  second.Ensure(2)->ImageFile = "a.bmp";
-  ImageIndex index;
-  index.SetRecords(first);
-  EXPECT_EQ(index.FindFirstImage("a.bmp"), 1);
-  index.SetRecords(second);
-  EXPECT_EQ(index.FindFirstImage("a.bmp"), 2);
-}
-
 TEST(ImageIndex, SlotZeroIsNoObject) {
   RecordArray<ObjectRec> records;
   records.Ensure(1)->ImageFile = "b.bmp";
   records.At(0)->ImageFile = "a.bmp";
-  ImageIndex index;
-  index.SetRecords(records);
+  ImageIndex index(records);
   EXPECT_EQ(index.FindFirstImage("a.bmp"), 0);
 }
 

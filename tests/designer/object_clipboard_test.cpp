@@ -97,8 +97,28 @@ TEST_F(Clipboard, ListsAndImagesTakeOneMemberMore) {
 
 /// A record with every field set, so that a copied field shows.
 ObjectRec FullRecord() {
-  return {"title", "filter", "dir", 2,  3,       4,  5,      6,         7,       8,  9,
-          10,      11,       12,    13, "image", 14, "file", "picture", "items", 15, 16};
+  return {.Interval = 2,
+          .Checked = 3,
+          .Sorted = 4,
+          .MultiSelect = 5,
+          .HideScrollBars = 6,
+          .Icon = 7,
+          .ScrollBars = 8,
+          .Visible = 9,
+          .Enabled = 10,
+          .Cursor = 11,
+          .Columns = 12,
+          .TabOrder = 13,
+          .ReadOnly = 14,
+          .HasPicture = 15,
+          .FontColor = 16,
+          .ImageFile = "image",
+          .Items = "items",
+          .Title = "title",
+          .Filter = "filter",
+          .InitialDir = "dir",
+          .FileName = "file",
+          .PictureName = "picture"};
 }
 
 std::string FieldsOf(const ObjectRec& r) {
