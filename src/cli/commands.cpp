@@ -1,7 +1,6 @@
 #include "cli/commands.h"
 
 #include <filesystem>
-#include <ostream>
 #include <string>
 #include <string_view>
 
@@ -16,27 +15,32 @@ namespace tarnwick {
 
 namespace {
 
-int Fail(std::ostream& err, std::string_view what, std::string_view path) {
-  err << "tarnwick-cli: " << what << " " << path << "\n";
+bool Print(std::FILE* out, std::string_view text) {
+  return std::fwrite(text.data(), 1, text.size(), out) == text.size();
+}
+
+int Fail(std::FILE* err, const std::string& what, const std::string& path) {
+  Print(err, "tarnwick-cli: " + what + " " + path + "\n");
   return 1;
 }
 
-int Generate(LoadedProject& project, const Arguments& arguments, std::ostream& out,
-             std::ostream& err) {
+int Generate(LoadedProject& project, const Arguments& arguments, std::FILE* out, std::FILE* err) {
   GeneratorState state;
   CheckMainForm(project.Tables);
-  const std::string source = GenerateSource(project.Tables, state);
   if (!arguments.OutputFile) {
-    out.write(source.data(), static_cast<std::streamsize>(source.size()));
-    out.flush();
-    return out ? 0 : Fail(err, "cannot write to", "standard output");
+    bool written = true;
+    WriteSource(project.Tables, state,
+                [&](std::string_view piece) { written = written && Print(out, piece); });
+    written = std::fflush(out) == 0 && written;
+    return written ? 0 : Fail(err, "cannot write to", "standard output");
   }
   const std::string path = WindowsPathOf(*arguments.OutputFile);
+  const std::string source = GenerateSource(project.Tables, state);
   if (!project.Files.Replace(path, source)) return Fail(err, "cannot write", *arguments.OutputFile);
   return 0;
 }
 
-int Resave(LoadedProject& project, const Arguments& arguments, std::ostream& err) {
+int Resave(LoadedProject& project, const Arguments& arguments, std::FILE* err) {
   std::error_code ignored;
   std::filesystem::create_directories(arguments.OutputFolder, ignored);
   std::string folder = WindowsPathOf(arguments.OutputFolder);
@@ -56,7 +60,7 @@ int Resave(LoadedProject& project, const Arguments& arguments, std::ostream& err
   return Fail(err, "cannot write the project into", arguments.OutputFolder);
 }
 
-int Convert(const Arguments& arguments, std::ostream& err) {
+int Convert(const Arguments& arguments, std::FILE* err) {
   NativeFiles files;
   const std::string path = WindowsPathOf(arguments.Input);
   if (!files.Read(path)) return Fail(err, "cannot read", arguments.Input);
@@ -66,15 +70,15 @@ int Convert(const Arguments& arguments, std::ostream& err) {
   return 0;
 }
 
-int Check(LoadedProject& project, std::ostream& out) {
+int Check(LoadedProject& project, std::FILE* out) {
   const std::vector<std::string> findings = CheckProject(project);
-  for (const std::string& finding : findings) out << CodePageToUtf8(finding) << "\n";
+  for (const std::string& finding : findings) Print(out, CodePageToUtf8(finding) + "\n");
   return findings.empty() ? 0 : 1;
 }
 
 }  // namespace
 
-int RunCommand(const Arguments& arguments, std::ostream& out, std::ostream& err,
+int RunCommand(const Arguments& arguments, std::FILE* out, std::FILE* err,
                std::optional<LoadedProject>& project) {
   if (arguments.What == Command::Convert) return Convert(arguments, err);
   // What `check` has to say of missing files stands among its findings.

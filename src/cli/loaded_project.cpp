@@ -25,7 +25,7 @@ bool KeptMessages::AskYesNo(std::string_view text, std::string_view title, Messa
   return false;
 }
 
-LoadedProject::LoadedProject(const std::optional<std::string>& program_folder, std::ostream& err,
+LoadedProject::LoadedProject(const std::optional<std::string>& program_folder, std::FILE* err,
                              bool quiet)
     : Messages(err, quiet) {
   Tables.ProgramFolder = program_folder ? *program_folder : ProgramFolder();

@@ -1,7 +1,7 @@
 // A project read from disk with no window around it.
 #pragma once
 
-#include <iosfwd>
+#include <cstdio>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,7 +20,7 @@ namespace tarnwick {
 /// Messages on a stream that are kept as well. A quiet one only keeps them.
 class KeptMessages final : public MessagePort {
  public:
-  KeptMessages(std::ostream& out, bool quiet) : console_(out), quiet_(quiet) {}
+  KeptMessages(std::FILE* out, bool quiet) : console_(out), quiet_(quiet) {}
   void Show(std::string_view text, std::string_view title) override;
   [[nodiscard]] bool AskYesNo(std::string_view text, std::string_view title,
                               MessageIcon icon) override;
@@ -36,7 +36,7 @@ class KeptMessages final : public MessagePort {
 class LoadedProject {
  public:
   /// Without a program folder the real one is used. Messages go to `err`.
-  LoadedProject(const std::optional<std::string>& program_folder, std::ostream& err, bool quiet);
+  LoadedProject(const std::optional<std::string>& program_folder, std::FILE* err, bool quiet);
 
   /// Reads the project; its first form is then the current one. False when it cannot be read.
   bool Load(const std::string& native_path);

@@ -1,6 +1,6 @@
 // tarnwick-cli: the project's logic with no display.
+#include <cstdio>
 #include <cstdlib>
-#include <iostream>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,16 +15,16 @@ int main(int argc, char** argv) {
   const ParsedArguments parsed =
       ParseArguments(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
   if (const auto* const print = std::get_if<PrintAndLeave>(&parsed)) {
-    std::cout << print->Text;
+    std::fputs(print->Text.c_str(), stdout);
     return 0;
   }
   if (const auto* const wrong = std::get_if<WrongUsage>(&parsed)) {
-    std::cerr << wrong->Text;
+    std::fputs(wrong->Text.c_str(), stderr);
     return 2;
   }
   std::optional<LoadedProject> project;
-  const int exit = RunCommand(std::get<Arguments>(parsed), std::cout, std::cerr, project);
-  std::cout.flush();
+  const int exit = RunCommand(std::get<Arguments>(parsed), stdout, stderr, project);
+  std::fflush(stdout);
   // The project's memory goes with the process: taking it apart would cost a tenth of the run.
   std::_Exit(exit);
 }

@@ -1,15 +1,15 @@
 #include "platform/console_messages.h"
 
-#include <iostream>
+#include <string>
 
 #include "text/code_page.h"
 
 namespace tarnwick {
 
-ConsoleMessages::ConsoleMessages() : out_(&std::cerr) {}
-
 void ConsoleMessages::Show(std::string_view text, std::string_view title) {
-  *out_ << CodePageToUtf8(title) << ": " << CodePageToUtf8(text) << '\n' << std::flush;
+  const std::string line = CodePageToUtf8(title) + ": " + CodePageToUtf8(text) + "\n";
+  std::fwrite(line.data(), 1, line.size(), out_);
+  std::fflush(out_);
 }
 
 bool ConsoleMessages::AskYesNo(std::string_view text, std::string_view title,

@@ -1,7 +1,7 @@
 // Message boxes of a program without windows.
 #pragma once
 
-#include <iosfwd>
+#include <cstdio>
 #include <string_view>
 
 #include "platform/ports.h"
@@ -12,16 +12,15 @@ namespace tarnwick {
 /// ask, so every question is answered No.
 class ConsoleMessages final : public MessagePort {
  public:
-  ConsoleMessages();
-  /// `out` must live as long as this port.
-  explicit ConsoleMessages(std::ostream& out) : out_(&out) {}
+  /// `out` must stay open as long as this port lives.
+  explicit ConsoleMessages(std::FILE* out = stderr) : out_(out) {}
 
   void Show(std::string_view text, std::string_view title) override;
   [[nodiscard]] bool AskYesNo(std::string_view text, std::string_view title,
                               MessageIcon icon) override;
 
  private:
-  std::ostream* out_;
+  std::FILE* out_;
 };
 
 }  // namespace tarnwick

@@ -62,6 +62,22 @@ TEST(GenerateTest, AnOutputThatCannotBeWrittenIsToldInOneLine) {
   EXPECT_EQ(result.Err, "tarnwick-cli: cannot write " + out + "\n");
 }
 
+TEST(GenerateTest, AFullDeviceIsTold) {
+  const ProjectFolder folder;
+  folder.Put("f.ftn", kForm);
+  const std::string project = folder.Put("p.tnp",
+                                         "1\x95"
+                                         "f.ftn\r\n");
+  std::FILE* const full = std::fopen("/dev/full", "w");
+  ASSERT_NE(full, nullptr);
+  const test::TextStream err;
+  std::optional<LoadedProject> loaded;
+  const ParsedArguments parsed = ParseArguments({"generate", project});
+  EXPECT_EQ(RunCommand(std::get<Arguments>(parsed), full, err.File(), loaded), 1);
+  EXPECT_EQ(err.Text(), "tarnwick-cli: cannot write to standard output\n");
+  std::fclose(full);
+}
+
 TEST(GenerateTest, AMissingFormIsNamedAndTheRestGenerated) {
   const ProjectFolder folder;
   folder.Put("f.ftn", kForm);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <filesystem>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,6 +9,7 @@
 #include "cli/arguments.h"
 #include "cli/commands.h"
 #include "fakes/temporary_folder.h"
+#include "fakes/text_stream.h"
 
 namespace tarnwick::test {
 
@@ -24,11 +24,11 @@ inline CallResult Call(const std::vector<std::string>& words) {
   const ParsedArguments parsed = ParseArguments(words);
   if (const auto* const print = std::get_if<PrintAndLeave>(&parsed)) return {0, print->Text, ""};
   if (const auto* const wrong = std::get_if<WrongUsage>(&parsed)) return {2, "", wrong->Text};
-  std::ostringstream out;
-  std::ostringstream err;
+  const TextStream out;
+  const TextStream err;
   std::optional<LoadedProject> project;
-  const int exit = RunCommand(std::get<Arguments>(parsed), out, err, project);
-  return {exit, out.str(), err.str()};
+  const int exit = RunCommand(std::get<Arguments>(parsed), out.File(), err.File(), project);
+  return {exit, out.Text(), err.Text()};
 }
 
 /// A folder of the test's own with files written into it; all names are machine paths.

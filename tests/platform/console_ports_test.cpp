@@ -1,8 +1,7 @@
 // The ports of a program without windows.
-#include <sstream>
-
 #include <gtest/gtest.h>
 
+#include "fakes/text_stream.h"
 #include "platform/console_messages.h"
 #include "platform/native_screen.h"
 #include "platform/no_dialogs.h"
@@ -11,17 +10,17 @@ namespace tarnwick {
 namespace {
 
 TEST(ConsolePorts, MessagesAreLinesOfUtf8) {
-  std::ostringstream out;
-  ConsoleMessages messages(out);
+  const test::TextStream out;
+  ConsoleMessages messages(out.File());
   messages.Show("caf\xE9", "Tarnwick");
-  EXPECT_EQ(out.str(), "Tarnwick: caf\xC3\xA9\n");
+  EXPECT_EQ(out.Text(), "Tarnwick: caf\xC3\xA9\n");
 }
 
 TEST(ConsolePorts, QuestionsAreShownAndAnsweredNo) {
-  std::ostringstream out;
-  ConsoleMessages messages(out);
+  const test::TextStream out;
+  ConsoleMessages messages(out.File());
   EXPECT_FALSE(messages.AskYesNo("Save?", "T", MessageIcon::Question));
-  EXPECT_EQ(out.str(), "T: Save?\n");
+  EXPECT_EQ(out.Text(), "T: Save?\n");
 }
 
 TEST(ConsolePorts, DialogsAreCancelled) {
