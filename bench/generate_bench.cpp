@@ -1,8 +1,5 @@
 // How long it takes to generate the source of projects of growing size.
 #include <array>
-#include <cmath>
-#include <ctime>
-#include <iterator>
 #include <map>
 #include <memory>
 #include <string>
@@ -11,6 +8,7 @@
 
 #include "codegen/compile_driver.h"
 #include "codegen/show_rewriter.h"
+#include "growth.h"
 #include "support/project_builder.h"
 
 namespace tarnwick {
@@ -73,40 +71,19 @@ ProjectBuilder& ProjectOf(std::int64_t objects) {
   return *project;
 }
 
-/// The exponent with which time grows from the size measured before to this one; 1 is linear.
-/// A benchmark runs several times for each size, the last one is the one reported.
-double GrowthExponent(std::int64_t objects, double seconds) {
-  static std::map<std::int64_t, double> measured;
-  measured[objects] = seconds;
-  const auto here = measured.find(objects);
-  if (here == measured.begin()) return 0;
-  const auto before = std::prev(here);
-  return std::log(seconds / before->second) /
-         std::log(static_cast<double>(objects) / static_cast<double>(before->first));
-}
-
 void GenerateProject(benchmark::State& state) {
+  static Growth growth;
   ProjectTables& tables = ProjectOf(state.range(0)).Tables;
   GeneratorState generator;
   std::size_t bytes = 0;
-  const auto start = std::clock();
-  for (auto _ : state) {
+  growth.Measure(state, [&] {
     const std::string text = GenerateSource(tables, generator);
     bytes += text.size();
     benchmark::DoNotOptimize(text.data());
-  }
-  const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-  state.counters["growth"] =
-      GrowthExponent(state.range(0), seconds / static_cast<double>(state.iterations()));
-  state.SetComplexityN(state.range(0));
-  state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * state.range(0));
+  });
   state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
 }
-BENCHMARK(GenerateProject)
-    ->RangeMultiplier(10)
-    ->Range(100, 100000)
-    ->Unit(benchmark::kMillisecond)
-    ->Complexity();
+BENCHMARK(GenerateProject)->RangeMultiplier(10)->Range(100, 100000)->Unit(benchmark::kMillisecond);
 
 /// A text of `calls` lines, every fourth of which shows the form.
 void RewriteShow(benchmark::State& state) {

@@ -1,8 +1,5 @@
 // How long it takes to write and to read projects of growing size.
-#include <cmath>
 #include <cstdint>
-#include <ctime>
-#include <iterator>
 #include <map>
 #include <memory>
 #include <string>
@@ -10,6 +7,7 @@
 #include <benchmark/benchmark.h>
 
 #include "fakes/fake_project.h"
+#include "growth.h"
 #include "support/random_project.h"
 
 namespace tarnwick {
@@ -38,53 +36,33 @@ std::int64_t BytesOnDisk(const FakeProject& project) {
   return static_cast<std::int64_t>(bytes);
 }
 
-/// Times one step for each size and reports the exponent with which it grows; 1 is linear.
+/// Times one step for each size.
 template <class Step>
-void Measure(benchmark::State& state, std::map<std::int64_t, double>& measured, Step step) {
-  const std::int64_t objects = state.range(0);
-  FakeProject& project = ProjectOf(objects);
+void Measure(benchmark::State& state, Growth& growth, Step step) {
+  FakeProject& project = ProjectOf(state.range(0));
   const std::int64_t bytes = BytesOnDisk(project);
-  const auto start = std::clock();
-  for (auto _ : state) {
+  growth.Measure(state, [&] {
     if (!step(project)) state.SkipWithError("the project was refused");
     project.Ports.Log.Clear();
-  }
-  const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-  measured[objects] = seconds / static_cast<double>(state.iterations());
-  if (const auto here = measured.find(objects); here != measured.begin()) {
-    const auto before = std::prev(here);
-    state.counters["growth"] =
-        std::log(here->second / before->second) /
-        std::log(static_cast<double>(objects) / static_cast<double>(before->first));
-  }
-  state.SetComplexityN(objects);
-  state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * objects);
+  });
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * bytes);
 }
 
 void WriteProject(benchmark::State& state) {
-  static std::map<std::int64_t, double> measured;
-  Measure(state, measured, [](FakeProject& project) {
+  static Growth growth;
+  Measure(state, growth, [](FakeProject& project) {
     return SaveProject(project.Context, project.Tables.ProjectFile);
   });
 }
-BENCHMARK(WriteProject)
-    ->RangeMultiplier(10)
-    ->Range(100, 100000)
-    ->Unit(benchmark::kMillisecond)
-    ->Complexity();
+BENCHMARK(WriteProject)->RangeMultiplier(10)->Range(100, 100000)->Unit(benchmark::kMillisecond);
 
 void ReadProject(benchmark::State& state) {
-  static std::map<std::int64_t, double> measured;
-  Measure(state, measured, [](FakeProject& project) {
+  static Growth growth;
+  Measure(state, growth, [](FakeProject& project) {
     return LoadProject(project.Context, project.Tables.ProjectFile);
   });
 }
-BENCHMARK(ReadProject)
-    ->RangeMultiplier(10)
-    ->Range(100, 100000)
-    ->Unit(benchmark::kMillisecond)
-    ->Complexity();
+BENCHMARK(ReadProject)->RangeMultiplier(10)->Range(100, 100000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tarnwick
