@@ -199,7 +199,7 @@ bool EventCodeTable::Add(Owner& owner, std::uint8_t slot, std::string_view value
 EventSet EventCodeTable::AddEmpty(Owner& owner, EventSet events) {
   const SlotSet added = SlotSet(events.to_ulong()) & ~owner.present_;
   owner.present_ |= added;
-  return EventSet(added.to_ulong());
+  return {added.to_ulong()};
 }
 
 bool EventCodeTable::Add(std::string_view key, std::string_view value) {

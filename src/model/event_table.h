@@ -50,8 +50,7 @@ class EventCodeTable {
     /// The code of an event; null when there is no entry.
     [[nodiscard]] const std::string* Find(Event event) const noexcept;
     /// The events with an entry that is not empty, for callers that ask for many of one owner.
-    [[nodiscard]] EventSet FilledEvents() const noexcept { return EventSet(filled_.to_ulong()); }
-    [[nodiscard]] bool Empty() const noexcept { return present_.none(); }
+    [[nodiscard]] EventSet FilledEvents() const noexcept { return {filled_.to_ulong()}; }
 
    private:
     friend class EventCodeTable;

@@ -9,10 +9,6 @@
 #include "text/short_bytes.h"
 #include "text/strings.h"
 
-#ifdef __SSE2__
-#include <emmintrin.h>
-#endif
-
 namespace tarnwick {
 
 namespace {
@@ -115,16 +111,17 @@ BlockBits LookAt(const char* block) {
   static_assert(('<' | kDifference) == '>');
   BlockBits bits;
 #ifdef __SSE2__
-  constexpr std::size_t kStep = sizeof(__m128i);
-  __m128i all = _mm_setzero_si128();
-  for (std::size_t at = 0; at < kBlock; at += kStep) {
-    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block + at));
-    const __m128i either = _mm_or_si128(bytes, _mm_set1_epi8(kDifference));
-    const int found = _mm_movemask_epi8(_mm_cmpeq_epi8(either, _mm_set1_epi8('>')));
+  // The top bits of sixteen bytes are one instruction there.
+  using Bytes = char __attribute__((vector_size(16)));
+  Bytes all{};
+  for (std::size_t at = 0; at < kBlock; at += sizeof(Bytes)) {
+    Bytes bytes;
+    std::memcpy(&bytes, block + at, sizeof bytes);
+    const auto found = __builtin_ia32_pmovmskb128((bytes | kDifference) == '>');
     bits.Brackets |= static_cast<std::uint64_t>(static_cast<unsigned>(found)) << at;
-    all = _mm_or_si128(all, bytes);
+    all |= bytes;
   }
-  bits.AboveAscii = _mm_movemask_epi8(all) != 0;
+  bits.AboveAscii = __builtin_ia32_pmovmskb128(all) != 0;
 #else
   for (std::size_t at = 0; at < kBlock; ++at) {
     const bool found = (block[at] | kDifference) == '>';
