@@ -189,7 +189,7 @@ std::string_view TakeDigits(std::string_view& text) {
 template <Kind kind>
 bool TakeAsWritten(std::string_view line, std::span<const std::uint32_t> brackets, Head head,
                    Values& values) {
-  constexpr const RecordLayout& layout = LayoutOf(kind);
+  static constexpr const RecordLayout& layout = LayoutOf(kind);
   // Behind the two of the head each field has a bracket at its start and one at its end.
   constexpr std::size_t kFields = layout.Fields.size() - 2;
   if (brackets.size() != 2 * kFields) return false;
