@@ -97,7 +97,7 @@ class Checker {
 
   void CheckObjectFile(const FormRec& record, const DesignControl& control, std::string_view what,
                        const std::string& file) {
-    if (file.empty() || file == kNoPicture) return;
+    if (!HasPicturePath(file)) return;
     CheckFile(record.Name, ObjectName(control), what, ResolveProjectPath(tables_, file, false));
   }
 

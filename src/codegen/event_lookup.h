@@ -45,7 +45,7 @@ class OwnerCode {
     static_assert(std::is_sorted(events.begin(), events.end()));
     constexpr unsigned long wanted = [] {
       unsigned long bits = 0;
-      for (const Event event : events) bits |= 1UL << static_cast<unsigned>(event);
+      for (const Event event : events) bits |= BitOf(event);
       return bits;
     }();
     for (unsigned long left = filled_.to_ulong() & wanted; left != 0; left &= left - 1) {

@@ -11,11 +11,6 @@
 
 namespace tarnwick {
 
-/// True when a record's picture path names a picture.
-[[nodiscard]] inline bool HasPicturePath(std::string_view path) noexcept {
-  return !path.empty() && path != kNoPicture;
-}
-
 /// The first holder of each picture among the records of one kind on one form. Paths compare
 /// without regard to case. The index is made at the first question, in one pass.
 class ImageIndex {

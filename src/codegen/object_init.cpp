@@ -5,8 +5,8 @@
 #include <string>
 
 #include "codegen/form_init.h"
-#include "model/control_walk.h"
 #include "text/code_page.h"
+#include "text/fetch_ahead.h"
 
 namespace tarnwick {
 

@@ -23,19 +23,6 @@ bool IsHeldAsText(RowShape shape) noexcept {
   return shape == RowShape::Choice || shape == RowShape::Parent;
 }
 
-bool IsNeutral(std::string_view file) noexcept {
-  return file.empty() || file == kNoPicture;
-}
-
-/// The name under which the generated program knows the picture of an object.
-std::string ResourceName(const RowTarget& target) {
-  std::string name = "Frm";
-  AppendNumber(name, std::int64_t{target.Window.Number()});
-  name.append(InfoOf(target.Id).Prefix);
-  AppendNumber(name, std::int64_t{target.Index});
-  return name.append("_Bmp");
-}
-
 }  // namespace
 
 bool PropertySheet::IsEditable() const noexcept {
@@ -186,7 +173,9 @@ void PropertySheet::Finish(const RowBinding& binding, const RowTarget& target) {
       const std::string file = StoredText(binding, target).value_or("");
       LoadPicture(target, file);
       ObjectRec* record = target.Record.Objects(target.Id)->At(target.Index);
-      record->Title = IsNeutral(file) ? std::string{kNoPicture} : ResourceName(target);
+      record->Title = HasPicturePath(file)
+                          ? PictureResourceName(target.Window.Number(), target.Id, target.Index)
+                          : std::string{kNoPicture};
       break;
     }
     case RowEffect::Frame:
@@ -203,7 +192,7 @@ void PropertySheet::LoadWindowIcon(const RowTarget& target) {
 }
 
 void PropertySheet::LoadPicture(const RowTarget& target, const std::string& path) {
-  if (IsNeutral(path)) {
+  if (!HasPicturePath(path)) {
     target.Control->Set(Member::Picture, std::string{});
   } else if (const auto loadable = LoadablePath(path)) {
     target.Control->Set(Member::Picture, *loadable);

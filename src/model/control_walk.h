@@ -5,21 +5,9 @@
 #include <vector>
 
 #include "model/design_form.h"
+#include "text/fetch_ahead.h"
 
 namespace tarnwick {
-
-/// Tells the processor that the bytes from `at` on are wanted soon. They need not be there.
-inline void FetchAhead(const void* at, std::size_t size) noexcept {
-#ifdef __GNUC__
-  constexpr std::size_t kLine = 64;
-  for (std::size_t line = 0; line < size; line += kLine) {
-    __builtin_prefetch(static_cast<const char*>(at) + line);
-  }
-#else
-  static_cast<void>(at);
-  static_cast<void>(size);
-#endif
-}
 
 /// What a walk reads of each control.
 enum class ControlPart {

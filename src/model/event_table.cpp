@@ -17,7 +17,8 @@ const std::string kNoCode;
 /// Room for the longest key of an object: the words and two numbers.
 using KeyBuffer = std::array<char, 64>;
 
-std::string_view KeyOf(const ObjectPlace& object, KeyBuffer& buffer) noexcept {
+/// The key of an object, spelled into the buffer.
+std::string_view SpellKey(const ObjectPlace& object, KeyBuffer& buffer) noexcept {
   char* const end = buffer.data() + buffer.size();
   char* at = CopyBytes(buffer.data(), InfoOf(Kind::Form).Name);
   at = std::to_chars(at, end, object.Form).ptr;
@@ -38,7 +39,7 @@ std::optional<int> TakeNumber(std::string_view& text) noexcept {
 }
 
 /// The object that a key names, if it is the key of one: "Form1.Button2".
-std::optional<ObjectPlace> PlaceOf(std::string_view key) noexcept {
+std::optional<ObjectPlace> ObjectUnder(std::string_view key) noexcept {
   const std::size_t dot = key.find('.');
   if (dot == std::string_view::npos) return std::nullopt;
   std::string_view form_word = key.substr(0, dot);
@@ -88,7 +89,7 @@ std::string EventCodeTable::SuffixOf(std::uint8_t slot) {
 std::string EventCodeTable::KeyOf(const Owner& owner) {
   if (owner.name_ != nullptr) return *owner.name_;
   KeyBuffer buffer;
-  return std::string(tarnwick::KeyOf(owner.place_, buffer));
+  return std::string(SpellKey(owner.place_, buffer));
 }
 
 EventCodeTable::Number EventCodeTable::NumberOfName(std::string_view key) const noexcept {
@@ -105,11 +106,11 @@ EventCodeTable::Number EventCodeTable::NumberOf(const ObjectPlace& object) const
   }
   if (!objects_named_) return 0;
   KeyBuffer buffer;
-  return NumberOfName(tarnwick::KeyOf(object, buffer));
+  return NumberOfName(SpellKey(object, buffer));
 }
 
 EventCodeTable::Number EventCodeTable::NumberOf(std::string_view key) const noexcept {
-  const std::optional<ObjectPlace> object = PlaceOf(key);
+  const std::optional<ObjectPlace> object = ObjectUnder(key);
   return object ? NumberOf(*object) : NumberOfName(key);
 }
 
@@ -156,14 +157,14 @@ EventCodeTable::Owner& EventCodeTable::OwnerFor(const ObjectPlace& object) {
   }
   objects_named_ = true;
   KeyBuffer buffer;
-  return OwnerNamed(tarnwick::KeyOf(object, buffer));
+  return OwnerNamed(SpellKey(object, buffer));
 }
 
 EventCodeTable::Owner& EventCodeTable::OwnerFor(std::string_view key) {
-  const std::optional<ObjectPlace> object = PlaceOf(key);
+  const std::optional<ObjectPlace> object = ObjectUnder(key);
   if (!object) return OwnerNamed(key);
   KeyBuffer buffer;
-  if (tarnwick::KeyOf(*object, buffer) == key) return OwnerFor(*object);
+  if (SpellKey(*object, buffer) == key) return OwnerFor(*object);
   // A key in other letters is told as it was written.
   if (const Number number = NumberOf(*object); number != 0) return owners_[number - 1];
   objects_named_ = true;
@@ -185,10 +186,6 @@ void EventCodeTable::Set(Owner& owner, std::uint8_t slot, std::string_view value
   }
 }
 
-void EventCodeTable::SetCode(Owner& owner, Event event, std::string_view code) {
-  Set(owner, static_cast<std::uint8_t>(event), code);
-}
-
 bool EventCodeTable::Add(Owner& owner, std::uint8_t slot, std::string_view value) {
   if (owner.present_[slot]) return false;
   owner.present_.set(slot);
@@ -196,10 +193,8 @@ bool EventCodeTable::Add(Owner& owner, std::uint8_t slot, std::string_view value
   return true;
 }
 
-EventSet EventCodeTable::AddEmpty(Owner& owner, EventSet events) {
-  const SlotSet added = SlotSet(events.to_ulong()) & ~owner.present_;
-  owner.present_ |= added;
-  return {added.to_ulong()};
+void EventCodeTable::AddEmpty(Owner& owner, EventSet events) {
+  owner.present_ |= SlotSet(events.to_ulong());
 }
 
 bool EventCodeTable::Add(std::string_view key, std::string_view value) {

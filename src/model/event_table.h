@@ -90,10 +90,8 @@ class EventCodeTable {
   bool Add(Owner& owner, Event event, std::string_view value) {
     return Add(owner, static_cast<std::uint8_t>(event), value);
   }
-  /// Adds an empty entry for each of `events` that has none yet and answers which these were.
-  EventSet AddEmpty(Owner& owner, EventSet events);
-  /// Sets the code of an entry that is there.
-  void SetCode(Owner& owner, Event event, std::string_view code);
+  /// Adds an empty entry for each of `events` that has none yet.
+  static void AddEmpty(Owner& owner, EventSet events);
   /// Adds an entry; false, and nothing changed, when the key is there already.
   bool Add(std::string_view key, std::string_view value);
   /// The same for an owner and an event, without building the key.

@@ -15,6 +15,10 @@
 namespace tarnwick {
 
 inline constexpr std::string_view kNoPicture = "(None)";
+/// True when a record's picture path names a picture.
+[[nodiscard]] inline bool HasPicturePath(std::string_view path) noexcept {
+  return !path.empty() && path != kNoPicture;
+}
 inline constexpr std::string_view kDefaultFile = "(Default)";
 inline constexpr std::string_view kFirstMainForm = "Form1 ()";
 

@@ -75,6 +75,10 @@ inline constexpr std::array<EventInfo, kEventCount> kEvents{{
 [[nodiscard]] constexpr std::span<const EventInfo, kEventCount> AllEvents() noexcept {
   return kEvents;
 }
+/// The bit of an event in a set of them.
+[[nodiscard]] constexpr unsigned long BitOf(Event event) noexcept {
+  return 1UL << static_cast<unsigned>(event);
+}
 /// The event of a name without regard to case ("onclick").
 [[nodiscard]] std::optional<Event> EventOfName(std::string_view name) noexcept;
 /// The event of a code such as "120".

@@ -17,23 +17,19 @@ namespace {
 
 constexpr std::string_view kMessageTitle = "Tarnwick";
 
-bool HasPicture(std::string_view path) {
-  return !path.empty() && path != kNoPicture;
-}
-
 /// The events of a layout, a bit each.
 constexpr unsigned long EventBitsOf(Kind kind) {
   unsigned long bits = 0;
   for (const LayoutField& field : LayoutOf(kind).Fields) {
     const auto* const event = std::get_if<Event>(&field.Value);
-    if (event != nullptr) bits |= 1UL << static_cast<unsigned>(*event);
+    if (event != nullptr) bits |= BitOf(*event);
   }
   return bits;
 }
 
 /// Twips from a number of pixels as text; a number too large for single precision is refused.
 void ReadPlace(std::string_view value, float& twips) {
-  if (const auto read = ToSingle(Val(value) * kTwipsPerPixel)) twips = *read;
+  SetNumber(twips, Val(value) * kTwipsPerPixel);
 }
 
 }  // namespace
@@ -121,7 +117,7 @@ void FormReader::ReadFormValues(int form) {
   ReadPlace(scanner_.Stored(Tag::Height), window_->Height);
   window_->NameObjet = "Form";
   DesignControl no_control;
-  Object object{no_control, std::nullopt, nullptr, nullptr, {}};
+  Object object{no_control, std::nullopt, nullptr, nullptr};
   TakeFields<Kind::Form>(object);
   if (record_->ImageFile != kDefaultFile) {
     window_->WindowPicture = ResolveProjectPath(tables_, record_->ImageFile, true);
@@ -135,7 +131,7 @@ void FormReader::ReadObject(Kind kind) {
   DesignControl& control = *window_->Load(kind);
   control.Tag = scanner_.Name();
   control.Visible = true;
-  Object object{control, ToInt16(Val(scanner_.Number())), nullptr, nullptr, {}};
+  Object object{control, ToInt16(Val(scanner_.Number())), nullptr, nullptr};
   if (object.Number && *object.Number < 0) object.Number.reset();
   if (object.Number) {
     if (InfoOf(kind).Events != EventListId::None) {
@@ -150,7 +146,8 @@ void FormReader::ReadObject(Kind kind) {
 
 void FormReader::ReadPicture(Kind kind, Object& object) {
   const bool with_picture = kind == Kind::Button || kind == Kind::Image;
-  if (!with_picture || object.Record == nullptr || !HasPicture(object.Record->ImageFile)) return;
+  if (!with_picture || object.Record == nullptr || !HasPicturePath(object.Record->ImageFile))
+    return;
   object.Control.Picture = ResolveProjectPath(tables_, object.Record->ImageFile, true);
   object.Record->Title = PictureResourceName(window_->Number(), kind, *object.Number);
 }
@@ -202,10 +199,8 @@ void FormReader::TakeCode(Object& object, Tag tag, Event event) {
   std::string name(InfoOf(object.Control.Id).Array);
   AppendNumber(name, std::int64_t{*object.Number});
   TellBar(std::move(name), event);
-  // Of two objects with one number the first keeps its code.
-  if (object.NewEvents.test(static_cast<std::size_t>(event))) {
-    tables_.EventTable.SetCode(*object.Code, event, code);
-  }
+  // Of two objects with one number the first keeps its code, empty or not.
+  tables_.EventTable.Add(*object.Code, event, code);
 }
 
 void FormReader::TakeFormCode(Tag tag, Event event) {
@@ -276,9 +271,6 @@ void FormReader::TakeMember(Object& object) {
 
 template <Kind kind>
 void FormReader::TakeFields(Object& object) {
-  if (object.Code != nullptr) {
-    object.NewEvents = tables_.EventTable.AddEmpty(*object.Code, EventSet(EventBitsOf(kind)));
-  }
   ForEachField<kind>([&](auto place) {
     constexpr const LayoutField& field = LayoutOf(kind).Fields[place];
     constexpr auto source = std::get<field.Value.index()>(field.Value);
@@ -293,6 +285,7 @@ void FormReader::TakeFields(Object& object) {
     }
     return true;
   });
+  if (object.Code != nullptr) EventCodeTable::AddEmpty(*object.Code, EventSet(EventBitsOf(kind)));
   static constexpr std::span<const InheritedMember> inherited = InheritedMembersOf(kind);
   [&]<std::size_t... Places>(std::index_sequence<Places...>) {
     (TakeMember<kind, inherited[Places].In, inherited[Places].Target>(object), ...);

@@ -33,7 +33,6 @@ class FormReader {
     std::optional<std::int16_t> Number;
     ObjectRec* Record;
     EventCodeTable::Owner* Code;  ///< where its code goes
-    EventSet NewEvents;           ///< those that had no entry there before
   };
 
   /// False when the form is refused and the file is read no further.

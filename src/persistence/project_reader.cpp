@@ -31,9 +31,10 @@ std::string FormPathOf(const ProjectTables& tables, std::string_view line) {
 }
 
 void ReadListedForm(ProjectContext& context, const std::string& path) {
-  if (ReadFormFile(context, path) != FormReadResult::Unreadable) return;
-  if (context.Files.Exists(path)) return;
-  context.Messages.Show("Error: File ' " + path + " ' does not exist!", "Tarnwick");
+  // What is there but cannot be read is passed over without a word.
+  if (ReadFormFile(context, path) == FormReadResult::Unreadable && !context.Files.Exists(path)) {
+    context.Messages.Show("Error: File ' " + path + " ' does not exist!", "Tarnwick");
+  }
 }
 
 void TellRead(ProjectContext& context, int first) {

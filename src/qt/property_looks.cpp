@@ -31,7 +31,7 @@ QPixmap Swatch(const std::string& text, const QWidget& grid) {
 
 QPixmap Preview(MDIForm1& shell, PictureCache& pictures, const QWidget& grid,
                 const std::string& text) {
-  if (text.empty() || text == kNoPicture) return {};
+  if (!HasPicturePath(text)) return {};
   const ProjectTables& tables = shell.Tables();
   const QPixmap* picture = nullptr;
   if (text == kDefaultFile) {

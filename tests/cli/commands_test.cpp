@@ -18,6 +18,14 @@ constexpr const char* kForm =
     "[Button] (1) {Ok} Left<10>Left Top<10>Top Width<75>Width Height<25>Height String<Ok>String "
     "Image<(None)>Image Click<Form1.Close>Click\r\n";
 
+/// A project of that form alone.
+std::string PutProject(const ProjectFolder& folder) {
+  folder.Put("f.ftn", kForm);
+  return folder.Put("p.tnp",
+                    "1\x95"
+                    "f.ftn\r\n");
+}
+
 TEST(GenerateTest, WritesTheSourceToStandardOutput) {
   const ProjectFolder folder;
   folder.Put("f.ftn", kForm);
@@ -36,10 +44,7 @@ TEST(GenerateTest, WritesTheSourceToStandardOutput) {
 
 TEST(GenerateTest, WritesTheSameBytesToAFile) {
   const ProjectFolder folder;
-  folder.Put("f.ftn", kForm);
-  const std::string project = folder.Put("p.tnp",
-                                         "1\x95"
-                                         "f.ftn\r\n");
+  const std::string project = PutProject(folder);
   const std::string out = folder.PathOf("out.com");
   EXPECT_EQ(Call({"generate", project, "-o", out}).Exit, 0);
   EXPECT_EQ(folder.Bytes("out.com"), Call({"generate", project}).Out);
@@ -64,10 +69,7 @@ TEST(GenerateTest, AnOutputThatCannotBeWrittenIsToldInOneLine) {
 
 TEST(GenerateTest, AFullDeviceIsTold) {
   const ProjectFolder folder;
-  folder.Put("f.ftn", kForm);
-  const std::string project = folder.Put("p.tnp",
-                                         "1\x95"
-                                         "f.ftn\r\n");
+  const std::string project = PutProject(folder);
   std::FILE* const full = std::fopen("/dev/full", "w");
   ASSERT_NE(full, nullptr);
   const test::TextStream err;
@@ -104,10 +106,7 @@ TEST(GenerateTest, AFormListedTwiceIsRefusedOnce) {
 
 TEST(GenerateTest, NothingOfTheProjectOnDiskChanges) {
   const ProjectFolder folder;
-  folder.Put("f.ftn", kForm);
-  const std::string project = folder.Put("p.tnp",
-                                         "1\x95"
-                                         "f.ftn\r\n");
+  const std::string project = PutProject(folder);
   EXPECT_EQ(Call({"generate", project}).Exit, 0);
   EXPECT_EQ(folder.Bytes("f.ftn"), kForm);
   EXPECT_EQ(folder.Bytes("p.tnp"),
@@ -128,10 +127,7 @@ TEST(ResaveTest, WritesTheProjectIntoAnotherFolder) {
 
 TEST(ResaveTest, ASecondResaveGivesTheSameBytes) {
   const ProjectFolder folder;
-  folder.Put("f.ftn", kForm);
-  const std::string project = folder.Put("p.tnp",
-                                         "1\x95"
-                                         "f.ftn\r\n");
+  const std::string project = PutProject(folder);
   EXPECT_EQ(Call({"resave", project, folder.PathOf("a")}).Exit, 0);
   EXPECT_EQ(Call({"resave", folder.PathOf("a/p.tnp"), folder.PathOf("b")}).Exit, 0);
   EXPECT_EQ(folder.Bytes("a/f.ftn"), folder.Bytes("b/f.ftn"));
@@ -147,10 +143,7 @@ TEST(ResaveTest, AFormWithoutAFileStaysWithoutOne) {
 
 TEST(ResaveTest, AFolderThatCannotBeMadeIsTold) {
   const ProjectFolder folder;
-  folder.Put("f.ftn", kForm);
-  const std::string project = folder.Put("p.tnp",
-                                         "1\x95"
-                                         "f.ftn\r\n");
+  const std::string project = PutProject(folder);
   const CallResult result = Call({"resave", project, folder.PathOf("f.ftn")});
   EXPECT_EQ(result.Exit, 1);
   EXPECT_EQ(result.Err,

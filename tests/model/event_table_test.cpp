@@ -164,17 +164,13 @@ TEST(EventTable, EmptyEntriesAreAddedWhereThereIsNone) {
   EventCodeTable table;
   auto& owner = table.OwnerFor({1, Kind::Button, 1});
   table.Add(owner, Event::OnClick, "code");
-  EventSet events;
-  events.set(static_cast<std::size_t>(Event::OnClick));
-  events.set(static_cast<std::size_t>(Event::OnKeyUp));
-  const EventSet added = table.AddEmpty(owner, events);
-  EXPECT_EQ(added.count(), 1U);
-  EXPECT_TRUE(added.test(static_cast<std::size_t>(Event::OnKeyUp)));
+  EventCodeTable::AddEmpty(owner, EventSet(BitOf(Event::OnClick) | BitOf(Event::OnKeyUp)));
   EXPECT_EQ(CodeOf(table, "Form1.Button1.OnClick"), "code");
   EXPECT_EQ(CodeOf(table, "Form1.Button1.OnKeyUp"), "");
-  table.SetCode(owner, Event::OnKeyUp, "more");
-  EXPECT_EQ(CodeOf(table, "Form1.Button1.OnKeyUp"), "more");
-  EXPECT_EQ(owner.FilledEvents().count(), 2U);
+  EXPECT_EQ(CodeOf(table, "Form1.Button1.OnKeyDown"), "(none)");
+  EXPECT_EQ(table.Size(), 2U);
+  EXPECT_FALSE(table.Add(owner, Event::OnKeyUp, "too late"));
+  EXPECT_EQ(owner.FilledEvents(), EventSet(BitOf(Event::OnClick)));
 }
 
 TEST(EventTable, ACodeThatIsEmptiedAndFilledAgainIsTheNewOne) {

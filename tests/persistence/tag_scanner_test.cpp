@@ -160,7 +160,7 @@ TEST(TagScanner, AnyLinesGiveWhatTheRuleGivesTagByTag) {
   }
 }
 
-TEST(TagScanner, AStoredByteIsSeenAtEveryPlaceOfALine) {
+TEST(TagScanner, AStoredByteIsSeenWhereverItStandsInALine) {
   for (std::size_t before = 0; before < 150; ++before) {
     for (const std::size_t behind : {0U, 1U, 70U}) {
       TagScanner scanner;
