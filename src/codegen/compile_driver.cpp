@@ -79,7 +79,7 @@ std::vector<ShowDiversion> DiversionsOf(const ProjectTables& tables) {
   return diverted;
 }
 
-void WriteSections(ProjectTables& tables, GeneratorState& state, SourceSink sink) {
+void WriteSections(ProjectTables& tables, GeneratorState& state, TextSink sink) {
   Generation gen(tables, state, std::move(sink));
   gen.Out.Line("Dim Font As QFont");
   ForEachForm(gen, [&] { WriteDeclarations(gen); });
@@ -113,7 +113,7 @@ std::string InQuotes(std::string_view text) {
 
 }  // namespace
 
-void WriteSource(ProjectTables& tables, GeneratorState& state, const SourceSink& sink) {
+void WriteSource(ProjectTables& tables, GeneratorState& state, const TextSink& sink) {
   state.KindCounters.ResetAllBut(kKeptBetweenForms);
   state.DefaultIconDone = false;
   const std::vector<ShowDiversion> diverted = DiversionsOf(tables);

@@ -16,7 +16,7 @@ namespace tarnwick {
 [[nodiscard]] std::string GenerateSource(ProjectTables& tables, GeneratorState& state);
 
 /// The same text handed on piece by piece, so that a long one is at no time there as a whole.
-void WriteSource(ProjectTables& tables, GeneratorState& state, const SourceSink& sink);
+void WriteSource(ProjectTables& tables, GeneratorState& state, const TextSink& sink);
 
 /// A main form that was removed gives way to the first form of the list.
 void CheckMainForm(ProjectTables& tables);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "codegen/form_init.h"
+#include "model/units.h"
 #include "text/code_page.h"
 #include "text/fetch_ahead.h"
 
@@ -156,10 +157,10 @@ void WriteHtmlViewer(Generation& gen, const DesignControl& control, const HtmlVi
   out.Line(form.Name, ".Visible = 1");
   out.Line(form.Name, ".Top = Screen.Height + 500");
   out.Line(name, ".Parent = ", form.Name);
-  out.Line(name, ".Width = ", Pixels{control.Width});
-  out.Line(name, ".Height = ", Pixels{control.Height});
-  out.Line(name, ".Top = ", Pixels{control.Top});
-  out.Line(name, ".Left = ", Pixels{control.Left});
+  out.Line(name, ".Width = ", PixelsOf(control.Width));
+  out.Line(name, ".Height = ", PixelsOf(control.Height));
+  out.Line(name, ".Top = ", PixelsOf(control.Top));
+  out.Line(name, ".Left = ", PixelsOf(control.Left));
   out.Line(name, ".createObject(\"Shell.Explorer.1\")");
   out.Line(form.Name, ".Visible = 0");
   WriteFormPlace(gen);

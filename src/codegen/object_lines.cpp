@@ -8,6 +8,7 @@
 #include <utility>
 #include <variant>
 
+#include "model/units.h"
 #include "text/numbers.h"
 
 namespace tarnwick {
@@ -70,8 +71,8 @@ constexpr bool Writes(Kind kind, const CommonLine& line) {
 Quoted Printed(const std::string& value) {
   return {value};
 }
-Pixels Printed(float value) {
-  return {value};
+float Printed(float value) {
+  return PixelsOf(value);
 }
 std::string_view Printed(bool value) {
   return value ? "True" : "False";

@@ -22,8 +22,8 @@ constexpr int kGrip = 10;
 constexpr int kButtonWidth = 26;
 constexpr int kLeast = 60;
 
-int PixelsOf(float twips) {
-  return static_cast<int>(std::lround(twips / static_cast<float>(kTwipsPerPixel)));
+int WholePixelsOf(float twips) {
+  return static_cast<int>(std::lround(PixelsOf(twips)));
 }
 
 }  // namespace
@@ -64,7 +64,7 @@ void DesignWindow::SetCurrent(bool current) {
 void DesignWindow::SyncWithForm() {
   if (form_ == nullptr) return;
   if (state_ == WindowState::Normal) {
-    resize(qMax(1, PixelsOf(form_->Width)), qMax(1, PixelsOf(form_->Height)));
+    resize(qMax(1, WholePixelsOf(form_->Width)), qMax(1, WholePixelsOf(form_->Height)));
   }
   LayOut();
   update();

@@ -29,7 +29,7 @@ int Pixels(float twips) noexcept {
   constexpr float kFarthest = 30000.0F * kTwipsPerPixel;
   if (!std::isfinite(twips)) return 0;
   const float kept = std::clamp(twips, -kFarthest, kFarthest);
-  return static_cast<int>(std::lround(kept / static_cast<float>(kTwipsPerPixel)));
+  return static_cast<int>(std::lround(PixelsOf(kept)));
 }
 
 void DrawDashed(QPainter& painter, const QRect& rect, const QColor& color) {

@@ -16,18 +16,14 @@ std::string PlaceText(std::string_view name, float left, float top, float width,
   return text;
 }
 
-float Pixels(float twips) {
-  return twips / kTwipsPerPixel;
-}
-
 }  // namespace
 
 std::string SelectionStatus(const ProjectTables& tables) {
   const DesignForm* form = tables.CurrentForm;
   if (form == nullptr) return {};
   if (const DesignControl* control = form->ControlSel.get()) {
-    return PlaceText(control->Tag, Pixels(control->Left), Pixels(control->Top),
-                     Pixels(control->Width), Pixels(control->Height));
+    return PlaceText(control->Tag, PixelsOf(control->Left), PixelsOf(control->Top),
+                     PixelsOf(control->Width), PixelsOf(control->Height));
   }
   const FormRec* record = tables.RecordOf(*form);
   if (record == nullptr) return {};
@@ -36,7 +32,7 @@ std::string SelectionStatus(const ProjectTables& tables) {
 
 std::string PointerStatus(float x, float y) {
   const auto whole = [](float twips) {
-    const std::int32_t pixels = ToInt32(twips / kTwipsPerPixel).value_or(0);
+    const std::int32_t pixels = ToInt32(PixelsOf(twips)).value_or(0);
     return NumberText(std::int64_t{pixels});
   };
   return "X " + whole(x) + "  Y " + whole(y);

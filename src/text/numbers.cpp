@@ -82,16 +82,21 @@ void AppendNumber(std::string& out, std::int64_t value) {
   out.append(digits.data(), end.ptr);
 }
 
-void AppendNumber(std::string& out, float value) {
-  if (value == 0.0F) {
-    // Minus zero too.
-    out += '0';
-    return;
+char* PutNumber(char* at, float value) noexcept {
+  // Whole numbers of this size and below are the same as single and as 32-bit number.
+  constexpr float kPlainLimit = 16777216.0F;
+  char* const end = at + kMostSingle;
+  if (value >= -kPlainLimit && value <= kPlainLimit) {
+    // Nearly every single is whole, and whole numbers print faster. Minus zero is 0 here.
+    const auto whole = static_cast<std::int32_t>(value);
+    if (static_cast<float>(whole) == value) return std::to_chars(at, end, whole).ptr;
   }
-  // The longest is the smallest single: "-0." and 45 places with a digit or two behind.
-  std::array<char, 64> digits{};
-  const auto end = std::to_chars(digits.begin(), digits.end(), value, std::chars_format::fixed);
-  out.append(digits.data(), end.ptr);
+  return std::to_chars(at, end, value, std::chars_format::fixed).ptr;
+}
+
+void AppendNumber(std::string& out, float value) {
+  std::array<char, kMostSingle> digits{};
+  out.append(digits.data(), PutNumber(digits.data(), value));
 }
 
 std::string NumberText(std::int64_t value) {

@@ -70,10 +70,15 @@ bool ReadNumber(std::string_view text, Whole& field) noexcept {
   return whole.has_value();
 }
 
+/// No single prints longer: "-0." and 45 places with a digit or two behind.
+inline constexpr std::size_t kMostSingle = 64;
+/// Prints a single at `at`, where there must be room for kMostSingle bytes, and returns the place
+/// behind it: the shortest decimal form that reads back to the same single, "." as separator, never
+/// an exponent; a whole number has no fraction, minus zero prints "0".
+char* PutNumber(char* at, float value) noexcept;
 /// Decimal digits without blanks.
 void AppendNumber(std::string& out, std::int64_t value);
-/// Shortest decimal form that reads back to the same single, "." as separator, never an exponent;
-/// a whole number has no fraction, minus zero prints "0".
+/// A single as above.
 void AppendNumber(std::string& out, float value);
 [[nodiscard]] std::string NumberText(std::int64_t value);
 [[nodiscard]] std::string NumberText(float value);
