@@ -68,8 +68,7 @@ EventCodeTable::Code* EventCodeTable::Owner::CodeOf(std::size_t slot) const noex
 
 const std::string* EventCodeTable::Owner::FindSlot(std::size_t slot) const noexcept {
   if (!present_[slot]) return nullptr;
-  const Code* const code = CodeOf(slot);
-  return code == nullptr ? &kNoCode : &code->Text;
+  return filled_[slot] ? &CodeOf(slot)->Text : &kNoCode;
 }
 
 EventCodeTable::Place EventCodeTable::PositionOf(std::string_view key) noexcept {

@@ -1,15 +1,23 @@
 #include "persistence/form_writer.h"
 
 #include <array>
-#include <cmath>
-#include <cstdint>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <variant>
+#include <vector>
 
 #include "model/control_walk.h"
 #include "model/units.h"
 #include "persistence/menu_text.h"
 #include "persistence/record_layouts.h"
 #include "persistence/stored_text.h"
-#include "text/numbers.h"
+#include "text/code_page.h"
+#include "text/short_bytes.h"
+#include "text/strings.h"
+#include "text/text_page.h"
 
 namespace tarnwick {
 
@@ -21,27 +29,64 @@ constexpr std::string_view kLineEnd = "\r\n";
 /// before, so an object without a key is written with the code of an earlier one.
 using CodeValues = std::array<std::string, kEventCount>;
 
+/// A text that keeps its commas under another byte.
+struct StoredText {
+  std::string_view Text;
+  char Comma = kStoredComma;
+};
+
+[[nodiscard]] std::size_t MostBytesOf(const StoredText& stored) noexcept {
+  return stored.Text.size();
+}
+char* SetPart(char* at, const StoredText& stored) noexcept {
+  char* const end = CopyBytes(at, stored.Text);
+  ReplaceByte({at, end}, ',', stored.Comma);
+  return end;
+}
+
+/// How a control's member stands in its record: texts with their commas stored, but for the name of
+/// a font; lengths in pixels; a state as yes or no.
+template <Member member>
+auto StoredMember(const DesignControl& control) {
+  const auto& value = control.*std::get<FieldOf(member).index()>(FieldOf(member));
+  using Value = std::remove_cvref_t<decltype(value)>;
+  if constexpr (member == Member::FontName) {
+    return std::string_view(value);
+  } else if constexpr (std::is_same_v<Value, std::string>) {
+    return StoredText{value};
+  } else if constexpr (std::is_same_v<Value, float> && member != Member::FontSize) {
+    return PixelsOf(value);
+  } else if constexpr (std::is_same_v<Value, bool>) {
+    return value ? '1' : '0';
+  } else if constexpr (member == Member::Value) {
+    return value == 1 || value == -1 ? '1' : '0';
+  } else {
+    return value;
+  }
+}
+
 class FormWriter {
  public:
-  FormWriter(const ProjectTables& tables, const DesignForm& window, const FormRec& record)
+  FormWriter(const ProjectTables& tables, const DesignForm& window, const FormRec& record,
+             TextSink sink)
       : tables_(tables),
         window_(window),
         record_(record),
         form_key_(window.KeyPrefix()),
-        window_number_(window.Number()) {}
+        window_number_(window.Number()),
+        page_(std::move(sink)) {}
 
-  std::string Write() {
-    out_.reserve(window_.Controls().size() * 512);
+  void Write() {
     WriteFormRecord();
     WalkControls<ControlPart::Whole>(window_.Controls(), 0, [&](const ControlRef& control) {
       if (control->Visible && control->Id != Kind::Handle) WriteControl(*control);
     });
-    AppendMenuRecords(out_, tables_, window_);
-    out_ += "[DeclarePbl] String<";
-    AppendStoredLines(out_, record_.DeclarePbl);
-    out_ += ">String";
-    out_ += kLineEnd;
-    return std::move(out_);
+    std::string rest;
+    AppendMenuRecords(rest, tables_, window_);
+    rest += "[DeclarePbl] String<";
+    AppendStoredLines(rest, record_.DeclarePbl);
+    page_.Put(rest, ">String", kLineEnd);
+    page_.Flush();
   }
 
  private:
@@ -53,15 +98,13 @@ class FormWriter {
   };
 
   void WriteFormRecord() {
-    for (const EventInfo& event : AllEvents()) LookUp(form_key_, event.Id);
+    if (const auto* owner = tables_.EventTable.OwnerOf(form_key_)) {
+      for (const EventInfo& event : AllEvents()) Take(*owner, event.Id);
+    }
     static const DesignControl no_control;
     static const ObjectRec no_record;
-    WriteLayout(Kind::Form, {no_control, window_.Number(), no_record});
+    WriteRecord<Kind::Form>({no_control, window_.Number(), no_record});
     codes_ = CodeValues{};
-  }
-
-  void LookUp(std::string_view owner_key, Event event) {
-    if (const auto* owner = tables_.EventTable.OwnerOf(owner_key)) Take(*owner, event);
   }
 
   void Take(const EventCodeTable::Owner& owner, Event event) {
@@ -81,15 +124,16 @@ class FormWriter {
   }
 
   void WriteControl(const DesignControl& control) {
-    out_ += kLineEnd;
+    page_.Put(kLineEnd);
     TakeCodes(control);
     if (static_cast<std::size_t>(control.Id) >= kObjectKindCount) return;
     const int number = ++counts_[static_cast<std::size_t>(control.Id)];
     if (control.Id == Kind::PopUpMenu) WriteSubs(number);
     const auto* records = record_.Objects(control.Id);
     static const ObjectRec no_record;
-    WriteLayout(control.Id, {control, number,
-                             records != nullptr ? RecordOrEmpty(*records, number) : no_record});
+    const Object object{control, number,
+                        records != nullptr ? RecordOrEmpty(*records, number) : no_record};
+    WithObjectKind(control.Id, [&](auto kind) { WriteRecord<kind>(object); });
   }
 
   void WriteSubs(int number) {
@@ -104,146 +148,102 @@ class FormWriter {
   void WriteSub(std::string_view name) {
     std::string code;
     AppendItemCode(code, tables_, form_key_, name);
-    if (code.empty()) return;
-    out_.append("[Sub]{").append(name).append("} Click<").append(code).append(">Click");
-    out_ += kLineEnd;
+    if (!code.empty()) page_.Put("[Sub]{", name, "} Click<", code, ">Click", kLineEnd);
   }
 
-  void WriteLayout(Kind kind, const Object& object) {
-    const RecordLayout& layout = LayoutOf(kind);
-    for (const LayoutField& field : layout.Fields) {
-      out_ += field.Before;
-      std::visit([&](const auto& source) { Append(object, source); }, field.Value);
+  /// Straight code for each kind: a form's text is these records.
+  template <Kind kind>
+  void WriteRecord(const Object& object) {
+    static constexpr const RecordLayout& layout = LayoutOf(kind);
+    [&]<std::size_t... Places>(std::index_sequence<Places...>) {
+      const auto write = [&](auto place) {
+        constexpr const LayoutField& field = layout.Fields[place];
+        constexpr auto source = std::get<field.Value.index()>(field.Value);
+        using Type = std::remove_const_t<decltype(source)>;
+        if constexpr (std::is_same_v<Type, Member>) {
+          page_.Put(field.Before, StoredMember<source>(object.Control));
+        } else if constexpr (std::is_same_v<Type, Special>) {
+          page_.Put(field.Before);
+          Put<source>(object);
+        } else {
+          page_.Put(field.Before, ValueOf(object, source));
+        }
+      };
+      (write(std::integral_constant<std::size_t, Places>{}), ...);
     }
-    out_ += layout.End;
-    out_ += kLineEnd;
+    (std::make_index_sequence<layout.Fields.size()>{});
+    page_.Put(layout.End, kLineEnd);
   }
 
-  void Append(const Object& object, Special special) {
-    switch (special) {
-      case Special::Number:
-        return AppendNumber(out_, std::int64_t{object.Number});
-      case Special::Name:
-        out_ += object.Control.Index == 0 ? record_.Name : object.Control.Tag;
-        return;
-      case Special::WindowCaption:
-        return AppendStoredText(out_, window_.Caption);
-      case Special::WindowColor:
-        return AppendNumber(out_, std::int64_t{window_.BackColor});
-      case Special::ItemList: {
-        std::string rows;
-        AppendPopUpRows(rows, RecordOrEmpty(tables_.PopUpMenus, object.Number));
-        return AppendStoredItems(out_, rows);
-      }
-      case Special::One:
-        out_ += '1';
-        return;
-    }
-  }
-
-  void Append(const Object& object, Member member) {
-    const DesignControl& c = object.Control;
-    switch (member) {
-      case Member::Left:
-        return AppendPixels(c.Left);
-      case Member::Top:
-        return AppendPixels(c.Top);
-      case Member::Width:
-        return AppendPixels(c.Width);
-      case Member::Height:
-        return AppendPixels(c.Height);
-      case Member::Caption:
-        return AppendStoredText(out_, c.Caption);
-      case Member::Text:
-        return AppendStoredText(out_, c.Text);
-      case Member::ToolTipText:
-        return AppendStoredText(out_, c.ToolTipText);
-      case Member::FontName:
-        out_ += c.FontName;
-        return;
-      case Member::FontSize:
-        return AppendNumber(out_, c.FontSize);
-      case Member::FontBold:
-        return AppendFlag(c.FontBold);
-      case Member::FontItalic:
-        return AppendFlag(c.FontItalic);
-      case Member::AutoSize:
-        return AppendFlag(c.AutoSize);
-      case Member::Stretch:
-        return AppendFlag(c.Stretch);
-      case Member::Value:
-        return AppendFlag(c.Value == 1 || c.Value == -1);
-      case Member::BackColor:
-        return AppendNumber(out_, std::int64_t{c.BackColor});
-      case Member::ForeColor:
-        return AppendNumber(out_, std::int64_t{c.ForeColor});
-      case Member::BackStyle:
-        return AppendNumber(out_, std::int64_t{c.BackStyle});
-      case Member::BorderStyle:
-        return AppendNumber(out_, std::int64_t{c.BorderStyle});
-      case Member::Appearance:
-        return AppendNumber(out_, std::int64_t{c.Appearance});
-      default:
-        return;
+  template <Special special>
+  void Put(const Object& object) {
+    if constexpr (special == Special::Number) {
+      page_.Put(object.Number);
+    } else if constexpr (special == Special::Name) {
+      page_.Put(object.Control.Index == 0 ? record_.Name : object.Control.Tag);
+    } else if constexpr (special == Special::WindowCaption) {
+      page_.Put(StoredText{window_.Caption});
+    } else if constexpr (special == Special::WindowColor) {
+      page_.Put(window_.BackColor);
+    } else if constexpr (special == Special::ItemList) {
+      std::string rows;
+      AppendPopUpRows(rows, RecordOrEmpty(tables_.PopUpMenus, object.Number));
+      page_.Put(StoredText{rows, kStoredListComma});
+    } else {
+      static_assert(special == Special::One);
+      page_.Put('1');
     }
   }
 
-  void Append(const Object& /*object*/, Event event) {
-    out_ += codes_[static_cast<std::size_t>(event)];
+  [[nodiscard]] const std::string& ValueOf(const Object& /*object*/, Event event) const {
+    return codes_[static_cast<std::size_t>(event)];
   }
-  void Append(const Object& object, std::int16_t ObjectRec::*field) {
-    AppendNumber(out_, std::int64_t{object.Record.*field});
+  template <class T>
+  [[nodiscard]] const T& ValueOf(const Object& object, T ObjectRec::*field) const {
+    return object.Record.*field;
   }
-  void Append(const Object& object, std::int32_t ObjectRec::*field) {
-    AppendNumber(out_, std::int64_t{object.Record.*field});
+  [[nodiscard]] StoredText ValueOf(const Object& object, ItemsText items) const {
+    return {object.Record.*items.Field, kStoredListComma};
   }
-  void Append(const Object& object, std::string ObjectRec::*field) { out_ += object.Record.*field; }
-  void Append(const Object& object, ItemsText items) {
-    AppendStoredItems(out_, object.Record.*items.Field);
+  template <class T>
+  [[nodiscard]] const T& ValueOf(const Object& /*object*/, T FormRec::*field) const {
+    return record_.*field;
   }
-  void Append(const Object& /*object*/, std::int16_t FormRec::*field) {
-    AppendNumber(out_, std::int64_t{record_.*field});
+  [[nodiscard]] StoredText ValueOf(const Object& /*object*/, CommaText text) const {
+    return {record_.*text.Field};
   }
-  void Append(const Object& /*object*/, std::int32_t FormRec::*field) {
-    AppendNumber(out_, std::int64_t{record_.*field});
+  template <class T>
+  [[nodiscard]] const T& ValueOf(const Object& object, T WinSockRec::*field) const {
+    return RecordOrEmpty(record_.WinSocks, object.Number).*field;
   }
-  void Append(const Object& /*object*/, std::string FormRec::*field) { out_ += record_.*field; }
-  void Append(const Object& /*object*/, CommaText text) {
-    AppendStoredText(out_, record_.*text.Field);
+  template <class T>
+  [[nodiscard]] const T& ValueOf(const Object& object, T HtmlViewerRec::*field) const {
+    return RecordOrEmpty(record_.HtmlViewers, object.Number).*field;
   }
-  void Append(const Object& object, std::string WinSockRec::*field) {
-    out_ += RecordOrEmpty(record_.WinSocks, object.Number).*field;
+  template <class T>
+  [[nodiscard]] const T& ValueOf(const Object& object, T PopUpItemRec::*field) const {
+    return RecordOrEmpty(record_.PopUps, object.Number).*field;
   }
-  void Append(const Object& object, std::string HtmlViewerRec::*field) {
-    out_ += RecordOrEmpty(record_.HtmlViewers, object.Number).*field;
-  }
-  void Append(const Object& object, std::int16_t PopUpItemRec::*field) {
-    AppendNumber(out_, std::int64_t{RecordOrEmpty(record_.PopUps, object.Number).*field});
-  }
-  void Append(const Object& object, std::string PopUpItemRec::*field) {
-    out_ += RecordOrEmpty(record_.PopUps, object.Number).*field;
-  }
-
-  void AppendPixels(float twips) { AppendNumber(out_, twips / static_cast<float>(kTwipsPerPixel)); }
-  void AppendFlag(bool on) { out_ += on ? '1' : '0'; }
 
   const ProjectTables& tables_;
   const DesignForm& window_;
   const FormRec& record_;
   const std::string form_key_;
   const int window_number_;
-  std::string out_;
+  TextPage page_;
   CodeValues codes_;
   std::array<int, kObjectKindCount> counts_{};
 };
 
 }  // namespace
 
-std::string FormText(const ProjectTables& tables, int form) {
+void AppendFormText(std::string& out, const ProjectTables& tables, int form) {
   const DesignForm* window = tables.UserIfAny(form);
   const FormRec* record = tables.Form(form);
-  if (window == nullptr || record == nullptr) return "";
-  return FormWriter(tables, *window, *record).Write();
+  if (window == nullptr || record == nullptr) return;
+  constexpr std::size_t kUsualRecord = 512;
+  out.reserve(out.size() + window->Controls().size() * kUsualRecord);
+  FormWriter(tables, *window, *record, [&](std::string_view piece) { out += piece; }).Write();
 }
 
 }  // namespace tarnwick

@@ -7,8 +7,9 @@
 
 namespace tarnwick {
 
-/// The records of the form with that number, in file order, each ended by CR LF. An object whose
-/// record is missing is written with an empty one: no object is lost for it.
-[[nodiscard]] std::string FormText(const ProjectTables& tables, int form);
+/// Appends the records of the form with that number, in file order, each ended by CR LF. An object
+/// whose record is missing is written with an empty one: no object is lost for it. Nothing for a
+/// number without a form.
+void AppendFormText(std::string& out, const ProjectTables& tables, int form);
 
 }  // namespace tarnwick

@@ -31,10 +31,23 @@ std::string IndexText(const ProjectTables& tables, std::string_view project_fold
   return text;
 }
 
+/// Writes a form's file; `text` is where it is put together.
+bool WriteForm(ProjectContext& context, int form, std::string& text) {
+  const FormRec* record = context.Tables.Form(form);
+  if (form < 1 || record == nullptr || record->FileName.empty()) return false;
+  context.Tables.User(form);
+  context.Screen.Yield();
+  text.clear();
+  AppendFormText(text, context.Tables, form);
+  return context.Files.Replace(record->FileName, text);
+}
+
 }  // namespace
 
 std::string FormFileText(const ProjectTables& tables, int form) {
-  return FormText(tables, form);
+  std::string text;
+  AppendFormText(text, tables, form);
+  return text;
 }
 
 std::string ProjectFileText(const ProjectTables& tables) {
@@ -50,11 +63,8 @@ std::string ShortProjectFileText(const ProjectTables& tables) {
 }
 
 bool WriteFormFile(ProjectContext& context, int form) {
-  const FormRec* record = context.Tables.Form(form);
-  if (form < 1 || record == nullptr || record->FileName.empty()) return false;
-  context.Tables.User(form);
-  context.Screen.Yield();
-  return context.Files.Replace(record->FileName, FormText(context.Tables, form));
+  std::string text;
+  return WriteForm(context, form, text);
 }
 
 bool SaveProject(ProjectContext& context, const std::string& path) {
@@ -62,11 +72,12 @@ bool SaveProject(ProjectContext& context, const std::string& path) {
   bool saved = true;
   context.Container.HideContainer();
   DesignForm* const active = tables.CurrentForm;
+  std::string text;  // one for all forms: the memory for it is asked for once
   for (int form = 1; form <= tables.FormsCount; ++form) {
     if (!tables.IsLive(form)) continue;
     context.Container.ActivateForm(form);
     if (tables.Form(form)->FileName.empty()) SaveFormDialog(context, form);
-    saved = WriteFormFile(context, form) && saved;
+    saved = WriteForm(context, form, text) && saved;
     RefreshFormListEntry(context, form);
   }
   saved = context.Files.Replace(path, IndexText(tables, FolderOf(path))) && saved;

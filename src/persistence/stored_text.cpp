@@ -1,6 +1,6 @@
 #include "persistence/stored_text.h"
 
-#include <algorithm>
+#include <span>
 
 #include "text/code_page.h"
 #include "text/strings.h"
@@ -10,9 +10,8 @@ namespace tarnwick {
 namespace {
 
 void AppendReplacing(std::string& out, std::string_view text, char from, char to) {
-  const std::size_t start = out.size();
   out += text;
-  std::replace(out.begin() + static_cast<std::ptrdiff_t>(start), out.end(), from, to);
+  ReplaceByte(std::span(out).last(text.size()), from, to);
 }
 
 std::string_view RestoredByte(std::string_view text, char stored, std::string& buffer) {

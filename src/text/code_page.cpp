@@ -193,7 +193,7 @@ std::size_t FindFolded(std::string_view text, std::string_view part, std::size_t
   return std::string_view::npos;
 }
 
-std::size_t FoldedHash::operator()(std::string_view text) const noexcept {
+std::size_t FoldedHash::operator()(std::string_view text) const {
   std::uint64_t hash = text.size();
   for (; text.size() >= sizeof hash; text.remove_prefix(sizeof hash)) {
     std::uint64_t bytes = 0;

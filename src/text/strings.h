@@ -2,6 +2,7 @@
 #pragma once
 
 #include <concepts>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,7 +28,7 @@ std::vector<std::string_view> Split(Text&& text, std::string_view separator) = d
 [[nodiscard]] std::string ReplaceAll(std::string_view text, std::string_view from,
                                      std::string_view to);
 /// In-place replacement of single bytes.
-void ReplaceByte(std::string& text, char from, char to) noexcept;
+void ReplaceByte(std::span<char> text, char from, char to) noexcept;
 [[nodiscard]] bool Contains(std::string_view text, std::string_view part) noexcept;
 /// True for a name in array form, such as "Cmd(3)": it holds a "(".
 [[nodiscard]] bool IsArrayForm(std::string_view name) noexcept;

@@ -49,7 +49,9 @@ class MemoryFiles final : public FilePort {
   }
   bool Replace(const std::string& path, std::string_view bytes) override {
     if (!Step("replace " + path) || read_only_) return false;
-    Put(path, std::string(bytes));
+    File& file = files_[Lower(path)];
+    file.Path = path;
+    file.Bytes = bytes;
     return true;
   }
   bool Remove(const std::string& path) override {
