@@ -54,18 +54,16 @@ FormReadResult FormReader::Read(std::string_view text) {
   const auto loading = std::exchange(tables_.LoadingProject, std::int16_t{1});
   bool refused = false;
   for (std::size_t at = 0; at <= text.size() && !refused;) {
-    const std::size_t end = std::min(text.find("\r\n", at), text.size());
-    const std::string_view line = text.substr(at, end - at);
-    if (!line.empty()) refused = !ReadLine(line);
-    at = end + 2;
+    const std::string_view line = scanner_.Scan(text.substr(at));
+    if (!line.empty()) refused = !ReadRecord(line);
+    at += line.size() + 2;
   }
   tables_.LoadingProject = loading;
   if (refused) return FormReadResult::Refused;
   return last_form_ > 0 ? FormReadResult::Read : FormReadResult::NoForm;
 }
 
-bool FormReader::ReadLine(std::string_view line) {
-  scanner_.Scan(line);
+bool FormReader::ReadRecord(std::string_view line) {
   if (const std::optional<Kind> kind = scanner_.ObjectKind()) {
     ReadObject(*kind);
     return true;

@@ -36,7 +36,7 @@ class FormReader {
   };
 
   /// False when the form is refused and the file is read no further.
-  bool ReadLine(std::string_view line);
+  bool ReadRecord(std::string_view line);
   bool ReadForm();
   void ReadFormValues(int form);
   void ReadObject(Kind kind);

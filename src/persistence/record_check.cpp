@@ -42,9 +42,11 @@ bool Fits(const Source& source, std::string_view text) {
 class FormChecker {
  public:
   std::vector<RecordFault> Check(std::string_view text) {
-    for (const std::string_view line : Split(text, "\r\n")) {
+    for (std::size_t at = 0; at <= text.size();) {
+      const std::string_view line = scanner_.Scan(text.substr(at));
       ++line_;
       if (!line.empty()) CheckLine(line);
+      at += line.size() + 2;
     }
     if (!form_met_) faults_.insert(faults_.begin(), {1, "", "", "the file holds no form record"});
     return std::move(faults_);
@@ -57,7 +59,6 @@ class FormChecker {
   }
 
   void CheckLine(std::string_view line) {
-    scanner_.Scan(line);
     const bool is_form = StartsWithFolded(line, kStartHeads[0]);
     form_met_ = form_met_ || is_form;
     const std::optional<Kind> kind = is_form ? std::optional(Kind::Form) : scanner_.ObjectKind();

@@ -1,8 +1,12 @@
 #include "persistence/tag_scanner.h"
 
+#include <array>
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <optional>
+#include <span>
 
 #include "persistence/record_layouts.h"
 #include "persistence/stored_text.h"
@@ -13,6 +17,7 @@ namespace tarnwick {
 
 namespace {
 
+constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::size_t kNone = std::string_view::npos;
 constexpr std::size_t kLetters = 32;  ///< the low five bits of a letter
 constexpr std::size_t kMostPerPair = 5;
@@ -97,39 +102,46 @@ constexpr WindowWords MakeWindowWords(bool at_end) {
 constexpr WindowWords kEndWords = MakeWindowWords(true);
 constexpr WindowWords kStartWords = MakeWindowWords(false);
 
-constexpr std::size_t kBlock = 64;
+/// Sixteen bytes at a time, or what a comparison makes of each: all bits, or none.
+using Bytes = char __attribute__((vector_size(16)));
 
-/// What a look at a block tells.
-struct BlockBits {
-  std::uint64_t Brackets = 0;  ///< the bytes that are "<" or ">", a bit each, the first one lowest
-  bool AboveAscii = false;     ///< one of its bytes is
-};
+Bytes BytesAt(const char* at) {
+  Bytes bytes;
+  std::memcpy(&bytes, at, sizeof bytes);
+  return bytes;
+}
 
-BlockBits LookAt(const char* block) {
-  // The two brackets differ in one bit, which is set first.
+/// The top bit of each byte, the first one lowest.
+std::uint32_t TopBits(Bytes bytes) {
+#ifdef __SSE2__
+  return static_cast<std::uint32_t>(__builtin_ia32_pmovmskb128(bytes));
+#else
+  std::uint32_t bits = 0;
+  for (std::size_t i = 0; i < sizeof bytes; ++i) {
+    bits |= static_cast<std::uint32_t>(static_cast<unsigned char>(bytes[i]) >> 7U) << i;
+  }
+  return bits;
+#endif
+}
+
+Bytes AreBrackets(Bytes bytes) {
+  // The two differ in one bit, which is set first.
   constexpr char kDifference = '<' ^ '>';
   static_assert(('<' | kDifference) == '>');
-  BlockBits bits;
-#ifdef __SSE2__
-  // The top bits of sixteen bytes are one instruction there.
-  using Bytes = char __attribute__((vector_size(16)));
-  Bytes all{};
+  return (bytes | kDifference) == '>';
+}
+
+constexpr std::size_t kBlock = 64;
+
+/// The brackets among the bytes of a block, a bit each. What the bytes are is added to `seen`.
+std::uint64_t BracketsIn(const char* block, Bytes& seen) {
+  std::uint64_t brackets = 0;
   for (std::size_t at = 0; at < kBlock; at += sizeof(Bytes)) {
-    Bytes bytes;
-    std::memcpy(&bytes, block + at, sizeof bytes);
-    const auto found = __builtin_ia32_pmovmskb128((bytes | kDifference) == '>');
-    bits.Brackets |= static_cast<std::uint64_t>(static_cast<unsigned>(found)) << at;
-    all |= bytes;
+    const Bytes bytes = BytesAt(block + at);
+    brackets |= std::uint64_t{TopBits(AreBrackets(bytes))} << at;
+    seen |= bytes;
   }
-  bits.AboveAscii = __builtin_ia32_pmovmskb128(all) != 0;
-#else
-  for (std::size_t at = 0; at < kBlock; ++at) {
-    const bool found = (block[at] | kDifference) == '>';
-    bits.Brackets |= std::uint64_t{found} << at;
-    bits.AboveAscii |= static_cast<unsigned char>(block[at]) >= 0x80;
-  }
-#endif
-  return bits;
+  return brackets;
 }
 
 /// The window of the `size` bytes before a place; zeros where the line has none.
@@ -162,83 +174,126 @@ using Values = std::array<std::string_view, kTagCount>;
 
 /// The head of a record.
 struct Head {
+  std::string_view& KindWord;
+  std::optional<Kind>& ObjectKind;
   std::string_view& Number;
   std::string_view& Name;
 };
 
-/// Passes a literal; false, and the text as it was, where another one stands.
-bool Pass(std::string_view& text, std::string_view literal) {
-  if (!text.starts_with(literal)) return false;
-  text.remove_prefix(literal.size());
-  return true;
-}
+/// Walks over a text whose literals are known, and which ends in a line end. Each step is false
+/// where another literal stands, or the text ends too soon to take bytes many at a time.
+class LiteralWalk {
+ public:
+  LiteralWalk(std::string_view text, Bytes& seen)
+      : at_(text.data()), end_(at_ + text.size()), seen_(seen) {}
 
-/// Takes the digits at the head of a text.
-std::string_view TakeDigits(std::string_view& text) {
-  std::size_t size = 0;
-  while (size < text.size() && text[size] >= '0' && text[size] <= '9') ++size;
-  const std::string_view digits = text.substr(0, size);
-  text.remove_prefix(size);
-  return digits;
-}
+  [[nodiscard]] const char* At() const { return at_; }
+
+  [[gnu::always_inline]] bool Pass(std::string_view literal) {
+    if (!Reaches(literal.size()) || !SameBytes(at_, literal)) return false;
+    at_ += literal.size();
+    return true;
+  }
+  /// Passes digits, if there are any.
+  [[gnu::always_inline]] std::string_view PassDigits() {
+    const std::string_view digits = Since(at_, DigitsEnd());
+    at_ += digits.size();
+    return digits;
+  }
+  /// Passes a name or a value up to the byte that ends it. There is no bracket in it and no CR.
+  [[gnu::always_inline]] bool PassUpTo(char end, std::string_view& value) {
+    const char* const start = at_;
+    std::uint32_t stops = 0;
+    for (; stops == 0; at_ += sizeof(Bytes)) {
+      if (!Reaches(sizeof(Bytes))) return false;
+      const Bytes bytes = BytesAt(at_);
+      seen_ |= bytes;
+      stops = TopBits(AreBrackets(bytes) | (bytes == end) | (bytes == '\r'));
+    }
+    at_ += std::countr_zero(stops) - static_cast<int>(sizeof(Bytes));
+    value = Since(start, at_);
+    return *at_ == end;
+  }
+  /// Passes the value of a tag.
+  [[gnu::always_inline]] bool PassValue(std::string_view& value) {
+    // Most are a few digits, or nothing. Told one by one, they let the processor look at the next
+    // literal meanwhile: in most records they are as many as in the one before.
+    const char* const end = DigitsEnd();
+    if (*end != '>') return PassUpTo('>', value);
+    value = Since(at_, end);
+    at_ = end;
+    return true;
+  }
+
+ private:
+  [[nodiscard]] bool Reaches(std::size_t size) const {
+    return static_cast<std::size_t>(end_ - at_) >= size;
+  }
+  [[nodiscard]] const char* DigitsEnd() const {
+    const char* at = at_;
+    while (*at >= '0' && *at <= '9') ++at;
+    return at;
+  }
+  [[nodiscard]] static std::string_view Since(const char* start, const char* end) {
+    return {start, static_cast<std::size_t>(end - start)};
+  }
+
+  const char* at_;
+  const char* const end_;
+  Bytes& seen_;
+};
 
 /// Takes a record that stands as the program itself writes it: all literals of the layout in their
 /// order, digits for a number, and no bracket in any value. There the first brackets of the head
-/// are its own, and the first start and the first end of a tag are those of its field. False, and
-/// nothing taken, for any other line.
+/// are its own, and the first start and the first end of a tag are those of its field. Answers the
+/// size of the line; nothing, and nothing taken, for any other line. The text ends in a line end.
 template <Kind kind>
-bool TakeAsWritten(std::string_view line, std::span<const std::uint32_t> brackets, Head head,
-                   Values& values) {
+std::optional<std::size_t> TakeAsWritten(std::string_view text, Head head, Values& values,
+                                         Bytes& seen) {
   static constexpr const RecordLayout& layout = LayoutOf(kind);
-  // Behind the two of the head each field has a bracket at its start and one at its end.
-  constexpr std::size_t kFields = layout.Fields.size() - 2;
-  if (brackets.size() != 2 * kFields) return false;
-  std::string_view rest = line;
-  if (!Pass(rest, layout.Fields[0].Before)) return false;
-  const std::string_view number = TakeDigits(rest);
-  if (!Pass(rest, layout.Fields[1].Before)) return false;
-  const std::string_view name = rest.substr(0, rest.find('}'));
-  // Where the literal of each field begins.
-  const auto name_end = static_cast<std::uint32_t>(name.data() + name.size() - line.data());
-  const auto begin = [&](std::size_t field) {
-    return field == 0 ? name_end : brackets[2 * field - 1];
-  };
-  // All places first, and then all bytes: what does not hang on the field before is quicker.
-  bool as_written = line.substr(brackets.back()) == layout.End;
+  std::array<std::string_view, layout.Fields.size()> found;
+  LiteralWalk walk(text, seen);
+  if (!walk.Pass(layout.Fields[0].Before)) return std::nullopt;
+  found[0] = walk.PassDigits();
+  const bool as_written =
+      walk.Pass(layout.Fields[1].Before) && walk.PassUpTo('}', found[1]) &&
+      ForEachField<kind>([&](auto place) {
+        return walk.Pass(layout.Fields[place].Lead) && walk.PassValue(found[place]);
+      }) &&
+      walk.Pass(layout.End);
+  const auto size = static_cast<std::size_t>(walk.At() - text.data());
+  if (!as_written || !walk.Pass(kLineEnd)) return std::nullopt;
+  head.Number = found[0];
+  head.Name = found[1];
   ForEachField<kind>([&](auto place) {
-    constexpr std::size_t size = layout.Fields[place].Lead.size();
-    constexpr std::size_t field = place - 2;
-    as_written &= begin(field) + size == brackets[2 * field] + 1;
+    values[static_cast<std::size_t>(layout.Fields[place].In)] = found[place];
     return true;
   });
-  if (!as_written) return false;
-  ForEachField<kind>([&](auto place) {
-    constexpr std::string_view lead = layout.Fields[place].Lead;
-    as_written &= SameBytes(line.data() + begin(place - 2), lead);
-    return true;
-  });
-  if (!as_written) return false;
-  head.Number = number;
-  head.Name = name;
-  return ForEachField<kind>([&](auto place) {
-    const std::uint32_t start = brackets[2 * (place - 2)] + 1;
-    values[static_cast<std::size_t>(layout.Fields[place].In)] =
-        std::string_view(line.data() + start, brackets[2 * (place - 2) + 1] - start);
-    return true;
-  });
+  return size;
 }
 
-/// Takes the line of an object of any kind as above; kinds without a number are not taken so.
-bool TakeAsWritten(Kind kind, std::string_view line, std::span<const std::uint32_t> brackets,
-                   Head head, Values& values) {
-  return WithObjectKind(kind, [&](auto constant) {
+/// Takes the line of an object of any kind as above. Kinds without a number are not taken so, nor
+/// is any line of a text that ends in none.
+std::optional<std::size_t> TakeAsWritten(std::string_view text, Head head, Values& values,
+                                         Bytes& seen) {
+  constexpr std::size_t kMost = 32;  // bytes of a kind's word with its brackets
+  std::string_view word;
+  if (!text.ends_with(kLineEnd) || !TakeHead(text.substr(0, kMost), '[', ']', word)) return {};
+  const std::optional<Kind> kind = KindOfFileWord(word);
+  if (!kind) return {};
+  const auto size = WithObjectKind(*kind, [&](auto constant) -> std::optional<std::size_t> {
     constexpr std::span<const LayoutField> fields = LayoutOf(constant).Fields;
     if constexpr (std::get<Special>(fields[0].Value) == Special::Number) {
-      return TakeAsWritten<constant>(line, brackets, head, values);
+      return TakeAsWritten<constant>(text, head, values, seen);
     } else {
-      return false;
+      return {};
     }
   });
+  if (size) {
+    head.KindWord = word;
+    head.ObjectKind = kind;
+  }
+  return size;
 }
 
 /// Takes the values of any line: of each tag from its first start to its first end.
@@ -247,13 +302,18 @@ class LineSearch {
   LineSearch(std::string_view line, Values& values)
       : begin_(line.data()), end_(begin_ + line.size()), values_(values) {}
 
-  void Run(std::span<const std::uint32_t> brackets) {
-    for (const std::uint32_t place : brackets) {
-      const char* const at = begin_ + place;
-      if (*at == '<') {
-        NoteStart(at);
-      } else {
-        NoteEnd(at);
+  /// What the bytes of the line are is added to `seen`.
+  void Run(Bytes& seen) {
+    std::array<char, kBlock> last;
+    for (const char* at = begin_; at < end_; at += kBlock) {
+      const char* block = at;
+      if (const auto size = static_cast<std::size_t>(end_ - at); size < kBlock) {
+        last = {};
+        std::memcpy(last.data(), at, size);
+        block = last.data();
+      }
+      for (std::uint64_t left = BracketsIn(block, seen); left != 0; left &= left - 1) {
+        Note(at + std::countr_zero(left));
       }
     }
   }
@@ -262,6 +322,14 @@ class LineSearch {
   static constexpr std::uint64_t BitOf(std::size_t tag) {
     static_assert(kTagCount <= 64);
     return std::uint64_t{1} << tag;
+  }
+
+  void Note(const char* at) {
+    if (*at == '<') {
+      NoteStart(at);
+    } else {
+      NoteEnd(at);
+    }
   }
 
   void NoteStart(const char* at) {
@@ -305,41 +373,22 @@ class LineSearch {
 
 }  // namespace
 
-std::span<const std::uint32_t> LineBytes::BracketsOf(std::string_view line) {
-  std::size_t count = 0;
-  const auto note = [&](std::size_t base, const char* block, std::size_t passed) {
-    if (places_.size() < count + kBlock) places_.resize(2 * (count + kBlock));
-    const BlockBits bits = LookAt(block);
-    ascii_ = ascii_ && !bits.AboveAscii;
-    for (std::uint64_t left = bits.Brackets >> passed; left != 0; left &= left - 1) {
-      places_[count++] =
-          static_cast<std::uint32_t>(base + static_cast<std::size_t>(std::countr_zero(left)));
-    }
-  };
-  std::size_t base = 0;
-  for (; line.size() - base >= kBlock; base += kBlock) note(base, line.data() + base, 0);
-  const std::size_t rest = line.size() - base;
-  if (rest > 0 && base > 0) {
-    // The last block whole: its first bytes were looked at before.
-    note(base, line.data() + line.size() - kBlock, kBlock - rest);
-  } else if (rest > 0) {
-    std::array<char, kBlock> block{};
-    std::memcpy(block.data(), line.data(), rest);
-    note(0, block.data(), 0);
+std::string_view TagScanner::Scan(std::string_view text) {
+  if (text.starts_with(kLineEnd)) return {};
+  Bytes seen{};
+  const std::optional<std::size_t> as_written =
+      TakeAsWritten(text, {kind_word_, object_kind_, number_, name_}, values_, seen);
+  const std::string_view line = text.substr(0, as_written ? *as_written : text.find(kLineEnd));
+  if (!as_written && !line.empty()) {
+    kind_word_ = {};
+    TakeHead(line, '[', ']', kind_word_);
+    object_kind_ = KindOfFileWord(kind_word_);
+    TakeHead(line, '(', ')', number_);
+    TakeHead(line, '{', '}', name_);
+    LineSearch(line, values_).Run(seen);
   }
-  return {places_.data(), count};
-}
-
-void TagScanner::Scan(std::string_view line) {
-  const std::span<const std::uint32_t> brackets = bytes_.BracketsOf(line);
-  kind_word_ = {};
-  TakeHead(line, '[', ']', kind_word_);
-  object_kind_ = KindOfFileWord(kind_word_);
-  if (object_kind_ && TakeAsWritten(*object_kind_, line, brackets, {number_, name_}, values_))
-    return;
-  TakeHead(line, '(', ')', number_);
-  TakeHead(line, '{', '}', name_);
-  LineSearch(line, values_).Run(brackets);
+  ascii_ = ascii_ && TopBits(seen) == 0;
+  return line;
 }
 
 std::string_view TagScanner::Restored(std::string_view stored, Restore how) {

@@ -3,31 +3,15 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "model/vocabulary.h"
 #include "persistence/record_tags.h"
 #include "text/strings.h"
 
 namespace tarnwick {
-
-/// What one look at each line tells.
-class LineBytes {
- public:
-  /// The places of "<" and ">" in a line, by rising place. Valid until the next call.
-  [[nodiscard]] std::span<const std::uint32_t> BracketsOf(std::string_view line);
-  /// True while no line had a byte above ASCII.
-  [[nodiscard]] bool AllAscii() const noexcept { return ascii_; }
-
- private:
-  std::vector<std::uint32_t> places_;  ///< with room behind those in use
-  bool ascii_ = true;
-};
 
 /// Reads the lines of one form file in turn and keeps, for every tag, the value it last had: a
 /// record without a tag inherits the value of a line before. All values start empty.
@@ -37,8 +21,9 @@ class LineBytes {
 /// in the text: the text of all lines scanned must live as long as the scanner.
 class TagScanner {
  public:
-  /// Takes the values of a line.
-  void Scan(std::string_view line);
+  /// Takes the values of the line that a text begins with and answers it: what stands before the
+  /// first CR LF, or all of the text. An empty line changes nothing.
+  std::string_view Scan(std::string_view text);
 
   /// Value of a tag as it is stored.
   [[nodiscard]] std::string_view Stored(Tag tag) const noexcept {
@@ -50,7 +35,7 @@ class TagScanner {
     const Restore how = InfoOf(tag).How;
     if (stored.empty() || how == Restore::Plain) return stored;
     // The bytes that stand for others are none of ASCII.
-    if (bytes_.AllAscii()) return how == Restore::Code ? Trim(stored) : stored;
+    if (ascii_) return how == Restore::Code ? Trim(stored) : stored;
     return Restored(stored, how);
   }
   /// The word in the first square brackets; "" when the line has none.
@@ -71,7 +56,7 @@ class TagScanner {
   std::string_view number_;
   std::string_view name_;
 
-  LineBytes bytes_;
+  bool ascii_ = true;     ///< no line had a byte above ASCII so far
   std::string restored_;  ///< the value asked for last, where it is stored in another form
 };
 

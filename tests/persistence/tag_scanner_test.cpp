@@ -20,20 +20,69 @@ std::string SaveDialogRecord(const std::string& name, const std::string& title) 
          ">String   Tip<All>Tip   Width<a.txt>Width   Height<C:\\>Height";
 }
 
+/// What may stand behind a line: nothing, the end of the text near and far, and more lines.
+std::vector<std::string> WhatMayFollow() {
+  return {"",
+          "\r\n",
+          "\r\n\r\n",
+          "\r\n" + std::string(100, '\n'),
+          "\r\n" + std::string(100, '>') + "\r\n",
+          "\r\n[Form](1) {F}\r\n"};
+}
+
 TEST(TagScanner, ARecordOfTheProgramGivesTheValueOfEveryTag) {
+  const std::string line = SaveDialogRecord("Save", "Title");
+  for (const std::string& behind : WhatMayFollow()) {
+    TagScanner scanner;
+    const std::string text = line + behind;
+    EXPECT_EQ(scanner.Scan(text), line);
+    EXPECT_EQ(scanner.KindWord(), "SaveDialog");
+    EXPECT_EQ(scanner.ObjectKind(), Kind::SaveDialog);
+    EXPECT_EQ(scanner.Number(), "1");
+    EXPECT_EQ(scanner.Name(), "Save");
+    EXPECT_EQ(scanner.Stored(Tag::Left), "4");
+    EXPECT_EQ(scanner.Stored(Tag::Top), "5");
+    EXPECT_EQ(scanner.Stored(Tag::String), "Title");
+    EXPECT_EQ(scanner.Stored(Tag::Tip), "All");
+    EXPECT_EQ(scanner.Stored(Tag::Width), "a.txt");
+    EXPECT_EQ(scanner.Stored(Tag::Height), "C:\\");
+  }
+}
+
+TEST(TagScanner, ALineEndsAtTheFirstCrLfAndNoSooner) {
+  TagScanner scanner;
+  const std::string with_returns = SaveDialogRecord("Sa\rve", "Ti\ntle\r");
+  const std::string text = with_returns + "\r\r\n" + SaveDialogRecord("a", "b") + "\r\n";
+  EXPECT_EQ(scanner.Scan(text), with_returns + "\r");
+  EXPECT_EQ(scanner.Name(), "Sa\rve");
+  EXPECT_EQ(scanner.Value(Tag::String), "Ti\ntle\r");
+}
+
+TEST(TagScanner, AValueIsNotSoughtBehindTheEndOfItsLine) {
+  TagScanner scanner;
+  const std::string whole = SaveDialogRecord("a", "b");
+  for (std::size_t size = 1; size <= whole.size(); ++size) {
+    const std::string line = whole.substr(0, size);
+    const std::string text = line + "\r\n" + whole.substr(size) + "\r\n" + whole + "\r\n";
+    TagScanner alone;
+    alone.Scan(line);
+    EXPECT_EQ(scanner.Scan(text), line);
+    for (std::size_t tag = 0; tag < kTagCount; ++tag) {
+      EXPECT_EQ(scanner.Stored(static_cast<Tag>(tag)), alone.Stored(static_cast<Tag>(tag))) << line;
+    }
+  }
+}
+
+TEST(TagScanner, AnEmptyLineChangesNothing) {
   TagScanner scanner;
   const std::string line = SaveDialogRecord("Save", "Title");
-  scanner.Scan(line);
+  const std::string text = line + "\r\n\r\n";
+  EXPECT_EQ(scanner.Scan(text), line);
+  EXPECT_EQ(scanner.Scan(std::string_view(text).substr(line.size() + 2)), "");
+  EXPECT_EQ(scanner.Scan(std::string_view(text).substr(text.size())), "");
   EXPECT_EQ(scanner.KindWord(), "SaveDialog");
-  EXPECT_EQ(scanner.ObjectKind(), Kind::SaveDialog);
-  EXPECT_EQ(scanner.Number(), "1");
   EXPECT_EQ(scanner.Name(), "Save");
-  EXPECT_EQ(scanner.Stored(Tag::Left), "4");
-  EXPECT_EQ(scanner.Stored(Tag::Top), "5");
   EXPECT_EQ(scanner.Stored(Tag::String), "Title");
-  EXPECT_EQ(scanner.Stored(Tag::Tip), "All");
-  EXPECT_EQ(scanner.Stored(Tag::Width), "a.txt");
-  EXPECT_EQ(scanner.Stored(Tag::Height), "C:\\");
 }
 
 TEST(TagScanner, OneMoreBlankAnywhereInARecordChangesNoValueOfAnyKind) {
@@ -50,8 +99,9 @@ TEST(TagScanner, OneMoreBlankAnywhereInARecordChangesNoValueOfAnyKind) {
         line += literal + (i == 0 ? "7" : "v") + std::to_string(i);
       }
       line += layout.End;
+      const std::string text = line + "\r\n\r\n";
       TagScanner scanner;
-      scanner.Scan(line);
+      EXPECT_EQ(scanner.Scan(text), line);
       EXPECT_EQ(scanner.ObjectKind(), kind.Id) << line;
       const bool numbered = std::get<Special>(layout.Fields[0].Value) == Special::Number;
       EXPECT_EQ(scanner.Number(), numbered ? "70" : "") << line;
@@ -144,12 +194,13 @@ class RecordMaker {
 TEST(TagScanner, AnyLinesGiveWhatTheRuleGivesTagByTag) {
   for (unsigned seed = 1; seed <= 300; ++seed) {
     RecordMaker maker(seed);
-    std::vector<std::string> lines(20);
-    for (std::string& line : lines) line = maker.Make();
+    std::string text;
+    for (int line = 0; line < 20; ++line) text += maker.Make() + "\r\n";
     TagScanner scanner;
     PlainReader plain;
-    for (const std::string& line : lines) {
-      scanner.Scan(line);
+    for (std::string_view rest = text; !rest.empty(); rest.remove_prefix(rest.find("\r\n") + 2)) {
+      const std::string line(rest.substr(0, rest.find("\r\n")));
+      ASSERT_EQ(scanner.Scan(rest), line);
       plain.Scan(line);
       ASSERT_EQ(scanner.Number(), plain.Number) << line;
       ASSERT_EQ(scanner.Name(), plain.Name) << line;
@@ -166,7 +217,8 @@ TEST(TagScanner, AStoredByteIsSeenWhereverItStandsInALine) {
       TagScanner scanner;
       const std::string line =
           SaveDialogRecord("Save", std::string(before, 'a') + "\x8D" + std::string(behind, 'b'));
-      scanner.Scan(line);
+      const std::string text = line + "\r\n\r\n";
+      EXPECT_EQ(scanner.Scan(text), line);
       EXPECT_EQ(scanner.Value(Tag::String),
                 std::string(before, 'a') + "," + std::string(behind, 'b'));
     }
