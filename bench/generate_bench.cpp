@@ -1,6 +1,5 @@
 // How long it takes to generate the source of projects of growing size.
 #include <array>
-#include <map>
 #include <memory>
 #include <string>
 
@@ -10,6 +9,7 @@
 #include "codegen/show_rewriter.h"
 #include "growth.h"
 #include "support/project_builder.h"
+#include "working_set.h"
 
 namespace tarnwick {
 namespace {
@@ -54,12 +54,9 @@ void FillObject(BuiltObject& object, int number) {
   }
 }
 
-/// A project of about `objects` objects over a few forms; built once for each size.
-ProjectBuilder& ProjectOf(std::int64_t objects) {
-  static std::map<std::int64_t, std::unique_ptr<ProjectBuilder>> built;
-  auto& project = built[objects];
-  if (project) return *project;
-  project = std::make_unique<ProjectBuilder>();
+/// A project of about `objects` objects over a few forms.
+std::unique_ptr<ProjectBuilder> MakeProject(std::int64_t objects) {
+  auto project = std::make_unique<ProjectBuilder>();
   for (int f = 0; f < kForms; ++f) {
     const BuiltForm form = project->AddForm();
     for (int n = 0; n < objects / kForms; ++n) {
@@ -68,16 +65,17 @@ ProjectBuilder& ProjectOf(std::int64_t objects) {
       FillObject(object, n);
     }
   }
-  return *project;
+  return project;
 }
 
 void GenerateProject(benchmark::State& state) {
   static Growth growth;
-  ProjectTables& tables = ProjectOf(state.range(0)).Tables;
+  static WorkingSet<ProjectBuilder> projects;
+  projects.SetSize(state.range(0), MakeProject);
   GeneratorState generator;
   std::size_t bytes = 0;
   growth.Measure(state, [&] {
-    const std::string text = GenerateSource(tables, generator);
+    const std::string text = GenerateSource(projects.Next().Tables, generator);
     bytes += text.size();
     benchmark::DoNotOptimize(text.data());
   });
