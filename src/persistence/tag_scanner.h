@@ -1,14 +1,13 @@
 // The tags of a record line: the per-line variables of the reader.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "model/vocabulary.h"
-#include "persistence/record_tags.h"
+#include "persistence/record_values.h"
 #include "text/strings.h"
 
 namespace tarnwick {
@@ -27,7 +26,7 @@ class TagScanner {
 
   /// Value of a tag as it is stored.
   [[nodiscard]] std::string_view Stored(Tag tag) const noexcept {
-    return values_[static_cast<std::size_t>(tag)];
+    return values_.OfTag[static_cast<std::size_t>(tag)];
   }
   /// Value of a tag, restored from its stored form. Valid until the next call.
   [[nodiscard]] std::string_view Value(Tag tag) {
@@ -39,23 +38,18 @@ class TagScanner {
     return Restored(stored, how);
   }
   /// The word in the first square brackets; "" when the line has none.
-  [[nodiscard]] std::string_view KindWord() const noexcept { return kind_word_; }
+  [[nodiscard]] std::string_view KindWord() const noexcept { return values_.KindWord; }
   /// The object kind of that word; nothing for any other.
-  [[nodiscard]] std::optional<Kind> ObjectKind() const noexcept { return object_kind_; }
+  [[nodiscard]] std::optional<Kind> ObjectKind() const noexcept { return values_.ObjectKind; }
   /// What stood in the first round brackets, of this line or the last one that had them.
-  [[nodiscard]] std::string_view Number() const noexcept { return number_; }
+  [[nodiscard]] std::string_view Number() const noexcept { return values_.Number; }
   /// What stood in the first curly brackets, likewise.
-  [[nodiscard]] std::string_view Name() const noexcept { return name_; }
+  [[nodiscard]] std::string_view Name() const noexcept { return values_.Name; }
 
  private:
   [[nodiscard]] std::string_view Restored(std::string_view stored, Restore how);
 
-  std::array<std::string_view, kTagCount> values_;
-  std::string_view kind_word_;
-  std::optional<Kind> object_kind_;
-  std::string_view number_;
-  std::string_view name_;
-
+  RecordValues values_;
   bool ascii_ = true;     ///< no line had a byte above ASCII so far
   std::string restored_;  ///< the value asked for last, where it is stored in another form
 };
