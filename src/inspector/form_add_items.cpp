@@ -6,12 +6,6 @@
 
 namespace tarnwick {
 
-namespace {
-
-constexpr std::string_view kLineEnd = "\r\n";
-
-}  // namespace
-
 FormAddItems::FormAddItems(ProjectTables& tables, ProjectObserver& observer, DesignForm& form)
     : tables_(tables),
       observer_(observer),

@@ -13,7 +13,6 @@ namespace tarnwick {
 
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kPassageEnd = "\r\n\r\n";
 
 /// Rows whose name is not that of the member behind them.

@@ -14,8 +14,6 @@
 #include "persistence/menu_text.h"
 #include "persistence/record_layouts.h"
 #include "persistence/stored_text.h"
-#include "text/code_page.h"
-#include "text/short_bytes.h"
 #include "text/strings.h"
 #include "text/text_page.h"
 
@@ -23,26 +21,9 @@ namespace tarnwick {
 
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
-
 /// Code of the events as the walk last found it. A failed look-up leaves the value of the look-up
 /// before, so an object without a key is written with the code of an earlier one.
 using CodeValues = std::array<std::string, kEventCount>;
-
-/// A text that keeps its commas under another byte.
-struct StoredText {
-  std::string_view Text;
-  char Comma = kStoredComma;
-};
-
-[[nodiscard]] std::size_t MostBytesOf(const StoredText& stored) noexcept {
-  return stored.Text.size();
-}
-char* SetPart(char* at, const StoredText& stored) noexcept {
-  char* const end = CopyBytes(at, stored.Text);
-  ReplaceByte({at, end}, ',', stored.Comma);
-  return end;
-}
 
 /// How a control's member stands in its record: texts with their commas stored, but for the name of
 /// a font; lengths in pixels; a state as yes or no.
@@ -188,7 +169,7 @@ class FormWriter {
     } else if constexpr (special == Special::ItemList) {
       std::string rows;
       AppendPopUpRows(rows, RecordOrEmpty(tables_.PopUpMenus, object.Number));
-      page_.Put(StoredText{rows, kStoredListComma});
+      page_.Put(StoredItems(rows));
     } else {
       static_assert(special == Special::One);
       page_.Put('1');
@@ -203,7 +184,7 @@ class FormWriter {
     return object.Record.*field;
   }
   [[nodiscard]] StoredText ValueOf(const Object& object, ItemsText items) const {
-    return {object.Record.*items.Field, kStoredListComma};
+    return StoredItems(object.Record.*items.Field);
   }
   template <class T>
   [[nodiscard]] const T& ValueOf(const Object& /*object*/, T FormRec::*field) const {

@@ -11,7 +11,6 @@ namespace tarnwick {
 
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kItemPrefix = "Item(";
 
 /// What the head of a kind becomes in the present format.

@@ -5,12 +5,11 @@
 #include "text/code_page.h"
 #include "text/numbers.h"
 #include "text/path_text.h"
+#include "text/strings.h"
 
 namespace tarnwick {
 
 namespace {
-
-constexpr std::string_view kLineEnd = "\r\n";
 
 /// A form's file as the index names it: bare when it lies in the project's own folder.
 std::string_view FileReference(std::string_view file_name, std::string_view project_folder) {

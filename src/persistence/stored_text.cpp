@@ -1,17 +1,16 @@
 #include "persistence/stored_text.h"
 
-#include <span>
-
-#include "text/code_page.h"
+#include "text/short_bytes.h"
 #include "text/strings.h"
 
 namespace tarnwick {
 
 namespace {
 
-void AppendReplacing(std::string& out, std::string_view text, char from, char to) {
-  out += text;
-  ReplaceByte(std::span(out).last(text.size()), from, to);
+void Append(std::string& out, const StoredText& stored) {
+  const std::size_t start = out.size();
+  out.resize(start + stored.Text.size());
+  SetPart(out.data() + start, stored);
 }
 
 std::string_view RestoredByte(std::string_view text, char stored, std::string& buffer) {
@@ -23,12 +22,18 @@ std::string_view RestoredByte(std::string_view text, char stored, std::string& b
 
 }  // namespace
 
+char* SetPart(char* at, const StoredText& stored) noexcept {
+  char* const end = CopyBytes(at, stored.Text);
+  ReplaceByte({at, end}, ',', stored.Comma);
+  return end;
+}
+
 void AppendStoredText(std::string& out, std::string_view text) {
-  AppendReplacing(out, text, ',', kStoredComma);
+  Append(out, {text});
 }
 
 void AppendStoredItems(std::string& out, std::string_view items) {
-  AppendReplacing(out, items, ',', kStoredListComma);
+  Append(out, StoredItems(items));
 }
 
 void AppendStoredLines(std::string& out, std::string_view text) {

@@ -1,11 +1,28 @@
 // How values are put into records and taken out of them.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "text/code_page.h"
+
 namespace tarnwick {
+
+/// A text whose commas stand under another byte, as a part of a page.
+struct StoredText {
+  std::string_view Text;
+  char Comma = kStoredComma;
+};
+/// An item list.
+[[nodiscard]] inline StoredText StoredItems(std::string_view items) noexcept {
+  return {items, kStoredListComma};
+}
+[[nodiscard]] inline std::size_t MostBytesOf(const StoredText& stored) noexcept {
+  return stored.Text.size();
+}
+char* SetPart(char* at, const StoredText& stored) noexcept;
 
 /// Appends a caption, text, tip or hint: commas become their stored byte.
 void AppendStoredText(std::string& out, std::string_view text);

@@ -17,7 +17,6 @@ constexpr char kNameEnd = kStoredListComma;
 constexpr char kHelpComma = kPopUpEntry;
 constexpr char kHelpLine = kStoredLineBreak;
 
-constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kHelpSection = "**tn**";
 constexpr std::string_view kEventSection = "**etn**";
 

@@ -5,11 +5,11 @@
 #include "persistence/line_search.h"
 #include "persistence/stored_text.h"
 #include "persistence/written_record.h"
+#include "text/strings.h"
 
 namespace tarnwick {
 
 std::string_view TagScanner::Scan(std::string_view text) {
-  constexpr std::string_view kLineEnd = "\r\n";
   if (text.starts_with(kLineEnd)) return {};
   const std::optional<std::size_t> written = TakeWrittenRecord(text, values_);
   const std::string_view line = text.substr(0, written ? *written : text.find(kLineEnd));

@@ -8,12 +8,11 @@
 
 #include "persistence/record_layouts.h"
 #include "text/short_bytes.h"
+#include "text/strings.h"
 
 namespace tarnwick {
 
 namespace {
-
-constexpr std::string_view kLineEnd = "\r\n";
 
 /// Walks over a text whose literals are known, and which ends in a line end. Each step is false
 /// where another literal stands, or the text ends too soon to take bytes many at a time.

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "text/code_page.h"
+#include "text/strings.h"
 
 namespace tarnwick {
 namespace {
@@ -10,7 +11,6 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr auto kNowhere = std::string_view::npos;
-constexpr std::string_view kLineEnd = "\r\n";
 /// What the profile calls take for white space; 0x1A is the end mark of old text files.
 constexpr std::string_view kSpace = " \t\v\f\r\n\x1A";
 

@@ -9,6 +9,9 @@
 
 namespace tarnwick {
 
+/// What ends a line in every file of the system.
+inline constexpr std::string_view kLineEnd = "\r\n";
+
 /// The text without blanks at both ends; tabs and line ends stay.
 [[nodiscard]] std::string_view Trim(std::string_view text) noexcept;
 [[nodiscard]] std::string_view TrimLeft(std::string_view text) noexcept;

@@ -8,12 +8,11 @@
 #include <vector>
 
 #include "text/code_page.h"
+#include "text/strings.h"
 
 namespace tarnwick::support {
 
 namespace {
-
-constexpr std::string_view kLineEnd = "\r\n";
 
 constexpr std::array<std::pair<std::string_view, std::string_view>, 11> kMarks{{
     {"text", ""},

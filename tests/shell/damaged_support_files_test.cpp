@@ -11,7 +11,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
 constexpr char kValueStart = '\x8D';
 constexpr char kValueEnd = '\x8E';
 
