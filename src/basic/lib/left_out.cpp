@@ -1,0 +1,50 @@
+#include <vector>
+
+#include "basic/lib/function_table.h"
+#include "basic/lib/left_out_text.h"
+#include "text/code_page.h"
+
+namespace tarnwick::basic {
+namespace {
+
+/// The text in front of the first `separator`, which is taken off `rest` with it.
+std::string_view TakeUntil(std::string_view& rest, char separator) {
+  const std::size_t end = rest.find(separator);
+  const std::string_view part = rest.substr(0, end);
+  rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+  return part;
+}
+
+std::vector<LeftOut> ReadTable() {
+  std::vector<LeftOut> words;
+  std::string_view rest = kLeftOutText;
+  TakeUntil(rest, '\n');
+  while (!rest.empty()) {
+    std::string_view line = TakeUntil(rest, '\n');
+    LeftOut& word = words.emplace_back();
+    word.Name = TakeUntil(line, '\t');
+    word.Reason = TakeUntil(line, '\t');
+    word.Instead = line;
+  }
+  return words;
+}
+
+const std::vector<LeftOut>& Table() {
+  static const std::vector<LeftOut> kTable = ReadTable();
+  return kTable;
+}
+
+}  // namespace
+
+std::span<const LeftOut> LeftOutWords() {
+  return Table();
+}
+
+const LeftOut* FindLeftOut(std::string_view name) {
+  for (const LeftOut& word : Table()) {
+    if (EqualsFolded(word.Name, name)) return &word;
+  }
+  return nullptr;
+}
+
+}  // namespace tarnwick::basic
