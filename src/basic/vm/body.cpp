@@ -1,0 +1,52 @@
+#include "basic/vm/body.h"
+
+namespace tarnwick::basic {
+namespace {
+
+void DestroyElements(ElementsBody* elements) {
+  if (IsCounted(elements->Element)) {
+    for (const Slot slot : elements->Slots) Release(slot.B);
+  }
+  if (elements->InUse != nullptr) *elements->InUse -= elements->Slots.size();
+  delete elements;
+}
+
+void DestroyRecord(RecordBody* record) {
+  for (std::size_t i = 0; i < record->Fields.size(); ++i) {
+    if (IsCounted(record->Layout->Fields[i].Kind)) Release(record->Fields[i].B);
+  }
+  delete record;
+}
+
+}  // namespace
+
+void Destroy(Body* body) {
+  switch (body->Kind) {
+    case ValueKind::Text:
+      delete static_cast<TextBody*>(body);
+      break;
+    case ValueKind::Array:
+      Release(static_cast<ArrayBody*>(body)->Elements);
+      delete static_cast<ArrayBody*>(body);
+      break;
+    case ValueKind::Elements:
+      DestroyElements(static_cast<ElementsBody*>(body));
+      break;
+    case ValueKind::Record:
+      DestroyRecord(static_cast<RecordBody*>(body));
+      break;
+    case ValueKind::Variant: {
+      auto* const variant = static_cast<VariantBody*>(body);
+      if (IsCounted(variant->Held)) Release(variant->Content.B);
+      delete variant;
+      break;
+    }
+    case ValueKind::Empty:
+    case ValueKind::Integer:
+    case ValueKind::Number:
+    case ValueKind::Object:
+      break;  // no bodies
+  }
+}
+
+}  // namespace tarnwick::basic

@@ -1,0 +1,143 @@
+// What the machine keeps on the heap: counted bodies behind 8-byte slots.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "basic/ids.h"
+
+namespace tarnwick::basic {
+
+/// What a slot or a value holds. A slot does not carry its kind: the instruction, the array or the
+/// record layout it belongs to knows it.
+enum class ValueKind : std::uint8_t {
+  Empty,    ///< an argument left out; reads as 0 and ""
+  Integer,  ///< whole number of 64 bits
+  Number,   ///< double
+  Text,     ///< bytes in Windows-1252
+  Object,   ///< ObjectId
+  Array,
+  Record,
+  Variant,   ///< box with an Integer, a Number, a Text or an Object
+  Elements,  ///< what an array holds; never a value of its own
+};
+
+/// Integer, Number, Object need no counting; the others are bodies.
+constexpr bool IsCounted(ValueKind kind) {
+  return kind == ValueKind::Text || kind >= ValueKind::Array;
+}
+
+/// Head of everything counted. The machine runs in one thread, so the count is a plain number.
+struct Body {
+  explicit Body(ValueKind kind) : Kind(kind) {}
+  Body(const Body&) = delete;
+  Body& operator=(const Body&) = delete;
+
+  std::uint32_t Count = 1;
+  ValueKind Kind;
+};
+
+/// 8 bytes of a variable, a register or an array element. All bits zero is the start value of
+/// every kind: 0, 0.0, "", no object, no array.
+union Slot {
+  std::int64_t I;
+  double D;
+  Body* B;
+  Slot* R;  ///< reference (BYREF): the slot of the variable meant
+};
+static_assert(sizeof(Slot) == 8);
+
+inline Slot IntegerSlot(std::int64_t value) {
+  Slot slot;
+  slot.I = value;
+  return slot;
+}
+
+inline Slot NumberSlot(double value) {
+  Slot slot;
+  slot.D = value;
+  return slot;
+}
+
+inline Slot ObjectSlot(ObjectId object) {
+  return IntegerSlot(static_cast<std::int64_t>(object));
+}
+
+/// Bytes of a string. A body with Count 1 may be changed in place.
+struct TextBody : Body {
+  TextBody() : Body(ValueKind::Text) {}
+  explicit TextBody(std::string bytes) : Body(ValueKind::Text), Bytes(std::move(bytes)) {}
+  std::string Bytes;
+};
+
+struct RecordLayout;
+
+/// Lowest and highest index of one dimension, both included.
+struct Bound {
+  std::int64_t Low = 0;
+  std::int64_t High = -1;
+  [[nodiscard]] std::int64_t Length() const { return High - Low + 1; }
+};
+
+/// Elements of an array. A body of its own, so that a reference to an element keeps it alive
+/// while REDIM gives the array other elements.
+struct ElementsBody : Body {
+  ElementsBody() : Body(ValueKind::Elements) {}
+  std::vector<Slot> Slots;
+  ValueKind Element = ValueKind::Integer;
+  std::size_t* InUse = nullptr;  ///< counter of array slots of the running program
+};
+
+/// An array variable: passed by reference, so all who hold it see a REDIM.
+/// The last index runs fastest. `Elements` is null before the first DIM.
+struct ArrayBody : Body {
+  ArrayBody() : Body(ValueKind::Array) {}
+  ValueKind Element = ValueKind::Integer;
+  const RecordLayout* Layout = nullptr;  ///< of the elements, when they are records
+  std::vector<Bound> Bounds;
+  ElementsBody* Elements = nullptr;
+};
+
+/// One field of a TYPE.
+struct FieldLayout {
+  std::string Name;
+  ValueKind Kind = ValueKind::Integer;
+  const RecordLayout* Record = nullptr;    ///< of a nested record, or of an array's elements
+  ValueKind Element = ValueKind::Integer;  ///< of an array field
+  std::vector<Bound> Bounds;               ///< of an array field
+};
+
+/// The fields of a TYPE, in order of declaration.
+struct RecordLayout {
+  std::string Name;
+  std::vector<FieldLayout> Fields;
+};
+
+/// A variable of a TYPE.
+struct RecordBody : Body {
+  explicit RecordBody(const RecordLayout& layout)
+      : Body(ValueKind::Record), Layout(&layout), Fields(layout.Fields.size(), Slot{0}) {}
+  const RecordLayout* Layout;
+  std::vector<Slot> Fields;
+};
+
+/// A VARIANT: passed by reference, changes its kind with each assignment.
+struct VariantBody : Body {
+  VariantBody() : Body(ValueKind::Variant) {}
+  ValueKind Held = ValueKind::Empty;
+  Slot Content{0};
+};
+
+/// Ends the life of a body whose count went to 0, and of what only it held.
+void Destroy(Body* body);
+
+inline void Retain(Body* body) {
+  if (body != nullptr) ++body->Count;
+}
+
+inline void Release(Body* body) {
+  if (body != nullptr && --body->Count == 0) Destroy(body);
+}
+
+}  // namespace tarnwick::basic
