@@ -24,9 +24,9 @@ class ObjectHost {
   /// stays Empty for a method without one. False: see `Reason`.
   virtual bool Call(ObjectId object, MemberId method, std::span<Value> arguments,
                     Value& result) = 0;
-  /// Ties a procedure to an event; `procedure` is a CodePointer, 0 takes the hook away.
-  /// False: no such event, see `Reason`.
-  virtual bool Hook(ObjectId object, MemberId event, std::int64_t procedure) = 0;
+  /// Ties a procedure to an event; procedure 0 takes the hook away. False: no such event, see
+  /// `Reason`.
+  virtual bool Hook(ObjectId object, MemberId event, ProcedureId procedure) = 0;
   /// `to = from` of two objects: copies the values where the class is one of values (QFONT,
   /// QRECT). False: classes do not fit, see `Reason`.
   virtual bool Assign(ObjectId to, ObjectId from) = 0;
@@ -44,11 +44,11 @@ class ObjectHost {
 class EventSink {
  public:
   virtual ~EventSink() = default;
-  /// Runs the procedure (a CodePointer that `Hook` handed over) to its end on the machine's
-  /// stack. Parameters of an object type get `sender`, the others the arguments in order, missing
-  /// ones 0 or ""; what the procedure leaves in its parameters flows back into `arguments`.
-  /// False when the program is ending (END, error, stop): nested event loops then return at once.
-  virtual bool Raise(ObjectId sender, std::int64_t procedure, std::span<Value> arguments) = 0;
+  /// Runs the procedure that `Hook` handed over to its end, on the machine's stack. Parameters of
+  /// an object type get `sender`, the others the arguments in order, missing ones 0 or ""; what the
+  /// procedure leaves in its parameters flows back into `arguments`. False when the program is
+  /// ending (END, error, stop): nested event loops then return at once.
+  virtual bool Raise(ObjectId sender, ProcedureId procedure, std::span<Value> arguments) = 0;
   /// Application.Terminate: the program ends at the next instruction.
   virtual void Terminate() = 0;
   /// True from the moment the program is to end.

@@ -22,29 +22,29 @@ void DestroyRecord(RecordBody* record) {
 
 void Destroy(Body* body) {
   switch (body->Kind) {
-    case ValueKind::Text:
+    case SlotKind::Text:
       delete static_cast<TextBody*>(body);
       break;
-    case ValueKind::Array:
+    case SlotKind::Array:
       Release(static_cast<ArrayBody*>(body)->Elements);
       delete static_cast<ArrayBody*>(body);
       break;
-    case ValueKind::Elements:
+    case SlotKind::Elements:
       DestroyElements(static_cast<ElementsBody*>(body));
       break;
-    case ValueKind::Record:
+    case SlotKind::Record:
       DestroyRecord(static_cast<RecordBody*>(body));
       break;
-    case ValueKind::Variant: {
+    case SlotKind::Variant: {
       auto* const variant = static_cast<VariantBody*>(body);
       if (IsCounted(variant->Held)) Release(variant->Content.B);
       delete variant;
       break;
     }
-    case ValueKind::Empty:
-    case ValueKind::Integer:
-    case ValueKind::Number:
-    case ValueKind::Object:
+    case SlotKind::Empty:
+    case SlotKind::Integer:
+    case SlotKind::Number:
+    case SlotKind::Object:
       break;  // no bodies
   }
 }

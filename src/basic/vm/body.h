@@ -11,7 +11,7 @@ namespace tarnwick::basic {
 
 /// What a slot or a value holds. A slot does not carry its kind: the instruction, the array or the
 /// record layout it belongs to knows it.
-enum class ValueKind : std::uint8_t {
+enum class SlotKind : std::uint8_t {
   Empty,    ///< an argument left out; reads as 0 and ""
   Integer,  ///< whole number of 64 bits
   Number,   ///< double
@@ -24,18 +24,18 @@ enum class ValueKind : std::uint8_t {
 };
 
 /// Integer, Number, Object need no counting; the others are bodies.
-constexpr bool IsCounted(ValueKind kind) {
-  return kind == ValueKind::Text || kind >= ValueKind::Array;
+constexpr bool IsCounted(SlotKind kind) {
+  return kind == SlotKind::Text || kind >= SlotKind::Array;
 }
 
 /// Head of everything counted. The machine runs in one thread, so the count is a plain number.
 struct Body {
-  explicit Body(ValueKind kind) : Kind(kind) {}
+  explicit Body(SlotKind kind) : Kind(kind) {}
   Body(const Body&) = delete;
   Body& operator=(const Body&) = delete;
 
   std::uint32_t Count = 1;
-  ValueKind Kind;
+  SlotKind Kind;
 };
 
 /// 8 bytes of a variable, a register or an array element. All bits zero is the start value of
@@ -66,8 +66,8 @@ inline Slot ObjectSlot(ObjectId object) {
 
 /// Bytes of a string. A body with Count 1 may be changed in place.
 struct TextBody : Body {
-  TextBody() : Body(ValueKind::Text) {}
-  explicit TextBody(std::string bytes) : Body(ValueKind::Text), Bytes(std::move(bytes)) {}
+  TextBody() : Body(SlotKind::Text) {}
+  explicit TextBody(std::string bytes) : Body(SlotKind::Text), Bytes(std::move(bytes)) {}
   std::string Bytes;
 };
 
@@ -83,17 +83,17 @@ struct Bound {
 /// Elements of an array. A body of its own, so that a reference to an element keeps it alive
 /// while REDIM gives the array other elements.
 struct ElementsBody : Body {
-  ElementsBody() : Body(ValueKind::Elements) {}
+  ElementsBody() : Body(SlotKind::Elements) {}
   std::vector<Slot> Slots;
-  ValueKind Element = ValueKind::Integer;
+  SlotKind Element = SlotKind::Integer;
   std::size_t* InUse = nullptr;  ///< counter of array slots of the running program
 };
 
 /// An array variable: passed by reference, so all who hold it see a REDIM.
 /// The last index runs fastest. `Elements` is null before the first DIM.
 struct ArrayBody : Body {
-  ArrayBody() : Body(ValueKind::Array) {}
-  ValueKind Element = ValueKind::Integer;
+  ArrayBody() : Body(SlotKind::Array) {}
+  SlotKind Element = SlotKind::Integer;
   const RecordLayout* Layout = nullptr;  ///< of the elements, when they are records
   std::vector<Bound> Bounds;
   ElementsBody* Elements = nullptr;
@@ -102,10 +102,10 @@ struct ArrayBody : Body {
 /// One field of a TYPE.
 struct FieldLayout {
   std::string Name;
-  ValueKind Kind = ValueKind::Integer;
-  const RecordLayout* Record = nullptr;    ///< of a nested record, or of an array's elements
-  ValueKind Element = ValueKind::Integer;  ///< of an array field
-  std::vector<Bound> Bounds;               ///< of an array field
+  SlotKind Kind = SlotKind::Integer;
+  const RecordLayout* Record = nullptr;  ///< of a nested record, or of an array's elements
+  SlotKind Element = SlotKind::Integer;  ///< of an array field
+  std::vector<Bound> Bounds;             ///< of an array field
 };
 
 /// The fields of a TYPE, in order of declaration.
@@ -117,15 +117,15 @@ struct RecordLayout {
 /// A variable of a TYPE.
 struct RecordBody : Body {
   explicit RecordBody(const RecordLayout& layout)
-      : Body(ValueKind::Record), Layout(&layout), Fields(layout.Fields.size(), Slot{0}) {}
+      : Body(SlotKind::Record), Layout(&layout), Fields(layout.Fields.size(), Slot{0}) {}
   const RecordLayout* Layout;
   std::vector<Slot> Fields;
 };
 
 /// A VARIANT: passed by reference, changes its kind with each assignment.
 struct VariantBody : Body {
-  VariantBody() : Body(ValueKind::Variant) {}
-  ValueKind Held = ValueKind::Empty;
+  VariantBody() : Body(SlotKind::Variant) {}
+  SlotKind Held = SlotKind::Empty;
   Slot Content{0};
 };
 

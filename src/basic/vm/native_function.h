@@ -45,8 +45,8 @@ inline constexpr std::size_t kLongestText = std::size_t{256} << 20U;
 /// One call of a library function.
 struct NativeCall {
   /// In order, already brought to the kinds of the function's row: a parameter for whole numbers
-  /// holds an Integer, one for numbers an Integer or a Number, one for strings a Text. What an
-  /// optional parameter did not get is not in the span; an empty argument is Empty.
+  /// holds an Integer, one for numbers a Number, one for strings a Text. What an optional parameter
+  /// did not get is not in the span; an argument left out between two others is Empty.
   std::span<const Value> Arguments;
   const Hosts& Host;
   LibraryState& State;
@@ -59,17 +59,7 @@ struct NativeCall {
   void Fail(std::string text) { Error = std::move(text); }
 };
 
-/// A function of the library. It must not call back into the machine.
+/// A native function; `NativeOf` gives that of a row. It must not call back into the machine.
 using NativeFunction = void (*)(NativeCall& call);
-
-/// One row of the library's table. `Signature` has a letter per parameter, then ":" and the
-/// letter of the result for a function, as in "tt[i]:i" or "v*":
-///   i whole number (rounded half to even before the call), n number (Integer or Number),
-///   d double, t string, v any value; [ ] around optional ones; * repeats the one before.
-struct NativeRow {
-  std::string_view Name;  ///< upper case, with its "$"
-  std::string_view Signature;
-  NativeFunction Function;
-};
 
 }  // namespace tarnwick::basic

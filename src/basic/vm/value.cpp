@@ -7,7 +7,7 @@ namespace {
 
 /// The value inside a VARIANT, any other value as it is.
 Value Unboxed(const Value& value) {
-  if (value.Kind() != ValueKind::Variant) return value;
+  if (value.Kind() != SlotKind::Variant) return value;
   const auto* const box = static_cast<const VariantBody*>(value.Raw().B);
   return box == nullptr ? Value() : Value::OfSlot(box->Held, box->Content);
 }
@@ -17,18 +17,18 @@ Value Unboxed(const Value& value) {
 Value Value::Text(std::string bytes) {
   Slot slot{0};
   if (!bytes.empty()) slot.B = new TextBody(std::move(bytes));
-  return {ValueKind::Text, slot};
+  return {SlotKind::Text, slot};
 }
 
 std::int64_t Value::AsInteger() const {
   switch (kind_) {
-    case ValueKind::Integer:
+    case SlotKind::Integer:
       return slot_.I;
-    case ValueKind::Number:
+    case SlotKind::Number:
       return Rounded(slot_.D);
-    case ValueKind::Text:
+    case SlotKind::Text:
       return Rounded(NumberIn(View()));
-    case ValueKind::Variant:
+    case SlotKind::Variant:
       return Unboxed(*this).AsInteger();
     default:
       return 0;
@@ -37,13 +37,13 @@ std::int64_t Value::AsInteger() const {
 
 double Value::AsNumber() const {
   switch (kind_) {
-    case ValueKind::Integer:
+    case SlotKind::Integer:
       return static_cast<double>(slot_.I);
-    case ValueKind::Number:
+    case SlotKind::Number:
       return slot_.D;
-    case ValueKind::Text:
+    case SlotKind::Text:
       return NumberIn(View());
-    case ValueKind::Variant:
+    case SlotKind::Variant:
       return Unboxed(*this).AsNumber();
     default:
       return 0;
@@ -52,13 +52,13 @@ double Value::AsNumber() const {
 
 std::string Value::AsText() const {
   switch (kind_) {
-    case ValueKind::Integer:
+    case SlotKind::Integer:
       return IntegerText(slot_.I);
-    case ValueKind::Number:
+    case SlotKind::Number:
       return NumberText(slot_.D);
-    case ValueKind::Text:
+    case SlotKind::Text:
       return std::string(View());
-    case ValueKind::Variant:
+    case SlotKind::Variant:
       return Unboxed(*this).AsText();
     default:
       return {};
@@ -66,8 +66,8 @@ std::string Value::AsText() const {
 }
 
 bool Value::AsTruth() const {
-  if (kind_ == ValueKind::Variant) return Unboxed(*this).AsTruth();
-  return kind_ == ValueKind::Object ? slot_.I != 0 : AsNumber() != 0;
+  if (kind_ == SlotKind::Variant) return Unboxed(*this).AsTruth();
+  return kind_ == SlotKind::Object ? slot_.I != 0 : AsNumber() != 0;
 }
 
 }  // namespace tarnwick::basic

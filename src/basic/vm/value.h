@@ -18,8 +18,7 @@ class Value {
     if (IsCounted(kind_)) Retain(slot_.B);
   }
   Value(Value&& other) noexcept
-      : kind_(std::exchange(other.kind_, ValueKind::Empty)),
-        slot_(std::exchange(other.slot_, {})) {}
+      : kind_(std::exchange(other.kind_, SlotKind::Empty)), slot_(std::exchange(other.slot_, {})) {}
   Value& operator=(Value other) noexcept {
     std::swap(kind_, other.kind_);
     std::swap(slot_, other.slot_);
@@ -30,28 +29,28 @@ class Value {
   }
 
   [[nodiscard]] static Value Integer(std::int64_t value) {
-    return {ValueKind::Integer, IntegerSlot(value)};
+    return {SlotKind::Integer, IntegerSlot(value)};
   }
-  [[nodiscard]] static Value Number(double value) { return {ValueKind::Number, NumberSlot(value)}; }
+  [[nodiscard]] static Value Number(double value) { return {SlotKind::Number, NumberSlot(value)}; }
   [[nodiscard]] static Value Object(ObjectId object) {
-    return {ValueKind::Object, ObjectSlot(object)};
+    return {SlotKind::Object, ObjectSlot(object)};
   }
   [[nodiscard]] static Value Text(std::string bytes);
   /// True is -1, as a comparison gives it.
   [[nodiscard]] static Value Truth(bool truth) { return Integer(truth ? -1 : 0); }
   /// The slot's value, counted once more when it has a body.
-  [[nodiscard]] static Value OfSlot(ValueKind kind, Slot slot) {
+  [[nodiscard]] static Value OfSlot(SlotKind kind, Slot slot) {
     if (IsCounted(kind)) Retain(slot.B);
     return {kind, slot};
   }
   /// Takes over the slot's count.
-  [[nodiscard]] static Value TakeSlot(ValueKind kind, Slot slot) { return {kind, slot}; }
+  [[nodiscard]] static Value TakeSlot(SlotKind kind, Slot slot) { return {kind, slot}; }
 
-  [[nodiscard]] ValueKind Kind() const { return kind_; }
+  [[nodiscard]] SlotKind Kind() const { return kind_; }
   [[nodiscard]] Slot Raw() const { return slot_; }
   /// Gives the slot with its count away; the value is Empty afterwards.
   [[nodiscard]] Slot Give() {
-    kind_ = ValueKind::Empty;
+    kind_ = SlotKind::Empty;
     return std::exchange(slot_, {});
   }
 
@@ -62,7 +61,7 @@ class Value {
   [[nodiscard]] double AsNumber() const;
   /// The bytes of a Text; "" for every other kind. Valid as long as this value stays as it is.
   [[nodiscard]] std::string_view View() const {
-    return kind_ == ValueKind::Text && slot_.B != nullptr
+    return kind_ == SlotKind::Text && slot_.B != nullptr
                ? std::string_view(static_cast<const TextBody*>(slot_.B)->Bytes)
                : std::string_view();
   }
@@ -70,22 +69,22 @@ class Value {
   [[nodiscard]] std::string AsText() const;
   /// The object; none for every other kind.
   [[nodiscard]] ObjectId AsObject() const {
-    return kind_ == ValueKind::Object ? static_cast<ObjectId>(slot_.I) : ObjectId::None;
+    return kind_ == SlotKind::Object ? static_cast<ObjectId>(slot_.I) : ObjectId::None;
   }
   /// A condition: a number other than 0, a text that VAL reads as one, an object.
   [[nodiscard]] bool AsTruth() const;
   /// The array or record; null for every other kind.
   [[nodiscard]] ArrayBody* AsArray() const {
-    return kind_ == ValueKind::Array ? static_cast<ArrayBody*>(slot_.B) : nullptr;
+    return kind_ == SlotKind::Array ? static_cast<ArrayBody*>(slot_.B) : nullptr;
   }
   [[nodiscard]] RecordBody* AsRecord() const {
-    return kind_ == ValueKind::Record ? static_cast<RecordBody*>(slot_.B) : nullptr;
+    return kind_ == SlotKind::Record ? static_cast<RecordBody*>(slot_.B) : nullptr;
   }
 
  private:
-  Value(ValueKind kind, Slot slot) : kind_(kind), slot_(slot) {}
+  Value(SlotKind kind, Slot slot) : kind_(kind), slot_(slot) {}
 
-  ValueKind kind_ = ValueKind::Empty;
+  SlotKind kind_ = SlotKind::Empty;
   Slot slot_{0};
 };
 
