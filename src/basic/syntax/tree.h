@@ -1,0 +1,322 @@
+// The syntax tree: what stands in the source, before any name is looked up.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "basic/source/arena.h"
+#include "basic/source/source_place.h"
+
+/// Nodes live in the tree's arena. Names are as written, suffix included.
+namespace tarnwick::basic::tree {
+
+// --- Expressions ---------------------------------------------------------------------------------
+
+struct Node;
+using NodeList = std::span<const Node* const>;
+
+struct WholeNumber {
+  std::int64_t Value;
+};
+struct RealNumber {
+  double Value;
+};
+struct TextLiteral {
+  std::string_view Value;  ///< quotes off, escapes resolved
+};
+struct Name {
+  std::string_view Text;
+};
+/// `Target(arguments)`: an element, a call or an indexed property. A null argument is an empty
+/// place.
+struct Apply {
+  const Node* Target;
+  NodeList Arguments;
+};
+/// `Target[Index]`.
+struct Subscript {
+  const Node* Target;
+  const Node* Index;
+};
+/// `Target.Name`; a null target is the leading dot of WITH and CREATE.
+struct MemberAccess {
+  const Node* Target;
+  std::string_view Name;
+  SourcePlace NameAt;
+};
+/// `@Operand`.
+struct ByReference {
+  const Node* Operand;
+};
+enum class Operator : std::uint8_t {
+  Add,
+  Subtract,
+  Multiply,
+  Divide,
+  WholeDivide,
+  Modulo,
+  Inverse,
+  Power,
+  ShiftLeft,
+  ShiftRight,
+  And,
+  Or,
+  Xor,
+  Join,
+  Equal,
+  NotEqual,
+  Less,
+  LessEqual,
+  Greater,
+  GreaterEqual,
+  Negate,  ///< unary
+  Plus,    ///< unary
+  Not,     ///< unary
+};
+struct Unary {
+  Operator Op;
+  const Node* Operand;
+};
+struct Binary {
+  Operator Op;
+  const Node* Left;
+  const Node* Right;
+};
+
+struct Node {
+  SourcePlace At;
+  std::variant<WholeNumber, RealNumber, TextLiteral, Name, Apply, Subscript, MemberAccess,
+               ByReference, Unary, Binary>
+      Value;
+};
+
+// --- Declarations --------------------------------------------------------------------------------
+
+/// One dimension of a declared array; `Low` null: the default.
+struct Dimension {
+  const Node* Low;
+  const Node* High;
+};
+/// `AS type`. No name: not written.
+struct TypeName {
+  std::string_view Text;
+  SourcePlace At;
+  const Node* Length = nullptr;  ///< STRING * n
+};
+/// One name of DIM, REDIM, STATIC, DEFxxx or a field of a TYPE.
+struct Declarator {
+  std::string_view Name;
+  SourcePlace At;
+  bool IsArray = false;
+  std::span<const Dimension> Dimensions;  ///< empty for `a()`
+  TypeName As;
+  const Node* Initial = nullptr;   ///< DEFINT i = 0
+  NodeList InitialList;            ///< DEFINT a(1 TO 3) = {1, 2, 3}
+  std::string_view PropertySet;    ///< field: PROPERTY SET name; "" for none
+  std::string_view EventTemplate;  ///< field: AS EVENT(template); "" for none
+};
+struct ParameterNode {
+  std::string_view Name;
+  SourcePlace At;
+  TypeName As;
+  bool ByReference = false;
+  bool IsArray = false;
+};
+
+// --- Statements ----------------------------------------------------------------------------------
+
+struct StatementNode;
+using StatementList = std::span<const StatementNode* const>;
+
+enum class DeclareKind : std::uint8_t { Dim, Redim, Static, Shared };
+struct Declaration {
+  DeclareKind Kind;
+  std::span<const Declarator> Names;
+};
+struct ConstDeclaration {
+  std::string_view Name;
+  TypeName As;
+  const Node* Value;
+};
+/// `Target = Value`, `Target += Value`. Null value: nothing stands behind the sign.
+struct Assignment {
+  const Node* Target;
+  const Node* Value;
+  Operator Op = Operator::Equal;  ///< Add for +=, Subtract for -=
+};
+/// `Target++`, `Target--`.
+struct Step {
+  const Node* Target;
+  bool Up;
+};
+/// A call as a statement: a bare name or member, arguments with or without brackets, CALL.
+struct CallLine {
+  const Node* Target;
+  NodeList Arguments;  ///< null for an empty place
+};
+
+struct Arm {
+  const Node* Condition;  ///< null: ELSE
+  StatementList Body;
+};
+struct IfBlock {
+  std::span<const Arm> Arms;
+};
+struct CaseValue {
+  Operator Op;  ///< Equal for a plain value; GreaterEqual with `High` for a range
+  const Node* Value;
+  const Node* High;
+};
+struct CaseBlock {
+  std::span<const CaseValue> Values;
+  bool Else;
+  StatementList Body;
+};
+struct SelectBlock {
+  const Node* Selector;
+  std::span<const CaseBlock> Cases;
+};
+struct ForBlock {
+  const Node* Variable;
+  const Node* From;
+  const Node* To;
+  const Node* Step;
+  StatementList Body;
+};
+struct LoopBlock {
+  enum class Word : std::uint8_t { While, Do } Kind;
+  const Node* Before;
+  const Node* After;
+  bool UntilBefore;
+  bool UntilAfter;
+  StatementList Body;
+};
+enum class ExitKind : std::uint8_t { Sub, Function, For, Do, While };
+struct ExitLine {
+  ExitKind Kind;
+};
+struct Label {
+  std::string_view Name;
+};
+struct Jump {
+  std::string_view Label;
+  bool Returns;  ///< GOSUB
+};
+struct OnJumpLine {
+  const Node* Selector;
+  std::span<const std::string_view> Labels;
+  bool Returns;
+};
+struct ReturnLine {};
+struct EndLine {};
+
+enum class PrintMark : std::uint8_t { LineEnd, Semicolon, Comma };
+struct PrintPart {
+  const Node* Value;  ///< null: only the mark
+  PrintMark Mark;
+};
+struct PrintLine {
+  const Node* Page;
+  std::span<const PrintPart> Parts;
+};
+struct InputLine {
+  const Node* Prompt;
+  NodeList Targets;
+};
+struct DataItem {
+  std::string_view Text;
+  bool Quoted;
+};
+struct DataLine {
+  std::span<const DataItem> Items;
+};
+struct ReadLine {
+  NodeList Targets;
+};
+struct RestoreLine {
+  std::string_view Label;  ///< "": from the first value on
+};
+struct BindLine {
+  const Node* Target;
+  std::string_view Procedure;
+};
+struct WithBlock {
+  const Node* Object;
+  StatementList Body;
+};
+/// CREATE name AS class ... END CREATE. Inside, `Prop = v` and calls mean members of the object.
+struct CreateBlock {
+  Declarator Object;
+  StatementList Body;
+};
+
+enum class RoutineKind : std::uint8_t { Sub, Function, Constructor, Event, PropertySet };
+struct Routine {
+  RoutineKind Kind;
+  std::string_view Name;
+  SourcePlace NameAt;
+  std::span<const ParameterNode> Parameters;
+  bool Variadic;          ///< SUBI, FUNCTIONI
+  bool HasParameterList;  ///< brackets were written
+  TypeName Result;
+  std::string_view EventObject;  ///< EVENT component.OnX: the field; "" for the own event
+  StatementList Body;
+};
+/// DECLARE SUB, DECLARE FUNCTION; `Library` is "" for a procedure of the program.
+struct DeclareLine {
+  bool Function;
+  std::string_view Name;
+  std::string_view Library;
+  std::string_view Entry;
+  std::span<const ParameterNode> Parameters;
+  TypeName Result;
+};
+struct TypeBlock {
+  std::string_view Name;
+  SourcePlace NameAt;
+  std::string_view Extends;  ///< "": a record
+  SourcePlace ExtendsAt;
+  std::span<const Declarator> Fields;
+  StatementList Members;  ///< routines
+};
+
+struct ResourceLine {
+  std::string_view Name;
+  std::string_view File;
+};
+/// $TYPECHECK, $OPTION EXPLICIT: holds from here on.
+struct TypeCheckLine {
+  bool On;
+};
+/// $OPTION DIM type.
+struct DefaultTypeLine {
+  TypeName As;
+};
+/// A generated line that is no statement but is accepted; the row of the tolerances says how.
+struct ToleratedLine {
+  std::string_view Row;
+  std::string_view Text;
+};
+
+struct StatementNode {
+  SourcePlace At;
+  std::variant<Declaration, ConstDeclaration, Assignment, Step, CallLine, IfBlock, SelectBlock,
+               ForBlock, LoopBlock, ExitLine, Label, Jump, OnJumpLine, ReturnLine, EndLine,
+               PrintLine, InputLine, DataLine, ReadLine, RestoreLine, BindLine, WithBlock,
+               CreateBlock, Routine, DeclareLine, TypeBlock, ResourceLine, TypeCheckLine,
+               DefaultTypeLine, ToleratedLine>
+      Value;
+};
+
+/// A whole program as it stands in the source.
+struct SyntaxTree {
+  Arena Memory;
+  StatementList Statements;
+  bool ApplicationTypeGiven = false;
+  bool Console = false;  ///< $APPTYPE CONSOLE
+};
+
+}  // namespace tarnwick::basic::tree
