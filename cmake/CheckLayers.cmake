@@ -1,9 +1,10 @@
 # Walks the #include lines of src/ and fails on one that the map in src/README.md does not allow.
 # Run as: cmake -D SOURCE=<src> -P CheckLayers.cmake
 #
-# A row of the map is "| `folder/` ... | may use | ...". "core" stands for every folder but the
-# programs, "platform ports" for platform/ports.h alone, "OS" for system headers, and a name that
-# begins with "Q" for the toolkit. Folders of one row may use each other.
+# A row of the map is "| `folder/` ... | may use | ...". "core" stands for every folder whose row
+# names no toolkit, but for the command line program; "platform ports" for platform/ports.h alone,
+# "OS" for system headers, and a name that begins with "Q" for the toolkit. Folders of one row may
+# use each other. A folder of src/ without a row is a fault.
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -27,15 +28,21 @@ if(count LESS 12)
   message(FATAL_ERROR "src/README.md: the map has only ${count} folders")
 endif()
 
-# The core's folders are those whose row does not name the core.
+set(faults "")
+file(GLOB entries RELATIVE "${SOURCE}" "${SOURCE}/*")
+foreach(entry IN LISTS entries)
+  if(IS_DIRECTORY "${SOURCE}/${entry}" AND NOT entry IN_LIST folders)
+    string(APPEND faults "${entry}/: has no row in the map\n")
+  endif()
+endforeach()
+
 set(core "")
 foreach(folder IN LISTS folders)
-  if(NOT "core" IN_LIST may_${folder})
+  if(NOT folder STREQUAL "cli" AND NOT "${may_${folder}}" MATCHES "Qt")
     list(APPEND core ${folder})
   endif()
 endforeach()
 
-set(faults "")
 foreach(folder IN LISTS folders)
   set(may ${may_${folder}})
   if("core" IN_LIST may)
@@ -56,7 +63,7 @@ foreach(folder IN LISTS folders)
       if(quoted MATCHES "^<")
         if(path MATCHES "^Q")
           if(NOT toolkit)
-            set(fault "the toolkit belongs to qt/ alone")
+            set(fault "the map does not let ${folder}/ use the toolkit")
           endif()
         elseif(path MATCHES "[./]" AND NOT "OS" IN_LIST may AND NOT toolkit)
           set(fault "only the standard library may be used here")

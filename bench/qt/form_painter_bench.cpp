@@ -6,7 +6,7 @@
 #include <benchmark/benchmark.h>
 
 #include "fakes/memory_files.h"
-#include "qt/form_painter.h"
+#include "qt/surface/form_painter.h"
 
 namespace tarnwick {
 namespace {
@@ -14,7 +14,7 @@ namespace {
 void PaintThousandObjects(benchmark::State& state) {
   CallLog log;
   MemoryFiles files(log);
-  PictureCache pictures(files);
+  looks::PictureCache pictures([&files](const std::string& path) { return files.Read(path); });
   TextCache texts;
   FormPainter painter(pictures, texts);
   DesignForm form;

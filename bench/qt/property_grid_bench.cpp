@@ -8,14 +8,15 @@
 
 #include "designer/form_user.h"
 #include "designer/object_kinds.h"
+#include "fakes/build_paths.h"
 #include "fakes/fake_ports.h"
 #include "platform/native_files.h"
-#include "qt/main_view.h"
-#include "qt/main_window.h"
-#include "qt/property_panel.h"
-#include "qt/qt_ports.h"
-#include "qt/side_windows_view.h"
-#include "qt/theme.h"
+#include "qt/frame/main_view.h"
+#include "qt/frame/main_window.h"
+#include "qt/frame/side_windows_view.h"
+#include "qt/grid/property_panel.h"
+#include "qt/kit/qt_ports.h"
+#include "qt/kit/theme.h"
 #include "shell/mdi_form.h"
 #include "text/path_text.h"
 
@@ -34,7 +35,7 @@ struct Desk {
   MainWindow Window{Files};
   MainView View{Window};
   SideWindowsView SideWindows{Window};
-  MDIForm1 Shell{Given, View, SideWindows, View, PathFromNative(TARNWICK_PROGRAM_FOLDER)};
+  MDIForm1 Shell{Given, View, SideWindows, View, PathFromNative(test::ProgramFolder())};
   std::vector<ControlRef> Objects;
 
   Desk() {

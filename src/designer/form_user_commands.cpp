@@ -7,8 +7,8 @@
 #include "designer/object_kinds.h"
 #include "designer/rect.h"
 #include "designer/selection.h"
+#include "designer/tool_box.h"
 #include "model/units.h"
-#include "shell/tool_box.h"
 
 namespace tarnwick {
 

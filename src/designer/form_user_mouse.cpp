@@ -3,7 +3,7 @@
 #include "designer/hit_test.h"
 #include "designer/object_kinds.h"
 #include "designer/selection.h"
-#include "shell/tool_box.h"
+#include "designer/tool_box.h"
 #include "text/strings.h"
 
 namespace tarnwick {

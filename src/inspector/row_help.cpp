@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <optional>
 
+#include "inspector/objects_examiner.h"
 #include "model/vocabulary.h"
-#include "shell/objects_examiner.h"
 #include "text/code_page.h"
 #include "text/strings.h"
 

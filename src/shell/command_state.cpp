@@ -1,6 +1,6 @@
 #include "shell/command_state.h"
 
-#include "shell/tool_box.h"
+#include "designer/tool_box.h"
 #include "text/code_page.h"
 #include "text/strings.h"
 

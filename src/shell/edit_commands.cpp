@@ -1,6 +1,6 @@
 #include "shell/edit_commands.h"
 
-#include "shell/tool_box.h"
+#include "designer/tool_box.h"
 
 namespace tarnwick {
 

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/build_paths.h"
+
 namespace tarnwick::basic {
 namespace {
 
@@ -51,7 +53,7 @@ TEST(FunctionTable, NativeFunctionsTakeValuesOnly) {
 }
 
 TEST(FunctionTable, HasEveryWordOfTheLanguagesFunctionHelp) {
-  std::ifstream file(TARNWICK_SOURCE_DIR "/support/functions/functions.txt", std::ios::binary);
+  std::ifstream file(test::SourceFolder() + "/support/functions/functions.txt", std::ios::binary);
   std::size_t count = 0;
   for (std::string line; std::getline(file, line);) {
     if (!line.empty() && line.back() == '\r') line.pop_back();

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "cli/project_folder.h"
+#include "fakes/build_paths.h"
 
 namespace tarnwick {
 namespace {
@@ -9,7 +10,7 @@ namespace {
 using test::Call;
 using test::ProjectFolder;
 
-constexpr const char* kExamples = TARNWICK_SOURCE_DIR "/examples/";
+const std::string kExamples = test::SourceFolder() + "/examples/";
 
 void ExpectNoFindings(const std::string& project) {
   const test::CallResult result = Call({"check", project, "--program-folder", "C:\\Tarnwick"});

@@ -1,5 +1,5 @@
 // Presses on a design window and its objects.
-#include "shell/tool_box.h"
+#include "designer/tool_box.h"
 #include "surface_fixture.h"
 
 namespace tarnwick {

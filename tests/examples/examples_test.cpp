@@ -16,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include "codegen/compile_driver.h"
+#include "fakes/build_paths.h"
 #include "fakes/fake_ports.h"
 #include "fakes/memory_files.h"
 #include "persistence/old_project.h"
@@ -29,8 +30,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kExamples = fs::path(TARNWICK_SOURCE_DIR) / "examples";
-const fs::path kExpected = fs::path(TARNWICK_SOURCE_DIR) / "tests/examples/expected";
+const fs::path kExamples = fs::path(test::SourceFolder()) / "examples";
+const fs::path kExpected = fs::path(test::SourceFolder()) / "tests/examples/expected";
 
 std::string BytesOf(const fs::path& path) {
   std::ifstream in(path, std::ios::binary);

@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include "codegen/compile_driver.h"
+#include "fakes/build_paths.h"
 #include "fakes/fake_project.h"
 #include "persistence/old_project.h"
 #include "text/path_text.h"
@@ -25,7 +26,7 @@ namespace {
 namespace fs = std::filesystem;
 using Files = std::map<std::string, std::string>;
 
-const fs::path kCases = fs::path(TARNWICK_SOURCE_DIR) / "tests" / "golden";
+const fs::path kCases = fs::path(SourceFolder()) / "tests" / "golden";
 
 std::vector<std::string> CaseNames() {
   std::vector<std::string> names;

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/build_paths.h"
 #include "inspector/property_rows.h"
 #include "model/vocabulary.h"
 
@@ -15,7 +16,7 @@ const SupportTables& Delivered() {
   static const SupportTables tables = [] {
     SupportTables read;
     const auto bytes = [](const char* name) {
-      std::ifstream file(std::string(TARNWICK_PROGRAM_FOLDER) + "/" + name, std::ios::binary);
+      std::ifstream file(test::ProgramFolder() + "/" + name, std::ios::binary);
       return std::string{std::istreambuf_iterator<char>(file), {}};
     };
     AddMemberFile(read, bytes("Add001.tn"));

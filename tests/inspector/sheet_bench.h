@@ -10,6 +10,7 @@
 
 #include "designer/object_kinds.h"
 #include "designer/selection.h"
+#include "fakes/build_paths.h"
 #include "fakes/fake_ports.h"
 #include "inspector/property_sheet.h"
 #include "model/new_form.h"
@@ -18,7 +19,7 @@ namespace tarnwick {
 
 inline const SupportTables& DeliveredRows() {
   static const SupportTables tables = [] {
-    std::ifstream file(std::string(TARNWICK_PROGRAM_FOLDER) + "/Add004.tn", std::ios::binary);
+    std::ifstream file(test::ProgramFolder() + "/Add004.tn", std::ios::binary);
     SupportTables read;
     AddKindFile(read, std::string{std::istreambuf_iterator<char>(file), {}});
     return read;

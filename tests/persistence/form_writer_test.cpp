@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/build_paths.h"
 #include "fakes/fake_project.h"
 #include "model/menu_bar.h"
 #include "text/strings.h"
@@ -126,7 +127,7 @@ TEST(FormWriter, WritesEveryKindToTheByte) {
   AddMenus(project.Builder, form);
 
   const std::string expected =
-      FileBytes(std::string(TARNWICK_SOURCE_DIR) + "/tests/golden/every-kind/project/every.ftn");
+      FileBytes(SourceFolder() + "/tests/golden/every-kind/project/every.ftn");
   ASSERT_FALSE(expected.empty());
   const std::string written = project.Saved();
   const auto expected_lines = Split(expected, "\r\n");

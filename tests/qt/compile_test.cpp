@@ -14,7 +14,7 @@
 #include <sys/wait.h>
 
 #include "program.h"
-#include "qt/container.h"
+#include "qt/surface/container.h"
 
 namespace tarnwick {
 namespace {

@@ -1,4 +1,4 @@
-#include "qt/events_bar_window.h"
+#include "qt/frame/events_bar_window.h"
 
 #include <QApplication>
 #include <QListWidget>
@@ -11,10 +11,10 @@
 
 #include "fakes/fake_ports.h"
 #include "fakes/fake_shell.h"
-#include "qt/container.h"
-#include "qt/form_list_panel.h"
-#include "qt/main_view.h"
-#include "qt/main_window.h"
+#include "qt/frame/form_list_panel.h"
+#include "qt/frame/main_view.h"
+#include "qt/frame/main_window.h"
+#include "qt/surface/container.h"
 #include "shell/mdi_form.h"
 
 namespace tarnwick {

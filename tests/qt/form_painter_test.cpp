@@ -1,4 +1,4 @@
-#include "qt/form_painter.h"
+#include "qt/surface/form_painter.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -44,7 +44,7 @@ class FormPainterTest : public testing::Test {
 
   CallLog log_;
   MemoryFiles files_{log_};
-  PictureCache pictures_{files_};
+  looks::PictureCache pictures_{[this](const std::string& path) { return files_.Read(path); }};
   TextCache texts_;
   FormPainter painter_{pictures_, texts_};
   DesignForm form_;

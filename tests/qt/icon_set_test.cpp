@@ -1,10 +1,10 @@
-#include "qt/icon_set.h"
+#include "qt/kit/icon_set.h"
 
 #include <QImage>
 
 #include <gtest/gtest.h>
 
-#include "shell/tool_box.h"
+#include "designer/tool_box.h"
 
 namespace tarnwick {
 namespace {

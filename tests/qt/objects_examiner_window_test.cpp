@@ -1,5 +1,5 @@
 // The Objects Examiner by the keyboard alone, over the delivered support files.
-#include "qt/objects_examiner_window.h"
+#include "qt/frame/objects_examiner_window.h"
 
 #include <QApplication>
 #include <QLineEdit>

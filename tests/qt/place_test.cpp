@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "program.h"
-#include "qt/container.h"
+#include "qt/surface/container.h"
 
 namespace tarnwick {
 namespace {

@@ -13,8 +13,9 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/build_paths.h"
 #include "model/units.h"
-#include "qt/container.h"
+#include "qt/surface/container.h"
 #include "shell/program_setup.h"
 
 namespace tarnwick {
@@ -111,7 +112,7 @@ void Attendant::Look() {
 }
 
 Program::Program(FileDialogs dialogs) {
-  FillProgramFolder(files_, PathFromNative(TARNWICK_PROGRAM_FOLDER), Home.Path());
+  FillProgramFolder(files_, PathFromNative(test::ProgramFolder()), Home.Path());
   DialogPort& chosen = dialogs == FileDialogs::Real ? static_cast<DialogPort&>(real_dialogs_)
                                                     : static_cast<DialogPort&>(Dialogs);
   const Ports ports{files_, profiles_, processes_, messages_, chosen, screen_};

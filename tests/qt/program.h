@@ -23,10 +23,10 @@
 #include "platform/native_files.h"
 #include "platform/native_process.h"
 #include "platform/profile_files.h"
-#include "qt/main_view.h"
-#include "qt/main_window.h"
-#include "qt/qt_ports.h"
-#include "qt/side_windows_view.h"
+#include "qt/frame/main_view.h"
+#include "qt/frame/main_window.h"
+#include "qt/frame/side_windows_view.h"
+#include "qt/kit/qt_ports.h"
 #include "shell/mdi_form.h"
 
 class QAction;

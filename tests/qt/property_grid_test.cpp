@@ -22,8 +22,8 @@
 #include "codegen/compile_driver.h"
 #include "codegen/generator_state.h"
 #include "program.h"
-#include "qt/property_panel.h"
-#include "qt/theme.h"
+#include "qt/grid/property_panel.h"
+#include "qt/kit/theme.h"
 
 namespace tarnwick {
 namespace {

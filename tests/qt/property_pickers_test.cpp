@@ -17,7 +17,7 @@
 #include "codegen/compile_driver.h"
 #include "codegen/generator_state.h"
 #include "program.h"
-#include "qt/property_panel.h"
+#include "qt/grid/property_panel.h"
 
 namespace tarnwick {
 namespace {

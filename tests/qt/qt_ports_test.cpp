@@ -1,4 +1,4 @@
-#include "qt/qt_ports.h"
+#include "qt/kit/qt_ports.h"
 
 #include <gtest/gtest.h>
 

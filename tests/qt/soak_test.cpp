@@ -20,9 +20,9 @@
 #include <gtest/gtest.h>
 
 #include "program.h"
-#include "qt/container.h"
-#include "qt/design_window.h"
-#include "qt/text_bridge.h"
+#include "qt/kit/text_bridge.h"
+#include "qt/surface/container.h"
+#include "qt/surface/design_window.h"
 
 namespace tarnwick {
 namespace {

@@ -1,4 +1,4 @@
-#include "qt/text_bridge.h"
+#include "qt/kit/text_bridge.h"
 
 #include <QLineEdit>
 

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "fakes/build_paths.h"
 #include "shell/shell_fixture.h"
 #include "text/strings.h"
 
@@ -15,8 +16,7 @@ constexpr char kValueStart = '\x8D';
 constexpr char kValueEnd = '\x8E';
 
 std::string Delivered(std::string_view name) {
-  std::ifstream file(std::string(TARNWICK_PROGRAM_FOLDER) + "/" + std::string(name),
-                     std::ios::binary);
+  std::ifstream file(test::ProgramFolder() + "/" + std::string(name), std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }
 

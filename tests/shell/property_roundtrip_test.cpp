@@ -10,6 +10,7 @@
 
 #include "codegen/compile_driver.h"
 #include "codegen/generator_state.h"
+#include "fakes/build_paths.h"
 #include "inspector/form_add_items.h"
 #include "inspector/row_bindings.h"
 #include "shell/shell_fixture.h"
@@ -22,8 +23,7 @@ constexpr std::string_view kIcon = "Z:\\p\\other.ico";
 constexpr std::string_view kPage = "Z:\\p\\page.htm";
 
 std::string Delivered(std::string_view name) {
-  std::ifstream file(std::string(TARNWICK_PROGRAM_FOLDER) + "/" + std::string(name),
-                     std::ios::binary);
+  std::ifstream file(test::ProgramFolder() + "/" + std::string(name), std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "designer/tool_box.h"
 #include "persistence/project_writer.h"
-#include "shell/tool_box.h"
 #include "text/numbers.h"
 
 namespace tarnwick {

@@ -9,10 +9,10 @@
 #include <gtest/gtest.h>
 
 #include "designer/form_user.h"
+#include "designer/tool_box.h"
 #include "fakes/fake_ports.h"
 #include "fakes/fake_shell.h"
 #include "shell/mdi_form.h"
-#include "shell/tool_box.h"
 
 namespace tarnwick {
 

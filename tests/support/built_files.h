@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "build/support_sources.h"
+#include "fakes/build_paths.h"
 #include "persistence/support_tables.h"
 #include "text/strings.h"
 
@@ -14,7 +15,7 @@ namespace tarnwick::support {
 
 /// The bytes of a delivered file; a missing one fails the test.
 inline std::string Delivered(const std::string& name) {
-  const auto bytes = ReadFile(std::string(TARNWICK_PROGRAM_FOLDER) + "/" + name);
+  const auto bytes = ReadFile(test::ProgramFolder() + "/" + name);
   EXPECT_TRUE(bytes) << name;
   return bytes.value_or("");
 }
@@ -34,7 +35,7 @@ inline const SupportTables& DeliveredTables() {
 inline const SupportSources& Sources() {
   static const SupportSources sources = [] {
     Faults faults;
-    SupportSources read = LoadSources(std::string(TARNWICK_SOURCE_DIR) + "/support", faults);
+    SupportSources read = LoadSources(test::SourceFolder() + "/support", faults);
     EXPECT_TRUE(faults.Empty());
     return read;
   }();

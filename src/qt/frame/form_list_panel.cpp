@@ -1,0 +1,80 @@
+#include "qt/frame/form_list_panel.h"
+
+#include <QLabel>
+#include <QListWidget>
+#include <QSignalBlocker>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "qt/frame/command_actions.h"
+#include "qt/kit/icon_set.h"
+#include "qt/kit/panel_frame.h"
+#include "qt/kit/text_bridge.h"
+#include "shell/mdi_form.h"
+
+namespace tarnwick {
+
+FormListPanel::FormListPanel(CommandActions& commands, QWidget* parent)
+    : QWidget(parent), list_(new QListWidget), warning_(new QLabel) {
+  auto* frame = new PanelFrame(QStringLiteral("Picture3"), QStringLiteral("Forms"), this);
+  frame->Heading().setObjectName(QStringLiteral("Label1"));
+  int index = 0;
+  for (const ToolbarButton& row : FormListBar()) {
+    QToolButton* button = commands.MakeButton(row, QStringLiteral("BtnBarMenu"), index++, frame);
+    button->setIconSize(QSize(16, 16));
+    frame->AddToHead(button);
+  }
+  list_->setObjectName(QStringLiteral("ListaFrms"));
+  list_->setIconSize(QSize(16, 16));
+  list_->setTextElideMode(Qt::ElideMiddle);
+  warning_->setObjectName(QStringLiteral("MainFormWarning"));
+  warning_->setProperty("quiet", true);
+  warning_->setWordWrap(true);
+  warning_->hide();
+  frame->Body().addWidget(list_);
+  frame->Body().addWidget(warning_);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(frame);
+  // A press selects, also on the line that is marked already.
+  connect(list_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+    if (shell_ != nullptr) shell_->SelectFormLine(list_->row(item));
+  });
+  connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (shell_ != nullptr && row >= 0) shell_->SelectFormLine(row);
+  });
+}
+
+void FormListPanel::Refresh() {
+  if (shell_ == nullptr) return;
+  const QSignalBlocker quiet(list_);
+  const int selected = list_->currentRow();
+  const auto& lines = shell_->Tables().ListaFrms.Lines();
+  const FormListMarks marks = shell_->FormMarks();
+  while (list_->count() > static_cast<int>(lines.size()))
+    delete list_->takeItem(list_->count() - 1);
+  for (int i = 0; i < static_cast<int>(lines.size()); ++i) {
+    if (i == list_->count()) list_->addItem(new QListWidgetItem);
+    const auto& line = lines[static_cast<std::size_t>(i)];
+    const bool is_main = line.FormNumber == marks.MainForm;
+    QListWidgetItem* item = list_->item(i);
+    item->setText(ToQString(line.Text));
+    item->setIcon(IconOf(is_main ? QStringLiteral("main-form") : QStringLiteral("form")));
+    item->setToolTip(is_main ? QStringLiteral("Main form") : QString());
+  }
+  list_->setCurrentRow(qMin(selected, list_->count() - 1));
+  const bool lost = !lines.empty() && marks.MainForm == 0;
+  warning_->setVisible(lost);
+  if (lost) {
+    warning_->setText(QStringLiteral("No form is named \"%1\", the main form. Choose one with "
+                                     "Project, Select Main Form.")
+                          .arg(ToQString(marks.MainName)));
+  }
+}
+
+void FormListPanel::Select(int place) {
+  const QSignalBlocker quiet(list_);
+  list_->setCurrentRow(place);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,159 @@
+#include "qt/frame/main_window.h"
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include "qt/frame/command_actions.h"
+#include "qt/frame/events_bar_window.h"
+#include "qt/frame/form_list_panel.h"
+#include "qt/frame/icon_display.h"
+#include "qt/frame/small_windows.h"
+#include "qt/frame/tool_box_panel.h"
+#include "qt/grid/property_panel.h"
+#include "qt/kit/panel_frame.h"
+#include "qt/kit/theme.h"
+#include "qt/surface/container.h"
+#include "shell/mdi_form.h"
+
+namespace tarnwick {
+
+namespace {
+
+constexpr int kToolColumns = 2;
+constexpr int kRightWidth = 290;
+constexpr int kPropertiesHeight = 590;
+constexpr int kFormsHeight = 130;
+
+}  // namespace
+
+MainWindow::MainWindow(FilePort& files)
+    : pictures_([&files](const std::string& path) { return files.Read(path); }),
+      actions_(new CommandActions(*this)),
+      container_(new Container(pictures_, texts_, this)),
+      tools_(new ToolBoxPanel(QStringLiteral("BtnObjet"), kToolColumns, this)),
+      form_list_(new FormListPanel(*actions_, this)),
+      properties_(new PropertyPanel(pictures_, this)),
+      icon_(new IconDisplay(pictures_, this)),
+      object_bar_(new ObjectBar(this)),
+      events_bar_(new EventsBarWindow(*container_, this)),
+      right_(new QWidget(this)),
+      status_(new QLabel(this)),
+      selection_(new QLabel(this)),
+      pointer_(new QLabel(this)) {
+  setObjectName(QStringLiteral("MDIForm1"));
+  resize(1400, 900);
+  BuildPanels();
+  BuildStatusBar();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::BuildPanels() {
+  auto* tool_frame = new PanelFrame(QStringLiteral("Picture4"), QStringLiteral("Tools"), this);
+  tool_frame->Body().addWidget(tools_);
+  tool_frame->Body().addStretch();
+  tool_frame->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+
+  auto* panels = new QSplitter(Qt::Vertical, right_);
+  panels->setObjectName(QStringLiteral("RightPanels"));
+  panels->setHandleWidth(kRoom);
+  panels->addWidget(properties_);
+  panels->addWidget(form_list_);
+  panels->setStretchFactor(0, 1);
+  panels->setChildrenCollapsible(false);
+  panels->setSizes({kPropertiesHeight, kFormsHeight});
+  auto* right_column = new QVBoxLayout(right_);
+  right_column->setContentsMargins(0, 0, 0, 0);
+  right_column->setSpacing(kRoom);
+  right_column->addWidget(panels, 1);
+  right_column->addWidget(icon_);
+
+  auto* middle = new QSplitter(Qt::Horizontal, this);
+  middle->setObjectName(QStringLiteral("MiddleAndRight"));
+  middle->setHandleWidth(kRoom);
+  middle->addWidget(container_);
+  middle->addWidget(right_);
+  middle->setStretchFactor(0, 1);
+  middle->setChildrenCollapsible(false);
+  middle->setSizes({width() - kRightWidth, kRightWidth});
+
+  auto* whole = new QWidget(this);
+  auto* row = new QHBoxLayout(whole);
+  row->setContentsMargins(kRoom, kRoom, kRoom, kRoom);
+  row->setSpacing(kRoom);
+  row->addWidget(tool_frame);
+  row->addWidget(middle, 1);
+  setCentralWidget(whole);
+}
+
+void MainWindow::BuildStatusBar() {
+  status_->setObjectName(QStringLiteral("StatusText"));
+  selection_->setObjectName(QStringLiteral("SelectionText"));
+  pointer_->setObjectName(QStringLiteral("PointerText"));
+  pointer_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000, 0000")) +
+                            3 * kRoom);
+  pointer_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  statusBar()->setSizeGripEnabled(false);
+  statusBar()->addWidget(status_, 1);
+  statusBar()->addPermanentWidget(selection_);
+  statusBar()->addPermanentWidget(pointer_);
+}
+
+void MainWindow::Attach(MDIForm1& shell) {
+  shell_ = &shell;
+  actions_->Attach(shell);
+  tools_->Attach(shell);
+  object_bar_->Attach(shell);
+  events_bar_->Attach(shell);
+  form_list_->Attach(shell);
+  properties_->Attach(shell);
+  connect(properties_, &PropertyPanel::Left, this, [this] {
+    const DesignForm* current = shell_->Tables().CurrentForm;
+    DesignWindow* form = current != nullptr ? container_->Window(current->Number()) : nullptr;
+    if (form != nullptr) form->Surface().setFocus();
+  });
+}
+
+void MainWindow::RefreshCommands() {
+  if (shell_ == nullptr) return;
+  actions_->Refresh();
+  tools_->Refresh();
+  object_bar_->Refresh();
+}
+
+void MainWindow::SetStatus(const QString& text) {
+  status_->setText(text);
+}
+
+void MainWindow::SetSelectionText(const QString& text) {
+  selection_->setText(text);
+}
+
+void MainWindow::SetPointerText(const QPoint& place) {
+  pointer_->setText(place.x() < 0 || place.y() < 0
+                        ? QString()
+                        : QStringLiteral("%1, %2").arg(place.x()).arg(place.y()));
+}
+
+void MainWindow::SetPropertiesVisible(bool visible) {
+  properties_->setVisible(visible);
+  right_->setVisible(visible || !form_list_->isHidden());
+}
+
+void MainWindow::SetFormListVisible(bool visible) {
+  form_list_->setVisible(visible);
+  right_->setVisible(visible || !properties_->isHidden());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (shell_ == nullptr || shell_->Close()) {
+    event->accept();
+  } else {
+    event->ignore();
+  }
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,102 @@
+// The rows of the property panel with their buttons and their drop-down list.
+#pragma once
+
+#include <QWidget>
+#include <string>
+#include <vector>
+
+class QKeyEvent;
+class QListWidget;
+class QToolButton;
+
+namespace tarnwick::looks {
+class PictureCache;
+}
+
+namespace tarnwick {
+
+class MDIForm1;
+class PropertyRowView;
+class PropertySheet;
+
+/// Paints the rows of the sheet and forwards what the user does in them. The selected row alone
+/// takes part in the order of Tab, so that the grid is one stop on the way through the window:
+///
+///   Up, Down, Page Up, Page Down, Ctrl+Home, Ctrl+End   another row
+///   F4, Alt+Down                                        the list or the dialog of the row
+///   Enter                                               the button with the focus, else the next
+///   row Esc                                                 the value the row had, then back to
+///   the form
+///
+/// Where a button has the focus, typing still goes to the value.
+class PropertyGrid final : public QWidget {
+  Q_OBJECT
+
+ public:
+  PropertyGrid(looks::PictureCache& pictures, QWidget* parent);
+
+  void Attach(MDIForm1& shell);
+  /// The widget from which the Tab key comes to the grid.
+  void SetTabBefore(QWidget* widget) { tab_before_ = widget; }
+  /// Takes a half-typed value into the tables.
+  void Commit();
+  /// True while a keystroke is being applied: nothing may take the focus from its cell.
+  [[nodiscard]] bool IsApplying() const { return applying_; }
+
+  void ShowRows();
+  void ShowRow(int row);
+  void ShowSelection();
+  void ShowList(bool is_open);
+  /// Gives the focus to the selected row, or to the first one below the name that is shown.
+  void FocusRow();
+
+  [[nodiscard]] QSize sizeHint() const override;
+
+ Q_SIGNALS:
+  /// The row has the focus and should be seen.
+  void RowEntered(const QWidget& row);
+  /// Esc with nothing to put back.
+  void Left();
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  enum class Focus { ByRow, Text };
+
+  [[nodiscard]] PropertyRowView* ViewAt(int row) const;
+  [[nodiscard]] PropertyRowView* ViewOf(const QObject* object) const;
+  [[nodiscard]] bool IsSelected(int row) const;
+  QToolButton* MakeButton(const char* name, const char* icon, const char* tip);
+  void MakeList();
+  void MakeRows(int count);
+  void LayOut();
+  void PlaceButtons();
+  void EnterRow(int row, Focus focus);
+  void Type(int row, const QString& text);
+  void MoveBy(int row, int steps);
+  void PickOrCycle(int row);
+  void Revert(int row);
+  void ChooseListRow(int place);
+  bool FilterList(QEvent* event);
+  bool FilterCell(QObject* object, int row, QEvent* event);
+  bool PressKey(QObject* object, int row, QKeyEvent& event);
+  bool TypeOnButton(PropertyRowView& view, QKeyEvent& event);
+
+  looks::PictureCache& pictures_;
+  MDIForm1* shell_ = nullptr;
+  PropertySheet* sheet_ = nullptr;
+  std::vector<PropertyRowView*> rows_;
+  QWidget* tab_before_ = nullptr;
+  const PropertyRowView* tab_stop_ = nullptr;
+  QToolButton* boton1_;
+  QToolButton* boton2_;
+  QToolButton* boton3_;
+  QListWidget* list_;
+  std::string before_;  ///< value of the selected row as it was entered
+  bool applying_ = false;
+  bool entering_ = false;
+};
+
+}  // namespace tarnwick

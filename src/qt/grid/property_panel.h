@@ -1,0 +1,69 @@
+// The property panel: head strip, list of objects, filter, grid, and what a row is for.
+#pragma once
+
+#include <QWidget>
+
+#include "inspector/inspector_host.h"
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QScrollArea;
+
+namespace tarnwick::looks {
+class PictureCache;
+}
+
+namespace tarnwick {
+
+class MDIForm1;
+class PropertyGrid;
+class PropertySheet;
+
+/// View of `PropertySheet`. F4 anywhere in the main window goes to the grid.
+class PropertyPanel final : public QWidget, public PropertySheetView {
+  Q_OBJECT
+
+ public:
+  PropertyPanel(looks::PictureCache& pictures, QWidget* parent);
+  ~PropertyPanel() override;
+
+  void Attach(MDIForm1& shell);
+  /// Takes a half-typed value into the tables.
+  void Commit();
+  /// True while a keystroke in the grid is being applied: a window that takes the focus for itself
+  /// would take it from the cell being typed in.
+  [[nodiscard]] bool KeepsFocus() const;
+
+  void RowsChanged() override;
+  void RowTextChanged(int row) override;
+  void RowSelected() override;
+  void ListOpened(bool is_open) override;
+  void ComboChanged() override;
+  void ComboRowTextChanged(int row) override;
+  void ComboRowSelected(int row) override;
+
+ Q_SIGNALS:
+  /// Esc: the user goes back to the form.
+  void Left();
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  void BuildHead();
+  void BuildGrid();
+  void ShowHelp();
+
+  MDIForm1* shell_ = nullptr;
+  PropertySheet* sheet_ = nullptr;
+  QComboBox* combo_;
+  QLineEdit* filter_;
+  QScrollArea* scroll_;
+  PropertyGrid* grid_;
+  QLabel* help_name_;
+  QPlainTextEdit* help_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,27 @@
+#include "qt/kit/text_bridge.h"
+
+#include <QLineEdit>
+
+namespace tarnwick {
+
+QString ShownInCodePage(const QString& text) {
+  return ToQString(FromQString(text));
+}
+
+CodePageValidator::CodePageValidator(QObject* parent) : QValidator(parent) {}
+
+QValidator::State CodePageValidator::validate(QString& text, int& position) const {
+  QString shown = ShownInCodePage(text);
+  if (shown != text) {
+    const int before = static_cast<int>(ShownInCodePage(text.left(position)).size());
+    position = before;
+    text = std::move(shown);
+  }
+  return Acceptable;
+}
+
+void KeepInCodePage(QLineEdit& field) {
+  field.setValidator(new CodePageValidator(&field));
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,101 @@
+#include "qt/surface/container.h"
+
+#include <QEvent>
+
+#include "qt/kit/theme.h"
+
+namespace tarnwick {
+
+namespace {
+
+/// New windows stand one step right and below of the one before, for a few steps.
+constexpr int kFirstPlace = 24;
+constexpr int kStep = 28;
+constexpr int kSteps = 8;
+constexpr int kMargin = 24;
+
+}  // namespace
+
+Container::Container(looks::PictureCache& pictures, TextCache& texts, QWidget* parent)
+    : QScrollArea(parent), pictures_(pictures), texts_(texts), canvas_(new QWidget) {
+  setObjectName(QStringLiteral("FormContenedor"));
+  setFrameShape(QFrame::NoFrame);
+  canvas_->setObjectName(QStringLiteral("Canvas"));
+  canvas_->setBackgroundRole(QPalette::Mid);
+  setBackgroundRole(QPalette::Mid);
+  setWidget(canvas_);
+}
+
+Container::~Container() = default;
+
+DesignWindow& Container::Open(int form, DesignForm& design, DesignWindowDoors doors) {
+  Close(form);
+  auto* window = new DesignWindow(design, pictures_, texts_, std::move(doors), canvas_);
+  const int place = kFirstPlace + (opened_++ % kSteps) * kStep;
+  window->move(place, place);
+  window->installEventFilter(this);
+  windows_[form] = window;
+  return *window;
+}
+
+void Container::Close(int form) {
+  const auto found = windows_.find(form);
+  if (found == windows_.end()) return;
+  DesignWindow* window = found->second;
+  windows_.erase(found);
+  window->Detach();
+  window->hide();
+  window->deleteLater();
+  if (windows_.empty()) opened_ = 0;
+  FitCanvas();
+}
+
+DesignWindow* Container::Window(int form) const {
+  const auto found = windows_.find(form);
+  return found == windows_.end() ? nullptr : found->second;
+}
+
+void Container::BringUp(int form) {
+  DesignWindow* window = Window(form);
+  if (window == nullptr) return;
+  window->show();
+  window->raise();
+  FitCanvas();
+  ensureWidgetVisible(window, 0, 0);
+  if (window->Surface().isVisibleTo(this)) {
+    window->Surface().setFocus();
+  } else {
+    // A rolled-up window takes no keys, and no other form may get those meant for it.
+    setFocus();
+  }
+}
+
+void Container::SetCurrent(int form) {
+  for (const auto& [number, window] : windows_) window->SetCurrent(number == form);
+}
+
+bool Container::eventFilter(QObject* object, QEvent* event) {
+  const QEvent::Type type = event->type();
+  if (type == QEvent::Move || type == QEvent::Resize || type == QEvent::Show ||
+      type == QEvent::Hide) {
+    FitCanvas();
+  }
+  return QScrollArea::eventFilter(object, event);
+}
+
+void Container::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  FitCanvas();
+}
+
+void Container::FitCanvas() {
+  QSize size = viewport()->size();
+  for (const auto& [number, window] : windows_) {
+    if (window->isHidden() || window->State() == WindowState::Maximised) continue;
+    const QRect place = window->geometry();
+    size = size.expandedTo(QSize(place.right() + kMargin, place.bottom() + kMargin));
+  }
+  if (size != canvas_->size()) canvas_->resize(size);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,47 @@
+// `FormContenedor`: the area in which the design windows stand.
+#pragma once
+
+#include <QScrollArea>
+#include <functional>
+#include <unordered_map>
+
+#include "qt/surface/design_window.h"
+
+namespace tarnwick {
+
+/// Keeps the design windows by form number and grows with them, so that every one can be scrolled
+/// to.
+class Container final : public QScrollArea {
+  Q_OBJECT
+
+ public:
+  Container(looks::PictureCache& pictures, TextCache& texts, QWidget* parent);
+  ~Container() override;
+
+  /// Makes the window of a form, not yet shown.
+  DesignWindow& Open(int form, DesignForm& design, DesignWindowDoors doors);
+  /// The form is about to go: its window is hidden now and deleted when no event of it runs.
+  void Close(int form);
+  [[nodiscard]] bool IsEmpty() const { return windows_.empty(); }
+  /// Null for a form without a window.
+  [[nodiscard]] DesignWindow* Window(int form) const;
+  /// Shows a window in front of the others, with the focus.
+  void BringUp(int form);
+  /// The window drawn as that of the current form; 0 for none.
+  void SetCurrent(int form);
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void FitCanvas();
+
+  looks::PictureCache& pictures_;
+  TextCache& texts_;
+  QWidget* canvas_;
+  std::unordered_map<int, DesignWindow*> windows_;
+  int opened_ = 0;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,135 @@
+#include "inspector/objects_examiner.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace tarnwick {
+namespace {
+
+using Rows = std::vector<std::string>;
+
+SupportTables Tables() {
+  SupportTables tables;
+  tables.ListaObjetos = {"Form", "Font", "WinSock", "Menu"};
+  tables.MemberLists.Add("form", "Caption\x95Show");
+  tables.MemberLists.Add("font", "Color\x95Name");
+  tables.MemberLists.Add("winsock", "Close");
+  tables.MemberHelp.Add("form%", "The window");
+  tables.MemberHelp.Add("font%", "The font");
+  tables.MemberHelp.Add("caption", "Its text");
+  tables.MemberHelp.Add("color", "A colour");
+  tables.MemberHelp.Add("colorfont", "The font's colour");
+  tables.MemberHelp.Add("closewinsock", "Ends the connection");
+  return tables;
+}
+
+TEST(ObjectsExaminer, OpeningListsTheKindsAndSelectsTheFirst) {
+  const SupportTables tables = Tables();
+  FormViewObjects window{tables};
+  window.Open();
+  EXPECT_EQ(window.Lista(), (Rows{"Form", "Font", "WinSock", "Menu"}));
+  EXPECT_EQ(window.KindRow(), 0);
+  EXPECT_EQ(window.ListaPro(), (Rows{"Caption", "Show"}));
+  EXPECT_EQ(window.Editor(), "The window");
+}
+
+TEST(ObjectsExaminer, AWantedRowIsSelectedOnce) {
+  const SupportTables tables = Tables();
+  FormViewObjects window{tables};
+  window.WantedRow = 2;
+  window.Open();
+  EXPECT_EQ(window.KindRow(), 2);
+  EXPECT_EQ(window.WantedRow, 0);
+  window.Open();
+  EXPECT_EQ(window.KindRow(), 0);
+}
+
+TEST(ObjectsExaminer, FontHasItsOwnDescriptionUnderTheSameKey) {
+  const SupportTables tables = Tables();
+  FormViewObjects window{tables};
+  window.Open();
+  window.SelectKind(1);
+  EXPECT_EQ(window.Editor(), "The font");
+}
+
+TEST(ObjectsExaminer, AMemberShowsItsDescription) {
+  const SupportTables tables = Tables();
+  FormViewObjects window{tables};
+  window.Open();
+  window.SelectMember(0);
+  EXPECT_EQ(window.Editor(), "Its text");
+  EXPECT_EQ(window.MemberRow(), 0);
+}
+
+TEST(ObjectsExaminer, AMemberOfOneNameInSeveralKindsHasItsOwn) {
+  const SupportTables tables = Tables();
+  FormViewObjects window{tables};
+  window.Open();
+  window.SelectKind(1);
+  window.SelectMember(0);
+  EXPECT_EQ(window.Editor(), "The font's colour");
+  window.SelectKind(2);
+  window.SelectMember(0);
+  EXPECT_EQ(window.Editor(), "Ends the connection");
+}
+
+TEST(ObjectsExaminer, KeysAreMadeDistinctByTheTable) {
+  using Case = std::pair<std::pair<const char*, const char*>, const char*>;
+  for (const Case& c :
+       {Case{{"WinSock", "Port"}, "portwinsock"}, Case{{"PopUpMenu", "Alignment"}, "alignmentpop"},
+        Case{{"PopUpMenu", "AutoPopUp"}, "autopopup"}, Case{{"ClipBoard", "Close"}, "closeclip"},
+        Case{{"FileStream", "Close"}, "closefile"}, Case{{"ClipBoard", "Clear"}, "clearclip"},
+        Case{{"ClipBoard", "Open"}, "openclip"}, Case{{"FileStream", "Open"}, "openfile"},
+        Case{{"FileStream", "Size"}, "sizefile"}, Case{{"Font", "Color"}, "colorfont"},
+        Case{{"RichTextBox", "Line"}, "linerich"}, Case{{"ClipBoard", "Text"}, "textclip"},
+        Case{{"Font", "Size"}, "size"}, Case{{"Form", "Close"}, "close"},
+        Case{{"Label", "Alignment"}, "alignment"}}) {
+    EXPECT_EQ(MemberHelpKey(c.first.first, c.first.second), c.second);
+  }
+}
+
+TEST(ObjectsExaminer, AKeyWithoutHelpLeavesTheDescription) {
+  const SupportTables tables = Tables();
+  FormViewObjects window{tables};
+  window.Open();
+  window.SelectMember(1);
+  EXPECT_EQ(window.Editor(), "The window");
+  window.SelectKind(3);
+  EXPECT_EQ(window.Editor(), "The window");
+  EXPECT_TRUE(window.ListaPro().empty());
+}
+
+TEST(ObjectsExaminer, FindSelectsTheFirstKindThatBeginsWithTheText) {
+  const SupportTables tables = Tables();
+  FormViewObjects window{tables};
+  window.Open();
+  window.Find("FO");
+  EXPECT_EQ(window.KindRow(), 0);
+  window.Find("fon");
+  EXPECT_EQ(window.KindRow(), 1);
+  EXPECT_EQ(window.ListaPro(), (Rows{"Color", "Name"}));
+  window.Find("sock");
+  EXPECT_EQ(window.KindRow(), 1);
+  window.Find("fontx");
+  EXPECT_EQ(window.KindRow(), 1);
+  window.Find("");
+  EXPECT_EQ(window.KindRow(), 0);
+}
+
+TEST(ObjectsExaminer, WithoutTablesTheWindowIsEmpty) {
+  const SupportTables tables;
+  FormViewObjects window{tables};
+  window.Open();
+  window.SelectKind(0);
+  window.SelectMember(0);
+  window.Find("x");
+  EXPECT_TRUE(window.Lista().empty());
+  EXPECT_EQ(window.KindRow(), -1);
+  EXPECT_EQ(window.Editor(), "");
+}
+
+}  // namespace
+}  // namespace tarnwick
