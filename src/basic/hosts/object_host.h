@@ -8,6 +8,12 @@
 
 namespace tarnwick::basic {
 
+/// What runs when an event is raised. Objects keep it as it is and hand it back to `Raise`.
+struct EventHook {
+  ProcedureId Procedure{};  ///< 0: none
+  Value Bound;              ///< the record of the TYPE whose member the procedure is; else Empty
+};
+
 /// Asked by the machine. What fails says why in `Reason`; the machine adds the position.
 class ObjectHost {
  public:
@@ -26,7 +32,10 @@ class ObjectHost {
                     Value& result) = 0;
   /// Ties a procedure to an event; procedure 0 takes the hook away. False: no such event, see
   /// `Reason`.
-  virtual bool Hook(ObjectId object, MemberId event, ProcedureId procedure) = 0;
+  virtual bool Hook(ObjectId object, MemberId event, const EventHook& hook) = 0;
+  /// The object of a class that is there without being made (Application, Screen). None when there
+  /// is no such object, see `Reason`.
+  virtual ObjectId BuiltIn(ClassId kind) = 0;
   /// `to = from` of two objects: copies the values where the class is one of values (QFONT,
   /// QRECT). False: classes do not fit, see `Reason`.
   virtual bool Assign(ObjectId to, ObjectId from) = 0;
@@ -44,11 +53,11 @@ class ObjectHost {
 class EventSink {
  public:
   virtual ~EventSink() = default;
-  /// Runs the procedure that `Hook` handed over to its end, on the machine's stack. Parameters of
-  /// an object type get `sender`, the others the arguments in order, missing ones 0 or ""; what the
-  /// procedure leaves in its parameters flows back into `arguments`. False when the program is
+  /// Runs the procedure of a hook to its end, on the machine's stack. A parameter of
+  /// an object type gets `sender`, the others the arguments in order, missing ones 0 or ""; what
+  /// the procedure leaves in its parameters flows back into `arguments`. False when the program is
   /// ending (END, error, stop): nested event loops then return at once.
-  virtual bool Raise(ObjectId sender, ProcedureId procedure, std::span<Value> arguments) = 0;
+  virtual bool Raise(ObjectId sender, const EventHook& hook, std::span<Value> arguments) = 0;
   /// Application.Terminate: the program ends at the next instruction.
   virtual void Terminate() = 0;
   /// True from the moment the program is to end.

@@ -43,7 +43,7 @@ struct LibraryState {
 inline constexpr std::size_t kLongestText = std::size_t{256} << 20U;
 
 /// One call of a library function.
-struct NativeCall {
+struct LibraryCall {
   /// In order, already brought to the kinds of the function's row: a parameter for whole numbers
   /// holds an Integer, one for numbers a Number, one for strings a Text. What an optional parameter
   /// did not get is not in the span; an argument left out between two others is Empty.
@@ -60,6 +60,6 @@ struct NativeCall {
 };
 
 /// A native function; `NativeOf` gives that of a row. It must not call back into the machine.
-using NativeFunction = void (*)(NativeCall& call);
+using NativeFunction = void (*)(LibraryCall& call);
 
 }  // namespace tarnwick::basic
