@@ -30,11 +30,15 @@ class RandomSeries {
   std::uint64_t state_ = 0;
 };
 
+class ByteMemory;
+
 /// What library functions keep between two calls in one run.
 struct LibraryState {
   RandomSeries Random;
-  std::vector<FileEntry> Found;    ///< of the last DIR$ with a mask
-  std::size_t NextFound = 0;       ///< what DIR$("") returns next; FILEREC is the one before
+  std::vector<std::string> Resources;  ///< files of $RESOURCE, in order; set before the start
+  ByteMemory* Memory = nullptr;        ///< what VARPTR gives addresses of; null: nothing
+  std::vector<FileEntry> Found;        ///< of the last DIR$ with a mask
+  std::size_t NextFound = 0;           ///< what DIR$("") returns next; FILEREC is the one before
   std::vector<std::string> Notes;  ///< for the user, such as a KILL that failed; the machine takes
                                    ///< them after the call and adds the position
 };

@@ -47,4 +47,18 @@ inline constexpr std::int64_t kLowestIndex = 0;
 /// Handle of the first $RESOURCE; 0 is no resource.
 inline constexpr std::int64_t kFirstResource = 1;
 
+// --- Function library ---------------------------------------------------------------------------
+
+/// What ffCurrency and %m put in front of a number; a negative one stands in brackets.
+inline constexpr char kCurrencySign = '$';
+/// Decimals of %f, %n and %m without a precision.
+inline constexpr int kDefaultDecimals = 2;
+/// Significant digits of %e and %g, and of STRF$ with a precision below 1.
+inline constexpr int kDefaultDigits = 15;
+/// SOUND: a duration below this one is in seconds, any other in milliseconds.
+inline constexpr double kSoundMillisecondsFrom = 20;
+/// What DOEVENTS waits for an event, in milliseconds, so that a loop around it does not keep a
+/// processor busy.
+inline constexpr int kDoEventsWait = 10;
+
 }  // namespace tarnwick::basic
