@@ -5,7 +5,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "codegen/compile_driver.h"
+#include "codegen/program_source.h"
 #include "codegen/show_rewriter.h"
 #include "growth.h"
 #include "support/project_builder.h"

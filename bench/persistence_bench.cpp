@@ -58,7 +58,7 @@ void Measure(benchmark::State& state, Growth& growth, Step step) {
 void WriteProject(benchmark::State& state) {
   static Growth growth;
   Measure(state, growth, [](FakeProject& project) {
-    return SaveProject(project.Context, project.Tables.ProjectFile);
+    return project::SaveProject(project.Context, project.Tables.ProjectFile);
   });
 }
 BENCHMARK(WriteProject)->RangeMultiplier(10)->Range(100, 100000)->Unit(benchmark::kMillisecond);
@@ -66,7 +66,7 @@ BENCHMARK(WriteProject)->RangeMultiplier(10)->Range(100, 100000)->Unit(benchmark
 void ReadProject(benchmark::State& state) {
   static Growth growth;
   Measure(state, growth, [](FakeProject& project) {
-    return LoadProject(project.Context, project.Tables.ProjectFile);
+    return project::LoadProject(project.Context, project.Tables.ProjectFile);
   });
 }
 BENCHMARK(ReadProject)->RangeMultiplier(10)->Range(100, 100000)->Unit(benchmark::kMillisecond);

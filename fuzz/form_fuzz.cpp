@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "codegen/compile_driver.h"
+#include "codegen/program_source.h"
 #include "fakes/fake_project.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "fakes/fake_project.h"
-#include "persistence/old_project.h"
+#include "project/convert_project.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   tarnwick::test::FakeProject project;

@@ -5,9 +5,10 @@
 #include <string_view>
 
 #include "cli/project_check.h"
-#include "codegen/compile_driver.h"
-#include "persistence/old_project.h"
-#include "persistence/project_writer.h"
+#include "codegen/program_source.h"
+#include "project/compile.h"
+#include "project/convert_project.h"
+#include "project/save_project.h"
 #include "text/code_page.h"
 #include "text/path_text.h"
 
@@ -26,7 +27,7 @@ int Fail(std::FILE* err, const std::string& what, const std::string& path) {
 
 int Generate(LoadedProject& project, const Arguments& arguments, std::FILE* out, std::FILE* err) {
   GeneratorState state;
-  CheckMainForm(project.Tables);
+  project::CheckMainForm(project.Tables);
   if (!arguments.OutputFile) {
     bool written = true;
     WriteSource(project.Tables, state,
@@ -55,7 +56,7 @@ int Resave(LoadedProject& project, const Arguments& arguments, std::FILE* err) {
     all_named = all_named && !name.empty();
     if (!name.empty()) name = std::string(folder).append(BareName(name));
   }
-  const bool saved = SaveProject(project.Context, tables.ProjectFile);
+  const bool saved = project::SaveProject(project.Context, tables.ProjectFile);
   if (saved || (!all_named && project.Files.Exists(tables.ProjectFile))) return 0;
   return Fail(err, "cannot write the project into", arguments.OutputFolder);
 }
@@ -64,7 +65,7 @@ int Convert(const Arguments& arguments, std::FILE* err) {
   NativeFiles files;
   const std::string path = WindowsPathOf(arguments.Input);
   if (!files.Read(path)) return Fail(err, "cannot read", arguments.Input);
-  if (!ConvertOldProject(files, path)) {
+  if (!project::ConvertOldProject(files, path)) {
     return Fail(err, "cannot write the new files beside", arguments.Input);
   }
   return 0;

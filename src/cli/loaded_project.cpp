@@ -33,7 +33,7 @@ LoadedProject::LoadedProject(const std::optional<std::string>& program_folder, s
 
 bool LoadedProject::Load(const std::string& native_path) {
   Tables.ProjectFile = WindowsPathOf(native_path);
-  return LoadProject(Context, Tables.ProjectFile);
+  return project::LoadProject(Context, Tables.ProjectFile);
 }
 
 }  // namespace tarnwick

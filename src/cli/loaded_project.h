@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "persistence/project_reader.h"
 #include "platform/console_messages.h"
 #include "platform/native_files.h"
 #include "platform/native_screen.h"
 #include "platform/no_dialogs.h"
+#include "project/open_project.h"
 
 namespace tarnwick {
 
@@ -46,9 +46,9 @@ class LoadedProject {
   NoDialogs Dialogs;
   NativeScreen Screen;
   ProjectObserver Observer;
-  ContainerHost Container;
+  project::ContainerHost Container;
   ProjectTables Tables;
-  ProjectContext Context{Tables, Files, Messages, Dialogs, Screen, Observer, Container};
+  project::ProjectContext Context{Tables, Files, Messages, Dialogs, Screen, Observer, Container};
 };
 
 }  // namespace tarnwick

@@ -15,8 +15,6 @@ namespace tarnwick {
 
 namespace {
 
-constexpr std::string_view kMessageTitle = "Tarnwick";
-
 /// The events of a layout, a bit each.
 constexpr unsigned long EventBitsOf(Kind kind) {
   unsigned long bits = 0;
@@ -34,11 +32,8 @@ void ReadPlace(std::string_view value, float& twips) {
 
 }  // namespace
 
-FormReader::FormReader(ProjectContext& context, std::string file_name, int target)
-    : context_(context),
-      tables_(context.Tables),
-      file_name_(std::move(file_name)),
-      target_(target) {
+FormReader::FormReader(ProjectTables& tables, std::string file_name, int target)
+    : tables_(tables), file_name_(std::move(file_name)), target_(target) {
   form_ = target_ != 0 ? 0 : tables_.FormsCount;
   if (form_ == 0) {
     nowhere_ = std::make_unique<DesignForm>();
@@ -87,7 +82,7 @@ bool FormReader::ReadForm() {
   } else {
     const std::string list_text = FormListText(scanner_.Name(), file_name_);
     if (tables_.ListaFrms.Holds(list_text)) {
-      context_.Messages.Show(std::string(scanner_.Name()) + " already exist!", kMessageTitle);
+      refused_name_ = scanner_.Name();
       return false;
     }
     const int form = tables_.GrowForms();

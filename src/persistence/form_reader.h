@@ -8,11 +8,19 @@
 #include <string_view>
 #include <type_traits>
 
-#include "persistence/project_reader.h"
+#include "model/project_records.h"
 #include "persistence/record_layouts.h"
 #include "persistence/tag_scanner.h"
 
 namespace tarnwick {
+
+/// What became of a form text.
+enum class FormReadResult {
+  Read,        ///< a form was added
+  NoForm,      ///< the text holds no form record; its objects went to the form before it
+  Refused,     ///< the form is in the project already; nothing further was read
+  Unreadable,  ///< there is no such file, or no such form number; nothing changed
+};
 
 /// Reads one form file, line by line, as if the user had made its objects. A statement that fails
 /// is passed over: what a bad number or a missing tag leaves alone keeps its value.
@@ -20,9 +28,11 @@ class FormReader {
  public:
   /// `file_name` becomes the form's `FileName`. With a `target` the form record is read into that
   /// number, which keeps its list line and its file.
-  FormReader(ProjectContext& context, std::string file_name, int target = 0);
+  FormReader(ProjectTables& tables, std::string file_name, int target = 0);
 
   FormReadResult Read(std::string_view text);
+  /// The name of the form that was refused; "" while none was.
+  [[nodiscard]] const std::string& RefusedName() const noexcept { return refused_name_; }
   /// The number of the form that was read last; 0 when there was none.
   [[nodiscard]] int LastForm() const noexcept { return last_form_; }
 
@@ -75,10 +85,10 @@ class FormReader {
 
   void TellBar(std::string name, Event event);
 
-  ProjectContext& context_;
   ProjectTables& tables_;
   TagScanner scanner_;
   std::string file_name_;
+  std::string refused_name_;
   int target_;
   int form_ = 0;  ///< the form that objects go to: the one with the highest number
   int last_form_ = 0;

@@ -227,4 +227,10 @@ void AppendFormText(std::string& out, const ProjectTables& tables, int form) {
   FormWriter(tables, *window, *record, [&](std::string_view piece) { out += piece; }).Write();
 }
 
+std::string FormFileText(const ProjectTables& tables, int form) {
+  std::string text;
+  AppendFormText(text, tables, form);
+  return text;
+}
+
 }  // namespace tarnwick

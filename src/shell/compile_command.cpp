@@ -9,7 +9,7 @@ void CompileCommand::Run() {
   if (tables.ListaFrms.Empty()) return;
   state_.View.SetArrowPointer(true);
   // By reference: a save on the way may give the project another source file.
-  GenerateProgram(tables, generator_, *this, state_.Ports, tables.SourceFile);
+  project::GenerateProgram(tables, generator_, *this, state_.Ports, tables.SourceFile);
   state_.View.SetArrowPointer(false);
   state_.View.SetStatus(CompileStatus(tables));
 }

@@ -1,14 +1,14 @@
 // Compile and Run.
 #pragma once
 
-#include "codegen/compile_driver.h"
+#include "project/compile.h"
 #include "shell/project_commands.h"
 #include "shell/shell_state.h"
 
 namespace tarnwick {
 
 /// Starts the compile driver and lends it the windows.
-class CompileCommand final : public CompileHost {
+class CompileCommand final : public project::CompileHost {
  public:
   CompileCommand(ShellState& state, ProjectCommands& project) : state_(state), project_(project) {}
 

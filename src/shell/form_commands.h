@@ -2,14 +2,14 @@
 #pragma once
 
 #include "inspector/property_sheet.h"
-#include "persistence/project_context.h"
+#include "project/project_context.h"
 #include "shell/shell_state.h"
 
 namespace tarnwick {
 
 /// The form list and the container in step: whatever is chosen in one is in front in the other,
 /// and is `CurrentForm`.
-class FormCommands final : public ContainerHost {
+class FormCommands final : public project::ContainerHost {
  public:
   FormCommands(ShellState& state, PropertySheet& sheet) : state_(state), sheet_(sheet) {}
 

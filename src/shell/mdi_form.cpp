@@ -57,7 +57,7 @@ struct MDIForm1::Rooms {
   InspectorLink Inspector;
   PropertySheet Sheet;
   FormCommands Forms;
-  ProjectContext Context;
+  project::ProjectContext Context;
   ProjectCommands Project;
   EditCommands Edit;
   CompileCommand Compile;
@@ -243,7 +243,7 @@ ProjectTables& MDIForm1::Tables() noexcept {
   return rooms_->State.Tables;
 }
 
-ProjectContext& MDIForm1::Context() noexcept {
+project::ProjectContext& MDIForm1::Context() noexcept {
   return rooms_->Context;
 }
 

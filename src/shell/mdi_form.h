@@ -9,10 +9,10 @@
 #include "inspector/property_sheet.h"
 #include "model/project_observer.h"
 #include "model/project_records.h"
-#include "persistence/project_context.h"
 #include "persistence/settings.h"
 #include "persistence/support_tables.h"
 #include "platform/ports.h"
+#include "project/project_context.h"
 #include "shell/command_state.h"
 #include "shell/command_table.h"
 #include "shell/events_bar.h"
@@ -81,7 +81,7 @@ class MDIForm1 {
   // What it owns, for the windows of the other rooms.
   [[nodiscard]] ProjectTables& Tables() noexcept;
   /// For whatever reads and writes projects: the tables with the ports.
-  [[nodiscard]] ProjectContext& Context() noexcept;
+  [[nodiscard]] project::ProjectContext& Context() noexcept;
   [[nodiscard]] Settings& SettingsFile() noexcept;
   [[nodiscard]] const SupportTables& Support() const noexcept;
   [[nodiscard]] PropertySheet& Sheet() noexcept;

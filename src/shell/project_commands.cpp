@@ -2,10 +2,11 @@
 
 #include <utility>
 
-#include "persistence/form_files.h"
-#include "persistence/old_project.h"
-#include "persistence/project_reader.h"
-#include "persistence/project_writer.h"
+#include "persistence/project_index.h"
+#include "project/convert_project.h"
+#include "project/form_files.h"
+#include "project/open_project.h"
+#include "project/save_project.h"
 #include "shell/titles.h"
 #include "text/code_page.h"
 #include "text/path_text.h"
@@ -51,7 +52,7 @@ std::optional<std::string> ProjectCommands::ChooseProject(bool old_version) {
 
 std::optional<std::string> ProjectCommands::ReadableProject(std::string path, bool old_version) {
   // The open project goes only when another one is there to take its place.
-  if (old_version) return ConvertOldProject(state_.Ports.Files, path);
+  if (old_version) return project::ConvertOldProject(state_.Ports.Files, path);
   if (!state_.Ports.Files.Read(path)) return std::nullopt;
   return path;
 }
@@ -82,7 +83,7 @@ void ProjectCommands::Take(std::string path) {
   SetProjectFile(tables, std::move(path));
   state_.View.SetTitle(TitleOfOpened(tables.ProjectFile));
   state_.Settings.Write(kProjectFolder, FolderOf(tables.ProjectFile));
-  LoadProject(context_, tables.ProjectFile);
+  project::LoadProject(context_, tables.ProjectFile);
   if (!forms_.HasForm()) forms_.AddFirst();
   forms_.ShowContainer();
   forms_.BringUp(forms_.FirstForm());
@@ -120,7 +121,7 @@ bool ProjectCommands::WriteProject() {
   // What is typed but not taken yet belongs to the project.
   state_.View.CommitPendingEdits();
   state_.Windows.StoreShownCode();
-  return SaveProject(context_, state_.Tables.ProjectFile);
+  return project::SaveProject(context_, state_.Tables.ProjectFile);
 }
 
 bool ProjectCommands::Save() {
@@ -135,7 +136,7 @@ void ProjectCommands::SaveAs() {
 }
 
 bool ProjectCommands::AskFormFile(int form) {
-  const bool chosen = SaveFormDialog(context_, form);
+  const bool chosen = project::SaveFormDialog(context_, form);
   forms_.ShowContainer();
   forms_.BringUp(form);
   return chosen;
@@ -144,8 +145,8 @@ bool ProjectCommands::AskFormFile(int form) {
 void ProjectCommands::WriteForm(int form) {
   state_.View.CommitPendingEdits();
   state_.Windows.StoreShownCode();
-  WriteFormFile(context_, form);
-  RefreshFormListEntry(context_, form);
+  project::WriteFormFile(context_, form);
+  project::RefreshFormListEntry(context_, form);
   state_.Observer.FormListChanged();
 }
 
@@ -163,7 +164,7 @@ void ProjectCommands::SaveFormAs() {
   const int form = window->Number();
   if (!AskFormFile(form)) return;
   WriteForm(form);
-  state_.Ports.Files.Replace(state_.Tables.ProjectFile, ShortProjectFileText(state_.Tables));
+  state_.Ports.Files.Replace(state_.Tables.ProjectFile, ShortProjectIndexText(state_.Tables));
 }
 
 bool ProjectCommands::MayClose() {

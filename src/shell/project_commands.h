@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "persistence/project_context.h"
+#include "project/project_context.h"
 #include "shell/form_commands.h"
 #include "shell/shell_state.h"
 
@@ -14,7 +14,7 @@ namespace tarnwick {
 /// Nothing tracks edits, so after a save neither New nor the closing asks.
 class ProjectCommands {
  public:
-  ProjectCommands(ShellState& state, ProjectContext& context, FormCommands& forms)
+  ProjectCommands(ShellState& state, project::ProjectContext& context, FormCommands& forms)
       : state_(state), context_(context), forms_(forms) {}
 
   /// Asks about saving, then starts a project of one empty form.
@@ -51,7 +51,7 @@ class ProjectCommands {
   void Take(std::string path);
 
   ShellState& state_;
-  ProjectContext& context_;
+  project::ProjectContext& context_;
   FormCommands& forms_;
 };
 

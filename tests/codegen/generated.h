@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "codegen/compile_driver.h"
+#include "codegen/program_source.h"
 #include "support/project_builder.h"
 #include "text/strings.h"
 

@@ -15,13 +15,15 @@
 
 #include <gtest/gtest.h>
 
-#include "codegen/compile_driver.h"
+#include "codegen/program_source.h"
 #include "fakes/build_paths.h"
 #include "fakes/fake_ports.h"
 #include "fakes/memory_files.h"
-#include "persistence/old_project.h"
-#include "persistence/project_reader.h"
-#include "persistence/project_writer.h"
+#include "persistence/form_writer.h"
+#include "persistence/project_index.h"
+#include "project/convert_project.h"
+#include "project/open_project.h"
+#include "project/save_project.h"
 #include "text/path_text.h"
 #include "text/strings.h"
 
@@ -71,7 +73,7 @@ class Example {
   /// Reads the project of this name; no message may come.
   void Load(const std::string& project) {
     Tables.ProjectFile = Folder + project;
-    ASSERT_TRUE(LoadProject(Context, Tables.ProjectFile));
+    ASSERT_TRUE(project::LoadProject(Context, Tables.ProjectFile));
     EXPECT_EQ(Log.Count("show "), 0U);
   }
 
@@ -87,9 +89,9 @@ class Example {
   FakeDialogs Dialogs{Log};
   FakeScreen Screen;
   ProjectObserver Observer;
-  ContainerHost Container;
+  project::ContainerHost Container;
   ProjectTables Tables;
-  ProjectContext Context{Tables, Files, Messages, Dialogs, Screen, Observer, Container};
+  project::ProjectContext Context{Tables, Files, Messages, Dialogs, Screen, Observer, Container};
 };
 
 /// The folders with a project of the present format, by name; the project is named as the folder.
@@ -114,7 +116,7 @@ TEST_P(ExampleProject, GeneratesTheExpectedSource) {
 TEST_P(ExampleProject, ComesBackByteForByteFromASave) {
   Example example(kExamples / GetParam());
   example.Load(GetParam() + ".tnp");
-  EXPECT_EQ(ProjectFileText(example.Tables),
+  EXPECT_EQ(ProjectIndexText(example.Tables, FolderOf(example.Tables.ProjectFile)),
             BytesOf(kExamples / GetParam() / (GetParam() + ".tnp")));
   for (int form = 1; form <= example.Tables.FormsCount; ++form) {
     const std::string name(BareName(example.Tables.Form(form)->FileName));
@@ -173,7 +175,7 @@ TEST(Examples, EachFolderWithAProjectIsFound) {
 
 TEST(OldExample, IsConvertedToAProjectOfOneForm) {
   Example example(kExamples / "old");
-  const auto project = ConvertOldProject(example.Files, example.Folder + "notes.ptn");
+  const auto project = project::ConvertOldProject(example.Files, example.Folder + "notes.ptn");
   ASSERT_EQ(project, example.Folder + "notes.tnp");
   ExpectSameText(*example.Files.Bytes(*project), kExpected / "notes.tnp");
   ExpectSameText(*example.Files.Bytes(example.Folder + "notes.ftn"), kExpected / "notes.ftn");
@@ -181,7 +183,7 @@ TEST(OldExample, IsConvertedToAProjectOfOneForm) {
 
 TEST(OldExample, GeneratesTheExpectedSourceWhenConverted) {
   Example example(kExamples / "old");
-  ASSERT_TRUE(ConvertOldProject(example.Files, example.Folder + "notes.ptn"));
+  ASSERT_TRUE(project::ConvertOldProject(example.Files, example.Folder + "notes.ptn"));
   example.Load("notes.tnp");
   ExpectSameText(example.Source(), kExpected / "notes.com");
 }

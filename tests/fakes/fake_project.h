@@ -6,15 +6,16 @@
 
 #include "fakes/call_log.h"
 #include "fakes/fake_ports.h"
-#include "persistence/project_context.h"
-#include "persistence/project_reader.h"
-#include "persistence/project_writer.h"
+#include "persistence/form_writer.h"
+#include "project/open_project.h"
+#include "project/project_context.h"
+#include "project/save_project.h"
 #include "support/project_builder.h"
 
 namespace tarnwick::test {
 
 /// Log entries: "hide", "container", "activate N".
-class FakeContainer final : public ContainerHost {
+class FakeContainer final : public project::ContainerHost {
  public:
   explicit FakeContainer(CallLog& log) : log_(&log) {}
   void HideContainer() override { log_->Add("hide"); }
@@ -50,8 +51,8 @@ struct FakeProject {
   ProjectTables& Tables = Builder.Tables;
   FakeContainer Container{Ports.Log};
   FakeObserver Observer{Ports.Log};
-  ProjectContext Context{Tables,       Ports.Files, Ports.Messages, Ports.Dialogs,
-                         Ports.Screen, Observer,    Container};
+  project::ProjectContext Context{Tables,       Ports.Files, Ports.Messages, Ports.Dialogs,
+                                  Ports.Screen, Observer,    Container};
 
   FakeProject() = default;
   FakeProject(const FakeProject&) = delete;
@@ -60,7 +61,7 @@ struct FakeProject {
   /// Lays down an index of the given text and loads it.
   bool LoadIndex(std::string index) {
     Ports.Files.Put(Tables.ProjectFile, std::move(index));
-    return LoadProject(Context, Tables.ProjectFile);
+    return project::LoadProject(Context, Tables.ProjectFile);
   }
   /// Lays down one form file and an index that names it, and loads that.
   bool Load(std::string form_text) {

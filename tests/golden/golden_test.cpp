@@ -13,10 +13,11 @@
 
 #include <gtest/gtest.h>
 
-#include "codegen/compile_driver.h"
+#include "codegen/program_source.h"
 #include "fakes/build_paths.h"
 #include "fakes/fake_project.h"
-#include "persistence/old_project.h"
+#include "persistence/project_index.h"
+#include "project/convert_project.h"
 #include "text/path_text.h"
 #include "text/strings.h"
 
@@ -61,13 +62,14 @@ Files ResultsOf(const Files& input) {
   for (const auto& [name, bytes] : input) project.Ports.Files.Put("C:\\Work\\" + name, bytes);
   if (const std::string old = FileOf(input, ".ptn"); !old.empty()) {
     project.Tables.ProjectFile =
-        ConvertOldProject(project.Ports.Files, "C:\\Work\\" + old).value_or("");
+        project::ConvertOldProject(project.Ports.Files, "C:\\Work\\" + old).value_or("");
   } else {
     project.Tables.ProjectFile = "C:\\Work\\" + FileOf(input, ".tnp");
   }
-  LoadProject(project.Context, project.Tables.ProjectFile);
+  project::LoadProject(project.Context, project.Tables.ProjectFile);
   Files results;
-  results[std::string(BareName(project.Tables.ProjectFile))] = ProjectFileText(project.Tables);
+  results[std::string(BareName(project.Tables.ProjectFile))] =
+      ProjectIndexText(project.Tables, FolderOf(project.Tables.ProjectFile));
   for (int form = 1; form <= project.Tables.FormsCount; ++form) {
     const std::string file(BareName(project.Form(form).FileName));
     results[file.empty() ? "form" + std::to_string(form) + ".ftn" : file] = project.Saved(form);

@@ -437,7 +437,7 @@ TEST(FormReader, AFormThatIsThereAlreadyIsRefusedAndTheFileReadNoFurther) {
   FakeProject project;
   project.Load(WithForm("[Button](1) {A}\r\n"));
   project.Ports.Files.Put("C:\\Other\\A.FTN", "[Form](1) {f}\r\n[Button](1) {B}\r\n");
-  EXPECT_EQ(ReadFormFile(project.Context, "C:\\Other\\A.FTN"), FormReadResult::Refused);
+  EXPECT_EQ(project::ReadFormFile(project.Context, "C:\\Other\\A.FTN"), FormReadResult::Refused);
   EXPECT_EQ(project.Ports.Log.Count("show f already exist!"), 1U);
   EXPECT_EQ(project.Tables.FormsCount, 1);
   EXPECT_EQ(project.User().UBound(Kind::Button), 1);
@@ -457,14 +457,15 @@ TEST(FormReader, WithoutAFormRecordObjectsGoToTheFormBefore) {
   FakeProject project;
   project.Load(WithForm(""));
   project.Ports.Files.Put("C:\\Work\\b.ftn", "[Button](1) {B}\r\n");
-  EXPECT_EQ(ReadFormFile(project.Context, "C:\\Work\\b.ftn"), FormReadResult::NoForm);
+  EXPECT_EQ(project::ReadFormFile(project.Context, "C:\\Work\\b.ftn"), FormReadResult::NoForm);
   EXPECT_EQ(project.Control(Kind::Button).Tag, "B");
 }
 
 TEST(FormReader, AFileThatCannotBeReadChangesNothing) {
   FakeProject project;
   project.Load(WithForm(""));
-  EXPECT_EQ(ReadFormFile(project.Context, "C:\\Work\\none.ftn"), FormReadResult::Unreadable);
+  EXPECT_EQ(project::ReadFormFile(project.Context, "C:\\Work\\none.ftn"),
+            FormReadResult::Unreadable);
   EXPECT_EQ(project.Tables.FormsCount, 1);
 }
 
@@ -473,7 +474,7 @@ TEST(FormReader, TheLoadingMarkIsTakenBackAtTheEnd) {
   project.Load(WithForm(""));
   EXPECT_EQ(project.Tables.LoadingProject, 0);
   project.Ports.Files.Put("C:\\Work\\b.ftn", "[Form](1) {G}\r\n");
-  ReadFormFile(project.Context, "C:\\Work\\b.ftn");
+  project::ReadFormFile(project.Context, "C:\\Work\\b.ftn");
   EXPECT_EQ(project.Tables.LoadingProject, 0);
 }
 
@@ -481,9 +482,9 @@ TEST(FormReader, ReadingBackIntoANumberKeepsListFileAndCount) {
   FakeProject project;
   project.Load(WithForm("[Button](1) {A}\r\n"));
   project.Tables.CurrentForm = &project.User();
-  EXPECT_EQ(
-      ReadFormTextInto(project.Context, "[Form](1) {New} Width<50>Width\r\n[Label](1) {L}\r\n", 1),
-      FormReadResult::Read);
+  EXPECT_EQ(project::ReadFormTextInto(project.Context,
+                                      "[Form](1) {New} Width<50>Width\r\n[Label](1) {L}\r\n", 1),
+            FormReadResult::Read);
   EXPECT_EQ(project.Tables.FormsCount, 1);
   EXPECT_EQ(project.Tables.ListaFrms.Lines().size(), 1U);
   EXPECT_EQ(project.Form().FileName, "C:\\Work\\a.ftn");
@@ -497,9 +498,11 @@ TEST(FormReader, ATextWithoutAFormLeavesTheLiveFormAsItWas) {
   FakeProject project;
   project.Load(WithForm("[Button](1) {A} Cursor<4>Cursor\r\n"));
   const std::string before = project.Saved();
-  EXPECT_EQ(ReadFormTextInto(project.Context, "[Label](1) {L}\r\n", 1), FormReadResult::NoForm);
+  EXPECT_EQ(project::ReadFormTextInto(project.Context, "[Label](1) {L}\r\n", 1),
+            FormReadResult::NoForm);
   EXPECT_EQ(project.Saved(), before);
-  EXPECT_EQ(ReadFormTextInto(project.Context, "[Form](1) {L}\r\n", 2), FormReadResult::Unreadable);
+  EXPECT_EQ(project::ReadFormTextInto(project.Context, "[Form](1) {L}\r\n", 2),
+            FormReadResult::Unreadable);
   EXPECT_EQ(project.Saved(), before);
 }
 

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/fake_project.h"
+#include "project/convert_project.h"
 
 namespace tarnwick::test {
 namespace {
@@ -64,7 +65,8 @@ TEST(OldProject, EveryLineIsWrittenInOrderTheLastEmptyOneToo) {
 TEST(OldProject, ConvertingWritesAProjectOfOneFormBesideTheOldFile) {
   FakeProject project;
   project.Ports.Files.Put("C:\\Work\\old.ptn", "[Form](F)\r\n");
-  EXPECT_EQ(ConvertOldProject(project.Ports.Files, "C:\\Work\\old.ptn"), "C:\\Work\\old.tnp");
+  EXPECT_EQ(project::ConvertOldProject(project.Ports.Files, "C:\\Work\\old.ptn"),
+            "C:\\Work\\old.tnp");
   EXPECT_EQ(project.Ports.Files.Bytes("C:\\Work\\old.tnp"),
             "1\x95old.ftn\r\nMF##Form (old.ftn)\r\n");
   EXPECT_EQ(project.Ports.Files.Bytes("C:\\Work\\old.ftn"), "[Form] {F} \r\n\r\n");
@@ -74,7 +76,7 @@ TEST(OldProject, ConvertingWritesAProjectOfOneFormBesideTheOldFile) {
 TEST(OldProject, APathWithADotInAFolderIsCutThere) {
   FakeProject project;
   project.Ports.Files.Put("C:\\v1.0\\old.ptn", "[Form](F)\r\n");
-  EXPECT_EQ(ConvertOldProject(project.Ports.Files, "C:\\v1.0\\old.ptn"), "C:\\v1.tnp");
+  EXPECT_EQ(project::ConvertOldProject(project.Ports.Files, "C:\\v1.0\\old.ptn"), "C:\\v1.tnp");
   EXPECT_TRUE(project.Ports.Files.Exists("C:\\v1.ftn"));
 }
 
@@ -82,7 +84,7 @@ TEST(OldProject, AnExistingFormFileIsOverwrittenWithoutAsking) {
   FakeProject project;
   project.Ports.Files.Put("C:\\Work\\old.ptn", "[Form](F)\r\n");
   project.Ports.Files.Put("C:\\Work\\old.ftn", "mine");
-  ConvertOldProject(project.Ports.Files, "C:\\Work\\old.ptn");
+  project::ConvertOldProject(project.Ports.Files, "C:\\Work\\old.ptn");
   EXPECT_NE(project.Ports.Files.Bytes("C:\\Work\\old.ftn"), "mine");
   EXPECT_EQ(project.Ports.Log.Count("ask"), 0U);
 }
@@ -92,10 +94,11 @@ TEST(OldProject, AFileThatCannotBeReadOrWrittenGivesNothing) {
     FakeProject project;
     project.Ports.Files.Put("C:\\Work\\old.ptn", "[Form](F)\r\n");
     project.Ports.Files.FailAtStep(step);
-    EXPECT_EQ(ConvertOldProject(project.Ports.Files, "C:\\Work\\old.ptn"), std::nullopt) << step;
+    EXPECT_EQ(project::ConvertOldProject(project.Ports.Files, "C:\\Work\\old.ptn"), std::nullopt)
+        << step;
   }
   FakeProject project;
-  EXPECT_EQ(ConvertOldProject(project.Ports.Files, "C:\\Work\\none.ptn"), std::nullopt);
+  EXPECT_EQ(project::ConvertOldProject(project.Ports.Files, "C:\\Work\\none.ptn"), std::nullopt);
   EXPECT_EQ(project.Ports.Files.Count(), 0U);
 }
 
@@ -109,8 +112,8 @@ TEST(OldProject, AConvertedProjectOpens) {
                           "[MenuItem](Item(mnuNew) Click<n>Click\r\n"
                           "[DeclarePbl] String<Dim x>String\r\n");
   project.Tables.ProjectFile =
-      ConvertOldProject(project.Ports.Files, "C:\\Work\\old.ptn").value_or("");
-  ASSERT_TRUE(LoadProject(project.Context, project.Tables.ProjectFile));
+      project::ConvertOldProject(project.Ports.Files, "C:\\Work\\old.ptn").value_or("");
+  ASSERT_TRUE(project::LoadProject(project.Context, project.Tables.ProjectFile));
   EXPECT_EQ(project.Form().Name, "Main");
   EXPECT_EQ(project.Form().Width, 50);
   EXPECT_EQ(project.Tables.MainFormName, "Form (old.ftn)");

@@ -14,8 +14,8 @@
 
 #include <gtest/gtest.h>
 
-#include "codegen/compile_driver.h"
 #include "codegen/generator_state.h"
+#include "codegen/program_source.h"
 #include "program.h"
 #include "qt/grid/property_panel.h"
 

@@ -8,11 +8,12 @@
 #include <string_view>
 #include <vector>
 
-#include "codegen/compile_driver.h"
 #include "codegen/generator_state.h"
+#include "codegen/program_source.h"
 #include "fakes/build_paths.h"
 #include "inspector/form_add_items.h"
 #include "inspector/row_bindings.h"
+#include "project/compile.h"
 #include "shell/shell_fixture.h"
 
 namespace tarnwick {
@@ -75,7 +76,7 @@ class Bench final : public ShellTest {
     return GenerateSource(tables(), state);
   }
   [[nodiscard]] std::string CompilerCommand() {
-    return CompilerCommandLine(tables(), ports.Files, "Z:\\p\\round.com");
+    return project::CompilerCommandLine(tables(), ports.Files, "Z:\\p\\round.com");
   }
   [[nodiscard]] int RowOf(std::string_view name) {
     for (int row = 0; row < Sheet().RowCount(); ++row) {

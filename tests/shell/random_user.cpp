@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "designer/tool_box.h"
-#include "persistence/project_writer.h"
+#include "project/save_project.h"
 #include "text/numbers.h"
 
 namespace tarnwick {

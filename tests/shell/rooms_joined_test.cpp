@@ -1,5 +1,5 @@
 // Design surface, property sheet and main window as they work on each other.
-#include "persistence/project_reader.h"
+#include "project/open_project.h"
 #include "shell/shell_fixture.h"
 
 namespace tarnwick {
@@ -147,7 +147,7 @@ TEST_F(RoomsJoinedTest, AFormReadBackIntoItsNumberGetsANewSurface) {
   Place(0, 20, 30);
   const std::string text =
       "[Form](1) {Form1}  Left<0>Left  Top<0>Top  Width<300>Width  Height<200>Height\r\n";
-  ReadFormTextInto(main.Context(), text, 1);
+  project::ReadFormTextInto(main.Context(), text, 1);
   ASSERT_NE(main.CurrentUser(), nullptr);
   EXPECT_EQ(&main.CurrentUser()->Form(), tables().UserIfAny(1));
   EXPECT_FALSE(form().HasObjects(Kind::Button));

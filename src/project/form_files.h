@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "persistence/project_context.h"
+#include "project/project_context.h"
 
-namespace tarnwick {
+namespace tarnwick::project {
 
 /// Asks for the file of a form and stores it in `FileName`, ".ftn" added where it lacks it. An
 /// existing file is asked about first. False when the dialog is cancelled: nothing changed.
@@ -13,4 +13,4 @@ bool SaveFormDialog(ProjectContext& context, int form);
 /// Gives the form's line in the form list its present name and file.
 void RefreshFormListEntry(ProjectContext& context, int form);
 
-}  // namespace tarnwick
+}  // namespace tarnwick::project

@@ -1,4 +1,4 @@
-#include "persistence/form_files.h"
+#include "project/form_files.h"
 
 #include <string>
 #include <vector>
@@ -8,6 +8,9 @@
 #include "fakes/fake_project.h"
 
 namespace tarnwick::test {
+
+using namespace project;
+
 namespace {
 
 using Log = std::vector<std::string>;

@@ -1,4 +1,4 @@
-#include "persistence/project_reader.h"
+#include "project/open_project.h"
 
 #include <string>
 #include <vector>
@@ -8,6 +8,9 @@
 #include "fakes/fake_project.h"
 
 namespace tarnwick::test {
+
+using namespace project;
+
 namespace {
 
 using Log = std::vector<std::string>;

@@ -4,18 +4,24 @@
 
 #include <gtest/gtest.h>
 
-#include "codegen/compile_driver.h"
+#include "codegen/program_source.h"
 #include "fakes/fake_project.h"
+#include "persistence/project_index.h"
 #include "support/random_project.h"
+#include "text/path_text.h"
 #include "text/strings.h"
 
 namespace tarnwick::test {
+
+using namespace project;
+
 namespace {
 
 constexpr std::uint32_t kSeeds = 300;
 
 std::vector<std::string> Texts(const FakeProject& project) {
-  std::vector<std::string> texts{ProjectFileText(project.Tables)};
+  std::vector<std::string> texts{
+      ProjectIndexText(project.Tables, FolderOf(project.Tables.ProjectFile))};
   for (int form = 1; form <= project.Tables.FormsCount; ++form) {
     texts.push_back(project.Saved(form));
   }

@@ -1,22 +1,13 @@
-// From the open project to a source text and a running compiler.
+// "Compile and Run": save, generate, write the source, start the compiler.
 #pragma once
 
 #include <string>
 
 #include "codegen/generator_state.h"
-#include "codegen/source_text.h"
 #include "model/project_records.h"
 #include "platform/ports.h"
 
-namespace tarnwick {
-
-/// The generated program as one text, its calls of Show rewritten, as the source file holds it.
-/// Reads the tables; nothing in them changes but design windows that come into being on first
-/// touch. `state` goes on from one compilation to the next.
-[[nodiscard]] std::string GenerateSource(ProjectTables& tables, GeneratorState& state);
-
-/// The same text handed on piece by piece, so that a long one is at no time there as a whole.
-void WriteSource(ProjectTables& tables, GeneratorState& state, const TextSink& sink);
+namespace tarnwick::project {
 
 /// A main form that was removed gives way to the first form of the list.
 void CheckMainForm(ProjectTables& tables);
@@ -25,8 +16,8 @@ void CheckMainForm(ProjectTables& tables);
 [[nodiscard]] std::string CompilerCommandLine(const ProjectTables& tables, FilePort& files,
                                               const std::string& source_file);
 
-/// The windows around a compilation, as far as it moves them. Nothing here answers anything: a
-/// host without windows leaves them all empty.
+/// The windows around a compilation, as far as it moves them. No method fails; a host
+/// without windows leaves them all empty.
 class CompileHost {
  public:
   CompileHost() = default;
@@ -50,4 +41,4 @@ class CompileHost {
 void GenerateProgram(ProjectTables& tables, GeneratorState& state, CompileHost& host,
                      const Ports& ports, const std::string& source_file);
 
-}  // namespace tarnwick
+}  // namespace tarnwick::project

@@ -1,11 +1,11 @@
-#include "persistence/form_files.h"
+#include "project/form_files.h"
 
 #include <optional>
 
 #include "text/code_page.h"
 #include "text/path_text.h"
 
-namespace tarnwick {
+namespace tarnwick::project {
 
 namespace {
 
@@ -40,4 +40,4 @@ void RefreshFormListEntry(ProjectContext& context, int form) {
   context.Tables.ListaFrms.SetText(form, FormListText(record->Name, record->FileName));
 }
 
-}  // namespace tarnwick
+}  // namespace tarnwick::project

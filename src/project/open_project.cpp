@@ -1,19 +1,15 @@
-#include "persistence/project_reader.h"
+#include "project/open_project.h"
 
 #include <optional>
 #include <utility>
 
 #include "model/new_form.h"
-#include "persistence/form_reader.h"
-#include "text/code_page.h"
+#include "persistence/project_index.h"
 #include "text/path_text.h"
-#include "text/strings.h"
 
-namespace tarnwick {
+namespace tarnwick::project {
 
 namespace {
-
-constexpr std::string_view kMainFormMark = "MF##";
 
 void CloseAll(ProjectContext& context) {
   for (int form = 1; form <= context.Tables.FormsCount; ++form) {
@@ -21,13 +17,6 @@ void CloseAll(ProjectContext& context) {
   }
   context.Tables.Reset();
   context.Observer.FormListChanged();
-}
-
-/// The path of a form named in a line of the index. A line without a number is a bare name.
-std::string FormPathOf(const ProjectTables& tables, std::string_view line) {
-  const std::size_t mark = line.find(kStoredLineBreak);
-  if (mark != std::string_view::npos) line.remove_prefix(mark + 1);
-  return ResolveProjectPath(tables, line, true);
 }
 
 void ReadListedForm(ProjectContext& context, const std::string& path) {
@@ -51,8 +40,11 @@ FormReadResult ReadFormFile(ProjectContext& context, const std::string& path) {
   const std::optional<std::string> text = context.Files.Read(path);
   if (!text) return FormReadResult::Unreadable;
   const int first = context.Tables.FormsCount + 1;
-  FormReader reader(context, path);
+  FormReader reader(context.Tables, path);
   const FormReadResult result = reader.Read(*text);
+  if (result == FormReadResult::Refused) {
+    context.Messages.Show(reader.RefusedName() + " already exist!", "Tarnwick");
+  }
   TellRead(context, first);
   return result;
 }
@@ -71,7 +63,7 @@ FormReadResult ReadFormTextInto(ProjectContext& context, std::string_view text, 
   record->FileName = old_record.FileName;
   record->Removed = old_record.Removed;
 
-  FormReader reader(context, old_record.FileName, form);
+  FormReader reader(tables, old_record.FileName, form);
   const FormReadResult result = reader.Read(text);
   if (result != FormReadResult::Read) {
     tables.FormsUser[slot] = std::move(old_window);
@@ -92,24 +84,19 @@ bool LoadProject(ProjectContext& context, const std::string& path) {
   context.Container.HideContainer();
   tables.LoadingProject = 1;
   CloseAll(context);
-  bool main_form_named = false;
-  for (const std::string_view line : Split(*text, "\r\n")) {
-    if (line.empty()) continue;
-    if (line.starts_with(kMainFormMark)) {
-      tables.MainFormName = line.substr(kMainFormMark.size());
-      main_form_named = true;
-    } else {
-      ReadListedForm(context, FormPathOf(tables, line));
-    }
+  const ProjectIndex index = ReadProjectIndex(*text);
+  for (const std::string_view file : index.FormFiles) {
+    ReadListedForm(context, ResolveProjectPath(tables, file, true));
   }
+  if (index.MainForm) tables.MainFormName = *index.MainForm;
   if (tables.FormsCount == 0) {
     std::string named = tables.MainFormName;
     AddForm(tables);
-    if (main_form_named) tables.MainFormName = std::move(named);
+    if (index.MainForm) tables.MainFormName = std::move(named);
     TellRead(context, 1);
   }
   // The main form is named behind the forms, which the list has shown by now.
-  if (main_form_named) context.Observer.FormListChanged();
+  if (index.MainForm) context.Observer.FormListChanged();
   tables.CurrentForm = tables.User(1);
   context.Container.ActivateForm(1);
   context.Container.ShowContainer();
@@ -118,4 +105,4 @@ bool LoadProject(ProjectContext& context, const std::string& path) {
   return true;
 }
 
-}  // namespace tarnwick
+}  // namespace tarnwick::project

@@ -1,4 +1,4 @@
-#include "persistence/project_writer.h"
+#include "project/save_project.h"
 
 #include <string>
 #include <vector>
@@ -6,8 +6,13 @@
 #include <gtest/gtest.h>
 
 #include "fakes/fake_project.h"
+#include "persistence/project_index.h"
+#include "text/path_text.h"
 
 namespace tarnwick::test {
+
+using namespace project;
+
 namespace {
 
 using Log = std::vector<std::string>;
@@ -25,7 +30,7 @@ TEST(ProjectWriter, TheIndexListsEachFormThenTheMainForm) {
   FakeProject project;
   AddForms(project, 2);
   project.Tables.MainFormName = "Form2 (f2.ftn)";
-  EXPECT_EQ(ProjectFileText(project.Tables),
+  EXPECT_EQ(ProjectIndexText(project.Tables, FolderOf(project.Tables.ProjectFile)),
             "1\x95"
             "f1.ftn\r\n2\x95"
             "f2.ftn\r\nMF##Form2 (f2.ftn)\r\n");
@@ -35,7 +40,7 @@ TEST(ProjectWriter, ARemovedFormHasNoLineAndTheNumbersKeepTheirGaps) {
   FakeProject project;
   AddForms(project, 3);
   project.Builder.Form(2).Remove();
-  EXPECT_EQ(ProjectFileText(project.Tables),
+  EXPECT_EQ(ProjectIndexText(project.Tables, FolderOf(project.Tables.ProjectFile)),
             "1\x95"
             "f1.ftn\r\n3\x95"
             "f3.ftn\r\nMF##Form1 ()\r\n");
@@ -49,7 +54,7 @@ TEST(ProjectWriter, AFormInTheProjectsFolderIsBareAndOneElsewhereIsNamedInFull) 
   project.Form(1).FileName = "c:\\WORK\\One.ftn";
   project.Form(2).FileName = "C:\\Work\\sub\\two.ftn";
   project.Form(3).FileName = "C:\\three.ftn";
-  EXPECT_EQ(ProjectFileText(project.Tables),
+  EXPECT_EQ(ProjectIndexText(project.Tables, FolderOf(project.Tables.ProjectFile)),
             "1\x95One.ftn\r\n2\x95"
             "C:\\Work\\sub\\two.ftn\r\n3\x95"
             "C:\\three.ftn\r\n"
@@ -69,7 +74,7 @@ TEST(ProjectWriter, TheShortIndexNamesEveryFormInFullAndNothingElse) {
   FakeProject project;
   AddForms(project, 2);
   project.Builder.Form(1).Remove();
-  EXPECT_EQ(ShortProjectFileText(project.Tables), "C:\\Work\\f1.ftn\r\nC:\\Work\\f2.ftn\r\n");
+  EXPECT_EQ(ShortProjectIndexText(project.Tables), "C:\\Work\\f1.ftn\r\nC:\\Work\\f2.ftn\r\n");
 }
 
 TEST(ProjectWriter, SavingGoesThroughItsStepsInOrder) {

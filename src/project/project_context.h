@@ -5,7 +5,7 @@
 #include "model/project_records.h"
 #include "platform/ports.h"
 
-namespace tarnwick {
+namespace tarnwick::project {
 
 /// The container of the design windows, as far as saving and reading touch it.
 class ContainerHost {
@@ -33,4 +33,4 @@ struct ProjectContext {
   ContainerHost& Container;
 };
 
-}  // namespace tarnwick
+}  // namespace tarnwick::project

@@ -1,0 +1,82 @@
+#include "project/compile.h"
+
+#include "codegen/program_source.h"
+#include "text/code_page.h"
+
+namespace tarnwick::project {
+
+namespace {
+
+void SetFormVisible(CompileHost& host, DesignForm* form, bool visible) {
+  if (form == nullptr) return;
+  form->Visible = visible;
+  host.ShowDesignForm(*form, visible);
+}
+
+std::string InQuotes(std::string_view text) {
+  return std::string(1, '"').append(text).append(1, '"');
+}
+
+}  // namespace
+
+void CheckMainForm(ProjectTables& tables) {
+  for (int i = 1; i <= tables.FormsCount; ++i) {
+    const FormRec* form = tables.Form(i);
+    if (form == nullptr || form->Removed != 1 || form->Name != FormListName(tables.MainFormName)) {
+      continue;
+    }
+    if (!tables.ListaFrms.Empty()) tables.MainFormName = tables.ListaFrms.Lines().front().Text;
+    return;
+  }
+}
+
+std::string CompilerCommandLine(const ProjectTables& tables, FilePort& files,
+                                const std::string& source_file) {
+  static const FormRec empty{};
+  const FormRec* first = tables.Form(1);
+  // The icon is that of form 1 whatever the main form is.
+  const std::string& icon_file = (first == nullptr ? empty : *first).IconFile;
+  const std::string icon = files.ShortPathOf(
+      icon_file != kDefaultFile ? icon_file : tables.ProgramFolder + "\\IconApp.ico");
+
+  constexpr std::string_view kEnding = ".com";
+  std::string source = files.ShortPathOf(source_file);
+  const bool ends =
+      source.size() >= kEnding.size() &&
+      EqualsFolded(std::string_view(source).substr(source.size() - kEnding.size()), kEnding);
+  if (!ends) source += kEnding;
+  // The first dot of the whole path: a dot in a folder's name cuts there.
+  const std::string target = source.substr(0, source.find('.') + 1) + "EXE";
+
+  return tables.ProgramFolder + "\\Rc.exe /COMPILE  " + InQuotes(icon) + ' ' + InQuotes(source) +
+         ' ' + InQuotes(target) + ' ' + InQuotes(tables.ExeFile);
+}
+
+void GenerateProgram(ProjectTables& tables, GeneratorState& state, CompileHost& host,
+                     const Ports& ports, const std::string& source_file) {
+  // How far below the screen the container waits while the forms are read.
+  constexpr int kBelowScreen = 1000;
+
+  CheckMainForm(tables);
+  host.SaveProject();
+
+  host.HideContainer();
+  host.MoveContainer(ports.Screen.HeightPixels() + kBelowScreen);
+  host.ShowContainer();
+  SetFormVisible(host, tables.CurrentForm, false);
+
+  const std::string text = GenerateSource(tables, state);
+  for (int i = 1; i <= tables.FormsCount; ++i) {
+    if (tables.IsLive(i)) SetFormVisible(host, tables.User(i), false);
+  }
+  ports.Files.Replace(source_file, text);
+
+  host.HideContainer();
+  host.MoveContainer(0);
+  SetFormVisible(host, tables.CurrentForm, true);
+  host.ShowContainer();
+
+  ports.Processes.StartHidden(CompilerCommandLine(tables, ports.Files, source_file));
+}
+
+}  // namespace tarnwick::project

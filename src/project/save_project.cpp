@@ -1,0 +1,50 @@
+#include "project/save_project.h"
+
+#include "persistence/form_writer.h"
+#include "persistence/project_index.h"
+#include "project/form_files.h"
+#include "text/path_text.h"
+
+namespace tarnwick::project {
+
+namespace {
+
+/// Writes a form's file; `text` is where it is put together.
+bool WriteForm(ProjectContext& context, int form, std::string& text) {
+  const FormRec* record = context.Tables.Form(form);
+  if (form < 1 || record == nullptr || record->FileName.empty()) return false;
+  context.Tables.User(form);
+  context.Screen.Yield();
+  text.clear();
+  AppendFormText(text, context.Tables, form);
+  return context.Files.Replace(record->FileName, text);
+}
+
+}  // namespace
+
+bool WriteFormFile(ProjectContext& context, int form) {
+  std::string text;
+  return WriteForm(context, form, text);
+}
+
+bool SaveProject(ProjectContext& context, const std::string& path) {
+  ProjectTables& tables = context.Tables;
+  bool saved = true;
+  context.Container.HideContainer();
+  DesignForm* const active = tables.CurrentForm;
+  std::string text;  // one for all forms: the memory for it is asked for once
+  for (int form = 1; form <= tables.FormsCount; ++form) {
+    if (!tables.IsLive(form)) continue;
+    context.Container.ActivateForm(form);
+    if (tables.Form(form)->FileName.empty()) SaveFormDialog(context, form);
+    saved = WriteForm(context, form, text) && saved;
+    RefreshFormListEntry(context, form);
+  }
+  saved = context.Files.Replace(path, ProjectIndexText(tables, FolderOf(path))) && saved;
+  context.Container.ShowContainer();
+  if (active != nullptr) context.Container.ActivateForm(active->Number());
+  context.Observer.FormListChanged();
+  return saved;
+}
+
+}  // namespace tarnwick::project
