@@ -2,7 +2,7 @@
 
 #include "persistence/form_writer.h"
 #include "persistence/project_index.h"
-#include "project/form_files.h"
+#include "project/save_dialogs.h"
 #include "text/path_text.h"
 
 namespace tarnwick::project {

@@ -4,8 +4,8 @@
 
 #include "persistence/project_index.h"
 #include "project/convert_project.h"
-#include "project/form_files.h"
 #include "project/open_project.h"
+#include "project/save_dialogs.h"
 #include "project/save_project.h"
 #include "shell/titles.h"
 #include "text/code_page.h"
@@ -92,24 +92,9 @@ void ProjectCommands::Take(std::string path) {
   state_.EnableCommands(true);
 }
 
-std::optional<std::string> ProjectCommands::AskProjectPath() {
-  const FileDialogRequest request{"Save Project", "Tarnwick Project|*.tnp|All Files|*.*",
-                                  state_.Tables.ProjectFolder(),
-                                  std::string(BareName(state_.Tables.ProjectFile))};
-  for (;;) {
-    std::optional<std::string> chosen = state_.Ports.Dialogs.SaveFile(request);
-    if (!chosen || chosen->empty()) return std::nullopt;
-    if (!state_.Ports.Files.Exists(*chosen) ||
-        state_.Ports.Messages.AskYesNo("The File " + *chosen + "\r\nalready exist. Replace it?",
-                                       kApplicationTitle, MessageIcon::None)) {
-      return chosen;
-    }
-  }
-}
-
 bool ProjectCommands::TakeProjectPath() {
   constexpr std::string_view kExtension = ".tnp";
-  std::optional<std::string> path = AskProjectPath();
+  std::optional<std::string> path = project::SaveProjectDialog(context_);
   if (!path) return false;
   if (!Lower(*path).ends_with(kExtension)) *path += kExtension;
   state_.View.SetTitle(TitleOfSaved(*path));

@@ -40,7 +40,6 @@ class ProjectCommands {
 
  private:
   [[nodiscard]] bool WantsSave();
-  [[nodiscard]] std::optional<std::string> AskProjectPath();
   bool TakeProjectPath();
   bool WriteProject();
   void WriteForm(int form);

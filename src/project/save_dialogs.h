@@ -1,12 +1,16 @@
-// How a form gets its file.
+// How a project and its forms get their files.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "project/project_context.h"
 
 namespace tarnwick::project {
 
+/// Asks for the file of the project. An existing one is asked about first. The path as it was
+/// chosen; nothing when the dialog is cancelled.
+[[nodiscard]] std::optional<std::string> SaveProjectDialog(ProjectContext& context);
 /// Asks for the file of a form and stores it in `FileName`, ".ftn" added where it lacks it. An
 /// existing file is asked about first. False when the dialog is cancelled: nothing changed.
 bool SaveFormDialog(ProjectContext& context, int form);

@@ -1,4 +1,4 @@
-#include "project/form_files.h"
+#include "project/save_dialogs.h"
 
 #include <string>
 #include <vector>
