@@ -48,10 +48,10 @@ void RoundTo(Decimal& decimal, int count) {
   DropZeros(decimal);
 }
 
-/// The number with its first 17 significant digits, which tell any two doubles apart.
+/// The number with so many digits that rounding them once more is rounding the number itself.
 Decimal DecimalOf(double number) {
-  constexpr int kAllDigits = std::numeric_limits<double>::max_digits10;
-  std::array<char, 48> buffer{};
+  constexpr int kAllDigits = 40;
+  std::array<char, 64> buffer{};
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(number),
                                  std::chars_format::scientific, kAllDigits - 1);
   const std::string_view text(buffer.data(), static_cast<std::size_t>(end.ptr - buffer.data()));
