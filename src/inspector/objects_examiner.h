@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "persistence/support_tables.h"
+#include "language/support_tables.h"
 
 namespace tarnwick {
 
@@ -13,7 +13,7 @@ namespace tarnwick {
 /// count from 0.
 class FormViewObjects {
  public:
-  explicit FormViewObjects(const SupportTables& tables) : tables_(tables) {}
+  explicit FormViewObjects(const language::SupportTables& tables) : tables_(tables) {}
 
   /// The row that the next opening selects; other windows may set it beforehand.
   int WantedRow = 0;
@@ -36,18 +36,14 @@ class FormViewObjects {
   [[nodiscard]] const std::string& Editor() const noexcept { return text_; }
 
  private:
-  void ShowHelp(const std::string& key);
+  void ShowHelp(const std::string* help);
 
-  const SupportTables& tables_;
+  const language::SupportTables& tables_;
   std::vector<std::string> kinds_;
   std::vector<std::string> members_;
   std::string text_;
   int kind_row_ = -1;
   int member_row_ = -1;
 };
-
-/// The key of a member's help: its name in lower case, made distinct where kinds of the language
-/// share a name but not its meaning.
-[[nodiscard]] std::string MemberHelpKey(std::string_view kind, std::string_view member);
 
 }  // namespace tarnwick

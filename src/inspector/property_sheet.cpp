@@ -21,8 +21,8 @@ constexpr std::size_t kLongListFrom = 8;
 
 }  // namespace
 
-PropertySheet::PropertySheet(ProjectTables& tables, const SupportTables& support, Ports& ports,
-                             ProjectObserver& observer, InspectorHost& host)
+PropertySheet::PropertySheet(ProjectTables& tables, const language::SupportTables& support,
+                             Ports& ports, ProjectObserver& observer, InspectorHost& host)
     : tables_(tables), support_(support), ports_(ports), observer_(observer), host_(host) {}
 
 void PropertySheet::ShowProperties(std::string_view kind_or_name, std::string_view object_name) {
@@ -129,7 +129,7 @@ std::optional<RowTarget> PropertySheet::TargetOf(const Subject& subject) const {
 }
 
 void PropertySheet::BuildCells() {
-  const std::vector<PropertyRow> rows = PropertyRowsOf(support_, SelKind_);
+  const std::span<const PropertyRow> rows = PropertyRowsOf(support_, SelKind_);
   cells_.assign(rows.size() + 1, {});
   cells_[0].Row.Name = kNameRow;
   cells_[0].Text = SelName_;
@@ -268,10 +268,10 @@ void PropertySheet::FillList(const Cell& cell) {
   if (cell.Binding != nullptr && cell.Binding->Shape == RowShape::Parent) {
     list_rows_ = combo_.ParentNames();
   } else {
-    for (const std::string_view value : ValuesOf(cell.Row)) list_rows_.emplace_back(value);
+    list_rows_ = cell.Row.Values;
   }
   if (cell.Row.Mark != row_mark::kList) return;
-  const bool is_long = ValuesOf(cell.Row).size() >= kLongListFrom;
+  const bool is_long = cell.Row.Values.size() >= kLongListFrom;
   list_height_ =
       static_cast<int>(list_rows_.size()) * (is_long ? kLongListRowHeight : kListRowHeight);
 }

@@ -12,10 +12,10 @@
 #include "inspector/object_combo.h"
 #include "inspector/property_rows.h"
 #include "inspector/row_bindings.h"
+#include "language/support_tables.h"
 #include "model/project_observer.h"
 #include "model/project_records.h"
 #include "persistence/settings.h"
-#include "persistence/support_tables.h"
 #include "platform/ports.h"
 
 namespace tarnwick {
@@ -38,7 +38,7 @@ class PropertySheet {
   static constexpr std::int32_t kNormalBack = 16777215;
   static constexpr std::int32_t kNormalText = 0;
 
-  PropertySheet(ProjectTables& tables, const SupportTables& support, Ports& ports,
+  PropertySheet(ProjectTables& tables, const language::SupportTables& support, Ports& ports,
                 ProjectObserver& observer, InspectorHost& host);
   /// The view that hears of changes; null for none.
   void SetView(PropertySheetView* view) noexcept { view_ = view; }
@@ -197,7 +197,7 @@ class PropertySheet {
   void Picked(const std::string& text);
 
   ProjectTables& tables_;
-  const SupportTables& support_;
+  const language::SupportTables& support_;
   Ports& ports_;
   ProjectObserver& observer_;
   InspectorHost& host_;

@@ -4,14 +4,14 @@
 #include <string>
 #include <string_view>
 
-#include "persistence/support_tables.h"
+#include "language/support_tables.h"
 
 namespace tarnwick {
 
 /// What the member descriptions say of a row on a kind ("Button", "Images"): the passages of the
 /// member that speak of the kind, without the lines that name the kinds; all passages when none
 /// does. Lines end in CR LF. "" when nothing is known of the row.
-[[nodiscard]] std::string RowHelp(const SupportTables& support, std::string_view kind,
+[[nodiscard]] std::string RowHelp(const language::SupportTables& support, std::string_view kind,
                                   std::string_view row);
 
 }  // namespace tarnwick

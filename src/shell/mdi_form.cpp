@@ -251,7 +251,7 @@ Settings& MDIForm1::SettingsFile() noexcept {
   return rooms_->State.Settings;
 }
 
-const SupportTables& MDIForm1::Support() const noexcept {
+const language::SupportTables& MDIForm1::Support() const noexcept {
   return rooms_->State.Support;
 }
 

@@ -7,10 +7,10 @@
 
 #include "designer/form_user.h"
 #include "inspector/property_sheet.h"
+#include "language/support_tables.h"
 #include "model/project_observer.h"
 #include "model/project_records.h"
 #include "persistence/settings.h"
-#include "persistence/support_tables.h"
 #include "platform/ports.h"
 #include "project/project_context.h"
 #include "shell/command_state.h"
@@ -83,7 +83,7 @@ class MDIForm1 {
   /// For whatever reads and writes projects: the tables with the ports.
   [[nodiscard]] project::ProjectContext& Context() noexcept;
   [[nodiscard]] Settings& SettingsFile() noexcept;
-  [[nodiscard]] const SupportTables& Support() const noexcept;
+  [[nodiscard]] const language::SupportTables& Support() const noexcept;
   [[nodiscard]] PropertySheet& Sheet() noexcept;
   /// The events bars of all forms.
   [[nodiscard]] EventsBar& Bar() noexcept;

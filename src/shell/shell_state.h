@@ -5,9 +5,9 @@
 #include <string>
 #include <utility>
 
+#include "language/support_tables.h"
 #include "model/project_records.h"
 #include "persistence/settings.h"
-#include "persistence/support_tables.h"
 #include "platform/ports.h"
 #include "shell/command_state.h"
 #include "shell/observer_hub.h"
@@ -38,7 +38,7 @@ struct ShellState {
   SideWindows& Windows;
   tarnwick::Settings Settings;
   ProjectTables Tables;
-  SupportTables Support;
+  language::SupportTables Support;
   ApplicationRec Application;
   ShellFlags Flags;
   ObserverHub Observer;

@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 
+#include "persistence/support_files.h"
 #include "shell/titles.h"
 
 namespace tarnwick {
@@ -62,7 +63,8 @@ void StartUp::SetDefaults() {
   SetDefaultPaths(state_.Tables);
 }
 
-void StartUp::AddSupportFile(std::string_view name, void (*add)(SupportTables&, std::string_view)) {
+void StartUp::AddSupportFile(std::string_view name,
+                             void (*add)(language::SupportTables&, std::string_view)) {
   const std::optional<std::string> text =
       state_.Ports.Files.Read(std::string(state_.Tables.ProgramFolder).append(name));
   // A support file that is missing leaves its tables empty.

@@ -28,7 +28,8 @@ class StartUp {
   void LoadCodeWindows();
   void LayOutPanels();
   void ShowFirstForm();
-  void AddSupportFile(std::string_view name, void (*add)(SupportTables&, std::string_view));
+  void AddSupportFile(std::string_view name,
+                      void (*add)(language::SupportTables&, std::string_view));
 
   ShellState& state_;
   FormCommands& forms_;

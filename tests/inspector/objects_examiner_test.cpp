@@ -9,14 +9,16 @@
 namespace tarnwick {
 namespace {
 
+using language::MemberSort;
+using language::SupportTables;
 using Rows = std::vector<std::string>;
 
 SupportTables Tables() {
   SupportTables tables;
   tables.ListaObjetos = {"Form", "Font", "WinSock", "Menu"};
-  tables.MemberLists.Add("form", "Caption\x95Show");
-  tables.MemberLists.Add("font", "Color\x95Name");
-  tables.MemberLists.Add("winsock", "Close");
+  tables.MemberLists.Add("form", {{"Caption", MemberSort::Property}, {"Show", MemberSort::Method}});
+  tables.MemberLists.Add("font", {{"Color", MemberSort::Property}, {"Name", MemberSort::Property}});
+  tables.MemberLists.Add("winsock", {{"Close", MemberSort::Method}});
   tables.MemberHelp.Add("form%", "The window");
   tables.MemberHelp.Add("font%", "The font");
   tables.MemberHelp.Add("caption", "Its text");
@@ -74,21 +76,6 @@ TEST(ObjectsExaminer, AMemberOfOneNameInSeveralKindsHasItsOwn) {
   window.SelectKind(2);
   window.SelectMember(0);
   EXPECT_EQ(window.Editor(), "Ends the connection");
-}
-
-TEST(ObjectsExaminer, KeysAreMadeDistinctByTheTable) {
-  using Case = std::pair<std::pair<const char*, const char*>, const char*>;
-  for (const Case& c :
-       {Case{{"WinSock", "Port"}, "portwinsock"}, Case{{"PopUpMenu", "Alignment"}, "alignmentpop"},
-        Case{{"PopUpMenu", "AutoPopUp"}, "autopopup"}, Case{{"ClipBoard", "Close"}, "closeclip"},
-        Case{{"FileStream", "Close"}, "closefile"}, Case{{"ClipBoard", "Clear"}, "clearclip"},
-        Case{{"ClipBoard", "Open"}, "openclip"}, Case{{"FileStream", "Open"}, "openfile"},
-        Case{{"FileStream", "Size"}, "sizefile"}, Case{{"Font", "Color"}, "colorfont"},
-        Case{{"RichTextBox", "Line"}, "linerich"}, Case{{"ClipBoard", "Text"}, "textclip"},
-        Case{{"Font", "Size"}, "size"}, Case{{"Form", "Close"}, "close"},
-        Case{{"Label", "Alignment"}, "alignment"}}) {
-    EXPECT_EQ(MemberHelpKey(c.first.first, c.first.second), c.second);
-  }
 }
 
 TEST(ObjectsExaminer, AKeyWithoutHelpLeavesTheDescription) {

@@ -2,14 +2,15 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include <gtest/gtest.h>
+
+#include "persistence/support_files.h"
 
 namespace tarnwick {
 namespace {
 
-using Values = std::vector<std::string_view>;
+using language::SupportTables;
 
 SupportTables TablesOf(std::string_view kind_line) {
   SupportTables tables;
@@ -17,43 +18,8 @@ SupportTables TablesOf(std::string_view kind_line) {
   return tables;
 }
 
-TEST(PropertyRows, ARowIsNameMarkAndValues) {
-  const PropertyRow row = ParseRow(
-      "Align\x9E"
-      "alNone\x8B"
-      "alTop");
-  EXPECT_EQ(row.Name, "Align");
-  EXPECT_EQ(row.Mark, row_mark::kList);
-  EXPECT_EQ(ValuesOf(row), (Values{"alNone", "alTop"}));
-}
-
-TEST(PropertyRows, ARowWithoutAMarkIsItsName) {
-  const PropertyRow row = ParseRow("Caption");
-  EXPECT_EQ(row.Name, "Caption");
-  EXPECT_EQ(row.Mark, row_mark::kText);
-  EXPECT_TRUE(ValuesOf(row).empty());
-  EXPECT_EQ(NameLengthOf("Caption"), 7U);
-  EXPECT_EQ(NameLengthOf(""), 0U);
-}
-
-// 0x9A, 0x9C, 0x9E and 0x9F are letters with another case; as marks they are bytes.
-TEST(PropertyRows, MarksThatAreLettersAreNotFolded) {
-  EXPECT_EQ(ParseRow("font\x9A").Mark, row_mark::kFont);
-  EXPECT_EQ(ParseRow("font\x8A").Mark, 0x8A);
-  EXPECT_EQ(ParseRow("color\x9C").Mark, row_mark::kColorToo);
-  EXPECT_EQ(ParseRow("color\x8C").Mark, 0x8C);
-  EXPECT_EQ(ParseRow("align\x9Ex").Mark, row_mark::kList);
-  EXPECT_EQ(ParseRow("additems\x9F").Mark, row_mark::kItems);
-  EXPECT_EQ(ParseRow("additems\xFF").Mark, 0xFF);
+TEST(PropertyRows, AByteThatIsNoMarkLeavesTheRowToTyping) {
   EXPECT_FALSE(WidgetsOf(0x8A).Boton1);
-}
-
-TEST(PropertyRows, AListWithoutValuesIsEmpty) {
-  EXPECT_TRUE(ValuesOf(ParseRow("Parent\x9E")).empty());
-}
-
-TEST(PropertyRows, TrueAndFalseHaveTheirTwoValues) {
-  EXPECT_EQ(ValuesOf(ParseRow("Enabled\x97")), (Values{"False", "True"}));
 }
 
 struct Shown {

@@ -8,9 +8,12 @@
 #include "fakes/build_paths.h"
 #include "inspector/property_rows.h"
 #include "model/vocabulary.h"
+#include "persistence/support_files.h"
 
 namespace tarnwick {
 namespace {
+
+using language::SupportTables;
 
 const SupportTables& Delivered() {
   static const SupportTables tables = [] {

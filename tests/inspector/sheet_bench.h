@@ -14,8 +14,11 @@
 #include "fakes/fake_ports.h"
 #include "inspector/property_sheet.h"
 #include "model/new_form.h"
+#include "persistence/support_files.h"
 
 namespace tarnwick {
+
+using language::SupportTables;
 
 inline const SupportTables& DeliveredRows() {
   static const SupportTables tables = [] {

@@ -8,7 +8,7 @@
 
 #include "build/support_sources.h"
 #include "fakes/build_paths.h"
-#include "persistence/support_tables.h"
+#include "persistence/support_files.h"
 #include "text/strings.h"
 
 namespace tarnwick::support {
@@ -19,6 +19,8 @@ inline std::string Delivered(const std::string& name) {
   EXPECT_TRUE(bytes) << name;
   return bytes.value_or("");
 }
+
+using language::SupportTables;
 
 inline const SupportTables& DeliveredTables() {
   static const SupportTables tables = [] {
@@ -42,12 +44,16 @@ inline const SupportSources& Sources() {
   return sources;
 }
 
-/// The rows of a list value; an empty value has none.
-inline std::vector<std::string> RowsOf(const std::string* value) {
-  std::vector<std::string> rows;
-  if (value == nullptr || value->empty()) return rows;
-  for (const auto row : Split(*value, "\x95")) rows.emplace_back(row);
-  return rows;
+/// The rows of a list; one that is not there has none.
+inline std::vector<std::string> RowsOf(const std::vector<std::string>* list) {
+  return list == nullptr ? std::vector<std::string>{} : *list;
+}
+/// The names of the members of a list.
+inline std::vector<std::string> RowsOf(const std::vector<language::KindMember>* list) {
+  std::vector<std::string> names;
+  if (list == nullptr) return names;
+  for (const language::KindMember& member : *list) names.push_back(member.Name);
+  return names;
 }
 
 }  // namespace tarnwick::support

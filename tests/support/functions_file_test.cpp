@@ -10,11 +10,10 @@ namespace {
 
 TEST(FunctionsFile, AtLeastTwoHundredFunctionsEachWithSyntaxDescriptionAndExample) {
   const SupportTables& tables = DeliveredTables();
-  ASSERT_EQ(tables.ListColFunc.size(), tables.FunctionDescriptions.size());
-  EXPECT_GE(tables.ListColFunc.size() - 1, 200U);
-  for (std::size_t n = 1; n < tables.ListColFunc.size(); ++n) {
-    const std::string& name = tables.ListColFunc[n];
-    const auto lines = Split(tables.FunctionDescriptions[n], "\r\n");
+  EXPECT_GE(tables.Functions.Rows().size(), 200U);
+  for (const language::FunctionHelp& function : tables.Functions.Rows()) {
+    const std::string& name = function.Name;
+    const auto lines = Split(function.Help, "\r\n");
     ASSERT_GE(lines.size(), 6U) << name;
     EXPECT_NE(Upper(lines[0]).find(Upper(WordsOf(name).front())), std::string::npos) << name;
     EXPECT_EQ(lines[1], "") << name;
@@ -42,7 +41,10 @@ TEST(FunctionsFile, ThePanelListsEveryFunctionOnceAndInOrder) {
   const SupportTables& tables = DeliveredTables();
   std::vector<std::string> listed = tables.ListFunc1;
   listed.insert(listed.end(), tables.ListFunc0.begin(), tables.ListFunc0.end());
-  std::vector<std::string> functions(tables.ListColFunc.begin() + 1, tables.ListColFunc.end());
+  std::vector<std::string> functions;
+  for (const language::FunctionHelp& function : tables.Functions.Rows()) {
+    functions.push_back(function.Name);
+  }
   EXPECT_EQ(listed, functions);
   EXPECT_EQ(std::set<std::string>(listed.begin(), listed.end()).size(), listed.size());
   EXPECT_TRUE(std::is_sorted(tables.ListFunc1.begin(), tables.ListFunc1.end()));
@@ -67,21 +69,18 @@ TEST(FunctionsFile, CommasAreStoredByTheirStandIn) {
   ASSERT_NE(functions, std::string::npos);
   EXPECT_EQ(text.find(',', functions), std::string::npos);
   EXPECT_EQ(std::count(text.begin(), text.end(), ','), 1);
-  const auto& names = DeliveredTables().ListColFunc;
-  const auto mid = std::find(names.begin(), names.end(), "MID$");
-  ASSERT_NE(mid, names.end());
-  EXPECT_TRUE(DeliveredTables()
-                  .FunctionDescriptions[static_cast<std::size_t>(mid - names.begin())]
-                  .starts_with("MID$(s$, start [, count])\r\n"));
+  const language::FunctionHelp* mid = DeliveredTables().Functions.Find("MID$");
+  ASSERT_NE(mid, nullptr);
+  EXPECT_TRUE(mid->Help.starts_with("MID$(s$, start [, count])\r\n"));
 }
 
 TEST(KeywordsFile, IsOneLineOfWordsAndEachIsThere) {
   const std::string text = Delivered("Add003.tn");
   EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1);
   EXPECT_TRUE(text.ends_with("\r\n"));
-  std::string expected;
-  for (const Word& word : Sources().Keywords) expected += word.Text + "\n";
-  EXPECT_EQ(DeliveredTables().Keywords, expected + "\n");
+  std::vector<std::string> expected;
+  for (const Word& word : Sources().Keywords) expected.push_back(word.Text);
+  EXPECT_EQ(DeliveredTables().Keywords, expected);
   EXPECT_GE(Sources().Keywords.size(), 250U);
 }
 

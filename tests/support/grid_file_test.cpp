@@ -13,29 +13,11 @@ namespace {
 
 using Rows = std::vector<std::string>;
 
-struct ReadRow {
-  std::string Name;
-  int Mark = 0;  ///< 0 for plain text
-  Rows Values;
-};
+using ReadRow = language::PropertyRow;
 
-/// The rows of a kind as the grid takes them apart: the name ends at the first byte from 0x80 on.
 std::vector<ReadRow> GridOf(std::string_view kind) {
-  std::vector<ReadRow> rows;
-  for (const std::string& text : RowsOf(DeliveredTables().ObjectHelp.Find(kind))) {
-    const auto mark = std::find_if(text.begin(), text.end(),
-                                   [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
-    ReadRow row{std::string(text.begin(), mark), 0, {}};
-    if (mark != text.end()) {
-      row.Mark = static_cast<unsigned char>(*mark);
-      const std::string values(mark + 1, text.end());
-      if (!values.empty()) {
-        for (const auto value : Split(values, "\x8B")) row.Values.emplace_back(value);
-      }
-    }
-    rows.push_back(std::move(row));
-  }
-  return rows;
+  const std::vector<ReadRow>* rows = DeliveredTables().ObjectHelp.Find(kind);
+  return rows == nullptr ? std::vector<ReadRow>{} : *rows;
 }
 
 const Rows kKinds{"FORM",        "BUTTON",      "TEXTBOX",    "IMAGE",
@@ -107,7 +89,8 @@ TEST(GridFile, OnlyListRowsHaveValuesAndOnlyParentHasNone) {
   for (const std::string& kind : kKinds) {
     for (const ReadRow& row : GridOf(kind)) {
       const bool has_values = row.Mark == 0x9E && row.Name != "Parent";
-      EXPECT_EQ(!row.Values.empty(), has_values) << kind << " " << row.Name;
+      EXPECT_EQ(!row.Values.empty(), has_values || row.Mark == language::row_mark::kYesNo)
+          << kind << " " << row.Name;
     }
   }
 }
@@ -131,7 +114,8 @@ TEST(GridFile, AValuesPlaceIsTheNumberOfTheLanguage) {
   for (const std::string& kind : kKinds) {
     for (const ReadRow& row : GridOf(kind)) {
       // The texts of a socket are written as they stand; their numbers are no places.
-      if (row.Values.empty() || kind == "WINSOCK") continue;
+      if (row.Mark != language::row_mark::kList || row.Values.empty() || kind == "WINSOCK")
+        continue;
       ++lists;
       const auto numbers = NumbersOf(kind, row.Name);
       EXPECT_EQ(numbers.size(), row.Values.size()) << kind << " " << row.Name;
@@ -160,11 +144,12 @@ TEST(GridFile, TheTextsOfASocketAreNamesOfTheLanguage) {
 
 TEST(GridFile, AListRowIsFoundByItsNameAndMark) {
   // "HideScrollBars" ends in the name of another row, so the search text carries the mark.
-  const std::string* rows = DeliveredTables().ObjectHelp.Find("RICHTEXTBOX");
-  ASSERT_NE(rows, nullptr);
-  const std::size_t found = FindFolded(*rows, "scrollbars\x9E");
-  ASSERT_NE(found, std::string::npos);
-  EXPECT_TRUE(rows->substr(found + 11).starts_with("ssNone\x8BssHorizontal"));
+  const std::string text = Delivered("Add004.tn");
+  const std::size_t line = text.find("[RICHTEXTBOX]");
+  ASSERT_NE(line, std::string::npos);
+  const std::size_t found = FindFolded(text, "scrollbars\x9E", line);
+  ASSERT_LT(found, text.find("\r\n", line));
+  EXPECT_TRUE(text.substr(found + 11).starts_with("ssNone\x8BssHorizontal"));
 }
 
 TEST(GridFile, GeometryIsThereForEveryKind) {

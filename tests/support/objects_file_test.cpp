@@ -43,7 +43,7 @@ TEST(ObjectsFile, EventListsAreThoseOfTheVocabulary) {
       {"image", "images"}, {"popupmenu", "popupmnu"}, {"item(menu)", "menu"}};
   std::size_t lists = 0;
   for (const std::string& word : kListWords) {
-    const std::string* value = DeliveredTables().EventLists.Find(word);
+    const std::vector<std::string>* value = DeliveredTables().EventLists.Find(word);
     if (value == nullptr) continue;
     ++lists;
     const auto other = other_words.find(word);
@@ -98,6 +98,23 @@ TEST(ObjectsFile, EveryMemberOfTheFactsIsListed) {
   for (const auto& [kind, members] : facts) {
     EXPECT_EQ(RowsOf(DeliveredTables().MemberLists.Find(kind)), members) << kind;
   }
+}
+
+TEST(ObjectsFile, TheTablesKnowOfEachMemberWhatItIs) {
+  const std::map<std::string, language::MemberSort> sorts{
+      {"property", language::MemberSort::Property},
+      {"method", language::MemberSort::Method},
+      {"event", language::MemberSort::Event}};
+  for (const MemberEntry& member : Sources().Members) {
+    const auto* members = DeliveredTables().MemberLists.Find(member.Kind);
+    ASSERT_NE(members, nullptr) << member.Kind;
+    EXPECT_EQ(std::count(members->begin(), members->end(),
+                         language::KindMember{member.Name, sorts.at(member.Category)}),
+              1)
+        << member.Kind << "." << member.Name;
+  }
+  EXPECT_EQ(*DeliveredTables().MemberLists.Find("image"),
+            *DeliveredTables().MemberLists.Find("images"));
 }
 
 // The keys by which the examiner tells members of one name apart.

@@ -51,7 +51,7 @@ void FillList(QListWidget& list, const std::vector<std::string>& rows) {
 
 }  // namespace
 
-ObjectsExaminerWindow::ObjectsExaminerWindow(const SupportTables& tables, QWidget* parent)
+ObjectsExaminerWindow::ObjectsExaminerWindow(const language::SupportTables& tables, QWidget* parent)
     : QWidget(parent, Qt::Window),
       logic_(tables),
       find_(new QLineEdit),

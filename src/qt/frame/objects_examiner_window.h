@@ -22,7 +22,7 @@ class ObjectsExaminerWindow final : public QWidget {
   Q_OBJECT
 
  public:
-  ObjectsExaminerWindow(const SupportTables& tables, QWidget* parent);
+  ObjectsExaminerWindow(const language::SupportTables& tables, QWidget* parent);
 
   /// Fills the lists, shows the window and gives the focus to the search.
   void Open();

@@ -1,4 +1,4 @@
-#include "persistence/support_tables.h"
+#include "persistence/support_files.h"
 
 #include <map>
 #include <optional>
@@ -11,7 +11,13 @@
 namespace tarnwick {
 namespace {
 
+using language::KeyedTexts;
+using language::KindMember;
+using language::MemberSort;
+using language::SupportTables;
 using Rows = std::vector<std::string>;
+using Members = std::vector<KindMember>;
+using Functions = std::vector<language::FunctionHelp>;
 
 // The marks by the letters under which the texts below write them.
 std::string Marked(std::string_view readable) {
@@ -71,6 +77,27 @@ std::string Of(const KeyedTexts& table, std::string_view key) {
   return text != nullptr ? *text : "(absent)";
 }
 
+Rows Of(const language::Keyed<Rows>& table, std::string_view key) {
+  const Rows* rows = table.Find(key);
+  return rows != nullptr ? *rows : Rows{"(absent)"};
+}
+
+Rows NamesOf(const SupportTables& tables, std::string_view key) {
+  Rows names;
+  const Members* members = tables.MemberLists.Find(key);
+  if (members == nullptr) return {"(absent)"};
+  for (const KindMember& member : *members) names.push_back(member.Name);
+  return names;
+}
+
+Rows GridRowsOf(const SupportTables& tables, std::string_view key) {
+  Rows names;
+  const std::vector<language::PropertyRow>* rows = tables.ObjectHelp.Find(key);
+  if (rows == nullptr) return {"(absent)"};
+  for (const language::PropertyRow& row : *rows) names.push_back(row.Name);
+  return names;
+}
+
 class FileTexts final : public FilePort {
  public:
   std::map<std::string, std::string> Texts;
@@ -85,127 +112,138 @@ class FileTexts final : public FilePort {
   std::string ShortPathOf(const std::string&) override { return ""; }
 };
 
-TEST(SupportTables, LineZeroOfTheFirstFileListsTheObjectKinds) {
+TEST(SupportFiles, LineZeroOfTheFirstFileListsTheObjectKinds) {
   SupportTables tables;
   AddMemberFile(tables, kMembers);
   EXPECT_EQ(tables.ListaObjetos, (Rows{"Form", "Button", "Font"}));
 }
 
-TEST(SupportTables, SectionAFillsMemberListsUnderLowerCaseNames) {
+TEST(SupportFiles, SectionAFillsMemberListsUnderLowerCaseNames) {
   SupportTables tables;
   AddMemberFile(tables, kMembers);
   EXPECT_EQ(tables.MemberLists.Size(), 2U);
-  EXPECT_EQ(Of(tables.MemberLists, "form"), "Caption\x95Show");
-  EXPECT_EQ(Of(tables.MemberLists, "AS"), "Integer\x95String");
+  EXPECT_EQ(NamesOf(tables, "form"), (Rows{"Caption", "Show"}));
+  EXPECT_EQ(NamesOf(tables, "AS"), (Rows{"Integer", "String"}));
 }
 
-TEST(SupportTables, SectionBFillsMemberHelpWithCommasAndLines) {
+TEST(SupportFiles, SectionBFillsMemberHelpWithCommasAndLines) {
   SupportTables tables;
   AddMemberFile(tables, kMembers);
   EXPECT_EQ(Of(tables.MemberHelp, "caption"), "A text, shown\r\non the form");
   EXPECT_EQ(Of(tables.MemberHelp, "form%"), "The window");
 }
 
-TEST(SupportTables, SectionCFillsEventListsAndReplacesNothing) {
+TEST(SupportFiles, SectionCFillsEventListsAndReplacesNothing) {
   SupportTables tables;
   AddMemberFile(tables, kMembers);
   EXPECT_EQ(tables.EventLists.Size(), 2U);
-  EXPECT_EQ(Of(tables.EventLists, "form"), "OnClick\x95OnShow");
-  EXPECT_EQ(Of(tables.EventLists, "menu"), "OnClick\x8F");
+  EXPECT_EQ(Of(tables.EventLists, "form"), (Rows{"OnClick", "OnShow"}));
+  EXPECT_EQ(Of(tables.EventLists, "menu"), Rows{"OnClick\x8F"});
 }
 
-TEST(SupportTables, SectionCEndsAtTheNextHelpMarkAndLeadsBackToHelp) {
+TEST(SupportFiles, SectionCEndsAtTheNextHelpMarkAndLeadsBackToHelp) {
   SupportTables tables;
   AddMemberFile(tables, kMembers);
   EXPECT_EQ(Of(tables.MemberHelp, "show"), "Shows it");
-  EXPECT_EQ(Of(tables.EventLists, "show"), "(absent)");
+  EXPECT_EQ(Of(tables.EventLists, "show"), Rows{"(absent)"});
 }
 
-TEST(SupportTables, ALineWithASectionMarkCarriesNothingElse) {
+TEST(SupportFiles, ALineWithASectionMarkCarriesNothingElse) {
   SupportTables tables;
   AddMemberFile(tables, Marked("Form\r\n[x]<y> **tn**\r\n{a;<b> **etn**\r\n{c;<d>\r\n"));
   EXPECT_TRUE(tables.MemberLists.Empty());
   EXPECT_TRUE(tables.MemberHelp.Empty());
-  EXPECT_EQ(Of(tables.EventLists, "c"), "d");
+  EXPECT_EQ(Of(tables.EventLists, "c"), Rows{"d"});
 }
 
-TEST(SupportTables, ADuplicateLineHasNoEffectAndTheFirstStays) {
+TEST(SupportFiles, ADuplicateLineHasNoEffectAndTheFirstStays) {
   SupportTables tables;
   AddMemberFile(tables, Marked("K\r\n[a]<one>\r\n[A]<two>\r\n**tn**\r\n{b;<one>\r\n{B;<two>\r\n"
                                "**etn**\r\n{c;<one>\r\n{C;<two>\r\n"));
   AddKindFile(tables, kKinds);
-  EXPECT_EQ(Of(tables.MemberLists, "a"), "one");
+  EXPECT_EQ(NamesOf(tables, "a"), Rows{"one"});
   EXPECT_EQ(Of(tables.MemberHelp, "b"), "one");
-  EXPECT_EQ(Of(tables.EventLists, "c"), "one");
-  EXPECT_EQ(Of(tables.ObjectHelp, "button"), "Left\x95Top");
+  EXPECT_EQ(Of(tables.EventLists, "c"), Rows{"one"});
+  EXPECT_EQ(GridRowsOf(tables, "button"), (Rows{"Left", "Top"}));
 }
 
-TEST(SupportTables, KeyedTextsRefuseASecondKeyInAnyCase) {
-  KeyedTexts texts;
-  EXPECT_TRUE(texts.Add("\xC9t\xE9", "one"));
-  EXPECT_FALSE(texts.Add("\xE9T\xC9", "two"));
-  EXPECT_EQ(Of(texts, "\xE9t\xE9"), "one");
-  EXPECT_EQ(texts.Size(), 1U);
+TEST(SupportFiles, WhatAMemberIsComesFromEventListsAndHelp) {
+  SupportTables tables;
+  AddMemberFile(tables, Marked("K\r\n[form]<Caption|Center|OnShow|OnPopup|Other>\r\n"
+                               "[image]<Center>\r\n[images]<Center>\r\n[as]<BYTE|QFORM>\r\n"
+                               "**tn**\r\n"
+                               "{caption;}<Caption~ property of Form|STRING>\r\n"
+                               "{center;}<Center~ method of Form|SUB||"
+                               "Center~ property of Image~ Label|INTEGER>\r\n"
+                               "{onpopup;}<OnPopup~ event of Form|SUB>\r\n"
+                               "**etn**\r\n{form;}<OnClick|onshow>\r\n"));
+  EXPECT_EQ(*tables.MemberLists.Find("form"), (Members{{"Caption", MemberSort::Property},
+                                                       {"Center", MemberSort::Method},
+                                                       {"OnShow", MemberSort::Event},
+                                                       {"OnPopup", MemberSort::Event},
+                                                       {"Other", MemberSort::Property}}));
+  EXPECT_EQ(*tables.MemberLists.Find("image"), (Members{{"Center", MemberSort::Property}}));
+  EXPECT_EQ(*tables.MemberLists.Find("images"), (Members{{"Center", MemberSort::Property}}));
+  EXPECT_EQ(*tables.MemberLists.Find("as"),
+            (Members{{"BYTE", MemberSort::TypeName}, {"QFORM", MemberSort::TypeName}}));
 }
 
-TEST(SupportTables, SecondFileSkipsItsFirstTwoLinesAndKeepsRowsParallel) {
+TEST(SupportFiles, SecondFileSkipsItsFirstTwoLines) {
   SupportTables tables;
   AddFunctionFile(tables, kFunctions);
-  EXPECT_EQ(tables.ListColFunc, (Rows{"", "Abs", "", "Len"}));
-  EXPECT_EQ(tables.FunctionDescriptions,
-            (Rows{"", "ABS(n, m)\r\nAbsolute value", "Nameless", "Length"}));
+  EXPECT_EQ(
+      tables.Functions.Rows(),
+      (Functions{{"Abs", "ABS(n, m)\r\nAbsolute value"}, {"", "Nameless"}, {"Len", "Length"}}));
 }
 
-TEST(SupportTables, SecondFileLineWithoutABracketAddsAnEmptyName) {
+TEST(SupportFiles, SecondFileLineWithoutABracketAddsAnEmptyName) {
   SupportTables tables;
   AddFunctionFile(tables, Marked("w,a\r\nb\r\njust words\r\n"));
-  EXPECT_EQ(tables.ListColFunc, (Rows{"", ""}));
-  EXPECT_EQ(tables.FunctionDescriptions, (Rows{"", ""}));
+  EXPECT_EQ(tables.Functions.Rows(), (Functions{{"", ""}}));
 }
 
-TEST(SupportTables, HelpHoldsNoCommaAsStoredAndShowsCommas) {
+TEST(SupportFiles, HelpHoldsNoCommaAsStoredAndShowsCommas) {
   const std::string stored = Marked("[f]<a~b>");
   EXPECT_EQ(stored.find(','), std::string::npos);
   SupportTables tables;
   AddFunctionFile(tables, "w,a\r\nb\r\n" + stored);
-  EXPECT_EQ(tables.FunctionDescriptions.back(), "a,b");
+  EXPECT_EQ(tables.Functions.Rows().back().Help, "a,b");
 }
 
-TEST(SupportTables, PanelListsComeFromTheSecondAndThirdValue) {
+TEST(SupportFiles, PanelListsComeFromTheSecondAndThirdValue) {
   SupportTables tables;
   AddFunctionFile(tables, kFunctions);
   EXPECT_EQ(tables.ListFunc1, (Rows{"Abs", "Mid$", "Len"}));
   EXPECT_EQ(tables.ListFunc0, (Rows{"Left$", "Right$"}));
 }
 
-TEST(SupportTables, KeywordsAreThePartsOfTheLastLine) {
+TEST(SupportFiles, KeywordsAreThePartsOfTheLastLine) {
   SupportTables tables;
   AddKeywordFile(tables, "Old/Words\r\nDim/Sub/If\r\n");
-  EXPECT_EQ(tables.Keywords, "Dim\nSub\nIf\n\n");
+  EXPECT_EQ(tables.Keywords, (Rows{"Dim", "Sub", "If"}));
   AddKeywordFile(tables, "Dim");
-  EXPECT_EQ(tables.Keywords, "Dim\n\n");
+  EXPECT_EQ(tables.Keywords, Rows{"Dim"});
 }
 
-TEST(SupportTables, KeywordFileWithoutWordsGivesNone) {
+TEST(SupportFiles, KeywordFileWithoutWordsGivesNone) {
   SupportTables tables;
   AddKeywordFile(tables, "");
-  EXPECT_EQ(tables.Keywords, "");
+  EXPECT_EQ(tables.Keywords, Rows{});
   AddKeywordFile(tables, "Dim\r\n\r\n");
-  EXPECT_EQ(tables.Keywords, "");
+  EXPECT_EQ(tables.Keywords, Rows{});
 }
 
-TEST(SupportTables, FourthFileKeepsAllLinesAndKeysByUpperCase) {
+TEST(SupportFiles, FourthFileGivesTheRowsOfEachKindTakenApart) {
   SupportTables tables;
   AddKindFile(tables, kKinds);
-  ASSERT_EQ(tables.KindLines.size(), 5U);
-  EXPECT_EQ(tables.KindLines[1], Marked("[Button] <Left|Top>"));
-  EXPECT_EQ(tables.KindLines[3], "");
-  EXPECT_EQ(Of(tables.ObjectHelp, "FORM"),
-            "Caption\x95"
-            "Color\x9B");
+  EXPECT_EQ(*tables.ObjectHelp.Find("Form"), (std::vector<language::PropertyRow>{
+                                                 {"Caption", language::row_mark::kText, {}},
+                                                 {"Color", language::row_mark::kColor, {}},
+                                             }));
+  EXPECT_EQ(GridRowsOf(tables, "BUTTON"), (Rows{"Left", "Top"}));
 }
 
-TEST(SupportTables, AllFourFilesAreReadFromTheProgramFolder) {
+TEST(SupportFiles, AllFourFilesAreReadFromTheProgramFolder) {
   FileTexts files;
   files.Texts = {{"C:\\T\\Add001.tn", kMembers},
                  {"C:\\T\\Add002.tn", kFunctions},
@@ -213,12 +251,12 @@ TEST(SupportTables, AllFourFilesAreReadFromTheProgramFolder) {
                  {"C:\\T\\Add004.tn", kKinds}};
   const SupportTables tables = ReadSupportTables(files, "C:\\T");
   EXPECT_EQ(tables.ListaObjetos.size(), 3U);
-  EXPECT_EQ(tables.ListColFunc.size(), 4U);
-  EXPECT_EQ(tables.Keywords, "Dim\nSub\n\n");
+  EXPECT_EQ(tables.Functions.Rows().size(), 3U);
+  EXPECT_EQ(tables.Keywords, (Rows{"Dim", "Sub"}));
   EXPECT_EQ(tables.ObjectHelp.Size(), 2U);
 }
 
-TEST(SupportTables, AMissingFileLeavesItsTablesEmptyAndStopsNothing) {
+TEST(SupportFiles, AMissingFileLeavesItsTablesEmptyAndStopsNothing) {
   FileTexts files;
   files.Texts = {{"C:\\T\\Add004.tn", kKinds}};
   const SupportTables tables = ReadSupportTables(files, "C:\\T");
@@ -226,26 +264,24 @@ TEST(SupportTables, AMissingFileLeavesItsTablesEmptyAndStopsNothing) {
   EXPECT_TRUE(tables.MemberLists.Empty());
   EXPECT_TRUE(tables.MemberHelp.Empty());
   EXPECT_TRUE(tables.EventLists.Empty());
-  EXPECT_EQ(tables.ListColFunc, Rows{""});
-  EXPECT_EQ(tables.FunctionDescriptions, Rows{""});
+  EXPECT_TRUE(tables.Functions.Rows().empty());
   EXPECT_TRUE(tables.ListFunc1.empty());
   EXPECT_TRUE(tables.ListFunc0.empty());
-  EXPECT_EQ(tables.Keywords, "");
+  EXPECT_EQ(tables.Keywords, Rows{});
   EXPECT_EQ(tables.ObjectHelp.Size(), 2U);
 }
 
-TEST(SupportTables, EmptyFilesGiveNothing) {
+TEST(SupportFiles, EmptyFilesGiveNothing) {
   SupportTables tables;
   AddMemberFile(tables, "");
   AddFunctionFile(tables, "");
   AddKindFile(tables, "");
   EXPECT_TRUE(tables.ListaObjetos.empty());
-  EXPECT_EQ(tables.ListColFunc.size(), 1U);
+  EXPECT_TRUE(tables.Functions.Rows().empty());
   EXPECT_TRUE(tables.ObjectHelp.Empty());
-  EXPECT_EQ(tables.KindLines, (Rows{"", ""}));
 }
 
-TEST(SupportTables, LinesWithoutTheirMarksAreSkipped) {
+TEST(SupportFiles, LinesWithoutTheirMarksAreSkipped) {
   for (const char* line : {"[a<v>", "a]<v>", "[a]v>", "[a]<v", "<v>[a]", "[]<v>", "[a]><"}) {
     SupportTables tables;
     AddMemberFile(tables, "K\r\n" + Marked(line) + "\r\n");
@@ -261,31 +297,32 @@ TEST(SupportTables, LinesWithoutTheirMarksAreSkipped) {
   }
 }
 
-TEST(SupportTables, AnEmptyValueIsAValue) {
+TEST(SupportFiles, AnEmptyValueIsAValue) {
   SupportTables tables;
   AddKindFile(tables, Marked("[FILESTREAM]<>"));
-  EXPECT_EQ(Of(tables.ObjectHelp, "FileStream"), "");
+  EXPECT_EQ(GridRowsOf(tables, "FileStream"), Rows{});
 }
 
 // Wherever a file is cut, the lines ahead of the cut are there and the cut line does no harm.
-TEST(SupportTables, FilesCutAtAnyPlaceKeepTheWholeLinesAheadOfTheCut) {
+TEST(SupportFiles, FilesCutAtAnyPlaceKeepTheWholeLinesAheadOfTheCut) {
+  const std::size_t members_end = kMembers.find("Show\x8E") + 5;
+  ASSERT_LT(members_end, kMembers.size());
   for (std::size_t cut = 0; cut <= kMembers.size(); ++cut) {
     SupportTables tables;
     AddMemberFile(tables, std::string_view{kMembers}.substr(0, cut));
-    const bool has_form = kMembers.find("Show>") < cut;
-    EXPECT_LE(tables.MemberLists.Size(), 2U);
-    if (has_form) {
-      EXPECT_EQ(Of(tables.MemberLists, "form"), "Caption\x95Show") << cut;
+    EXPECT_EQ(tables.MemberLists.Find("form") != nullptr, cut >= members_end) << cut;
+    if (cut >= members_end) {
+      EXPECT_EQ(NamesOf(tables, "form"), (Rows{"Caption", "Show"})) << cut;
     }
   }
   const std::size_t first_end = kFunctions.find("value\x8E") + 6;
   for (std::size_t cut = 0; cut <= kFunctions.size(); ++cut) {
     SupportTables tables;
     AddFunctionFile(tables, std::string_view{kFunctions}.substr(0, cut));
-    ASSERT_EQ(tables.ListColFunc.size(), tables.FunctionDescriptions.size()) << cut;
-    if (cut >= first_end) {
-      EXPECT_EQ(tables.ListColFunc[1], "Abs") << cut;
-    }
+    if (cut < first_end) continue;
+    ASSERT_FALSE(tables.Functions.Rows().empty()) << cut;
+    EXPECT_EQ(tables.Functions.Rows()[0].Name, "Abs") << cut;
+    EXPECT_NE(tables.Functions.Find("ABS"), nullptr) << cut;
   }
   const std::size_t form_end = kKinds.find('\x8E') + 1;
   for (std::size_t cut = 0; cut <= kKinds.size(); ++cut) {
@@ -295,7 +332,7 @@ TEST(SupportTables, FilesCutAtAnyPlaceKeepTheWholeLinesAheadOfTheCut) {
   }
 }
 
-TEST(SupportTables, AnyBytesAreHarmless) {
+TEST(SupportFiles, AnyBytesAreHarmless) {
   std::string noise;
   unsigned state = 7;
   for (int i = 0; i < 4000; ++i) {
@@ -308,7 +345,9 @@ TEST(SupportTables, AnyBytesAreHarmless) {
   AddFunctionFile(tables, noise);
   AddKeywordFile(tables, noise);
   AddKindFile(tables, noise);
-  EXPECT_EQ(tables.ListColFunc.size(), tables.FunctionDescriptions.size());
+  for (const language::FunctionHelp& function : tables.Functions.Rows()) {
+    EXPECT_EQ(tables.Functions.Find(function.Name) == nullptr, function.Name.empty());
+  }
 }
 
 }  // namespace

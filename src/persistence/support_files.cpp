@@ -1,7 +1,9 @@
-#include "persistence/support_tables.h"
+#include "persistence/support_files.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
+#include <unordered_map>
 #include <utility>
 
 #include "text/strings.h"
@@ -10,12 +12,18 @@ namespace tarnwick {
 
 namespace {
 
+using language::KindMember;
+using language::MemberSort;
+using language::SupportTables;
+
 // The marks of the support files; they share their bytes with the separators of stored text.
 constexpr char kValueStart = kStoredComma;
 constexpr char kValueEnd = kMenuNested;
 constexpr char kNameEnd = kStoredListComma;
 constexpr char kHelpComma = kPopUpEntry;
 constexpr char kHelpLine = kStoredLineBreak;
+
+constexpr std::string_view kRowSeparator{&kHelpLine, 1};
 
 constexpr std::string_view kHelpSection = "**tn**";
 constexpr std::string_view kEventSection = "**etn**";
@@ -52,10 +60,9 @@ std::string HelpText(std::string_view stored) {
   return text;
 }
 
-/// Adds a complete entry under its lower-case name; an entry without name or value is no entry.
-void AddEntry(KeyedTexts& table, const Entry& entry, bool is_help) {
-  if (!entry.Name || entry.Name->empty() || !entry.Value) return;
-  table.Add(Lower(*entry.Name), is_help ? HelpText(*entry.Value) : std::string{*entry.Value});
+/// An entry without name or value is no entry.
+bool IsComplete(const Entry& entry) {
+  return entry.Name && !entry.Name->empty() && entry.Value;
 }
 
 /// The pieces of a list in one value; an empty text has none.
@@ -82,6 +89,29 @@ std::string_view TakeValue(std::string_view& text) {
   return value;
 }
 
+/// The members of a list. Those that the kind's event list has, or whose help says so, are events;
+/// for the rest the help decides, and a member without any is a property.
+std::vector<KindMember> MembersOf(const SupportTables& tables, std::string_view kind,
+                                  std::string_view list) {
+  std::vector<KindMember> members;
+  const std::vector<std::string>* events = tables.EventLists.Find(kind);
+  for (std::string& name : ListOfPieces(list, kRowSeparator, false)) {
+    KindMember member{std::move(name), MemberSort::Property};
+    if (EqualsFolded(kind, language::kTypeWord)) {
+      member.Sort = MemberSort::TypeName;
+    } else if (events != nullptr &&
+               std::any_of(events->begin(), events->end(), [&](const std::string& event) {
+                 return EqualsFolded(event, member.Name);
+               })) {
+      member.Sort = MemberSort::Event;
+    } else if (const std::string* help = tables.HelpOfMember(kind, member.Name)) {
+      member.Sort = language::SortInHelp(*help, kind).value_or(MemberSort::Property);
+    }
+    members.push_back(std::move(member));
+  }
+  return members;
+}
+
 void FillPanelLists(SupportTables& tables, std::string_view text) {
   TakeValue(text);
   tables.ListFunc1 = ListOfPieces(TakeValue(text), "*", true);
@@ -90,22 +120,12 @@ void FillPanelLists(SupportTables& tables, std::string_view text) {
 
 }  // namespace
 
-bool KeyedTexts::Add(std::string_view key, std::string value) {
-  const auto [place, added] = texts_.try_emplace(std::string{key});
-  if (added) place->second = std::move(value);
-  return added;
-}
-
-const std::string* KeyedTexts::Find(std::string_view key) const noexcept {
-  const auto found = texts_.find(key);
-  return found == texts_.end() ? nullptr : &found->second;
-}
-
 void AddMemberFile(SupportTables& tables, std::string_view text) {
   enum class Section : std::uint8_t { Members, Help, Events };
   Section section = Section::Members;
   const std::vector<std::string_view> lines = Split(text, kLineEnd);
   tables.ListaObjetos = ListOfPieces(lines.front(), "/", false);
+  std::vector<Entry> member_lists;
   for (std::size_t i = 1; i < lines.size(); ++i) {
     const std::string_view line = lines[i];
     if (Contains(line, kHelpSection)) {
@@ -113,12 +133,23 @@ void AddMemberFile(SupportTables& tables, std::string_view text) {
     } else if (Contains(line, kEventSection)) {
       section = Section::Events;
     } else if (section == Section::Members) {
-      AddEntry(tables.MemberLists, EntryOf(line, '[', ']'), false);
+      const Entry entry = EntryOf(line, '[', ']');
+      if (IsComplete(entry)) member_lists.push_back(entry);
+    } else if (const Entry entry = EntryOf(line, '{', kNameEnd); !IsComplete(entry)) {
+      continue;
+    } else if (section == Section::Help) {
+      tables.MemberHelp.Add(Lower(*entry.Name), HelpText(*entry.Value));
     } else {
-      const bool is_help = section == Section::Help;
-      AddEntry(is_help ? tables.MemberHelp : tables.EventLists, EntryOf(line, '{', kNameEnd),
-               is_help);
+      tables.EventLists.Add(Lower(*entry.Name), ListOfPieces(*entry.Value, kRowSeparator, false));
     }
+  }
+  // What a member is stands in help and events, further down in the file. They know a kind by the
+  // first of its words: the same list again is the same kind under its array's name.
+  std::unordered_map<std::string_view, std::string> first_words;
+  for (const Entry& entry : member_lists) {
+    const std::string word = Lower(*entry.Name);
+    const std::string& kind = first_words.try_emplace(*entry.Value, word).first->second;
+    tables.MemberLists.Add(word, MembersOf(tables, kind, *entry.Value));
   }
 }
 
@@ -128,10 +159,9 @@ void AddFunctionFile(SupportTables& tables, std::string_view text) {
   // The first two lines are the lists of the panel and hold no functions.
   for (std::size_t i = 2; i < lines.size(); ++i) {
     if (lines[i].empty()) continue;
-    // A line without a name still takes a row: rows and descriptions count together.
     const Entry entry = EntryOf(lines[i], '[', ']');
-    tables.ListColFunc.emplace_back(entry.Name.value_or(std::string_view{}));
-    tables.FunctionDescriptions.push_back(HelpText(entry.Value.value_or(std::string_view{})));
+    tables.Functions.Add(std::string{entry.Name.value_or(std::string_view{})},
+                         HelpText(entry.Value.value_or(std::string_view{})));
   }
 }
 
@@ -139,18 +169,18 @@ void AddKeywordFile(SupportTables& tables, std::string_view text) {
   if (text.ends_with(kLineEnd)) text.remove_suffix(kLineEnd.size());
   const std::size_t last = text.rfind(kLineEnd);
   if (last != std::string_view::npos) text.remove_prefix(last + kLineEnd.size());
-  tables.Keywords.clear();
-  if (text.empty()) return;
-  tables.Keywords = ReplaceAll(text, "/", "\n") + "\n\n";
+  tables.Keywords = ListOfPieces(text, "/", true);
 }
 
 void AddKindFile(SupportTables& tables, std::string_view text) {
-  const std::string closed = std::string{text}.append(kLineEnd);
-  for (const std::string_view line : Split(closed, kLineEnd)) {
-    tables.KindLines.emplace_back(line);
+  for (const std::string_view line : Split(text, kLineEnd)) {
     const Entry entry = EntryOf(line, '[', ']');
-    if (!entry.Name || entry.Name->empty() || !entry.Value) continue;
-    tables.ObjectHelp.Add(Upper(*entry.Name), std::string{*entry.Value});
+    if (!IsComplete(entry)) continue;
+    std::vector<language::PropertyRow> rows;
+    for (const std::string& row : ListOfPieces(*entry.Value, kRowSeparator, false)) {
+      rows.push_back(language::ParsePropertyRow(row));
+    }
+    tables.ObjectHelp.Add(Upper(*entry.Name), std::move(rows));
   }
 }
 

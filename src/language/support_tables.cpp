@@ -1,0 +1,14 @@
+#include "language/support_tables.h"
+
+namespace tarnwick::language {
+
+const std::string* SupportTables::HelpOfKind(std::string_view kind) const {
+  return MemberHelp.Find(std::string{kind}.append("%"));
+}
+
+const std::string* SupportTables::HelpOfMember(std::string_view kind,
+                                               std::string_view member) const {
+  return MemberHelp.Find(MemberHelpKey(kind, member));
+}
+
+}  // namespace tarnwick::language
