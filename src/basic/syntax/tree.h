@@ -88,6 +88,7 @@ struct Binary {
 
 struct Node {
   SourcePlace At;
+  std::uint16_t Height;  ///< nodes from here to the deepest leaf, at most `kMaxExpressionHeight`
   std::variant<WholeNumber, RealNumber, TextLiteral, Name, Apply, Subscript, MemberAccess,
                ByReference, Unary, Binary>
       Value;
@@ -219,6 +220,7 @@ struct PrintPart {
   PrintMark Mark;
 };
 struct PrintLine {
+  bool Printer;  ///< LPRINT
   const Node* Page;
   std::span<const PrintPart> Parts;
 };
@@ -242,6 +244,7 @@ struct RestoreLine {
 struct BindLine {
   const Node* Target;
   std::string_view Procedure;
+  SourcePlace ProcedureAt;
 };
 struct WithBlock {
   const Node* Object;
@@ -295,26 +298,22 @@ struct TypeCheckLine {
 struct DefaultTypeLine {
   TypeName As;
 };
-/// A generated line that is no statement but is accepted; the row of the tolerances says how.
-struct ToleratedLine {
-  std::string_view Row;
-  std::string_view Text;
-};
-
 struct StatementNode {
   SourcePlace At;
   std::variant<Declaration, ConstDeclaration, Assignment, Step, CallLine, IfBlock, SelectBlock,
                ForBlock, LoopBlock, ExitLine, Label, Jump, OnJumpLine, ReturnLine, EndLine,
                PrintLine, InputLine, DataLine, ReadLine, RestoreLine, BindLine, WithBlock,
                CreateBlock, Routine, DeclareLine, TypeBlock, ResourceLine, TypeCheckLine,
-               DefaultTypeLine, ToleratedLine>
+               DefaultTypeLine>
       Value;
 };
 
-/// A whole program as it stands in the source.
+/// A whole program as it stands in the source. Its texts lie in the source set and the token stream
+/// that it was made of.
 struct SyntaxTree {
   Arena Memory;
   StatementList Statements;
+  bool Generated = false;  ///< the text begins like one that the program wrote itself
   bool ApplicationTypeGiven = false;
   bool Console = false;  ///< $APPTYPE CONSOLE
 };

@@ -1,0 +1,144 @@
+#include "basic/source/logical_line.h"
+
+#include <algorithm>
+#include <limits>
+#include <string>
+
+#include "language/characters.h"
+#include "text/strings.h"
+
+namespace tarnwick::basic {
+namespace {
+
+using language::TokenKind;
+
+SourceTokenKind KindOfToken(TokenKind kind) {
+  switch (kind) {
+    case TokenKind::Name:
+      return SourceTokenKind::Name;
+    case TokenKind::Number:
+      return SourceTokenKind::Number;
+    case TokenKind::Text:
+      return SourceTokenKind::Text;
+    case TokenKind::Directive:
+      return SourceTokenKind::Directive;
+    default:
+      return SourceTokenKind::Sign;
+  }
+}
+
+/// The byte of up to `most` digits from `at` on, which moves behind them.
+char CodeAt(std::string_view text, std::size_t& at, int base, int most) {
+  int code = 0;
+  for (int i = 0; i < most && at < text.size() && language::DigitValue(text[at]) < base; ++i) {
+    code = code * base + language::DigitValue(text[at++]);
+  }
+  return static_cast<char>(static_cast<unsigned char>(code & 0xFF));
+}
+
+std::string Unescaped(std::string_view text) {
+  std::string plain;
+  plain.reserve(text.size());
+  std::size_t at = 0;
+  while (at < text.size()) {
+    const char c = text[at++];
+    if (c != '\\' || at == text.size()) {
+      plain += c;
+      continue;
+    }
+    const char escape = text[at];
+    if (language::IsDigit(escape)) {
+      plain += CodeAt(text, at, 10, 3);
+      continue;
+    }
+    ++at;
+    switch (escape) {
+      case 'n':
+        plain += '\n';
+        break;
+      case 'r':
+        plain += '\r';
+        break;
+      case 't':
+        plain += '\t';
+        break;
+      case '"':
+      case '\\':
+        plain += escape;
+        break;
+      case 'x':
+      case 'X':
+        if (at < text.size() && language::DigitValue(text[at]) < 16) {
+          plain += CodeAt(text, at, 16, 2);
+          break;
+        }
+        [[fallthrough]];
+      default:
+        plain += c;
+        plain += escape;
+    }
+  }
+  return plain;
+}
+
+std::uint16_t Narrow(std::size_t value) {
+  return static_cast<std::uint16_t>(
+      std::min<std::size_t>(value, std::numeric_limits<std::uint16_t>::max()));
+}
+
+}  // namespace
+
+SourcePlace PlaceIn(std::uint16_t file, std::size_t line_number, std::size_t begin,
+                    std::size_t length) noexcept {
+  return {static_cast<std::uint32_t>(line_number), file, Narrow(begin + 1), Narrow(length)};
+}
+
+void LineReader::Next(bool escapes, std::vector<SourceToken>& tokens) {
+  tokens.clear();
+  rest_ = {};
+  language::LineState state;
+  state.EscapeChars = escapes;
+  int lines = 0;
+  do {
+    const std::string_view line = file_.Lines[next_++];
+    state = language::LexLine(line, state, lexed_);
+    std::size_t end = 0;
+    for (const language::Token& token : lexed_) {
+      if (token.Kind == TokenKind::Comment || token.Kind == TokenKind::Continuation) continue;
+      const bool touches = !tokens.empty() && end > 0 && token.Begin == end;
+      Take(line, token, touches, escapes, tokens);
+      end = token.Begin + token.Length;
+    }
+    if (lines == 0 && !lexed_.empty())
+      rest_ = Trim(line.substr(lexed_[0].Begin + lexed_[0].Length));
+    if (++lines == kMaxContinuedLines && state.Continued) {
+      messages_.Error(PlaceIn(index_, next_, 0, line.size()), "The statement takes too many lines",
+                      "Split it into several statements");
+      return;
+    }
+  } while (state.Continued && HasNext());
+}
+
+void LineReader::Take(std::string_view line, const language::Token& token, bool touches,
+                      bool escapes, std::vector<SourceToken>& tokens) {
+  const SourcePlace at = PlaceIn(index_, next_, token.Begin, token.Length);
+  std::string_view text = token.In(line);
+  if (token.Kind == TokenKind::Unknown) {
+    messages_.Error(at, "This character has no meaning here");
+    return;
+  }
+  if (token.Kind == TokenKind::Text) {
+    if (!token.FromAbove) text.remove_prefix(1);
+    if (!token.Unclosed) text.remove_suffix(1);
+    if (escapes && text.find('\\') != std::string_view::npos) text = memory_.Text(Unescaped(text));
+    if (token.FromAbove && !tokens.empty() && tokens.back().Kind == SourceTokenKind::Text) {
+      SourceToken& open = tokens.back();
+      open.Text = memory_.Text(std::string(open.Text).append(text));
+      open.Unclosed = token.Unclosed;
+      return;
+    }
+  }
+  tokens.push_back({KindOfToken(token.Kind), touches, token.Unclosed, text, at});
+}
+
+}  // namespace tarnwick::basic

@@ -1,0 +1,52 @@
+// A statement line: one line of a file with those that continue it.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "basic/source/arena.h"
+#include "basic/source/messages.h"
+#include "basic/source/source_set.h"
+#include "basic/source/source_token.h"
+#include "language/lexer.h"
+
+namespace tarnwick::basic {
+
+/// Lines that one statement may take at most.
+inline constexpr int kMaxContinuedLines = 1000;
+
+/// Reads a file line by line.
+class LineReader {
+ public:
+  LineReader(const SourceFile& file, std::uint16_t index, Arena& memory, Messages& messages)
+      : file_(file), index_(index), memory_(memory), messages_(messages) {}
+
+  /// True when a further line is there.
+  [[nodiscard]] bool HasNext() const noexcept { return next_ < file_.Lines.size(); }
+  /// Replaces `tokens` by those of the next statement line, without comments and without a LineEnd.
+  /// `escapes` says whether "\" escapes in its texts.
+  void Next(bool escapes, std::vector<SourceToken>& tokens);
+  /// What stands on the last line read behind its first token, blanks at both ends off, comment
+  /// included.
+  [[nodiscard]] std::string_view RestOfDirective() const noexcept { return rest_; }
+
+ private:
+  void Take(std::string_view line, const language::Token& token, bool touches, bool escapes,
+            std::vector<SourceToken>& tokens);
+
+  const SourceFile& file_;
+  std::uint16_t index_;
+  Arena& memory_;
+  Messages& messages_;
+  std::size_t next_ = 0;
+  std::string_view rest_;
+  std::vector<language::Token> lexed_;
+};
+
+/// A place in a line; `begin` counts bytes from 0.
+[[nodiscard]] SourcePlace PlaceIn(std::uint16_t file, std::size_t line_number, std::size_t begin,
+                                  std::size_t length) noexcept;
+
+}  // namespace tarnwick::basic

@@ -1,0 +1,406 @@
+// The frame of the parser: tokens, faults, the order of statements.
+#include "basic/syntax/parser.h"
+
+#include <array>
+#include <optional>
+
+#include "basic/syntax/parser_core.h"
+#include "text/code_page.h"
+
+namespace tarnwick::basic {
+namespace {
+
+/// How the closing of a block is written, for messages.
+std::string_view ClosingText(BlockKind kind) {
+  static constexpr std::array<std::string_view, 13> kTexts = {
+      "END IF",          "END SELECT", "NEXT",        "WEND",    "LOOP",
+      "END WITH",        "END CREATE", "END TYPE",    "END SUB", "END FUNCTION",
+      "END CONSTRUCTOR", "END EVENT",  "END PROPERTY"};
+  return kTexts[static_cast<std::size_t>(kind)];
+}
+
+/// The block that "END word" closes.
+std::optional<BlockKind> ClosedByEnd(Word word) {
+  switch (word) {
+    case Word::If:
+      return BlockKind::If;
+    case Word::Select:
+      return BlockKind::Select;
+    case Word::With:
+      return BlockKind::With;
+    case Word::Create:
+      return BlockKind::Create;
+    case Word::Type:
+    case Word::Struct:
+      return BlockKind::Type;
+    case Word::Sub:
+    case Word::SubI:
+      return BlockKind::Sub;
+    case Word::Function:
+    case Word::FunctionI:
+      return BlockKind::Function;
+    case Word::Constructor:
+      return BlockKind::Constructor;
+    case Word::Event:
+      return BlockKind::Event;
+    case Word::Property:
+      return BlockKind::Property;
+    default:
+      return std::nullopt;
+  }
+}
+
+bool IsRoutine(BlockKind kind) {
+  return kind >= BlockKind::Sub;
+}
+
+}  // namespace
+
+tree::SyntaxTree Parse(const TokenStream& stream, bool strict, Messages& messages) {
+  tree::SyntaxTree tree;
+  Parser(stream, strict, tree, messages).Run();
+  return tree;
+}
+
+void Parser::Run() {
+  Statements all;
+  while (Peek().Kind != SourceTokenKind::End && !messages_.Full()) {
+    // What closes nothing is reported where it stands, and the rest is read on.
+    const std::size_t before = at_;
+    const tree::StatementList part = Body(BlockKind::If, {});
+    all.insert(all.end(), part.begin(), part.end());
+    if (at_ == before) Take();
+  }
+  out_.Statements = memory_.List(all);
+}
+
+bool Parser::BeginsGenerated() const {
+  return Peek(4).Kind == SourceTokenKind::LineEnd && WordAhead(0) == Word::Dim &&
+         EqualsFolded(Peek(1).Text, "Font") && WordAhead(2) == Word::As &&
+         EqualsFolded(Peek(3).Text, "QFont");
+}
+
+SourcePlace Parser::SpanFrom(SourcePlace from) const {
+  if (at_ == 0) return from;
+  const SourcePlace& last = tokens_[at_ - 1].At;
+  if (last.File == from.File && last.Line == from.Line && last.Column >= from.Column) {
+    from.Length = static_cast<std::uint16_t>(
+        std::min(static_cast<int>(last.Column) + last.Length - from.Column, 65535));
+  }
+  return from;
+}
+
+void Parser::Expected(std::string_view what) {
+  const SourceToken& token = Peek();
+  std::string text(what);
+  switch (token.Kind) {
+    case SourceTokenKind::LineEnd:
+    case SourceTokenKind::End:
+      text += " is missing at the end of the line";
+      break;
+    case SourceTokenKind::Text:
+      text += " is expected in front of this text";
+      break;
+    default:
+      text.append(" is expected in front of \"").append(token.Text).append("\"");
+  }
+  Error(token.At, std::move(text));
+}
+
+bool Parser::ExpectSign(std::string_view sign) {
+  if (TakeSign(sign)) return true;
+  if (!failed_) Expected('"' + std::string(sign) + '"');
+  return false;
+}
+
+bool Parser::ExpectWord(Word word) {
+  if (TakeWord(word)) return true;
+  if (!failed_) Expected(TextOf(word));
+  return false;
+}
+
+std::string_view Parser::ExpectName(std::string_view what) {
+  if (IsName()) return Take().Text;
+  if (!failed_) Expected(what);
+  return {};
+}
+
+void Parser::Tolerate(Tolerance which, SourcePlace at) {
+  const ToleranceRow& row = RowOf(which);
+  if (!row.Note.empty()) messages_.Note(at, std::string(row.Note), std::string(row.Remedy));
+}
+
+bool Parser::Closes(BlockKind& kind) const {
+  switch (WordAhead()) {
+    case Word::Next:
+      kind = BlockKind::For;
+      break;
+    case Word::Wend:
+      kind = BlockKind::While;
+      break;
+    case Word::Loop:
+      kind = BlockKind::Do;
+      break;
+    case Word::EndIf:
+    case Word::ElseIf:
+    case Word::Else:
+      kind = BlockKind::If;
+      break;
+    case Word::Case:
+      kind = BlockKind::Select;
+      break;
+    case Word::End: {
+      const std::optional<BlockKind> closed = ClosedByEnd(WordAhead(1));
+      if (!closed) return false;
+      kind = *closed;
+      return true;
+    }
+    default:
+      return false;
+  }
+  // A variable may have such a name.
+  return !IsSign("=", 1) && !IsSign(".", 1);
+}
+
+bool Parser::IsOpen(BlockKind kind) const {
+  return std::find(open_.begin(), open_.end(), kind) != open_.end();
+}
+
+void Parser::TakeEnd(BlockKind kind) {
+  BlockKind here{};
+  if (!Closes(here) || here != kind) return;
+  if (WordAhead() == Word::End) Take();
+  Take();
+  if (kind == BlockKind::Property && TakeWord(Word::Set)) return;
+}
+
+tree::StatementList Parser::Body(BlockKind kind, SourcePlace opened) {
+  const bool outermost = opened.Line == 0;
+  if (open_.size() >= static_cast<std::size_t>(kMaxBlockDepth)) {
+    Error(Here(), "Blocks are nested too deeply", "Move the inner ones into a SUB");
+    SkipLine();
+    return {};
+  }
+  if (!outermost) open_.push_back(kind);
+  Statements out;
+  bool first_on_line = tokens_[at_ == 0 ? 0 : at_ - 1].Kind == SourceTokenKind::LineEnd || at_ == 0;
+  while (!messages_.Full()) {
+    if (Peek().Kind == SourceTokenKind::LineEnd || IsSign(":")) {
+      first_on_line = Take().Kind == SourceTokenKind::LineEnd;
+      continue;
+    }
+    if (Peek().Kind == SourceTokenKind::End) {
+      if (!outermost) {
+        Error(opened, std::string(ClosingText(kind)) + " of this block is missing");
+      }
+      break;
+    }
+    BlockKind closed{};
+    if (Closes(closed)) {
+      if (closed == kind && !outermost) break;
+      if (IsOpen(closed) && !(IsRoutine(kind) && !IsRoutine(closed))) {
+        Error(opened, std::string(ClosingText(kind)) + " of this block is missing");
+        break;
+      }
+      Error(Here(), "This closes no block: the line that opens it is missing");
+      SkipLine();
+      continue;
+    }
+    const bool head =
+        WordAhead() == Word::Sub || WordAhead() == Word::SubI ||
+        ((WordAhead() == Word::Function || WordAhead() == Word::FunctionI) && IsName(1));
+    if (head && IsRoutine(kind) && !outermost) {
+      Error(opened, std::string(ClosingText(kind)) + " of this block is missing");
+      break;
+    }
+    failed_ = false;
+    Statement(out, first_on_line);
+    first_on_line = false;
+  }
+  if (!outermost) open_.pop_back();
+  failed_ = false;
+  return memory_.List(out);
+}
+
+void Parser::Statement(Statements& out, bool first_on_line) {
+  const std::size_t before = at_;
+  if (Peek().Kind == SourceTokenKind::Directive) {
+    DirectiveLine(out);
+  } else if (first_on_line && LabelHere(out)) {
+    return;
+  } else if (const Word word = WordAhead(); WordBeginsStatement(word)) {
+    StatementOfWord(word, out);
+  } else if (IsSign("?")) {
+    PrintStatement(out);
+  } else {
+    AssignmentOrCall(out);
+  }
+  EndOfStatement();
+  if (at_ == before && !AtLineEnd()) Take();
+}
+
+void Parser::EndOfStatement() {
+  if (failed_) {
+    SkipLine();
+    return;
+  }
+  if (AtStatementEnd()) return;
+  const SourceToken& token = Peek();
+  const bool quote = at_ > 0 && tokens_[at_ - 1].Kind == SourceTokenKind::Text;
+  if (quote) {
+    Error(token.At, "The text in front of this ends at a quote inside it",
+          "Take the quote out of the text, or write CHR$(34) for it");
+  } else if (token.Kind == SourceTokenKind::Text) {
+    Error(token.At, "A text is not expected here");
+  } else {
+    Error(token.At, "\"" + std::string(token.Text) + "\" is not expected here");
+  }
+  SkipLine();
+}
+
+bool Parser::LabelHere(Statements& out) {
+  const SourceToken& token = Peek();
+  if (token.Kind == SourceTokenKind::Number) {
+    Take();
+    Add(out, token.At, tree::Label{token.Text});
+    return true;
+  }
+  if (!IsName() || !IsSign(":", 1) || WordAhead() != Word::None) return false;
+  Take();
+  Add(out, token.At, tree::Label{token.Text});
+  return true;
+}
+
+/// Words that may also be the name of a variable or an object begin a statement only where no "="
+/// or "." follows.
+bool Parser::WordBeginsStatement(Word word) const {
+  switch (word) {
+    case Word::None:
+    case Word::Alias:
+    case Word::And:
+    case Word::As:
+    case Word::ByRef:
+    case Word::ByVal:
+    case Word::Extends:
+    case Word::Inv:
+    case Word::Is:
+    case Word::Lib:
+    case Word::Mod:
+    case Word::Not:
+    case Word::Or:
+    case Word::Set:
+    case Word::Shl:
+    case Word::Shr:
+    case Word::Step:
+    case Word::Then:
+    case Word::To:
+    case Word::Until:
+    case Word::Xor:
+      return false;
+    default:
+      return !IsSign("=", 1) && !IsSign(".", 1);
+  }
+}
+
+void Parser::StatementOfWord(Word word, Statements& out) {
+  const SourcePlace at = Here();
+  switch (word) {
+    case Word::Dim:
+      return DimStatement(out, tree::DeclareKind::Dim);
+    case Word::Redim:
+      return DimStatement(out, tree::DeclareKind::Redim);
+    case Word::Static:
+      return DimStatement(out, tree::DeclareKind::Static);
+    case Word::Shared:
+      return DimStatement(out, tree::DeclareKind::Shared);
+    case Word::DefByte:
+      return DefStatement(out, "BYTE");
+    case Word::DefDbl:
+      return DefStatement(out, "DOUBLE");
+    case Word::DefDWord:
+      return DefStatement(out, "DWORD");
+    case Word::DefInt:
+      return DefStatement(out, "INTEGER");
+    case Word::DefLng:
+      return DefStatement(out, "LONG");
+    case Word::DefShort:
+      return DefStatement(out, "SHORT");
+    case Word::DefSng:
+      return DefStatement(out, "SINGLE");
+    case Word::DefStr:
+      return DefStatement(out, "STRING");
+    case Word::DefWord:
+      return DefStatement(out, "WORD");
+    case Word::Const:
+      return ConstStatement(out);
+    case Word::Public:
+    case Word::Private:
+      // What they say about a module has no effect in a program of one text.
+      while (WordAhead() == Word::Public || WordAhead() == Word::Private) Take();
+      if (!AtStatementEnd()) Statement(out, false);
+      return;
+    case Word::Sub:
+    case Word::SubI:
+    case Word::Function:
+    case Word::FunctionI:
+    case Word::Constructor:
+    case Word::Event:
+    case Word::Property:
+      return RoutineStatement(out);
+    case Word::Declare:
+      return DeclareStatement(out);
+    case Word::Type:
+    case Word::Struct:
+      return TypeStatement(out);
+    case Word::If:
+      return IfStatement(out);
+    case Word::Select:
+      return SelectStatement(out);
+    case Word::For:
+      return ForStatement(out);
+    case Word::While:
+      return WhileStatement(out);
+    case Word::Do:
+      return DoStatement(out);
+    case Word::With:
+      return WithStatement(out);
+    case Word::Create:
+      return CreateStatement(out);
+    case Word::Let:
+      Take();
+      return AssignmentOrCall(out);
+    case Word::Call:
+      return CallStatement(out);
+    case Word::Print:
+    case Word::LPrint:
+      return PrintStatement(out);
+    case Word::Input:
+      return InputStatement(out);
+    case Word::On:
+      return OnStatement(out);
+    case Word::Goto:
+    case Word::Gosub:
+      Take();
+      return JumpStatement(out, word == Word::Gosub);
+    case Word::Exit:
+      return ExitStatement(out);
+    case Word::Data:
+      return DataStatement(out);
+    case Word::Read:
+      return ReadStatement(out);
+    case Word::Restore:
+      return RestoreStatement(out);
+    case Word::Bind:
+      return BindStatement(out);
+    case Word::Return:
+      Take();
+      return Add(out, at, tree::ReturnLine{});
+    case Word::End:
+      Take();
+      return Add(out, at, tree::EndLine{});
+    default:
+      Error(at, std::string(TextOf(word)) + " is not expected here");
+  }
+}
+
+}  // namespace tarnwick::basic

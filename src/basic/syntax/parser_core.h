@@ -1,0 +1,211 @@
+// The parser's state and its functions; each group of functions is a file of its own.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "basic/source/messages.h"
+#include "basic/source/source_token.h"
+#include "basic/syntax/parser.h"
+#include "basic/syntax/tolerances.h"
+#include "basic/syntax/tree.h"
+#include "basic/syntax/words.h"
+
+namespace tarnwick::basic {
+
+/// What a block is closed by.
+enum class BlockKind : std::uint8_t {
+  If,
+  Select,
+  For,
+  While,
+  Do,
+  With,
+  Create,
+  Type,
+  Sub,
+  Function,
+  Constructor,
+  Event,
+  Property,
+};
+
+class Parser {
+ public:
+  Parser(const TokenStream& stream, bool strict, tree::SyntaxTree& out, Messages& messages)
+      : tokens_(stream.Tokens), out_(out), memory_(out.Memory), messages_(messages) {
+    tolerant_ = !strict && BeginsGenerated();
+    out_.Generated = BeginsGenerated();
+  }
+  void Run();
+
+ private:
+  using Statements = std::vector<const tree::StatementNode*>;
+  using Node = tree::Node;
+
+  // --- Tokens (parser.cpp) -----------------------------------------------------------------------
+  [[nodiscard]] const SourceToken& Peek(std::size_t ahead = 0) const {
+    return tokens_[std::min(at_ + ahead, tokens_.size() - 1)];
+  }
+  const SourceToken& Take() {
+    const SourceToken& token = Peek();
+    if (at_ + 1 < tokens_.size()) ++at_;
+    return token;
+  }
+  [[nodiscard]] bool IsName(std::size_t ahead = 0) const {
+    return Peek(ahead).Kind == SourceTokenKind::Name;
+  }
+  [[nodiscard]] bool IsSign(std::string_view sign, std::size_t ahead = 0) const {
+    return Peek(ahead).Kind == SourceTokenKind::Sign && Peek(ahead).Text == sign;
+  }
+  /// The word of a name; None for every other token.
+  [[nodiscard]] Word WordAhead(std::size_t ahead = 0) const {
+    return IsName(ahead) ? WordOf(Peek(ahead).Text) : Word::None;
+  }
+  bool TakeSign(std::string_view sign) {
+    if (!IsSign(sign)) return false;
+    Take();
+    return true;
+  }
+  bool TakeWord(Word word) {
+    if (WordAhead() != word) return false;
+    Take();
+    return true;
+  }
+  [[nodiscard]] bool AtLineEnd(std::size_t ahead = 0) const {
+    return Peek(ahead).Kind == SourceTokenKind::LineEnd || Peek(ahead).Kind == SourceTokenKind::End;
+  }
+  /// True at a line end, a colon, or an ELSE that belongs to a single-line IF.
+  [[nodiscard]] bool AtStatementEnd() const {
+    return AtLineEnd() || IsSign(":") || (in_line_if_ > 0 && WordAhead() == Word::Else);
+  }
+  [[nodiscard]] bool BeginsGenerated() const;
+  [[nodiscard]] SourcePlace Here() const { return Peek().At; }
+  /// From the start of `from` to the end of the last token taken, when both are on one line.
+  [[nodiscard]] SourcePlace SpanFrom(SourcePlace from) const;
+
+  // --- Faults ------------------------------------------------------------------------------------
+  void Error(SourcePlace at, std::string text, std::string remedy = {}) {
+    messages_.Error(at, std::move(text), std::move(remedy));
+    failed_ = true;
+  }
+  /// "... expected", naming what stands there instead.
+  void Expected(std::string_view what);
+  bool ExpectSign(std::string_view sign);
+  bool ExpectWord(Word word);
+  /// The name that must stand here; "" with an error when there is none.
+  std::string_view ExpectName(std::string_view what);
+  void SkipLine() {
+    while (!AtLineEnd()) Take();
+  }
+  void Tolerate(Tolerance which, SourcePlace at);
+
+  // --- Statements --------------------------------------------------------------------------------
+  template <class T>
+  void Add(Statements& out, SourcePlace at, T value) {
+    out.push_back(memory_.Make<tree::StatementNode>(SpanFrom(at), std::move(value)));
+  }
+  /// Statements up to the word that closes the block, which stays.
+  tree::StatementList Body(BlockKind kind, SourcePlace opened);
+  /// One statement; a separator must follow.
+  void Statement(Statements& out, bool first_on_line);
+  void StatementOfWord(Word word, Statements& out);
+  [[nodiscard]] bool WordBeginsStatement(Word word) const;
+  bool LabelHere(Statements& out);
+  void EndOfStatement();
+  /// The block that the word here closes or divides; false for none.
+  [[nodiscard]] bool Closes(BlockKind& kind) const;
+  [[nodiscard]] bool IsOpen(BlockKind kind) const;
+  /// Takes END and its second word, or the one word that stands for both.
+  void TakeEnd(BlockKind kind);
+
+  // blocks.cpp
+  void IfStatement(Statements& out);
+  tree::StatementList LineBody();
+  void SelectStatement(Statements& out);
+  tree::CaseValue CaseValueHere();
+  void ForStatement(Statements& out);
+  void WhileStatement(Statements& out);
+  void DoStatement(Statements& out);
+  void WithStatement(Statements& out);
+  void CreateStatement(Statements& out);
+
+  // simple_statements.cpp
+  void AssignmentOrCall(Statements& out);
+  void AssignmentTo(const Node* target, SourcePlace at, Statements& out);
+  void CallStatement(Statements& out);
+  void PrintStatement(Statements& out);
+  void InputStatement(Statements& out);
+  void OnStatement(Statements& out);
+  void JumpStatement(Statements& out, bool returns);
+  void ExitStatement(Statements& out);
+  void DataStatement(Statements& out);
+  void ReadStatement(Statements& out);
+  void RestoreStatement(Statements& out);
+  void BindStatement(Statements& out);
+  void DirectiveLine(Statements& out);
+  std::string_view LabelName();
+
+  // declarations.cpp
+  void DimStatement(Statements& out, tree::DeclareKind kind);
+  void DefStatement(Statements& out, std::string_view type);
+  void ConstStatement(Statements& out);
+  bool DeclaratorHere(tree::Declarator& out);
+  void DimensionsHere(tree::Declarator& out);
+  void InitialHere(tree::Declarator& out);
+  tree::TypeName TypeHere();
+  tree::TypeName OptionalType();
+
+  // routines.cpp
+  void RoutineStatement(Statements& out);
+  bool RoutineHead(tree::Routine& routine, BlockKind& kind);
+  std::string_view RoutineName(SourcePlace& at);
+  std::vector<tree::ParameterNode> ParametersHere(bool& variadic);
+  void DeclareStatement(Statements& out);
+  void TypeStatement(Statements& out);
+  void TypeMember(std::vector<tree::Declarator>& fields, Statements& members);
+  void FieldsHere(std::vector<tree::Declarator>& fields);
+
+  // expressions.cpp
+  const Node* Expression() { return BinaryFrom(0); }
+  const Node* BinaryFrom(int level);
+  const Node* Prefix();
+  const Node* Postfix();
+  const Node* Primary();
+  const Node* PostfixFrom(const Node* node);
+  const Node* NumberHere();
+  /// The name here, and the parts of one with brackets inside (`pm(1)_OnClick`).
+  const Node* NameHere();
+  std::vector<const Node*> ArgumentsUntil(std::string_view closing);
+  template <class T>
+  const Node* MakeNode(SourcePlace from, int height, T value);
+
+  const std::vector<SourceToken>& tokens_;
+  tree::SyntaxTree& out_;
+  Arena& memory_;
+  Messages& messages_;
+  std::size_t at_ = 0;
+  bool tolerant_ = false;
+  bool failed_ = false;           ///< the statement being parsed has met an error
+  int in_line_if_ = 0;            ///< single-line IFs around this statement
+  int depth_ = 0;                 ///< of the expression
+  std::size_t last_bracket_ = 0;  ///< index of the bracket that opened the last `Apply` made
+  std::vector<BlockKind> open_;
+};
+
+template <class T>
+const tree::Node* Parser::MakeNode(SourcePlace from, int height, T value) {
+  if (height >= kMaxExpressionHeight) {
+    if (!failed_) Error(from, "The expression is too long", "Split it into several statements");
+    height = 0;
+    return memory_.Make<tree::Node>(from, std::uint16_t{1}, tree::WholeNumber{0});
+  }
+  return memory_.Make<tree::Node>(SpanFrom(from), static_cast<std::uint16_t>(height + 1),
+                                  std::move(value));
+}
+
+}  // namespace tarnwick::basic
