@@ -119,9 +119,9 @@ void Parser::ForStatement(Statements& out) {
   if (failed_) return;
   if (!AtStatementEnd()) return EndOfStatement();
   loop.Body = Body(BlockKind::For, at);
-  TakeEnd(BlockKind::For);
+  const bool closed = TakeEnd(BlockKind::For);
   // The name behind NEXT is for the reader alone.
-  if (IsName() && !AtStatementEnd()) PostfixFrom(NameHere());
+  if (closed && IsName() && !AtStatementEnd()) Postfix();
   Add(out, at, loop);
 }
 
@@ -150,8 +150,8 @@ void Parser::DoStatement(Statements& out) {
   }
   if (failed_) return;
   loop.Body = Body(BlockKind::Do, at);
-  TakeEnd(BlockKind::Do);
-  if (WordAhead() == Word::While || WordAhead() == Word::Until) {
+  const bool closed = TakeEnd(BlockKind::Do);
+  if (closed && (WordAhead() == Word::While || WordAhead() == Word::Until)) {
     loop.UntilAfter = WordAhead() == Word::Until;
     Take();
     loop.After = Expression();

@@ -166,12 +166,18 @@ bool Parser::IsOpen(BlockKind kind) const {
   return std::find(open_.begin(), open_.end(), kind) != open_.end();
 }
 
-void Parser::TakeEnd(BlockKind kind) {
+bool Parser::TakeEnd(BlockKind kind) {
   BlockKind here{};
-  if (!Closes(here) || here != kind) return;
+  if (!Closes(here) || here != kind) return false;
   if (WordAhead() == Word::End) Take();
   Take();
-  if (kind == BlockKind::Property && TakeWord(Word::Set)) return;
+  if (kind == BlockKind::Property) TakeWord(Word::Set);
+  return true;
+}
+
+void Parser::MissingEnd(BlockKind kind, SourcePlace opened) {
+  Error(opened, std::string(ClosingText(kind)) + " of this block is missing");
+  unclosed_ = true;
 }
 
 tree::StatementList Parser::Body(BlockKind kind, SourcePlace opened) {
@@ -190,16 +196,14 @@ tree::StatementList Parser::Body(BlockKind kind, SourcePlace opened) {
       continue;
     }
     if (Peek().Kind == SourceTokenKind::End) {
-      if (!outermost) {
-        Error(opened, std::string(ClosingText(kind)) + " of this block is missing");
-      }
+      if (!outermost) MissingEnd(kind, opened);
       break;
     }
     BlockKind closed{};
     if (Closes(closed)) {
       if (closed == kind && !outermost) break;
       if (IsOpen(closed) && !(IsRoutine(kind) && !IsRoutine(closed))) {
-        Error(opened, std::string(ClosingText(kind)) + " of this block is missing");
+        MissingEnd(kind, opened);
         break;
       }
       Error(Here(), "This closes no block: the line that opens it is missing");
@@ -210,7 +214,7 @@ tree::StatementList Parser::Body(BlockKind kind, SourcePlace opened) {
         WordAhead() == Word::Sub || WordAhead() == Word::SubI ||
         ((WordAhead() == Word::Function || WordAhead() == Word::FunctionI) && IsName(1));
     if (head && IsRoutine(kind) && !outermost) {
-      Error(opened, std::string(ClosingText(kind)) + " of this block is missing");
+      MissingEnd(kind, opened);
       break;
     }
     failed_ = false;
@@ -240,6 +244,7 @@ void Parser::Statement(Statements& out, bool first_on_line) {
 }
 
 void Parser::EndOfStatement() {
+  if (std::exchange(unclosed_, false)) return;
   if (failed_) {
     SkipLine();
     return;

@@ -121,7 +121,9 @@ class Parser {
   [[nodiscard]] bool Closes(BlockKind& kind) const;
   [[nodiscard]] bool IsOpen(BlockKind kind) const;
   /// Takes END and its second word, or the one word that stands for both.
-  void TakeEnd(BlockKind kind);
+  bool TakeEnd(BlockKind kind);
+  /// Reports that a block is not closed where one around it is.
+  void MissingEnd(BlockKind kind, SourcePlace opened);
 
   // blocks.cpp
   void IfStatement(Statements& out);
@@ -191,6 +193,7 @@ class Parser {
   std::size_t at_ = 0;
   bool tolerant_ = false;
   bool failed_ = false;           ///< the statement being parsed has met an error
+  bool unclosed_ = false;         ///< the block that ended last was not closed
   int in_line_if_ = 0;            ///< single-line IFs around this statement
   int depth_ = 0;                 ///< of the expression
   std::size_t last_bracket_ = 0;  ///< index of the bracket that opened the last `Apply` made
