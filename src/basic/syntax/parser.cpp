@@ -159,7 +159,7 @@ bool Parser::Closes(BlockKind& kind) const {
       return false;
   }
   // A variable may have such a name.
-  return !IsSign("=", 1) && !IsSign(".", 1);
+  return !IsSign("=", 1) && !(IsSign(".", 1) && Peek(1).Touches);
 }
 
 bool Parser::IsOpen(BlockKind kind) const {
@@ -277,7 +277,7 @@ bool Parser::LabelHere(Statements& out) {
 }
 
 /// Words that may also be the name of a variable or an object begin a statement only where no "="
-/// or "." follows.
+/// or touching "." follows; after a blank the "." is that of a member within WITH.
 bool Parser::WordBeginsStatement(Word word) const {
   switch (word) {
     case Word::None:
@@ -303,7 +303,7 @@ bool Parser::WordBeginsStatement(Word word) const {
     case Word::Xor:
       return false;
     default:
-      return !IsSign("=", 1) && !IsSign(".", 1);
+      return !IsSign("=", 1) && !(IsSign(".", 1) && Peek(1).Touches);
   }
 }
 
