@@ -45,6 +45,9 @@ class ObjectHost {
   /// Handles waiting events, after waiting up to `wait_ms` for one. False when there is no
   /// window system: nothing was waited for.
   virtual bool PumpEvents(int wait_ms) = 0;
+  /// Called about every 250 ms while the program runs without waiting for events: the windows may
+  /// repaint, but no event may be raised.
+  virtual void Repaint() {}
   /// Why the last call returned false or None.
   [[nodiscard]] virtual std::string_view Reason() const = 0;
 };

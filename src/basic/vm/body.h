@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "basic/ids.h"
+#include "basic/check/types.h"
 
 namespace tarnwick::basic {
 
@@ -26,6 +26,31 @@ enum class SlotKind : std::uint8_t {
 /// Integer, Number, Object need no counting; the others are bodies.
 constexpr bool IsCounted(SlotKind kind) {
   return kind == SlotKind::Text || kind >= SlotKind::Array;
+}
+
+/// The kind of slot that holds what an expression gives.
+constexpr SlotKind SlotKindOf(ValueKind kind) {
+  switch (kind) {
+    case ValueKind::None:
+      return SlotKind::Empty;
+    case ValueKind::Whole:
+      return SlotKind::Integer;
+    case ValueKind::Real:
+      return SlotKind::Number;
+    case ValueKind::Text:
+      return SlotKind::Text;
+    case ValueKind::Variant:
+      return SlotKind::Variant;
+    case ValueKind::Object:
+      return SlotKind::Object;
+    case ValueKind::Record:
+      return SlotKind::Record;
+  }
+  return SlotKind::Empty;
+}
+/// The kind of slot of a variable.
+constexpr SlotKind SlotKindOf(const Type& type) {
+  return type.IsArray() ? SlotKind::Array : SlotKindOf(KindOf(type));
 }
 
 /// Head of everything counted. The machine runs in one thread, so the count is a plain number.
@@ -71,7 +96,7 @@ struct TextBody : Body {
   std::string Bytes;
 };
 
-struct RecordLayout;
+struct FieldLayout;
 
 /// Lowest and highest index of one dimension, both included.
 struct Bound {
@@ -83,35 +108,50 @@ struct Bound {
 /// Elements of an array. A body of its own, so that a reference to an element keeps it alive
 /// while REDIM gives the array other elements.
 struct ElementsBody : Body {
-  ElementsBody() : Body(SlotKind::Elements) {}
+  explicit ElementsBody(SlotKind element) : Body(SlotKind::Elements), Element(element) {}
   std::vector<Slot> Slots;
-  SlotKind Element = SlotKind::Integer;
+  SlotKind Element;
   std::size_t* InUse = nullptr;  ///< counter of array slots of the running program
 };
 
-/// An array variable: passed by reference, so all who hold it see a REDIM.
-/// The last index runs fastest. `Elements` is null before the first DIM.
+/// An array variable: passed by reference, so all who hold it see a REDIM. The last index runs
+/// fastest. An array that `Grows` has one dimension from 0 on and gets longer as it is used.
 struct ArrayBody : Body {
-  ArrayBody() : Body(SlotKind::Array) {}
-  SlotKind Element = SlotKind::Integer;
-  const RecordLayout* Layout = nullptr;  ///< of the elements, when they are records
+  explicit ArrayBody(const FieldLayout& layout) : Body(SlotKind::Array), Layout(&layout) {}
+  const FieldLayout* Layout;
   std::vector<Bound> Bounds;
   ElementsBody* Elements = nullptr;
+  bool Grows = false;
+  // The same once more for quick access: the first slot, and the first two dimensions. Lengths
+  // are 0 when there are no elements; the second is 1 when there is one dimension.
+  Slot* First = nullptr;
+  std::int64_t Low = 0;
+  std::uint64_t Length = 0;
+  std::int64_t Low2 = 0;
+  std::uint64_t Length2 = 0;
 };
 
-/// One field of a TYPE.
+struct RecordLayout;
+
+/// A variable or a field of a TYPE: what is made for it.
 struct FieldLayout {
   std::string Name;
   SlotKind Kind = SlotKind::Integer;
-  const RecordLayout* Record = nullptr;  ///< of a nested record, or of an array's elements
-  SlotKind Element = SlotKind::Integer;  ///< of an array field
-  std::vector<Bound> Bounds;             ///< of an array field
+  SlotKind Element = SlotKind::Empty;    ///< of an array
+  const RecordLayout* Record = nullptr;  ///< of a record, or of an array's elements
+  ClassId Class{};                       ///< of an object, or of an array's elements
+  bool AnyClass = false;                 ///< an object variable for which none is made
+  Storage Stored = Storage::None;        ///< width of the value, or of an array's elements
+  std::uint32_t ByteSize = 0;            ///< bytes of the value, or of an array's elements
+  std::vector<Bound> Bounds;             ///< of an array field; empty for one that grows
 };
 
 /// The fields of a TYPE, in order of declaration.
 struct RecordLayout {
   std::string Name;
   std::vector<FieldLayout> Fields;
+  bool HasObject = false;     ///< field 0 is the object of the class that the TYPE extends
+  ProcedureId Constructor{};  ///< 0: none
 };
 
 /// A variable of a TYPE.

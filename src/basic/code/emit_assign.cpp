@@ -1,0 +1,247 @@
+// Assignments: stores fitted to the width of the variable, and texts that grow in place.
+#include <limits>
+
+#include "basic/code/procedure_emitter.h"
+
+namespace tarnwick::basic {
+namespace {
+
+struct Range {
+  std::int64_t Low;
+  std::int64_t High;
+};
+
+/// The numbers that a storage for whole numbers holds.
+Range RangeOf(Storage storage) {
+  switch (storage) {
+    case Storage::Byte:
+      return {0, 255};
+    case Storage::Word:
+      return {0, 65535};
+    case Storage::DWord:
+      return {0, 4294967295};
+    case Storage::Short:
+      return {-32768, 32767};
+    case Storage::Integer:
+      return {-2147483648LL, 2147483647};
+    default:
+      return {std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max()};
+  }
+}
+
+/// True when the value is sure to be one that the storage holds.
+bool FitsAlready(Storage storage, const Expression& value) {
+  const Range range = RangeOf(storage);
+  if (const auto* const constant = std::get_if<WholeConstant>(&value.Node)) {
+    return constant->Value >= range.Low && constant->Value <= range.High;
+  }
+  if (value.IsLocation()) {
+    if (value.Kind.Kind == storage) return true;
+    if (value.Gives() != ValueKind::Whole) return false;
+    const Range source = RangeOf(value.Kind.Kind);
+    return source.Low >= range.Low && source.High <= range.High;
+  }
+  const auto* const operation = std::get_if<BinaryOperation>(&value.Node);
+  return operation != nullptr && operation->Operator >= BinaryOperator::Equal && range.Low < 0;
+}
+
+bool NeedsFit(const Type& type, const Expression& value) {
+  switch (type.Kind) {
+    case Storage::Byte:
+    case Storage::Word:
+    case Storage::DWord:
+    case Storage::Short:
+    case Storage::Integer:
+      return !FitsAlready(type.Kind, value);
+    case Storage::Single:
+      return !(value.IsLocation() && value.Kind.Kind == Storage::Single);
+    case Storage::FixedString:
+      return !(value.IsLocation() && value.Kind == type);
+    default:
+      return false;
+  }
+}
+
+/// The instruction that also keeps the result to 32 bits.
+Op IntegerOp(const Expression& value) {
+  const auto* const operation = std::get_if<BinaryOperation>(&value.Node);
+  if (operation == nullptr || value.Gives() != ValueKind::Whole) return Op::WORD;
+  switch (operation->Operator) {
+    case BinaryOperator::Add:
+      return Op::ADD_INTEGER;
+    case BinaryOperator::Subtract:
+      return Op::SUB_INTEGER;
+    case BinaryOperator::Multiply:
+      return Op::MUL_INTEGER;
+    default:
+      return Op::WORD;
+  }
+}
+
+bool IsVariable(const Expression& expression) {
+  return std::holds_alternative<GlobalSlot>(expression.Node) ||
+         std::holds_alternative<LocalSlot>(expression.Node);
+}
+
+/// True when both are surely the same location, and finding it runs no code.
+bool SameLocation(const Expression& a, const Expression& b) {
+  if (a.Node.index() != b.Node.index()) return false;
+  if (const auto* const global = std::get_if<GlobalSlot>(&a.Node)) {
+    return global->Index == std::get<GlobalSlot>(b.Node).Index;
+  }
+  if (const auto* const local = std::get_if<LocalSlot>(&a.Node)) {
+    return local->Index == std::get<LocalSlot>(b.Node).Index;
+  }
+  if (const auto* const constant = std::get_if<WholeConstant>(&a.Node)) {
+    return constant->Value == std::get<WholeConstant>(b.Node).Value;
+  }
+  if (const auto* const field = std::get_if<RecordField>(&a.Node)) {
+    const auto& other = std::get<RecordField>(b.Node);
+    return field->Field == other.Field && SameLocation(*field->Record, *other.Record);
+  }
+  if (const auto* const element = std::get_if<ArrayElement>(&a.Node)) {
+    const auto& other = std::get<ArrayElement>(b.Node);
+    if (element->Indexes.size() != other.Indexes.size()) return false;
+    for (std::size_t i = 0; i < element->Indexes.size(); ++i) {
+      if (!SameLocation(*element->Indexes[i], *other.Indexes[i])) return false;
+    }
+    return SameLocation(*element->Array, *other.Array);
+  }
+  return false;
+}
+
+/// The parts of `a + b + c`, left to right.
+std::vector<const Expression*> JoinedParts(const Expression& value) {
+  std::vector<const Expression*> parts;
+  const Expression* rest = &value;
+  while (const auto* const join = std::get_if<BinaryOperation>(&rest->Node)) {
+    if (join->Operator != BinaryOperator::Join || rest->Gives() != ValueKind::Text) break;
+    parts.insert(parts.begin(), join->Right);
+    rest = join->Left;
+  }
+  parts.insert(parts.begin(), rest);
+  return parts;
+}
+
+}  // namespace
+
+void ProcedureEmitter::Fit(Storage storage, std::uint32_t length, std::uint16_t target,
+                           std::uint16_t source) {
+  switch (storage) {
+    case Storage::Byte:
+      code_.Add(Op::FIT_BYTE, target, source);
+      break;
+    case Storage::Word:
+      code_.Add(Op::FIT_WORD, target, source);
+      break;
+    case Storage::DWord:
+      code_.Add(Op::FIT_DWORD, target, source);
+      break;
+    case Storage::Short:
+      code_.Add(Op::FIT_SHORT, target, source);
+      break;
+    case Storage::Integer:
+      code_.Add(Op::FIT_INTEGER, target, source);
+      break;
+    case Storage::Single:
+      code_.Add(Op::FIT_SINGLE, target, source);
+      break;
+    case Storage::FixedString: {
+      const Operand bytes = Number(length);
+      code_.Add(Op::FIT_TEXT, target, source, bytes.Register);
+      Free(bytes);
+      break;
+    }
+    default:
+      code_.Add(Op::MOVE, target, source);
+      break;
+  }
+}
+
+void ProcedureEmitter::StoreInto(std::uint16_t variable, const Type& type,
+                                 const Expression& value) {
+  const bool fit = NeedsFit(type, value);
+  const Op op = fit && type.Kind == Storage::Integer ? IntegerOp(value) : Op::WORD;
+  if (op != Op::WORD) {
+    const auto& operation = std::get<BinaryOperation>(value.Node);
+    const Expression* const both[] = {operation.Left, operation.Right};
+    const std::vector<Operand> operands = ReadAll(both);
+    code_.Add(op, variable, operands[0].Register, operands[1].Register);
+    Free(operands);
+    return;
+  }
+  Into(value, variable);
+  if (fit) Fit(type.Kind, type.Detail, variable, variable);
+}
+
+bool ProcedureEmitter::AppendInPlace(const Assign& node) {
+  if (node.Target->Kind.Kind != Storage::String) return false;
+  const std::vector<const Expression*> parts = JoinedParts(*node.Value);
+  if (parts.size() < 2 || !SameLocation(*parts[0], *node.Target)) return false;
+  if (RunsCode(*node.Value) || RunsCode(*node.Target)) return false;
+  const auto direct = DirectRegister(*node.Target);
+  std::vector<Operand> operands;
+  for (std::size_t i = 1; i < parts.size(); ++i) {
+    // A part behind the first could be the very text that grows: it is kept apart, unless it
+    // is another variable or a constant.
+    const bool other = direct && IsVariable(*parts[i]) && DirectRegister(*parts[i]) != direct &&
+                       DirectRegister(*parts[i]).has_value();
+    operands.push_back(Read(*parts[i], i == 1 || other ? Until::Now : Until::Later));
+  }
+  if (direct) {
+    for (const Operand& operand : operands) {
+      code_.Add(Op::JOIN, *direct, *direct, operand.Register);
+    }
+  } else {
+    Location location = Find(*node.Target, Until::Now);
+    const Operand address = AddressOfLocation(location);
+    for (const Operand& operand : operands) {
+      code_.Add(Op::APPEND_REF, address.Register, operand.Register);
+    }
+    Free(address);
+    Release(location);
+  }
+  Free(operands);
+  return true;
+}
+
+void ProcedureEmitter::Make(const Assign& node) {
+  const Type& type = node.Target->Kind;
+  const ValueKind kind = node.Target->Gives();
+  if (kind == ValueKind::Text && AppendInPlace(node)) return;
+  if (kind == ValueKind::Record && !type.IsArray()) {
+    const Expression* const both[] = {node.Target, node.Value};
+    const std::vector<Operand> operands = ReadAll(both);
+    code_.Add(Op::COPY_RECORD, operands[0].Register, operands[1].Register);
+    Free(operands);
+    return;
+  }
+  if (kind == ValueKind::Variant) {
+    const Operand value = Read(*node.Value, Until::Now);
+    Location location = Find(*node.Target, Until::Now);
+    const Operand address = AddressOfLocation(location);
+    code_.Add(Op::SET_BOX, address.Register, value.Register);
+    Free(address);
+    Release(location);
+    Free(value);
+    return;
+  }
+  if (const auto direct = DirectRegister(*node.Target)) {
+    StoreInto(*direct, type, *node.Value);
+    return;
+  }
+  Location location = Find(*node.Target, RunsCode(*node.Value) ? Until::Later : Until::Now);
+  const bool fit = NeedsFit(type, *node.Value);
+  Operand value;
+  if (fit) {
+    value = Temporary(IsCounted(type));
+    StoreInto(value.Register, type, *node.Value);
+  } else {
+    value = Read(*node.Value, Until::Now);
+  }
+  WriteLocation(location, type, value);
+  Free(value);
+  Release(location);
+}
+
+}  // namespace tarnwick::basic

@@ -1,0 +1,166 @@
+// Calls of procedures, library functions, methods, and properties, which are called likewise.
+#include "basic/code/procedure_emitter.h"
+
+namespace tarnwick::basic {
+namespace {
+
+bool ArgumentRunsCode(const Argument& argument) {
+  return argument.Value != nullptr && RunsCode(*argument.Value);
+}
+
+}  // namespace
+
+Operand ProcedureEmitter::ReadArgument(const Argument& argument, Until until, CallArguments& call,
+                                       const Variable* parameter) {
+  const Expression& value = *argument.Value;
+  switch (argument.How) {
+    case PassBy::Reference: {
+      Location location = Find(value, until);
+      const Operand address = AddressOfLocation(location);
+      // What the reference points into lives until the call is over.
+      call.Held.push_back(location.Base);
+      call.Held.push_back(location.First);
+      call.Held.push_back(location.Second);
+      if (location.Keeper.Hold == Operand::Kind::Counted) {
+        location.Keeper.Hold = Operand::Kind::Shared;
+        call.Held.push_back(location.Keeper);
+      }
+      call.Shape.Arguments.push_back({SlotKindOf(value.Kind), value.Kind.Kind, true});
+      return address;
+    }
+    case PassBy::Array: {
+      Location location = Find(value, until);
+      const Operand address = AddressOfLocation(location);
+      Operand array = Temporary(true);
+      array.Hold = Operand::Kind::Shared;
+      code_.Add(Op::NEED_ARRAY, array.Register, address.Register,
+                code_.LayoutNumber("", value.Kind));
+      Free(address);
+      Release(location);
+      call.Shape.Arguments.push_back({SlotKind::Array, value.Kind.Kind, false});
+      return array;
+    }
+    case PassBy::Value:
+      break;
+  }
+  Operand operand = Read(value, until);
+  call.Shape.Arguments.push_back({SlotKindOf(value.Kind), value.Kind.Kind, false});
+  if (parameter != nullptr && value.Kind.Kind != parameter->Kind.Kind && !value.Kind.IsArray()) {
+    const Storage storage = parameter->Kind.Kind;
+    const bool fits = storage == Storage::Whole || storage == Storage::Double ||
+                      KindOf(storage) != KindOf(value.Kind);
+    if (!fits && !IsCounted(value.Kind) && storage != Storage::Object) {
+      const Operand fitted = Temporary(false);
+      Fit(storage, parameter->Kind.Detail, fitted.Register, operand.Register);
+      Free(operand);
+      operand = fitted;
+    }
+  }
+  return operand;
+}
+
+ProcedureEmitter::CallArguments ProcedureEmitter::ReadArguments(ArgumentList arguments,
+                                                                const Procedure* target) {
+  CallArguments call;
+  std::vector<Until> until(arguments.size(), Until::Now);
+  bool runs = false;
+  for (std::size_t i = arguments.size(); i-- > 0;) {
+    until[i] = runs ? Until::Later : Until::Now;
+    runs = runs || ArgumentRunsCode(arguments[i]);
+  }
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    if (arguments[i].Value == nullptr || arguments[i].Value->Kind.Kind == Storage::None) {
+      call.Shape.Arguments.push_back({SlotKind::Empty, Storage::None, false});
+      call.Registers.push_back(0);
+      continue;
+    }
+    const bool known = target != nullptr && !target->Variadic && i < target->ParameterCount;
+    const Operand operand =
+        ReadArgument(arguments[i], until[i], call, known ? &target->Locals[i] : nullptr);
+    call.Registers.push_back(operand.Register);
+    call.Held.push_back(operand);
+  }
+  return call;
+}
+
+void ProcedureEmitter::FinishCall(CallArguments& call, SlotKind result) {
+  call.Shape.Result = result;
+  code_.Arguments(call.Shape, call.Registers);
+  Free(call.Held);
+}
+
+void ProcedureEmitter::Store(const ProcedureCall& node, const Expression& whole,
+                             std::uint16_t target) {
+  const Procedure& procedure = code_.Source().At(node.Procedure);
+  CallArguments call = ReadArguments(node.Arguments, &procedure);
+  code_.Add(Op::CALL, target, static_cast<std::size_t>(node.Procedure));
+  FinishCall(call, SlotKindOf(whole.Kind));
+}
+
+void ProcedureEmitter::Store(const PointerCall& node, const Expression& whole,
+                             std::uint16_t target) {
+  bool runs = false;
+  for (const Argument& argument : node.Arguments) runs = runs || ArgumentRunsCode(argument);
+  const Operand address = Read(*node.Address, runs ? Until::Later : Until::Now);
+  CallArguments call = ReadArguments(node.Arguments, nullptr);
+  code_.Add(Op::CALL_POINTER, target, address.Register);
+  FinishCall(call, SlotKindOf(whole.Kind));
+  Free(address);
+}
+
+void ProcedureEmitter::Store(const DllCall& node, const Expression& whole, std::uint16_t target) {
+  CallArguments call = ReadArguments(node.Arguments, nullptr);
+  code_.Add(Op::CALL_NATIVE, target, node.Entry);
+  FinishCall(call, SlotKindOf(whole.Kind));
+}
+
+void ProcedureEmitter::Store(const BuiltInCall& node, const Expression& whole,
+                             std::uint16_t target) {
+  std::vector<Argument> arguments;
+  for (const Expression* const argument : node.Arguments) arguments.push_back({argument});
+  CallArguments call = ReadArguments(arguments, nullptr);
+  code_.Add(Op::CALL_LIBRARY, target, static_cast<std::size_t>(node.Function));
+  FinishCall(call, SlotKindOf(whole.Kind));
+}
+
+void ProcedureEmitter::Store(const MethodCall& node, const Expression& whole,
+                             std::uint16_t target) {
+  bool runs = false;
+  for (const Argument& argument : node.Arguments) runs = runs || ArgumentRunsCode(argument);
+  const Operand object = Read(*node.Object, runs ? Until::Later : Until::Now);
+  CallArguments call = ReadArguments(node.Arguments, nullptr);
+  code_.Add(Op::CALL_METHOD, target, object.Register, static_cast<std::size_t>(node.Member));
+  FinishCall(call, SlotKindOf(whole.Kind));
+  Free(object);
+}
+
+void ProcedureEmitter::Store(const PropertyValue& node, const Expression& whole,
+                             std::uint16_t target) {
+  std::vector<const Expression*> all{node.Object};
+  all.insert(all.end(), node.Indexes.begin(), node.Indexes.end());
+  const std::vector<Operand> operands = ReadAll(all);
+  CallArguments call;
+  for (std::size_t i = 1; i < all.size(); ++i) {
+    call.Shape.Arguments.push_back({SlotKindOf(all[i]->Kind), all[i]->Kind.Kind, false});
+    call.Registers.push_back(operands[i].Register);
+  }
+  code_.Add(Op::GET_PROPERTY, target, operands[0].Register, static_cast<std::size_t>(node.Member));
+  FinishCall(call, SlotKindOf(whole.Kind));
+  Free(operands);
+}
+
+void ProcedureEmitter::Make(const SetProperty& node) {
+  std::vector<const Expression*> all{node.Object, node.Value};
+  all.insert(all.end(), node.Indexes.begin(), node.Indexes.end());
+  const std::vector<Operand> operands = ReadAll(all);
+  CallArguments call;
+  for (std::size_t i = 1; i < all.size(); ++i) {
+    call.Shape.Arguments.push_back({SlotKindOf(all[i]->Kind), all[i]->Kind.Kind, false});
+    call.Registers.push_back(operands[i].Register);
+  }
+  code_.Add(Op::SET_PROPERTY, static_cast<std::size_t>(node.Member), operands[0].Register);
+  FinishCall(call, SlotKind::Empty);
+  Free(operands);
+}
+
+}  // namespace tarnwick::basic
