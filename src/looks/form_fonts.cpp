@@ -45,13 +45,14 @@ const FormFont& FormFonts::At(const FontWish& wanted) {
   key_.assign(wanted.Name);
   const auto bits = std::bit_cast<std::array<char, sizeof wanted.Points>>(wanted.Points);
   key_.append(bits.data(), bits.size());
-  key_.push_back(static_cast<char>((wanted.Bold ? 1 : 0) | (wanted.Italic ? 2 : 0) | (wanted.Underline ? 4 : 0) |
-                                   (wanted.StrikeOut ? 8 : 0)));
+  key_.push_back(static_cast<char>((wanted.Bold ? 1 : 0) | (wanted.Italic ? 2 : 0) |
+                                   (wanted.Underline ? 4 : 0) | (wanted.StrikeOut ? 8 : 0)));
   if (const auto found = fonts_.find(key_); found != fonts_.end()) return *found->second;
 
   QFont font;
   font.setFamilies(FamiliesOf(wanted.Name));
-  const float size = std::isfinite(wanted.Points) ? std::clamp(wanted.Points, 1.0F, kLargestPoints) : 8.0F;
+  const float size =
+      std::isfinite(wanted.Points) ? std::clamp(wanted.Points, 1.0F, kLargestPoints) : 8.0F;
   font.setPixelSize(std::max(1, static_cast<int>(std::lround(size * kPixelsPerPoint))));
   font.setBold(wanted.Bold);
   font.setItalic(wanted.Italic);

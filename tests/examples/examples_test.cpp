@@ -18,6 +18,7 @@
 #include "codegen/program_source.h"
 #include "fakes/build_paths.h"
 #include "fakes/fake_ports.h"
+#include "fakes/golden_text.h"
 #include "fakes/memory_files.h"
 #include "persistence/form_writer.h"
 #include "persistence/project_index.h"
@@ -40,22 +41,13 @@ std::string BytesOf(const fs::path& path) {
   return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
-/// Names both texts' first differing line, so that a failure can be read.
-void ExpectSameText(const std::string& got, const fs::path& expected_file) {
-  if (std::getenv("TARNWICK_UPDATE") != nullptr) {
-    std::ofstream(expected_file, std::ios::binary) << got;
+/// Compares with a file of the expected results, or renews it.
+void ExpectSameAsFile(const std::string& result, const fs::path& file) {
+  if (std::getenv("TARNWICK_UPDATE_GOLDEN") != nullptr) {
+    std::ofstream(file, std::ios::binary) << result;
     return;
   }
-  const std::string expected = BytesOf(expected_file);
-  if (got == expected) return;
-  const auto got_lines = Split(got, "\r\n");
-  const auto lines = Split(expected, "\r\n");
-  std::size_t n = 0;
-  while (n < got_lines.size() && n < lines.size() && got_lines[n] == lines[n]) ++n;
-  ADD_FAILURE() << expected_file << ", line " << n + 1 << "\n  expected: "
-                << (n < lines.size() ? lines[n] : std::string_view("(no such line)"))
-                << "\n  got:      "
-                << (n < got_lines.size() ? got_lines[n] : std::string_view("(no such line)"));
+  test::ExpectSameText(file.filename().string(), result, BytesOf(file));
 }
 
 /// One folder of examples/, laid into memory at a path that is the same on every machine: the
@@ -110,7 +102,7 @@ class ExampleProject : public testing::TestWithParam<std::string> {};
 TEST_P(ExampleProject, GeneratesTheExpectedSource) {
   Example example(kExamples / GetParam());
   example.Load(GetParam() + ".tnp");
-  ExpectSameText(example.Source(), kExpected / (GetParam() + ".com"));
+  ExpectSameAsFile(example.Source(), kExpected / (GetParam() + ".com"));
 }
 
 TEST_P(ExampleProject, ComesBackByteForByteFromASave) {
@@ -177,15 +169,15 @@ TEST(OldExample, IsConvertedToAProjectOfOneForm) {
   Example example(kExamples / "old");
   const auto project = project::ConvertOldProject(example.Files, example.Folder + "notes.ptn");
   ASSERT_EQ(project, example.Folder + "notes.tnp");
-  ExpectSameText(*example.Files.Bytes(*project), kExpected / "notes.tnp");
-  ExpectSameText(*example.Files.Bytes(example.Folder + "notes.ftn"), kExpected / "notes.ftn");
+  ExpectSameAsFile(*example.Files.Bytes(*project), kExpected / "notes.tnp");
+  ExpectSameAsFile(*example.Files.Bytes(example.Folder + "notes.ftn"), kExpected / "notes.ftn");
 }
 
 TEST(OldExample, GeneratesTheExpectedSourceWhenConverted) {
   Example example(kExamples / "old");
   ASSERT_TRUE(project::ConvertOldProject(example.Files, example.Folder + "notes.ptn"));
   example.Load("notes.tnp");
-  ExpectSameText(example.Source(), kExpected / "notes.com");
+  ExpectSameAsFile(example.Source(), kExpected / "notes.com");
 }
 
 }  // namespace

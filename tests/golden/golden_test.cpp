@@ -16,6 +16,7 @@
 #include "codegen/program_source.h"
 #include "fakes/build_paths.h"
 #include "fakes/fake_project.h"
+#include "fakes/golden_text.h"
 #include "persistence/project_index.h"
 #include "project/convert_project.h"
 #include "text/path_text.h"
@@ -88,24 +89,6 @@ void Write(const fs::path& folder, const Files& files) {
   for (const auto& [name, bytes] : files) {
     std::ofstream(folder / name, std::ios::binary) << bytes;
   }
-}
-
-/// Shows the first line in which two texts differ.
-void ExpectSameText(const std::string& name, const std::string& result,
-                    const std::string& expected) {
-  if (result == expected) return;
-  const auto lines = Split(result, "\r\n");
-  const auto expected_lines = Split(expected, "\r\n");
-  std::size_t line = 0;
-  while (line < lines.size() && line < expected_lines.size() &&
-         lines[line] == expected_lines[line]) {
-    ++line;
-  }
-  const auto at = [line](const auto& all) {
-    return line < all.size() ? std::string(all[line]) : std::string("(no such line)");
-  };
-  ADD_FAILURE() << name << " differs first in line " << line + 1
-                << "\n  expected: " << at(expected_lines) << "\n  is:       " << at(lines);
 }
 
 class Golden : public testing::TestWithParam<std::string> {};
