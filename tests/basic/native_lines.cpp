@@ -3,14 +3,11 @@
 #include <vector>
 
 #include "basic/lib/native_table.h"
+#include "basic/program_world.h"
 #include "basic/vm/number_text.h"
-#include "fakes/program_hosts.h"
 
 namespace tarnwick::basic {
 namespace {
-
-/// Longest string here, so that the limit is met by short lines.
-constexpr std::size_t kTextLimit = 1000;
 
 bool IsNamePart(char c) {
   return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_';
@@ -18,7 +15,7 @@ bool IsNamePart(char c) {
 
 class Line {
  public:
-  explicit Line(std::string_view text) : text_(text) {}
+  explicit Line(std::string_view text) : text_(text) { state_.Resources = world_.Resources; }
 
   std::optional<LineResult> Run() {
     do {
@@ -27,6 +24,7 @@ class Line {
     if (result_.Error.empty() && Peek() != '\0') known_ = false;
     if (!known_) return std::nullopt;
     for (const std::string& note : state_.Notes) result_.Notes += "note: " + note + "\n";
+    result_.Output = world_.Log;
     return result_;
   }
 
@@ -44,7 +42,7 @@ class Line {
   void Statement() {
     if (Take('?')) {
       const Value value = Expression();
-      if (known_ && result_.Error.empty()) console_.Write(0, value.AsText() + "\n");
+      if (known_ && result_.Error.empty()) world_.Console.Write(0, value.AsText() + "\n");
       return;
     }
     const std::string name = Name();
@@ -120,7 +118,7 @@ class Line {
       return {};
     }
     for (std::size_t i = 0; i < arguments.size(); ++i) Convert(*row, i, arguments[i]);
-    LibraryCall call{arguments, hosts_, state_, kTextLimit, Value(), ""};
+    LibraryCall call{arguments, world_.Host, state_, kTableTextLimit, Value(), ""};
     code(call);
     result_.Error = call.Error;
     return call.Result;
@@ -148,27 +146,8 @@ class Line {
   bool known_ = true;
   LineResult result_;
 
-  test::LogConsole console_{result_.Output};
-  test::ProgramFiles files_ = WithFiles();
-  test::StillClock clock_{result_.Output};
-  test::LogSystem system_{result_.Output};
-  Hosts hosts_{&console_, nullptr, &files_, &clock_, &system_, nullptr};
-  LibraryState state_ = WithResources();
-
-  test::ProgramFiles WithFiles() {
-    test::ProgramFiles files;
-    files.Add("a.txt", "alpha");
-    files.Add("b.txt", "be");
-    files.Add("c.ini", "");
-    console_.Input = "Ann\n12,5\n";
-    console_.Keys = "k";
-    return files;
-  }
-  static LibraryState WithResources() {
-    LibraryState state;
-    state.Resources = {"a.txt", "gone.bmp"};
-    return state;
-  }
+  ProgramWorld world_;
+  LibraryState state_;
 };
 
 }  // namespace

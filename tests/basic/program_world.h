@@ -1,0 +1,36 @@
+// The world in which the programs of the conformance tables run.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "basic/hosts/hosts.h"
+#include "fakes/program_hosts.h"
+
+namespace tarnwick::basic {
+
+/// Longest string of the tables' programs, so that short lines meet the limit.
+inline constexpr std::size_t kTableTextLimit = 1000;
+
+/// Three files in "C:\work", two lines of input, one key pressed.
+struct ProgramWorld {
+  ProgramWorld() {
+    Files.Add("a.txt", "alpha");
+    Files.Add("b.txt", "be");
+    Files.Add("c.ini", "");
+    Console.Input = "Ann\n12,5\n";
+    Console.Keys = "k";
+  }
+  ProgramWorld(const ProgramWorld&) = delete;
+  ProgramWorld& operator=(const ProgramWorld&) = delete;
+
+  std::string Log;
+  test::LogConsole Console{Log};
+  test::ProgramFiles Files;
+  test::StillClock Clock{Log};
+  test::LogSystem System{Log};
+  Hosts Host{&Console, nullptr, &Files, &Clock, &System, nullptr};
+  std::vector<std::string> Resources = {"a.txt", "gone.bmp"};
+};
+
+}  // namespace tarnwick::basic
