@@ -3,6 +3,7 @@
 #include <array>
 #include <utility>
 
+#include "inspector/control_font.h"
 #include "inspector/property_sheet.h"
 #include "text/numbers.h"
 #include "text/path_text.h"
@@ -29,13 +30,6 @@ constexpr std::array kFilePickers{
 };
 // An image shows icons too.
 constexpr std::string_view kImageFilter = "Bmps and Icons Files|*.bmp;*.ico";
-
-template <class T>
-void GetMember(const DesignControl& control, Member member, T& field) {
-  const std::optional<MemberValue> value = control.Get(member);
-  if (!value) return;
-  if (const T* held = std::get_if<T>(&*value)) field = *held;
-}
 
 }  // namespace
 
@@ -101,13 +95,7 @@ void PropertySheet::PickFile(const RowTarget& target) {
 void PropertySheet::PickFont(const RowTarget& target) {
   if (target.Control == nullptr) return;
   const RowBinding* color = BindingOf("fontcolor", target.Id);
-  FontChoice start;
-  GetMember(*target.Control, Member::FontName, start.Name);
-  GetMember(*target.Control, Member::FontSize, start.Size);
-  GetMember(*target.Control, Member::FontBold, start.Bold);
-  GetMember(*target.Control, Member::FontItalic, start.Italic);
-  GetMember(*target.Control, Member::FontUnderline, start.Underline);
-  GetMember(*target.Control, Member::FontStrikethru, start.Strikethru);
+  FontChoice start = FontOf(*target.Control);
   if (color != nullptr) {
     start.Color = ToInt32(StoredNumber(*color, target).value_or(0)).value_or(0);
   }

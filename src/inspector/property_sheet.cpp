@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <utility>
 
+#include "inspector/control_font.h"
+#include "inspector/row_help.h"
 #include "text/code_page.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -218,6 +220,25 @@ int PropertySheet::RowNameLength(int row) const noexcept {
 int PropertySheet::RowMark(int row) const noexcept {
   const Cell* cell = CellAt(row);
   return cell != nullptr ? cell->Row.Mark : row_mark::kText;
+}
+
+std::optional<FontChoice> PropertySheet::RowFont(int row) const {
+  const std::optional<RowTarget> target = Target();
+  if (RowMark(row) != row_mark::kFont || !target || target->Control == nullptr) return std::nullopt;
+  return FontOf(*target->Control);
+}
+
+std::vector<std::string> PropertySheet::RowPictures(int row) const {
+  const int mark = RowMark(row);
+  const std::string& text = Text(row);
+  if ((mark != row_mark::kPicture && mark != row_mark::kIcon) || !HasPicturePath(text)) return {};
+  if (text == kDefaultFile) return {tables_.ProgramFolder + "\\iconapp.ico"};
+  return {text, ResolveProjectPath(tables_, text, true)};
+}
+
+std::string PropertySheet::Help() const {
+  if (!is_row_selected_) return {};
+  return RowHelp(support_, SelKind_, Label(RowIndex_));
 }
 
 std::int32_t PropertySheet::RowBackColor(int row) const noexcept {

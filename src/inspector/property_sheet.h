@@ -73,6 +73,14 @@ class PropertySheet {
   void RowValue(std::string_view row_name, int row);
   [[nodiscard]] std::string EnumText(std::string_view kind, std::string_view row_name,
                                      int value) const;
+  /// The font of a font row, its colour left out; nothing for another row.
+  [[nodiscard]] std::optional<FontChoice> RowFont(int row) const;
+  /// The files, the first that loads counting, that a picture or icon row shows; none for another
+  /// row and for one without a picture.
+  [[nodiscard]] std::vector<std::string> RowPictures(int row) const;
+  /// What the selected row is for; lines end in CR LF, "" when nothing is known or none is
+  /// selected.
+  [[nodiscard]] std::string Help() const;
   [[nodiscard]] std::int32_t RowBackColor(int row) const noexcept;
   [[nodiscard]] std::int32_t RowTextColor(int row) const noexcept;
 

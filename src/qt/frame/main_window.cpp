@@ -34,12 +34,11 @@ MainWindow::MainWindow(FilePort& files)
       actions_(new CommandActions(*this)),
       container_(new Container(pictures_, texts_, this)),
       tools_(new ToolBoxPanel(QStringLiteral("BtnObjet"), kToolColumns, this)),
-      form_list_(new FormListPanel(*actions_, this)),
-      properties_(new PropertyPanel(pictures_, this)),
       icon_(new IconDisplay(pictures_, this)),
       object_bar_(new ObjectBar(this)),
       events_bar_(new EventsBarWindow(*container_, this)),
       right_(new QWidget(this)),
+      panels_(new QSplitter(Qt::Vertical, right_)),
       status_(new QLabel(this)),
       selection_(new QLabel(this)),
       pointer_(new QLabel(this)) {
@@ -57,18 +56,12 @@ void MainWindow::BuildPanels() {
   tool_frame->Body().addStretch();
   tool_frame->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
 
-  auto* panels = new QSplitter(Qt::Vertical, right_);
-  panels->setObjectName(QStringLiteral("RightPanels"));
-  panels->setHandleWidth(kRoom);
-  panels->addWidget(properties_);
-  panels->addWidget(form_list_);
-  panels->setStretchFactor(0, 1);
-  panels->setChildrenCollapsible(false);
-  panels->setSizes({kPropertiesHeight, kFormsHeight});
+  panels_->setObjectName(QStringLiteral("RightPanels"));
+  panels_->setHandleWidth(kRoom);
   auto* right_column = new QVBoxLayout(right_);
   right_column->setContentsMargins(0, 0, 0, 0);
   right_column->setSpacing(kRoom);
-  right_column->addWidget(panels, 1);
+  right_column->addWidget(panels_, 1);
   right_column->addWidget(icon_);
 
   auto* middle = new QSplitter(Qt::Horizontal, this);
@@ -108,8 +101,16 @@ void MainWindow::Attach(MDIForm1& shell) {
   tools_->Attach(shell);
   object_bar_->Attach(shell);
   events_bar_->Attach(shell);
+  properties_ = new PropertyPanel(shell.Sheet(), pictures_, this);
+  form_list_ = new FormListPanel(*actions_, this);
   form_list_->Attach(shell);
-  properties_->Attach(shell);
+  panels_->addWidget(properties_);
+  panels_->addWidget(form_list_);
+  panels_->setChildrenCollapsible(false);
+  panels_->setStretchFactor(0, 1);
+  panels_->setSizes({kPropertiesHeight, kFormsHeight});
+  connect(properties_, &PropertyPanel::ShownWanted, this,
+          [this](bool shown) { shell_->SetPanelShown(Panel::Properties, shown); });
   connect(properties_, &PropertyPanel::Left, this, [this] {
     const DesignForm* current = shell_->Tables().CurrentForm;
     DesignWindow* form = current != nullptr ? container_->Window(current->Number()) : nullptr;

@@ -64,12 +64,13 @@ class MainWindow final : public QMainWindow {
   CommandActions* actions_;
   Container* container_;
   ToolBoxPanel* tools_;
-  FormListPanel* form_list_;
-  PropertyPanel* properties_;
+  FormListPanel* form_list_ = nullptr;
+  PropertyPanel* properties_ = nullptr;
   IconDisplay* icon_;
   ObjectBar* object_bar_;
   EventsBarWindow* events_bar_;
   QWidget* right_;
+  QSplitter* panels_;
   QLabel* status_;
   QLabel* selection_;
   QLabel* pointer_;

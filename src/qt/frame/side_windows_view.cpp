@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "inspector/form_add_items.h"
 #include "qt/grid/item_dialog.h"
 #include "shell/mdi_form.h"
 #include "shell/shell_view.h"
@@ -19,7 +20,9 @@ void SideWindowsView::OpenPopUpEdit(int /*form*/, int /*index*/) {
 void SideWindowsView::OpenItemEdit(int form) {
   if (shell_ == nullptr) return;
   DesignForm* design = shell_->Tables().User(form);
-  if (design != nullptr) RunItemDialog(*shell_, *design, &parent_);
+  if (design == nullptr) return;
+  FormAddItems logic(shell_->Tables(), shell_->Context().Observer, *design);
+  RunItemDialog(logic, &parent_);
 }
 
 void SideWindowsView::OpenExaminer() {

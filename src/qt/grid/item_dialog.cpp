@@ -10,12 +10,10 @@
 #include "inspector/form_add_items.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
-#include "shell/mdi_form.h"
 
 namespace tarnwick {
 
-void RunItemDialog(MDIForm1& shell, DesignForm& form, QWidget* parent) {
-  FormAddItems logic(shell.Tables(), shell.Context().Observer, form);
+void RunItemDialog(FormAddItems& logic, QWidget* parent) {
   QDialog dialog(parent);
   dialog.setObjectName(QStringLiteral("FormAddItems"));
   dialog.setWindowTitle(QStringLiteral("Items"));

@@ -5,10 +5,9 @@ class QWidget;
 
 namespace tarnwick {
 
-class DesignForm;
-class MDIForm1;
+class FormAddItems;
 
-/// Edits the items of the list selected on a form.
-void RunItemDialog(MDIForm1& shell, DesignForm& form, QWidget* parent);
+/// Shows the items of one opening and hands back what they have become on OK.
+void RunItemDialog(FormAddItems& logic, QWidget* parent);
 
 }  // namespace tarnwick

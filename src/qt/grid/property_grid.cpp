@@ -19,7 +19,6 @@
 #include "qt/kit/icon_set.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
-#include "shell/mdi_form.h"
 
 namespace tarnwick {
 
@@ -63,22 +62,19 @@ bool IsTyping(const QKeyEvent& event) {
 
 }  // namespace
 
-PropertyGrid::PropertyGrid(looks::PictureCache& pictures, QWidget* parent)
+PropertyGrid::PropertyGrid(PropertySheet& sheet, looks::PictureCache& pictures, QWidget* parent)
     : QWidget(parent),
+      sheet_(sheet),
       pictures_(pictures),
       boton1_(MakeButton("Boton1", "choose", "Choose...")),
       boton2_(MakeButton("Boton2", "drop", "List")),
       boton3_(MakeButton("Boton3", "reset", "Reset")),
       list_(new QListWidget(this)) {
   setObjectName(QStringLiteral("GridRows"));
-  const auto pick = [this] {
-    if (sheet_ != nullptr) sheet_->PickValue();
-  };
+  const auto pick = [this] { sheet_.PickValue(); };
   connect(boton1_, &QToolButton::clicked, this, pick);
   connect(boton2_, &QToolButton::clicked, this, pick);
-  connect(boton3_, &QToolButton::clicked, this, [this] {
-    if (sheet_ != nullptr) sheet_->ResetValue();
-  });
+  connect(boton3_, &QToolButton::clicked, this, [this] { sheet_.ResetValue(); });
   MakeList();
 }
 
@@ -110,11 +106,6 @@ void PropertyGrid::MakeList() {
           [this](QListWidgetItem* item) { ChooseListRow(list_->row(item)); });
 }
 
-void PropertyGrid::Attach(MDIForm1& shell) {
-  shell_ = &shell;
-  sheet_ = &shell.Sheet();
-}
-
 PropertyRowView* PropertyGrid::ViewAt(int row) const {
   const bool is_there = row >= 0 && row < static_cast<int>(rows_.size());
   return is_there ? rows_[static_cast<std::size_t>(row)] : nullptr;
@@ -123,19 +114,19 @@ PropertyRowView* PropertyGrid::ViewAt(int row) const {
 /// The row of a field, or the selected row for one of its buttons.
 PropertyRowView* PropertyGrid::ViewOf(const QObject* object) const {
   if (object == boton1_ || object == boton2_ || object == boton3_) {
-    return ViewAt(sheet_->RowIndex());
+    return ViewAt(sheet_.RowIndex());
   }
   return qobject_cast<PropertyRowView*>(object->parent());
 }
 
 bool PropertyGrid::IsSelected(int row) const {
-  return sheet_ != nullptr && sheet_->HasSelectedRow() && sheet_->RowIndex() == row;
+  return sheet_.HasSelectedRow() && sheet_.RowIndex() == row;
 }
 
 void PropertyGrid::Commit() {
   for (PropertyRowView* view : rows_) {
     if (!view->Field().hasFocus() || !IsSelected(view->Row())) continue;
-    sheet_->ApplyText(FromQString(view->Field().text()));
+    sheet_.ApplyText(FromQString(view->Field().text()));
   }
 }
 
@@ -154,10 +145,9 @@ void PropertyGrid::MakeRows(int count) {
 }
 
 void PropertyGrid::ShowRows() {
-  if (sheet_ == nullptr) return;
-  MakeRows(sheet_->RowCount());
-  for (int row = 0; row < sheet_->RowCount(); ++row) {
-    ViewAt(row)->SetName(sheet_->Label(row));
+  MakeRows(sheet_.RowCount());
+  for (int row = 0; row < sheet_.RowCount(); ++row) {
+    ViewAt(row)->SetName(sheet_.Label(row));
     ShowRow(row);
   }
   LayOut();
@@ -166,17 +156,16 @@ void PropertyGrid::ShowRows() {
 
 void PropertyGrid::ShowRow(int row) {
   PropertyRowView* view = ViewAt(row);
-  if (view == nullptr || sheet_ == nullptr) return;
-  view->SetValue(sheet_->Text(row), LookOfRow(*shell_, pictures_, *this, row));
+  if (view == nullptr) return;
+  view->SetValue(sheet_.Text(row), LookOfRow(sheet_, pictures_, *this, row));
 }
 
 /// Puts the shown rows one under the other; the rest stays for a kind with more rows.
 void PropertyGrid::LayOut() {
-  if (sheet_ == nullptr) return;
   const int height = PropertyRowView::HeightPixels();
   std::vector<bool> is_shown(rows_.size());
   int top = 0;
-  for (const int row : sheet_->ShownRows()) {
+  for (const int row : sheet_.ShownRows()) {
     PropertyRowView* view = ViewAt(row);
     if (view == nullptr) continue;
     is_shown[static_cast<std::size_t>(row)] = true;
@@ -200,13 +189,12 @@ void PropertyGrid::resizeEvent(QResizeEvent* event) {
 }
 
 void PropertyGrid::ShowSelection() {
-  if (sheet_ == nullptr) return;
-  const int present = sheet_->RowIndex();
-  PropertyRowView* stop = ViewAt(sheet_->RowTop(present) >= 0 ? present : 0);
+  const int present = sheet_.RowIndex();
+  PropertyRowView* stop = ViewAt(sheet_.RowTop(present) >= 0 ? present : 0);
   for (PropertyRowView* view : rows_) {
     const bool selected = IsSelected(view->Row());
-    view->SetColors(selected ? looks::ColorOf(sheet_->RowBackColor(view->Row())) : QColor(),
-                    selected ? looks::ColorOf(sheet_->RowTextColor(view->Row())) : QColor());
+    view->SetColors(selected ? looks::ColorOf(sheet_.RowBackColor(view->Row())) : QColor(),
+                    selected ? looks::ColorOf(sheet_.RowTextColor(view->Row())) : QColor());
     const Qt::FocusPolicy policy = view == stop ? Qt::StrongFocus : Qt::ClickFocus;
     if (view->Field().focusPolicy() != policy) view->Field().setFocusPolicy(policy);
     if (!selected) view->SetButtonRoom(0);
@@ -223,11 +211,10 @@ void PropertyGrid::ShowSelection() {
 }
 
 void PropertyGrid::PlaceButtons() {
-  if (sheet_ == nullptr) return;
-  PropertyRowView* view = sheet_->HasSelectedRow() ? ViewAt(sheet_->RowIndex()) : nullptr;
+  PropertyRowView* view = sheet_.HasSelectedRow() ? ViewAt(sheet_.RowIndex()) : nullptr;
   const bool shown = view != nullptr && !view->isHidden();
   if (shown) {
-    const bool color = IsColor(sheet_->RowMark(view->Row()));
+    const bool color = IsColor(sheet_.RowMark(view->Row()));
     const QString tip = color ? QStringLiteral("Colour...") : QStringLiteral("List");
     if (boton2_->toolTip() != tip) {
       boton2_->setIcon(IconOf(color ? QStringLiteral("colour") : QStringLiteral("drop")));
@@ -238,9 +225,9 @@ void PropertyGrid::PlaceButtons() {
   const struct {
     QToolButton* Button;
     bool Shown;
-  } buttons[] = {{boton3_, shown && sheet_->Boton3Shown()},
-                 {boton2_, shown && sheet_->Boton2Shown()},
-                 {boton1_, shown && sheet_->Boton1Shown()}};
+  } buttons[] = {{boton3_, shown && sheet_.Boton3Shown()},
+                 {boton2_, shown && sheet_.Boton2Shown()},
+                 {boton1_, shown && sheet_.Boton1Shown()}};
   const int top = shown ? view->y() + (view->height() - 1 - kButton) / 2 : 0;
   int room = 0;
   for (const auto& [button, is_shown] : buttons) {
@@ -255,27 +242,27 @@ void PropertyGrid::PlaceButtons() {
 }
 
 void PropertyGrid::FocusRow() {
-  if (sheet_ == nullptr || sheet_->ShownRows().empty()) return;
-  const auto& shown = sheet_->ShownRows();
-  const int present = sheet_->RowIndex();
-  const bool is_there = sheet_->RowTop(present) >= 0;
-  const int first = shown[shown.size() > 1 && !sheet_->Filter().empty() ? 1 : 0];
-  EnterRow(is_there && sheet_->Filter().empty() ? present : first, Focus::ByRow);
+  if (sheet_.ShownRows().empty()) return;
+  const auto& shown = sheet_.ShownRows();
+  const int present = sheet_.RowIndex();
+  const bool is_there = sheet_.RowTop(present) >= 0;
+  const int first = shown[shown.size() > 1 && !sheet_.Filter().empty() ? 1 : 0];
+  EnterRow(is_there && sheet_.Filter().empty() ? present : first, Focus::ByRow);
 }
 
 /// Selects a row and gives the focus to its value, or to its button where the row's type says so.
 void PropertyGrid::EnterRow(int row, Focus focus) {
   PropertyRowView* view = ViewAt(row);
-  if (view == nullptr || sheet_ == nullptr || entering_) return;
+  if (view == nullptr || entering_) return;
   const QScopedValueRollback<bool> guard(entering_, true);
   if (!IsSelected(row)) {
     // A value half typed elsewhere is taken while its row is still the selected one.
     Commit();
-    before_ = sheet_->Text(row);
-    sheet_->SelectRow(row);
+    before_ = sheet_.Text(row);
+    sheet_.SelectRow(row);
   }
-  if (focus == Focus::ByRow && sheet_->ButtonTakesFocus()) {
-    (sheet_->Boton1Shown() ? boton1_ : boton2_)->setFocus(Qt::OtherFocusReason);
+  if (focus == Focus::ByRow && sheet_.ButtonTakesFocus()) {
+    (sheet_.Boton1Shown() ? boton1_ : boton2_)->setFocus(Qt::OtherFocusReason);
   } else {
     view->Field().setFocus(Qt::OtherFocusReason);
     view->Field().selectAll();
@@ -285,17 +272,17 @@ void PropertyGrid::EnterRow(int row, Focus focus) {
 
 void PropertyGrid::Type(int row, const QString& text) {
   PropertyRowView* view = ViewAt(row);
-  if (sheet_ == nullptr || view == nullptr) return;
+  if (view == nullptr) return;
   if (!IsSelected(row)) {
-    before_ = sheet_->Text(row);
-    sheet_->SelectRow(row);
+    before_ = sheet_.Text(row);
+    sheet_.SelectRow(row);
   }
   const QScopedValueRollback<bool> guard(applying_, true);
-  if (sheet_->ApplyText(FromQString(text))) ShowRow(row);
+  if (sheet_.ApplyText(FromQString(text))) ShowRow(row);
 }
 
 void PropertyGrid::MoveBy(int row, int steps) {
-  const auto& shown = sheet_->ShownRows();
+  const auto& shown = sheet_.ShownRows();
   if (shown.empty()) return;
   const auto here = std::lower_bound(shown.begin(), shown.end(), row);
   const auto last = static_cast<int>(shown.size()) - 1;
@@ -306,17 +293,17 @@ void PropertyGrid::MoveBy(int row, int steps) {
 /// A double click: the next value of a list, the dialog of another row.
 void PropertyGrid::PickOrCycle(int row) {
   if (!IsSelected(row)) return;
-  const auto& values = sheet_->ListRows();
-  if (!sheet_->Boton2Shown() || values.empty()) {
-    if (sheet_->Boton1Shown() || sheet_->Boton2Shown()) sheet_->PickValue();
+  const auto& values = sheet_.ListRows();
+  if (!sheet_.Boton2Shown() || values.empty()) {
+    if (sheet_.Boton1Shown() || sheet_.Boton2Shown()) sheet_.PickValue();
     return;
   }
-  const auto present = std::find(values.begin(), values.end(), sheet_->Text(row));
+  const auto present = std::find(values.begin(), values.end(), sheet_.Text(row));
   const auto next = present == values.end() || std::next(present) == values.end()
                         ? values.begin()
                         : std::next(present);
   const int place = static_cast<int>(next - values.begin());
-  sheet_->ApplyChoice(std::string{*next}, place);
+  sheet_.ApplyChoice(std::string{*next}, place);
 }
 
 /// Puts back the value that the row had when it was entered; with nothing to put back the grid is
@@ -324,7 +311,7 @@ void PropertyGrid::PickOrCycle(int row) {
 void PropertyGrid::Revert(int row) {
   QLineEdit& field = ViewAt(row)->Field();
   const QString before = ToQString(before_);
-  if (sheet_->Text(row) == before_ && field.text() == before) {
+  if (sheet_.Text(row) == before_ && field.text() == before) {
     Q_EMIT Left();
     return;
   }
@@ -334,16 +321,15 @@ void PropertyGrid::Revert(int row) {
 }
 
 void PropertyGrid::ShowList(bool is_open) {
-  if (sheet_ == nullptr) return;
-  PropertyRowView* view = ViewAt(sheet_->RowIndex());
+  PropertyRowView* view = ViewAt(sheet_.RowIndex());
   if (!is_open || view == nullptr) {
     list_->hide();
     return;
   }
   const QSignalBlocker quiet(list_);
   list_->clear();
-  for (const std::string& text : sheet_->ListRows()) list_->addItem(ToQString(text));
-  list_->setCurrentRow(sheet_->ListMarked());
+  for (const std::string& text : sheet_.ListRows()) list_->addItem(ToQString(text));
+  list_->setCurrentRow(sheet_.ListMarked());
   const int rows = qBound(1, list_->count(), kMostListRows);
   const int row_height = list_->count() > 0 ? list_->sizeHintForRow(0) : view->height();
   const int left = PropertyRowView::ValueLeft(width());
@@ -360,15 +346,15 @@ void PropertyGrid::ShowList(bool is_open) {
 }
 
 void PropertyGrid::ChooseListRow(int place) {
-  if (sheet_ == nullptr || place < 0 || place >= list_->count()) return;
+  if (place < 0 || place >= list_->count()) return;
   const std::string text = FromQString(list_->item(place)->text());
   list_->hide();
-  sheet_->ApplyChoice(text, place);
+  sheet_.ApplyChoice(text, place);
 }
 
 bool PropertyGrid::FilterList(QEvent* event) {
-  if (event->type() == QEvent::Hide && sheet_ != nullptr && sheet_->ListOpen()) {
-    sheet_->CloseList();
+  if (event->type() == QEvent::Hide && sheet_.ListOpen()) {
+    sheet_.CloseList();
   }
   if (event->type() != QEvent::KeyPress) return false;
   const auto& key = *static_cast<QKeyEvent*>(event);
@@ -386,7 +372,7 @@ bool PropertyGrid::FilterList(QEvent* event) {
 
 bool PropertyGrid::eventFilter(QObject* object, QEvent* event) {
   if (object == list_) return FilterList(event) || QWidget::eventFilter(object, event);
-  const PropertyRowView* view = sheet_ != nullptr ? ViewOf(object) : nullptr;
+  const PropertyRowView* view = ViewOf(object);
   if (view != nullptr && FilterCell(object, view->Row(), event)) return true;
   return QWidget::eventFilter(object, event);
 }
@@ -403,7 +389,7 @@ bool PropertyGrid::FilterCell(QObject* object, int row, QEvent* event) {
       break;
     case QEvent::FocusOut:
       if (is_field && IsSelected(row)) {
-        sheet_->ApplyText(FromQString(ViewAt(row)->Field().text()));
+        sheet_.ApplyText(FromQString(ViewAt(row)->Field().text()));
       }
       break;
     case QEvent::MouseButtonPress:
@@ -414,7 +400,7 @@ bool PropertyGrid::FilterCell(QObject* object, int row, QEvent* event) {
       }
       break;
     case QEvent::MouseButtonDblClick:
-      if (is_field && (sheet_->Boton1Shown() || sheet_->Boton2Shown())) {
+      if (is_field && (sheet_.Boton1Shown() || sheet_.Boton2Shown())) {
         PickOrCycle(row);
         return true;
       }
@@ -437,7 +423,7 @@ bool PropertyGrid::PressKey(QObject* object, int row, QKeyEvent& event) {
   PropertyRowView& view = *ViewAt(row);
   const bool control = event.modifiers().testFlag(Qt::ControlModifier);
   if (OpensPicker(event)) {
-    if (sheet_->Boton1Shown() || sheet_->Boton2Shown()) sheet_->PickValue();
+    if (sheet_.Boton1Shown() || sheet_.Boton2Shown()) sheet_.PickValue();
     return true;
   }
   switch (event.key()) {
@@ -480,14 +466,14 @@ bool PropertyGrid::TypeOnButton(PropertyRowView& view, QKeyEvent& event) {
     QApplication::clipboard()->setText(field.text());
     return true;
   }
-  if (event.matches(QKeySequence::Delete) && sheet_->Boton3Shown()) {
-    sheet_->ResetValue();
+  if (event.matches(QKeySequence::Delete) && sheet_.Boton3Shown()) {
+    sheet_.ResetValue();
     return true;
   }
   const bool edits = BelongsToCell(event) || event.key() == Qt::Key_Backspace ||
                      (IsTyping(event) && event.key() != Qt::Key_Space);
   if (!edits) return false;
-  if (!sheet_->TakesTyping(view.Row())) return true;
+  if (!sheet_.TakesTyping(view.Row())) return true;
   EnterRow(view.Row(), Focus::Text);
   QApplication::sendEvent(&field, &event);
   return true;

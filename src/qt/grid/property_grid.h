@@ -15,7 +15,6 @@ class PictureCache;
 
 namespace tarnwick {
 
-class MDIForm1;
 class PropertyRowView;
 class PropertySheet;
 
@@ -33,9 +32,8 @@ class PropertyGrid final : public QWidget {
   Q_OBJECT
 
  public:
-  PropertyGrid(looks::PictureCache& pictures, QWidget* parent);
+  PropertyGrid(PropertySheet& sheet, looks::PictureCache& pictures, QWidget* parent);
 
-  void Attach(MDIForm1& shell);
   /// The widget from which the Tab key comes to the grid.
   void SetTabBefore(QWidget* widget) { tab_before_ = widget; }
   /// Takes a half-typed value into the tables.
@@ -84,9 +82,8 @@ class PropertyGrid final : public QWidget {
   bool PressKey(QObject* object, int row, QKeyEvent& event);
   bool TypeOnButton(PropertyRowView& view, QKeyEvent& event);
 
+  PropertySheet& sheet_;
   looks::PictureCache& pictures_;
-  MDIForm1* shell_ = nullptr;
-  PropertySheet* sheet_ = nullptr;
   std::vector<PropertyRowView*> rows_;
   QWidget* tab_before_ = nullptr;
   const PropertyRowView* tab_stop_ = nullptr;

@@ -3,13 +3,12 @@
 #include <QPainter>
 #include <optional>
 #include <string>
+#include <vector>
 
-#include "inspector/row_bindings.h"
+#include "inspector/property_sheet.h"
 #include "looks/picture_cache.h"
 #include "looks/platform_colors.h"
 #include "qt/kit/text_bridge.h"
-#include "qt/kit/theme.h"
-#include "shell/mdi_form.h"
 #include "text/numbers.h"
 
 namespace tarnwick {
@@ -29,50 +28,37 @@ QPixmap Swatch(const std::string& text, const QWidget& grid) {
   return pixmap;
 }
 
-QPixmap Preview(MDIForm1& shell, looks::PictureCache& pictures, const QWidget& grid,
-                const std::string& text) {
-  if (!HasPicturePath(text)) return {};
-  const ProjectTables& tables = shell.Tables();
-  const QPixmap* picture = nullptr;
-  if (text == kDefaultFile) {
-    picture = &pictures.At(tables.ProgramFolder + "\\iconapp.ico");
-  } else {
-    picture = &pictures.At(text);
-    if (picture->isNull()) picture = &pictures.At(ResolveProjectPath(tables, text, true));
+/// The first of the files that is a picture, no larger than its room in a row.
+QPixmap Preview(const std::vector<std::string>& files, looks::PictureCache& pictures,
+                const QWidget& grid) {
+  for (const std::string& file : files) {
+    const QPixmap& picture = pictures.At(file);
+    if (picture.isNull()) continue;
+    const qreal ratio = grid.devicePixelRatioF();
+    const QSize room =
+        QSize(PropertyRowView::PicturePixels(), PropertyRowView::PicturePixels()) * ratio;
+    QPixmap small = picture.size().boundedTo(room) == picture.size()
+                        ? picture
+                        : picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    small.setDevicePixelRatio(ratio);
+    return small;
   }
-  if (picture->isNull()) return {};
-  const qreal ratio = grid.devicePixelRatioF();
-  const QSize room =
-      QSize(PropertyRowView::PicturePixels(), PropertyRowView::PicturePixels()) * ratio;
-  QPixmap small = picture->size().boundedTo(room) == picture->size()
-                      ? *picture
-                      : picture->scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-  small.setDevicePixelRatio(ratio);
-  return small;
+  return {};
 }
 
-bool IsSet(const DesignControl& control, Member member) {
-  const std::optional<MemberValue> value = control.Get(member);
-  if (!value) return false;
-  const bool* held = std::get_if<bool>(&*value);
-  return held != nullptr && *held;
-}
-
-void ShowFont(const DesignControl& control, const std::string& name, RowLook& look) {
-  look.Face.setFamily(ToQString(name));
-  look.Face.setBold(IsSet(control, Member::FontBold));
-  look.Face.setItalic(IsSet(control, Member::FontItalic));
-  look.Face.setUnderline(IsSet(control, Member::FontUnderline));
-  look.Face.setStrikeOut(IsSet(control, Member::FontStrikethru));
-  const std::optional<MemberValue> size = control.Get(Member::FontSize);
-  const float* points = size ? std::get_if<float>(&*size) : nullptr;
-  if (points != nullptr) look.Note = QString::fromStdString(NumberText(*points));
+void ShowFont(const FontChoice& font, RowLook& look) {
+  look.Face.setFamily(ToQString(font.Name));
+  look.Face.setBold(font.Bold);
+  look.Face.setItalic(font.Italic);
+  look.Face.setUnderline(font.Underline);
+  look.Face.setStrikeOut(font.Strikethru);
+  look.Note = QString::fromStdString(NumberText(font.Size));
 }
 
 }  // namespace
 
-RowLook LookOfRow(MDIForm1& shell, looks::PictureCache& pictures, const QWidget& grid, int row) {
-  const PropertySheet& sheet = shell.Sheet();
+RowLook LookOfRow(const PropertySheet& sheet, looks::PictureCache& pictures, const QWidget& grid,
+                  int row) {
   const std::string& text = sheet.Text(row);
   RowLook look;
   look.Face = grid.font();
@@ -84,7 +70,7 @@ RowLook LookOfRow(MDIForm1& shell, looks::PictureCache& pictures, const QWidget&
       break;
     case row_mark::kPicture:
     case row_mark::kIcon:
-      look.Picture = Preview(shell, pictures, grid, text);
+      look.Picture = Preview(sheet.RowPictures(row), pictures, grid);
       look.Tip = ToQString(text);
       break;
     case row_mark::kFolder:
@@ -92,11 +78,9 @@ RowLook LookOfRow(MDIForm1& shell, looks::PictureCache& pictures, const QWidget&
     case row_mark::kHtmlFile:
       look.Tip = ToQString(text);
       break;
-    case row_mark::kFont: {
-      const DesignForm* form = shell.Tables().CurrentForm;
-      if (form != nullptr && form->ControlSel) ShowFont(*form->ControlSel, text, look);
+    case row_mark::kFont:
+      if (const std::optional<FontChoice> font = sheet.RowFont(row)) ShowFont(*font, look);
       break;
-    }
     default:
       break;
   }

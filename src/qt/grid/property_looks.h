@@ -9,11 +9,11 @@ class PictureCache;
 
 namespace tarnwick {
 
-class MDIForm1;
+class PropertySheet;
 
 /// Look of a row of the sheet: a colour has its swatch, a font its face, style and size, a picture
 /// or icon a small image of itself.
-[[nodiscard]] RowLook LookOfRow(MDIForm1& shell, looks::PictureCache& pictures, const QWidget& grid,
-                                int row);
+[[nodiscard]] RowLook LookOfRow(const PropertySheet& sheet, looks::PictureCache& pictures,
+                                const QWidget& grid, int row);
 
 }  // namespace tarnwick

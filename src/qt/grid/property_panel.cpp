@@ -14,14 +14,11 @@
 #include <QVBoxLayout>
 
 #include "inspector/property_sheet.h"
-#include "inspector/row_help.h"
 #include "qt/grid/property_grid.h"
 #include "qt/kit/icon_set.h"
 #include "qt/kit/panel_frame.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
-#include "shell/mdi_form.h"
-#include "text/strings.h"
 
 namespace tarnwick {
 
@@ -33,25 +30,28 @@ constexpr int kGridHeight = 400;
 
 }  // namespace
 
-PropertyPanel::PropertyPanel(looks::PictureCache& pictures, QWidget* parent)
+PropertyPanel::PropertyPanel(PropertySheet& sheet, looks::PictureCache& pictures, QWidget* parent)
     : QWidget(parent),
+      sheet_(sheet),
       combo_(new QComboBox),
       filter_(new QLineEdit),
       scroll_(new QScrollArea),
-      grid_(new PropertyGrid(pictures, scroll_)),
+      grid_(new PropertyGrid(sheet, pictures, scroll_)),
       help_name_(new QLabel),
       help_(new QPlainTextEdit) {
   BuildHead();
   BuildGrid();
   auto* go = new QShortcut(QKeySequence(Qt::Key_F4), window());
   connect(go, &QShortcut::activated, this, [this] {
-    if (shell_ == nullptr) return;
-    if (!sheet_->PanelVisible()) shell_->SetPanelShown(Panel::Properties, true);
+    if (!sheet_.PanelVisible()) Q_EMIT ShownWanted(true);
     grid_->FocusRow();
   });
+  sheet_.SetView(this);
+  ComboChanged();
+  RowsChanged();
 }
 
-// The logic is built after the windows and is gone before them: nothing is told to it here.
+// The logic may be gone by now: nothing is told to it here.
 PropertyPanel::~PropertyPanel() = default;
 
 void PropertyPanel::BuildHead() {
@@ -65,17 +65,13 @@ void PropertyPanel::BuildHead() {
   close->setAutoRaise(true);
   close->setFocusPolicy(Qt::NoFocus);
   frame->AddToHead(close);
-  connect(close, &QToolButton::clicked, this, [this] {
-    if (shell_ != nullptr) shell_->SetPanelShown(Panel::Properties, false);
-  });
+  connect(close, &QToolButton::clicked, this, [this] { Q_EMIT ShownWanted(false); });
   combo_->setObjectName(QStringLiteral("Combo"));
   combo_->setToolTip(QStringLiteral("Objects of the form"));
   combo_->setAccessibleName(combo_->toolTip());
   combo_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   combo_->setMinimumContentsLength(8);
-  connect(combo_, &QComboBox::activated, this, [this](int place) {
-    if (sheet_ != nullptr) sheet_->ChooseComboRow(place);
-  });
+  connect(combo_, &QComboBox::activated, this, [this](int place) { sheet_.ChooseComboRow(place); });
   filter_->setObjectName(QStringLiteral("RowFilter"));
   filter_->setPlaceholderText(QStringLiteral("Filter rows"));
   filter_->setToolTip(QStringLiteral("Show only rows whose name holds this text"));
@@ -83,9 +79,8 @@ void PropertyPanel::BuildHead() {
   filter_->setClearButtonEnabled(true);
   filter_->addAction(IconOf(QStringLiteral("search")), QLineEdit::LeadingPosition);
   filter_->installEventFilter(this);
-  connect(filter_, &QLineEdit::textChanged, this, [this](const QString& text) {
-    if (sheet_ != nullptr) sheet_->SetFilter(FromQString(text));
-  });
+  connect(filter_, &QLineEdit::textChanged, this,
+          [this](const QString& text) { sheet_.SetFilter(FromQString(text)); });
 
   auto* help = new QWidget;
   auto* help_column = new QVBoxLayout(help);
@@ -135,15 +130,6 @@ void PropertyPanel::BuildGrid() {
   help_->document()->setDocumentMargin(0);
 }
 
-void PropertyPanel::Attach(MDIForm1& shell) {
-  shell_ = &shell;
-  sheet_ = &shell.Sheet();
-  grid_->Attach(shell);
-  sheet_->SetView(this);
-  ComboChanged();
-  RowsChanged();
-}
-
 void PropertyPanel::Commit() {
   grid_->Commit();
 }
@@ -171,14 +157,9 @@ void PropertyPanel::ListOpened(bool is_open) {
 }
 
 void PropertyPanel::ShowHelp() {
-  if (sheet_ == nullptr) return;
-  QString name;
-  QString text;
-  if (sheet_->HasSelectedRow()) {
-    const std::string_view row = sheet_->Label(sheet_->RowIndex());
-    name = ToQString(row);
-    text = ToQString(RowHelp(shell_->Support(), sheet_->SelKind(), row));
-  }
+  const int row = sheet_.HasSelectedRow() ? sheet_.RowIndex() : -1;
+  const QString name = ToQString(sheet_.Label(row));
+  const QString text = ToQString(sheet_.Help());
   if (help_name_->text() != name) help_name_->setText(name);
   if (help_->toPlainText() != text) help_->setPlainText(text);
 }
@@ -186,9 +167,8 @@ void PropertyPanel::ShowHelp() {
 /// Brings the list to the rows of the sheet. Mostly one row is new at the end or one has gone, so
 /// what is the same at the head stays.
 void PropertyPanel::ComboChanged() {
-  if (sheet_ == nullptr) return;
   const QSignalBlocker quiet(combo_);
-  const auto& rows = sheet_->Combo().Rows();
+  const auto& rows = sheet_.Combo().Rows();
   const int count = static_cast<int>(rows.size());
   const auto text_of = [&rows](int row) {
     return ToQString(rows[static_cast<std::size_t>(row)].Text);
@@ -206,11 +186,11 @@ void PropertyPanel::ComboChanged() {
       combo_->setItemText(row, text);
     }
   }
-  combo_->setCurrentIndex(sheet_->Combo().Selected());
+  combo_->setCurrentIndex(sheet_.Combo().Selected());
 }
 
 void PropertyPanel::ComboRowTextChanged(int row) {
-  const auto& rows = sheet_->Combo().Rows();
+  const auto& rows = sheet_.Combo().Rows();
   if (row < 0 || row >= static_cast<int>(rows.size()) || row >= combo_->count()) return;
   const QSignalBlocker quiet(combo_);
   combo_->setItemText(row, ToQString(rows[static_cast<std::size_t>(row)].Text));

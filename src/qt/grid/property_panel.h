@@ -17,7 +17,6 @@ class PictureCache;
 
 namespace tarnwick {
 
-class MDIForm1;
 class PropertyGrid;
 class PropertySheet;
 
@@ -26,10 +25,10 @@ class PropertyPanel final : public QWidget, public PropertySheetView {
   Q_OBJECT
 
  public:
-  PropertyPanel(looks::PictureCache& pictures, QWidget* parent);
+  /// `sheet` outlives the panel's last event and tells it of changes from now on.
+  PropertyPanel(PropertySheet& sheet, looks::PictureCache& pictures, QWidget* parent);
   ~PropertyPanel() override;
 
-  void Attach(MDIForm1& shell);
   /// Takes a half-typed value into the tables.
   void Commit();
   /// True while a keystroke in the grid is being applied: a window that takes the focus for itself
@@ -47,6 +46,8 @@ class PropertyPanel final : public QWidget, public PropertySheetView {
  Q_SIGNALS:
   /// Esc: the user goes back to the form.
   void Left();
+  /// The user shows or hides the panel from within.
+  void ShownWanted(bool shown);
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -56,8 +57,7 @@ class PropertyPanel final : public QWidget, public PropertySheetView {
   void BuildGrid();
   void ShowHelp();
 
-  MDIForm1* shell_ = nullptr;
-  PropertySheet* sheet_ = nullptr;
+  PropertySheet& sheet_;
   QComboBox* combo_;
   QLineEdit* filter_;
   QScrollArea* scroll_;
