@@ -10,50 +10,31 @@ namespace tarnwick {
 
 namespace {
 
-enum class DimRule {
-  Plain,      ///< every object by its name
-  Stem,       ///< names in array form: one line with the stem and the highest index
-  WholeName,  ///< the same, but with the whole name in front of the highest index
-  FirstOnly,  ///< object 1 alone
-  PopUps,     ///< every object, each followed by its items
-  MenuBar,    ///< the menu bar, its titles and items
-};
-
-struct DimRow {
-  Kind Id;
-  DimRule Rule;
-  std::string_view Class;
-  /// The kind is declared only while the form in focus has an object of it too.
-  bool FocusGuard = false;
-};
-
-/// The kinds in the order of their lines. The capitals of the classes are what the compiler's
-/// users know, irregular as they are.
-constexpr std::array kDimRows{
-    DimRow{Kind::PopUpMenu, DimRule::PopUps, "QPopupmenu"},
-    DimRow{Kind::WinSock, DimRule::WholeName, "QSocket"},
-    DimRow{Kind::Button, DimRule::Stem, "QButton"},
-    DimRow{Kind::CheckBox, DimRule::Stem, "QCheckBox"},
-    DimRow{Kind::ComboBox, DimRule::Stem, "Qcombobox", true},
-    DimRow{Kind::Image, DimRule::Plain, "QImage"},
-    DimRow{Kind::Label, DimRule::Stem, "Qlabel"},
-    DimRow{Kind::ListBox, DimRule::Stem, "Qlistbox", true},
-    DimRow{Kind::OptionButton, DimRule::Stem, "QRadiobutton"},
-    DimRow{Kind::RichTextBox, DimRule::Stem, "Qrichedit"},
-    DimRow{Kind::TextBox, DimRule::Stem, "Qedit"},
-    DimRow{Kind::Menu, DimRule::MenuBar, "QMenuItem"},
-    DimRow{Kind::Time, DimRule::Stem, "Qtimer"},
-    DimRow{Kind::OpenDialog, DimRule::Stem, "Qopendialog"},
-    DimRow{Kind::SaveDialog, DimRule::Stem, "Qsavedialog"},
-    DimRow{Kind::FileStream, DimRule::Plain, "QFileStream"},
-    DimRow{Kind::TransparentFrame, DimRule::FirstOnly, "QGlassFrame"},
-    DimRow{Kind::HtmlViewer, DimRule::Stem, "QOleContainer"},
-};
+/// The kinds in the order of their lines.
+constexpr auto kDimKinds = [] {
+  constexpr std::size_t count = [] {
+    std::size_t declared = 0;
+    for (const KindInfo& kind : kKinds) declared += kind.Program.Dim.Rule != DimRule::None ? 1 : 0;
+    return declared;
+  }();
+  std::array<Kind, count> kinds{};
+  std::size_t met = 0;
+  for (const KindInfo& kind : kKinds) {
+    if (kind.Program.Dim.Rule == DimRule::None) continue;
+    kinds.at(static_cast<std::size_t>(kind.Program.Dim.Order) - 1) = kind.Id;
+    ++met;
+  }
+  for (std::size_t i = 0; i < count; ++i) {
+    const bool own = InfoOf(kinds[i]).Program.Dim.Order == static_cast<int>(i) + 1;
+    if (!own || met != count) throw "two kinds are declared at one place";
+  }
+  return kinds;
+}();
 
 /// Declares names of one kind: plain ones each, those in array form with one line for the first.
 class NameDeclarer {
  public:
-  NameDeclarer(Generation& gen, const DimRow& row, std::size_t highest)
+  NameDeclarer(Generation& gen, const Declaration& row, std::size_t highest)
       : out_(gen.Out), row_(row), highest_(highest) {}
 
   void Declare(std::string_view name) {
@@ -69,17 +50,18 @@ class NameDeclarer {
 
  private:
   SourceText& out_;
-  const DimRow& row_;
+  const Declaration& row_;
   std::size_t highest_;
   bool seen_ = false;
 };
 
-void DeclareObjects(Generation& gen, const DimRow& row) {
+void DeclareObjects(Generation& gen, Kind kind) {
+  const Declaration& row = InfoOf(kind).Program.Dim;
   if (row.FocusGuard &&
-      (gen.Tables.CurrentForm == nullptr || !gen.Tables.CurrentForm->HasObjects(row.Id))) {
+      (gen.Tables.CurrentForm == nullptr || !gen.Tables.CurrentForm->HasObjects(kind))) {
     return;
   }
-  const auto& objects = gen.User().Elements(row.Id);
+  const auto& objects = gen.User().Elements(kind);
   NameDeclarer declarer(gen, row, objects.size() - 1);
   if (row.Rule == DimRule::FirstOnly) {
     if (objects.size() > 1 && objects[1]) declarer.Declare(objects[1]->Tag);
@@ -102,18 +84,18 @@ void DeclarePopUpItems(Generation& gen, int number) {
   }
 }
 
-void DeclarePopUps(Generation& gen, const DimRow& row) {
-  const int highest = gen.User().UBound(row.Id);
+void DeclarePopUps(Generation& gen, Kind kind) {
+  const int highest = gen.User().UBound(kind);
   for (int p = 1; p <= highest; ++p) {
-    if (const ControlRef popup = gen.User().Element(row.Id, p)) {
-      gen.Out.Line("Dim ", popup->Tag, " As ", row.Class);
+    if (const ControlRef popup = gen.User().Element(kind, p)) {
+      gen.Out.Line("Dim ", popup->Tag, " As ", InfoOf(kind).Program.Dim.Class);
     }
     DeclarePopUpItems(gen, p);
   }
 }
 
 template <class Records>
-void DeclareMenuNames(Generation& gen, const DimRow& row, const Records& records,
+void DeclareMenuNames(Generation& gen, const Declaration& row, const Records& records,
                       std::size_t from) {
   NameDeclarer declarer(gen, row, records.empty() ? 0 : records.size() - 1);
   for (std::size_t n = from; n < records.size(); ++n) {
@@ -121,7 +103,7 @@ void DeclareMenuNames(Generation& gen, const DimRow& row, const Records& records
   }
 }
 
-void DeclareMenuBar(Generation& gen, const DimRow& row) {
+void DeclareMenuBar(Generation& gen, const Declaration& row) {
   if (!gen.MenuBarVisible()) return;
   gen.Out.Line("Dim MenuBar As QMainMenu");
   DeclareMenuNames(gen, row, gen.Tables.MenuTitles, 1);
@@ -135,16 +117,16 @@ void WriteDeclarations(Generation& gen) {
   static const FormRec empty{};
   const FormRec* record = gen.Tables.Form(gen.User().Number());
   gen.Out.Line("Dim ", (record == nullptr ? empty : *record).Name, " As QForm");
-  for (const DimRow& row : kDimRows) {
-    switch (row.Rule) {
+  for (const Kind kind : kDimKinds) {
+    switch (InfoOf(kind).Program.Dim.Rule) {
       case DimRule::PopUps:
-        DeclarePopUps(gen, row);
+        DeclarePopUps(gen, kind);
         break;
       case DimRule::MenuBar:
-        DeclareMenuBar(gen, row);
+        DeclareMenuBar(gen, InfoOf(kind).Program.Dim);
         break;
       default:
-        DeclareObjects(gen, row);
+        DeclareObjects(gen, kind);
     }
   }
   gen.Out.Blank();

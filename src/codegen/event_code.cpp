@@ -6,18 +6,6 @@ namespace tarnwick {
 
 namespace {
 
-/// Kinds whose counter steps in the walks of this section. The others are looked up under the
-/// ordinal of the object before them.
-constexpr KindSet kStepping =
-    KindSet::Of(Kind::Button, Kind::TextBox, Kind::RichTextBox, Kind::Label, Kind::ListBox,
-                Kind::Image, Kind::ComboBox, Kind::OptionButton, Kind::CheckBox, Kind::Time);
-
-/// Kinds that the walks pass over whether visible or not.
-constexpr KindSet kPassedOver = KindSet::Of(Kind::FileStream, Kind::PopUpMenu, Kind::MenuItem,
-                                            Kind::Frame, Kind::Numero, Kind::Handle, Kind::Form);
-
-constexpr KindSet kKeptByBodies = KindSet::Of(Kind::PopUpMenu, Kind::WinSock, Kind::HtmlViewer);
-
 /// The lines of a Sub between its head and its end, as the user wrote them.
 void WriteBody(Generation& gen, std::string_view code) {
   gen.Out.Line(code);
@@ -30,9 +18,10 @@ void ForEachObjectEvent(Generation& gen, Write write) {
   GeneratorState& state = gen.State;
   WalkControls<ControlPart::Head>(gen.User().Controls(), 0, [&](const ControlRef& control) {
     const Kind kind = control->Id;
-    if (!control->Visible || kPassedOver.Has(kind)) return;
+    const EventWalk walk = InfoOf(kind).Program.Events;
+    if (!control->Visible || walk == EventWalk::PassedOver) return;
     if (kind == Kind::Menu && !gen.MenuBarVisible()) return;
-    if (kStepping.Has(kind)) state.CurrentOrdinal = state.KindCounters.Step(kind);
+    if (walk == EventWalk::Numbered) state.CurrentOrdinal = state.KindCounters.Step(kind);
     const OwnerCode code = gen.Code.OfObject(kind, state.CurrentOrdinal);
     code.ForEach<kObjectEvents>([&](Event event, std::string_view text) {
       write(SubNameOf(control->Tag, state.CurrentOrdinal), event, text);
@@ -129,7 +118,7 @@ void WriteSubDeclares(Generation& gen) {
 }
 
 void WriteEventSubs(Generation& gen) {
-  gen.State.KindCounters.ResetAllBut(kKeptByBodies);
+  gen.State.KindCounters.Reset(CounterLife::Walk);
   WriteFormBodies(gen);
   ForEachObjectEvent(gen, [&](const Numbered& sub, Event event, std::string_view code) {
     gen.Out.Line("Sub ", sub, "_", InfoOf(event).Signature);
@@ -138,7 +127,7 @@ void WriteEventSubs(Generation& gen) {
     gen.Out.Blank();
     gen.Out.Blank();
   });
-  gen.State.KindCounters.ResetAllBut(kKeptByBodies);
+  gen.State.KindCounters.Reset(CounterLife::Walk);
   gen.Out.Blank();
   WritePopUpBodies(gen);
   ForEachMenuItem(gen, [&](std::string_view name, int n) {

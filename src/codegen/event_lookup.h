@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "model/event_table.h"
-#include "model/vocabulary.h"
+#include "model/kinds.h"
 
 namespace tarnwick {
 

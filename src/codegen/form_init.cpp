@@ -9,16 +9,6 @@ namespace tarnwick {
 
 namespace {
 
-/// Kinds that write their kind lines only: no common lines and no hooks.
-constexpr KindSet kKindLinesOnly =
-    KindSet::Of(Kind::TransparentFrame, Kind::OpenDialog, Kind::SaveDialog, Kind::Time,
-                Kind::HtmlViewer, Kind::WinSock);
-
-/// What the walk passes over: controls that are no objects, items under a title of the menu bar,
-/// and the kind that has a declaration and nothing else.
-constexpr KindSet kPassedOver = KindSet::Of(Kind::FileStream, Kind::MenuItem, Kind::Frame,
-                                            Kind::Numero, Kind::Handle, Kind::Form);
-
 void WriteFormLines(Generation& gen) {
   SourceText& out = gen.Out;
   const FormRec& form = gen.Record();
@@ -47,14 +37,10 @@ void WriteFormHooks(Generation& gen) {
   });
 }
 
-void WriteObject(Generation& gen, const DesignControl& control, std::int16_t& button_count) {
-  if (kKindLinesOnly.Has(control.Id)) {
-    WriteObjectInit(gen, control);
-  } else {
-    WriteCommonLines(gen, control, button_count);
-    WriteObjectInit(gen, control);
-    WriteObjectHooks(gen, control);
-  }
+void WriteAllLines(Generation& gen, const DesignControl& control, std::int16_t& button_count) {
+  WriteCommonLines(gen, control, button_count);
+  WriteObjectInit(gen, control);
+  WriteObjectHooks(gen, control);
   gen.Out.Blank();
 }
 
@@ -82,15 +68,25 @@ void WriteFormInit(Generation& gen) {
   std::int16_t button_count = 0;
   bool menu_bar_done = false;
   WalkControls<ControlPart::Whole>(gen.User().Controls(), 0, [&](const ControlRef& control) {
-    if (!control->Visible || kPassedOver.Has(control->Id)) return;
-    if (control->Id == Kind::PopUpMenu) {
-      WritePopUpInit(gen, control->Tag);
-      counters.Step(Kind::PopUpMenu);
-    } else if (control->Id == Kind::Menu) {
-      if (gen.MenuBarVisible() && !menu_bar_done) WriteMenuBarInit(gen);
-      menu_bar_done = true;
-    } else {
-      WriteObject(gen, *control, button_count);
+    if (!control->Visible) return;
+    switch (InfoOf(control->Id).Program.SetUp) {
+      case SetUpRule::None:
+        return;
+      case SetUpRule::OwnLines:
+        WriteObjectInit(gen, *control);
+        gen.Out.Blank();
+        return;
+      case SetUpRule::AllLines:
+        WriteAllLines(gen, *control, button_count);
+        return;
+      case SetUpRule::PopUp:
+        WritePopUpInit(gen, control->Tag);
+        counters.Step(Kind::PopUpMenu);
+        return;
+      case SetUpRule::MenuBar:
+        if (gen.MenuBarVisible() && !menu_bar_done) WriteMenuBarInit(gen);
+        menu_bar_done = true;
+        return;
     }
   });
   counters.Set(Kind::PopUpMenu, 0);

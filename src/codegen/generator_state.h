@@ -5,32 +5,9 @@
 #include <cstdint>
 #include <limits>
 
-#include "model/vocabulary.h"
+#include "model/kinds.h"
 
 namespace tarnwick {
-
-/// A set of kinds, so that the kinds a rule names stand in one line.
-class KindSet {
- public:
-  template <class... Kinds>
-  static constexpr KindSet Of(Kinds... kinds) noexcept {
-    KindSet set;
-    set.bits_ = ((1U << static_cast<unsigned>(kinds)) | ... | 0U);
-    return set;
-  }
-  template <class... Kinds>
-  static constexpr KindSet AllBut(Kinds... kinds) noexcept {
-    KindSet set = Of(kinds...);
-    set.bits_ = ~set.bits_;
-    return set;
-  }
-  [[nodiscard]] constexpr bool Has(Kind kind) const noexcept {
-    return (bits_ >> static_cast<unsigned>(kind) & 1U) != 0;
-  }
-
- private:
-  std::uint32_t bits_ = 0;
-};
 
 /// A running number of 16 bits. A step past its range fails, and the number stays.
 inline void StepOrdinal(std::int16_t& ordinal) noexcept {
@@ -47,10 +24,10 @@ class KindCounters {
     return counts_[Slot(kind)];
   }
   void Set(Kind kind, std::int16_t count) noexcept { counts_[Slot(kind)] = count; }
-  /// Sets every number to 0 but those of the kinds in `kept`.
-  void ResetAllBut(KindSet kept) noexcept {
-    for (std::size_t i = 0; i < kObjectKindCount; ++i) {
-      if (!kept.Has(static_cast<Kind>(i))) counts_[i] = 0;
+  /// Sets to 0 the numbers that live no longer than `life`.
+  void Reset(CounterLife life) noexcept {
+    for (const KindInfo& kind : ObjectKinds()) {
+      if (kind.Program.Counter <= life) counts_[Slot(kind.Id)] = 0;
     }
   }
 

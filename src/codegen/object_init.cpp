@@ -79,23 +79,36 @@ constexpr std::span<const RecordLine> LinesOf(Kind kind) noexcept {
       return kCheckLines;
     case Kind::Time:
       return kTimeLines;
-    default:
-      return {};
+    case Kind::OpenDialog:
+    case Kind::SaveDialog:
+    case Kind::FileStream:
+    case Kind::TransparentFrame:
+    case Kind::HtmlViewer:
+    case Kind::WinSock:
+    case Kind::PopUpMenu:
+    case Kind::Menu:
+    case Kind::MenuItem:
+    case Kind::Numero:
+    case Kind::Frame:
+    case Kind::Handle:
+    case Kind::Form:
+      break;
   }
+  return {};
 }
 
 /// The name of a picture's resource. Should no record name the picture, the object's own number
 /// stands in.
-void WritePicture(Generation& gen, std::string_view name, std::string_view member,
-                  std::string_view word, std::string_view file, ImageIndex& images) {
+void WritePicture(Generation& gen, std::string_view name, std::string_view member, Kind kind,
+                  std::string_view file, ImageIndex& images) {
   const int first = images.FindFirstImage(file);
-  gen.Out.Line(name, member, gen.NumeroText(), word,
+  gen.Out.Line(name, member, gen.NumeroText(), InfoOf(kind).PictureWord,
                first != 0 ? first : int{gen.State.CurrentOrdinal}, "_Bmp");
 }
 
 void WriteButtonPicture(Generation& gen, std::string_view name, std::string_view file) {
   if (!HasPicturePath(file)) return;
-  WritePicture(gen, name, ".BmpHandle = Frm", "Btn", file, gen.ButtonImages());
+  WritePicture(gen, name, ".BmpHandle = Frm", Kind::Button, file, gen.ButtonImages());
 }
 
 void WriteImagePicture(Generation& gen, std::string_view name, std::string_view file) {
@@ -103,7 +116,7 @@ void WriteImagePicture(Generation& gen, std::string_view name, std::string_view 
   constexpr std::string_view kBitmap = "bmp";
   const bool bitmap = file.size() >= kBitmap.size() &&
                       EqualsFolded(file.substr(file.size() - kBitmap.size()), kBitmap);
-  WritePicture(gen, name, bitmap ? ".BmpHandle = Frm" : ".IcoHandle = Frm", "Image", file,
+  WritePicture(gen, name, bitmap ? ".BmpHandle = Frm" : ".IcoHandle = Frm", Kind::Image, file,
                gen.PictureImages());
 }
 
@@ -215,7 +228,19 @@ void WriteKindRest(Generation& gen, const DesignControl& control, const ObjectRe
     case Kind::HtmlViewer:
       WriteHtmlViewer(gen, control, RecordOrEmpty(gen.Record().HtmlViewers, ordinal));
       break;
-    default:
+    case Kind::CheckBox:
+    case Kind::OptionButton:
+    case Kind::TextBox:
+    case Kind::RichTextBox:
+    case Kind::FileStream:
+    case Kind::TransparentFrame:
+    case Kind::PopUpMenu:
+    case Kind::Menu:
+    case Kind::MenuItem:
+    case Kind::Numero:
+    case Kind::Frame:
+    case Kind::Handle:
+    case Kind::Form:
       break;
   }
 }

@@ -18,7 +18,7 @@ namespace {
 /// Values that are no plain field of the control.
 enum class Derived : std::uint8_t {
   FontSize,    ///< as a whole number
-  FontColor,   ///< of the Button's record
+  FontColor,   ///< of the record, of a Button: its class has no colour of the text
   WordWrap,    ///< of the Label's record
   SharedFont,  ///< the program's one Font object, as the lines before left it
   Parent,      ///< the form
@@ -26,45 +26,48 @@ enum class Derived : std::uint8_t {
 };
 
 /// One line. A text that begins with "." follows the object's name. Kinds that lack the member
-/// write no line, and neither do those of `HeldBack`, although they have it.
+/// write no line, and neither do those whose row holds it back.
 struct CommonLine {
   std::string_view Text;
   std::variant<Member, Derived> Value;
-  KindSet HeldBack;
   std::optional<Member> Needs{};  ///< of a derived value
 };
 
 constexpr std::array kCommonLines{
-    CommonLine{"Font.Name = ", Member::FontName, {}},
-    CommonLine{"Font.Size = ", Derived::FontSize, {}, Member::FontSize},
-    CommonLine{"Font.Bold = ", Member::FontBold, {}},
-    CommonLine{"Font.Italic = ", Member::FontItalic, {}},
-    CommonLine{"Font.Color = ", Member::ForeColor, {}},
-    CommonLine{"Font.Color = ", Derived::FontColor, KindSet::AllBut(Kind::Button)},
-    CommonLine{".Font = Font", Derived::SharedFont, {}},
-    CommonLine{".Parent = ", Derived::Parent, {}},
-    CommonLine{".WordWrap = ", Derived::WordWrap, {}, Member::WordWrap},
-    CommonLine{".AutoSize = ", Member::AutoSize, {}},
-    CommonLine{".Top = ", Member::Top, {}},
-    CommonLine{".Left = ", Member::Left, {}},
-    CommonLine{".Width = ", Member::Width, {}},
-    CommonLine{".Height = ", Member::Height, {}},
-    CommonLine{".Caption = ", Member::Caption, {}},
-    CommonLine{".Stretch = ", Member::Stretch, {}},
-    CommonLine{".Text = ", Member::Text, {}},
-    CommonLine{".BorderStyle = ", Member::BorderStyle,
-               KindSet::Of(Kind::Label, Kind::Image, Kind::ComboBox)},
-    CommonLine{".BorderStyle = ", Member::Appearance, KindSet::AllBut(Kind::ListBox)},
-    CommonLine{".Color = ", Member::BackColor,
-               KindSet::Of(Kind::CheckBox, Kind::ComboBox, Kind::OptionButton)},
-    CommonLine{".Hint = ", Member::ToolTipText, {}},
-    CommonLine{".ShowHint = ", Derived::On, {}},
+    CommonLine{"Font.Name = ", Member::FontName},
+    CommonLine{"Font.Size = ", Derived::FontSize, Member::FontSize},
+    CommonLine{"Font.Bold = ", Member::FontBold},
+    CommonLine{"Font.Italic = ", Member::FontItalic},
+    CommonLine{"Font.Color = ", Member::ForeColor},
+    CommonLine{"Font.Color = ", Derived::FontColor, Member::FontName},
+    CommonLine{".Font = Font", Derived::SharedFont},
+    CommonLine{".Parent = ", Derived::Parent},
+    CommonLine{".WordWrap = ", Derived::WordWrap, Member::WordWrap},
+    CommonLine{".AutoSize = ", Member::AutoSize},
+    CommonLine{".Top = ", Member::Top},
+    CommonLine{".Left = ", Member::Left},
+    CommonLine{".Width = ", Member::Width},
+    CommonLine{".Height = ", Member::Height},
+    CommonLine{".Caption = ", Member::Caption},
+    CommonLine{".Stretch = ", Member::Stretch},
+    CommonLine{".Text = ", Member::Text},
+    CommonLine{".BorderStyle = ", Member::BorderStyle},
+    CommonLine{".BorderStyle = ", Member::Appearance},
+    CommonLine{".Color = ", Member::BackColor},
+    CommonLine{".Hint = ", Member::ToolTipText},
+    CommonLine{".ShowHint = ", Derived::On},
 };
 
 constexpr bool Writes(Kind kind, const CommonLine& line) {
+  const KindInfo& info = InfoOf(kind);
   const auto* const member = std::get_if<Member>(&line.Value);
   const std::optional<Member> needs = member != nullptr ? *member : line.Needs;
-  return (!needs || HasMember(InfoOf(kind).Class, *needs)) && !line.HeldBack.Has(kind);
+  if (needs && !HasMember(info.Class, *needs)) return false;
+  const auto* const derived = std::get_if<Derived>(&line.Value);
+  if (derived != nullptr && *derived == Derived::FontColor) {
+    return !HasMember(info.Class, Member::ForeColor);
+  }
+  return member == nullptr || !Holds(info.Program.HeldBack, *member);
 }
 
 /// A member's value as it prints: texts in quotes, lengths in pixels.

@@ -15,9 +15,6 @@ namespace tarnwick {
 
 namespace {
 
-/// The WinSock number is set back by no one in the life of the process.
-constexpr KindSet kKeptBetweenForms = KindSet::Of(Kind::PopUpMenu, Kind::WinSock);
-
 /// Calls `write()` with each form that was not removed selected, in the order of the numbers.
 template <class Write>
 void ForEachForm(Generation& gen, Write write) {
@@ -92,7 +89,7 @@ void WriteSections(ProjectTables& tables, GeneratorState& state, TextSink sink) 
   });
   ForEachForm(gen, [&] {
     WriteEventSubs(gen);
-    gen.State.KindCounters.ResetAllBut(kKeptBetweenForms);
+    gen.State.KindCounters.Reset(CounterLife::Form);
     WriteFormInit(gen);
   });
   gen.Out.Blank();
@@ -104,7 +101,7 @@ void WriteSections(ProjectTables& tables, GeneratorState& state, TextSink sink) 
 }  // namespace
 
 void WriteSource(ProjectTables& tables, GeneratorState& state, const TextSink& sink) {
-  state.KindCounters.ResetAllBut(kKeptBetweenForms);
+  state.KindCounters.Reset(CounterLife::Form);
   state.DefaultIconDone = false;
   const std::vector<ShowDiversion> diverted = DiversionsOf(tables);
   if (diverted.empty()) {

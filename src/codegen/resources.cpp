@@ -24,13 +24,14 @@ void WriteIcon(Generation& gen) {
 
 /// The pictures of one kind. The walk goes over the records: the object a record belongs to may
 /// stand at another place of its array by now.
-void WritePictures(Generation& gen, Kind kind, std::string_view word, ImageIndex& images) {
+void WritePictures(Generation& gen, Kind kind, ImageIndex& images) {
   const RecordArray<ObjectRec>& records = *gen.Record().Objects(kind);
   const int highest = gen.User().UBound(kind);
   for (int j = 1; j <= highest; ++j) {
     const std::string& file = RecordOrEmpty(records, j).ImageFile;
     if (!HasPicturePath(file) || images.FindEarlierImage(file, j) != 0) continue;
-    gen.Out.Line("$Resource Frm", gen.NumeroText(), word, j, "_Bmp As ", Quoted{PathOf(gen, file)});
+    gen.Out.Line("$Resource Frm", gen.NumeroText(), InfoOf(kind).PictureWord, j, "_Bmp As ",
+                 Quoted{PathOf(gen, file)});
   }
 }
 
@@ -38,8 +39,8 @@ void WritePictures(Generation& gen, Kind kind, std::string_view word, ImageIndex
 
 void WriteResources(Generation& gen) {
   WriteIcon(gen);
-  WritePictures(gen, Kind::Button, "Btn", gen.ButtonImages());
-  WritePictures(gen, Kind::Image, "Image", gen.PictureImages());
+  WritePictures(gen, Kind::Button, gen.ButtonImages());
+  WritePictures(gen, Kind::Image, gen.PictureImages());
 }
 
 }  // namespace tarnwick

@@ -1,8 +1,8 @@
 #include "designer/object_kinds.h"
 
-#include <algorithm>
-#include <array>
 #include <limits>
+#include <type_traits>
+#include <variant>
 
 #include "model/units.h"
 #include "text/numbers.h"
@@ -10,43 +10,6 @@
 namespace tarnwick {
 
 namespace {
-
-constexpr RecordDefaults kPlain{};
-constexpr RecordDefaults kShown{1, 1, "", "", "", ""};
-constexpr RecordDefaults kButton{1, 1, kNoPicture, "", kNoPicture, ""};
-constexpr RecordDefaults kImage{1, 1, kNoPicture, kNoPicture, "", ""};
-constexpr RecordDefaults kFileDialog{0, 0, "", "", "", "All Files|*.*"};
-
-constexpr std::array<CreationRule, 18> kRules{{
-    {Kind::PopUpMenu, TabRule::None, kPlain, true, "PopupMenu"},
-    {Kind::WinSock, TabRule::None, kPlain, false, ""},
-    {Kind::HtmlViewer, TabRule::None, kPlain, true, "HtmlViewer"},
-    {Kind::TransparentFrame, TabRule::None, kPlain, false, ""},
-    {Kind::FileStream, TabRule::None, kPlain, true, "FileStream"},
-    {Kind::Time, TabRule::None, kPlain, true, ""},
-    {Kind::OpenDialog, TabRule::None, kFileDialog, true, ""},
-    {Kind::SaveDialog, TabRule::None, kFileDialog, true, ""},
-    {Kind::ComboBox, TabRule::Own, kShown, true, ""},
-    {Kind::Button, TabRule::Own, kButton, true, ""},
-    {Kind::TextBox, TabRule::Own, kShown, true, ""},
-    {Kind::Label, TabRule::None, kShown, true, ""},
-    {Kind::ListBox, TabRule::Own, kShown, true, ""},
-    {Kind::Image, TabRule::None, kImage, true, ""},
-    {Kind::RichTextBox, TabRule::InTextBoxes, kShown, true, ""},
-    {Kind::CheckBox, TabRule::Own, kShown, true, ""},
-    {Kind::OptionButton, TabRule::Own, kShown, true, ""},
-    {Kind::Frame, TabRule::CountOnly, kPlain, false, ""},
-}};
-
-/// The entries that a deletion takes away: those of a new object, in an order of its own.
-constexpr std::array kDeletedEvents{Event::OnTimer,     Event::OnClick,   Event::OnChange,
-                                    Event::OnDblClick,  Event::OnEnter,   Event::OnMouseDown,
-                                    Event::OnMouseMove, Event::OnMouseUp, Event::OnKeyDown,
-                                    Event::OnKeyUp,     Event::OnKeyPress};
-
-constexpr std::int16_t kNewFrameSide = 105;  // pixels
-constexpr std::int16_t kNewFrameTransparency = 60;
-constexpr std::int16_t kNewFrameAlign = 5;
 
 /// True when a popup menu of that number stands on another form: the rows of all forms share one
 /// array, and a new popup must not empty rows that belong to an older one.
@@ -60,8 +23,7 @@ bool PopUpElsewhere(const ProjectTables& tables, int form, int index) {
   return false;
 }
 
-void PutFreshPopUp(ProjectTables& tables, FormRec& record, int form, int index) {
-  if (PopUpItemRec* item = record.PopUps.Ensure(index)) *item = {};
+void PutFreshRows(ProjectTables& tables, int form, int index) {
   PopUpFormRec* rows = tables.PopUpMenus.Ensure(index);
   if (rows == nullptr || (!rows->Items.empty() && PopUpElsewhere(tables, form, index))) return;
   *rows = {};
@@ -69,55 +31,42 @@ void PutFreshPopUp(ProjectTables& tables, FormRec& record, int form, int index) 
   rows->Items.front().Entries.resize(1);
 }
 
-void SetFrameDefaults(FormRec& record) {
-  record.TfTop = 0;
-  record.TfLeft = 0;
-  record.TfWidth = kNewFrameSide;
-  record.TfHeight = kNewFrameSide;
-  record.TfTransparency = kNewFrameTransparency;
-  record.TfAlign = kNewFrameAlign;
-  record.TfCursor = 0;
-  record.TfTranspColor = 0;
-  record.TfString.clear();
+template <class Record>
+RecordArray<Record> FormRec::*HomeOf(const KindInfo& kind) noexcept {
+  const auto* const home = std::get_if<RecordArray<Record> FormRec::*>(&kind.Records);
+  return home == nullptr ? nullptr : *home;
 }
 
-void SetRecordDefaults(ObjectRec& record, const RecordDefaults& defaults) {
-  record.Enabled = defaults.Enabled;
-  record.Visible = defaults.Visible;
-  record.ImageFile = defaults.ImageFile;
-  record.PictureName = defaults.PictureName;
-  record.Title = defaults.Title;
-  record.Filter = defaults.Filter;
-}
-
-void SetDefaults(FormRec& record, Kind kind, int index, const RecordDefaults& defaults) {
-  if (RecordArray<ObjectRec>* objects = record.Objects(kind)) {
-    if (ObjectRec* object = objects->At(index)) SetRecordDefaults(*object, defaults);
+/// The record that a field of a kind's row lies in; null where there is none.
+template <class Record>
+Record* OwnerOf(FormRec& form, const KindInfo& kind, int index, const RecordDefault& value) {
+  if constexpr (std::is_same_v<Record, FormRec>) {
+    return &form;
+  } else {
+    RecordArray<Record> FormRec::*home = HomeOf<Record>(kind);
+    if constexpr (std::is_same_v<Record, ObjectRec>) {
+      if (value.Into != nullptr) home = value.Into;
+    }
+    return home == nullptr ? nullptr : (form.*home).At(index);
   }
-  switch (kind) {
-    case Kind::PopUpMenu:
-      if (PopUpItemRec* item = record.PopUps.At(index)) *item = {0, 1, record.Name};
-      break;
-    case Kind::WinSock:
-      if (WinSockRec* sock = record.WinSocks.At(index)) {
-        *sock = {"AF_INET ", "IPPROTO_IP", "SOCK_STREAM", "0"};
-      }
-      break;
-    case Kind::HtmlViewer:
-      if (HtmlViewerRec* viewer = record.HtmlViewers.At(index)) {
-        *viewer = {std::string(kNoPicture), "0", "0", "Form.ClientWidth", "Form.ClientHeight"};
-      }
-      break;
-    case Kind::TransparentFrame:
-      SetFrameDefaults(record);
-      break;
-    case Kind::Image:
-      // The third "(None)" of an image goes to the Button of the same index. A form with fewer
-      // buttons has no place for it.
-      if (ObjectRec* button = record.Buttons.At(index)) button->Title = kNoPicture;
-      break;
-    default:
-      break;
+}
+
+template <class Record, class Field>
+void Store(FormRec& form, const KindInfo& kind, int index, const RecordDefault& value,
+           Field Record::*field) {
+  Record* const record = OwnerOf<Record>(form, kind, index, value);
+  if (record == nullptr) return;
+  if constexpr (std::is_same_v<Field, std::string>) {
+    const auto* const text = std::get_if<std::string_view>(&value.Value);
+    record->*field = text == nullptr ? std::string_view(form.Name) : *text;
+  } else if (const auto* const number = std::get_if<std::int16_t>(&value.Value)) {
+    record->*field = *number;
+  }
+}
+
+void SetDefaults(FormRec& form, const KindInfo& kind, int index) {
+  for (const RecordDefault& value : kind.Defaults) {
+    std::visit([&](auto field) { Store(form, kind, index, value, field); }, value.Field);
   }
 }
 
@@ -131,19 +80,9 @@ std::string OwnerKey(const DesignForm& form, const DesignControl& control) {
 
 }  // namespace
 
-std::span<const CreationRule> CreationRules() noexcept {
-  return kRules;
-}
-
-const CreationRule* RuleOf(Kind kind) noexcept {
-  const auto* const found = std::find_if(
-      kRules.begin(), kRules.end(), [kind](const CreationRule& rule) { return rule.Id == kind; });
-  return found == kRules.end() ? nullptr : &*found;
-}
-
 std::optional<Kind> ArmedKind(std::string_view objeto) noexcept {
-  for (const CreationRule& rule : kRules) {
-    if (InfoOf(rule.Id).Name == objeto) return rule.Id;
+  for (const KindInfo& kind : AllKinds()) {
+    if (kind.Placed && kind.Name == objeto) return kind.Id;
   }
   return std::nullopt;
 }
@@ -152,32 +91,25 @@ std::string NewObjectName(std::string_view form_name, Kind kind, int index,
                           std::string_view prefix) {
   std::string name(form_name);
   name += prefix;
-  if (kind != Kind::TransparentFrame) AppendNumber(name, std::int64_t{index});
+  if (!InfoOf(kind).OnePerForm) AppendNumber(name, std::int64_t{index});
   return name;
 }
 
 void PutFreshRecord(ProjectTables& tables, int form, Kind kind, int index) {
   FormRec* record = tables.Form(form);
   if (record == nullptr) return;
-  if (RecordArray<ObjectRec>* objects = record->Objects(kind)) {
-    if (ObjectRec* object = objects->Ensure(index)) *object = {};
+  const KindInfo& info = InfoOf(kind);
+  std::visit(
+      [&](auto home) {
+        if constexpr (!std::is_same_v<decltype(home), std::monostate>) {
+          if (auto* const fresh = (record->*home).Ensure(index)) *fresh = {};
+        }
+      },
+      info.Records);
+  if (info.Companion != nullptr) {
+    if (std::string* items = (record->*info.Companion).Ensure(index)) items->clear();
   }
-  switch (kind) {
-    case Kind::ComboBox:
-      if (std::string* items = record->ComboItems.Ensure(index)) items->clear();
-      break;
-    case Kind::PopUpMenu:
-      PutFreshPopUp(tables, *record, form, index);
-      break;
-    case Kind::WinSock:
-      if (WinSockRec* sock = record->WinSocks.Ensure(index)) *sock = {};
-      break;
-    case Kind::HtmlViewer:
-      if (HtmlViewerRec* viewer = record->HtmlViewers.Ensure(index)) *viewer = {};
-      break;
-    default:
-      break;
-  }
+  if (kind == Kind::PopUpMenu) PutFreshRows(tables, form, index);
 }
 
 ControlRef LoadObject(ProjectTables& tables, DesignForm& form, Kind kind,
@@ -204,15 +136,13 @@ void TakeTabOrder(ProjectTables& tables, DesignForm& form, const DesignControl& 
 }
 
 ControlRef CreateObject(ProjectTables& tables, DesignForm& form, Kind kind, float x, float y) {
-  const CreationRule* rule = RuleOf(kind);
-  FormRec* record = tables.RecordOf(form);
-  if (rule == nullptr || record == nullptr) return nullptr;
   const KindInfo& info = InfoOf(kind);
-  ControlRef control =
-      LoadObject(tables, form, kind, info.Prefix.empty() ? info.NameWord : info.Prefix);
+  FormRec* record = tables.RecordOf(form);
+  if (!info.Placed || record == nullptr) return nullptr;
+  ControlRef control = LoadObject(tables, form, kind, info.Prefix);
   if (!control) return nullptr;
-  SetDefaults(*record, kind, control->Index, rule->Record);
-  TakeTabOrder(tables, form, *control, rule->Tab);
+  SetDefaults(*record, info, control->Index);
+  TakeTabOrder(tables, form, *control, info.Tab);
   control->Top = y;
   control->Left = x;
   // Set on every kind; a kind without the member does not take it.
@@ -228,7 +158,7 @@ ControlRef CreateObject(ProjectTables& tables, DesignForm& form, Kind kind, floa
 void DeleteObject(ProjectTables& tables, DesignForm& form, const ControlRef& control) {
   if (!control) return;
   const std::string owner = OwnerKey(form, *control);
-  for (const Event event : kDeletedEvents) {
+  for (const Event event : NewObjectEvents()) {
     tables.EventTable.Remove(owner + std::string(InfoOf(event).Suffix));
   }
   FormRec* record = tables.RecordOf(form);

@@ -1,9 +1,7 @@
-// How objects come into being on a design form: one row for each kind that can be placed.
+// How objects come into being on a design form, by the table of kinds.
 #pragma once
 
-#include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -11,37 +9,6 @@
 
 namespace tarnwick {
 
-/// Where the tab order of a new object goes. All but None raise the form's running number.
-enum class TabRule : std::uint8_t {
-  None,
-  Own,          ///< into the object's record
-  InTextBoxes,  ///< into the record of the TextBox of the same index, if there is one
-  CountOnly,    ///< nowhere
-};
-
-/// What a new record holds beyond empty texts and zeros.
-struct RecordDefaults {
-  std::int16_t Enabled = 0;
-  std::int16_t Visible = 0;
-  std::string_view ImageFile;
-  std::string_view PictureName;
-  std::string_view Title;
-  std::string_view Filter;
-};
-
-/// One kind that a press can place.
-struct CreationRule {
-  Kind Id;
-  TabRule Tab;
-  RecordDefaults Record;
-  bool Copied;                   ///< a paste makes copies of the kind
-  std::string_view PastePrefix;  ///< of a copy's name, where it differs from a new object's
-};
-
-/// The kinds that can be placed, in the order in which an armed tool is compared with them.
-[[nodiscard]] std::span<const CreationRule> CreationRules() noexcept;
-/// The row of a kind; null for a kind that no press places.
-[[nodiscard]] const CreationRule* RuleOf(Kind kind) noexcept;
 /// The kind that `Objeto` arms; nothing for "", "Form" and unknown words.
 [[nodiscard]] std::optional<Kind> ArmedKind(std::string_view objeto) noexcept;
 

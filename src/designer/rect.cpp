@@ -1,11 +1,10 @@
 #include "designer/rect.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
-#include "text/code_page.h"
 #include "text/numbers.h"
-#include "text/strings.h"
 
 namespace tarnwick {
 
@@ -30,15 +29,8 @@ std::int32_t WholeUnits(double value) noexcept {
 }
 
 SizeRule SizeRuleOf(std::string_view name_objet) {
-  const std::string lower = Lower(name_objet);
-  const auto lower_holds = [&lower](std::string_view word) { return Contains(lower, word); };
-  const auto holds = [name_objet](std::string_view word) { return Contains(name_objet, word); };
-  if (lower_holds("filestream") || lower_holds("winsock") || lower_holds("time") || holds("Pop") ||
-      holds("TransparentFrame") || holds("Dialog")) {
-    return SizeRule::KeepsBoth;
-  }
-  if (lower_holds("textbox") && !lower_holds("richtextbox")) return SizeRule::KeepsHeight;
-  return SizeRule::Free;
+  const std::optional<Kind> kind = KindOfNameObjet(name_objet);
+  return kind ? InfoOf(*kind).Size : SizeRule::Free;
 }
 
 std::int32_t CRect::Width() const noexcept {

@@ -20,9 +20,7 @@ struct TwipsPerPixel {
 /// reckon with.
 [[nodiscard]] std::int32_t WholeUnits(double value) noexcept;
 
-/// How a control's size takes part in a gesture. By the kind word of the selection: the small
-/// pictures and the TransparentFrame keep both sides, a TextBox its height.
-enum class SizeRule : std::uint8_t { Free, KeepsHeight, KeepsBoth };
+/// The rule of the kind that a text as `NameObjet` has it names; Free for any other.
 [[nodiscard]] SizeRule SizeRuleOf(std::string_view name_objet);
 
 /// A rectangle in twips or in screen pixels; who holds one knows which. Right and Bottom lie just

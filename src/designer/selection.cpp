@@ -7,15 +7,13 @@
 namespace tarnwick {
 
 bool IsObject(const DesignControl& control) noexcept {
-  const bool placed =
-      static_cast<std::size_t>(control.Id) < kObjectKindCount || control.Id == Kind::Frame;
-  return placed && control.Index > 0;
+  return InfoOf(control.Id).Placed && control.Index > 0;
 }
 
 std::string NameObjetOf(const DesignControl& control) {
   if (control.Class() == ControlClass::Menu) return control.Tag;
   std::string name(InfoOf(control.Id).NameWord);
-  if (control.Id != Kind::TransparentFrame) AppendNumber(name, std::int64_t{control.Index});
+  if (!InfoOf(control.Id).OnePerForm) AppendNumber(name, std::int64_t{control.Index});
   return name;
 }
 

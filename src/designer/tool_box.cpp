@@ -1,33 +1,44 @@
 #include "designer/tool_box.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tarnwick {
 
 namespace {
 
-constexpr std::array kTools{
-    ToolInfo{kArrowTool, "Cursor", "Form"},
-    ToolInfo{kFormTool, "Add New Form", "Form"},
-    ToolInfo{0, "Button", "Button"},
-    ToolInfo{1, "TextBox", "TextBox"},
-    ToolInfo{2, "Image", "Image"},
-    ToolInfo{3, "Label", "Label"},
-    ToolInfo{4, "ListBox", "ListBox"},
-    ToolInfo{5, "OptionButton", "OptionButton"},
-    ToolInfo{6, "CheckBox", "CheckBox"},
-    ToolInfo{7, "ComboBox", "ComboBox"},
-    ToolInfo{10, "RichTextBox", "RichTextBox"},
-    ToolInfo{11, "Time", "Time"},
-    ToolInfo{12, "OpenDialog", "OpenDialog"},
-    ToolInfo{13, "SaveDialog", "SaveDialog"},
-    ToolInfo{14, "FileStream", "FileStream"},
-    ToolInfo{kTransparentFrameTool, "TransparentFrame", "TransparentFrame"},
-    ToolInfo{16, "HtmlViewer", "HtmlViewer"},
-    ToolInfo{18, "WinSock", "WinSock"},
-    ToolInfo{19, "PopUpMenu", "PopUpMenu"},
-    ToolInfo{kMenuTool, "Menu", ""},
-};
+/// The object kinds by rising number of their tools.
+constexpr std::array<Kind, kObjectKindCount> kPlacing = [] {
+  std::array<Kind, kObjectKindCount> kinds{};
+  for (std::size_t i = 0; i < kinds.size(); ++i) kinds[i] = ObjectKinds()[i].Id;
+  std::sort(kinds.begin(), kinds.end(),
+            [](Kind a, Kind b) { return InfoOf(a).Tool < InfoOf(b).Tool; });
+  return kinds;
+}();
+
+/// The arrow and the form come first, the menu, which places nothing either, last.
+constexpr std::array<ToolInfo, kObjectKindCount + 3> kTools = [] {
+  std::array<ToolInfo, kObjectKindCount + 3> tools{};
+  auto at = tools.begin();
+  *at++ = {kArrowTool, "Cursor", "Form"};
+  *at++ = {kFormTool, "Add New Form", "Form"};
+  for (const Kind kind : kPlacing) {
+    *at++ = {InfoOf(kind).Tool, InfoOf(kind).Name, InfoOf(kind).Name};
+  }
+  *at = {kMenuTool, "Menu", ""};
+  return tools;
+}();
+
+static_assert(
+    [] {
+      for (std::size_t i = 0; i < kTools.size(); ++i) {
+        for (std::size_t j = 0; j < i; ++j) {
+          if (kTools[i].Number == kTools[j].Number) return false;
+        }
+      }
+      return true;
+    }(),
+    "two tools have one number");
 
 }  // namespace
 
@@ -52,8 +63,11 @@ int ArmedTool(const DesignForm* form) noexcept {
 }
 
 bool ToolFits(int number, const DesignForm* form) noexcept {
-  return number != kTransparentFrameTool || form == nullptr ||
-         form->FirstOf(Kind::TransparentFrame) == nullptr;
+  if (form == nullptr) return true;
+  for (const KindInfo& kind : ObjectKinds()) {
+    if (kind.Tool == number && kind.OnePerForm && form->FirstOf(kind.Id)) return false;
+  }
+  return true;
 }
 
 }  // namespace tarnwick

@@ -11,14 +11,14 @@ namespace tarnwick {
 
 inline constexpr int kMenuTool = 8;
 inline constexpr int kFormTool = 9;
-inline constexpr int kTransparentFrameTool = 15;
+inline constexpr int kTransparentFrameTool = InfoOf(Kind::TransparentFrame).Tool;
 inline constexpr int kArrowTool = 17;
 
 /// A tool, by the number that chooses what a press of it does.
 struct ToolInfo {
-  int Number;
-  std::string_view Tip;     ///< of the button; also the caption of its `mnuItemObj` row
-  std::string_view Objeto;  ///< what the tool makes the current form's `Objeto`
+  int Number = 0;
+  std::string_view Tip{};     ///< of the button; also the caption of its `mnuItemObj` row
+  std::string_view Objeto{};  ///< what the tool makes the current form's `Objeto`
 };
 
 /// All tools in the order of the screen, the arrow first.

@@ -41,7 +41,7 @@ void ObjectCombo::Fill(const DesignForm& form, std::string_view form_name) {
   rows_.push_back({std::string{form_name}.append(InfoOf(Kind::Form).ComboText), nullptr});
   for (const ControlRef& control : form.Controls()) {
     // Templates, menu entries, handles and the hidden label have no row.
-    if (control->Index == 0 || static_cast<std::size_t>(control->Id) >= kObjectKindCount) continue;
+    if (control->Index == 0 || !IsObjectKind(control->Id)) continue;
     std::string text = control->Tag;
     rows_.push_back({std::move(text.append(InfoOf(control->Id).ComboText)), control.get()});
   }

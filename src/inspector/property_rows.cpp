@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "model/vocabulary.h"
+#include "model/kinds.h"
 #include "text/strings.h"
 
 namespace tarnwick {
@@ -31,8 +31,10 @@ constexpr std::array kWidgets{
 
 std::string KindWordOf(std::string_view kind_or_name) {
   std::string word = WithoutDigits(kind_or_name);
-  for (const Kind kind : {Kind::Image, Kind::PopUpMenu}) {
-    if (EqualsFolded(word, InfoOf(kind).Array)) return std::string{InfoOf(kind).NameWord};
+  for (const KindInfo& kind : ObjectKinds()) {
+    if (kind.Array != kind.NameWord && EqualsFolded(word, kind.Array)) {
+      return std::string{kind.NameWord};
+    }
   }
   return word;
 }

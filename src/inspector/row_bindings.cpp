@@ -29,9 +29,17 @@ constexpr RowKinds kDialogs = Of(Kind::OpenDialog, Kind::SaveDialog);
 constexpr RowKinds kChecks = Of(Kind::CheckBox, Kind::OptionButton);
 constexpr RowKinds kLists = Of(Kind::ListBox, Kind::ComboBox);
 constexpr RowKinds kObjects = (RowKinds{1} << kObjectKindCount) - 1;
-/// Kinds whose cursor, enabled, tab order and visibility are kept in their records.
-constexpr RowKinds kRecorded =
-    kButton | kTexts | kImage | kChecks | kLists | Of(Kind::Label, Kind::Time);
+/// Kinds whose cursor, enabled, tab order and visibility are kept in their records: those with an
+/// object's record, but for the dialogs, which have a record for their texts.
+constexpr RowKinds kRecorded = [] {
+  RowKinds kinds = 0;
+  for (const KindInfo& kind : ObjectKinds()) {
+    if (std::holds_alternative<RecordArray<ObjectRec> FormRec::*>(kind.Records)) {
+      kinds |= SetOf(kind.Id);
+    }
+  }
+  return kinds & ~kDialogs;
+}();
 
 using Obj = ObjectRec;
 using Shape = RowShape;

@@ -3,7 +3,7 @@
 #include <array>
 #include <optional>
 
-#include "model/vocabulary.h"
+#include "model/kinds.h"
 #include "text/code_page.h"
 
 namespace tarnwick {

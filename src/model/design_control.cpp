@@ -52,8 +52,8 @@ MemberValue ValueOf(const T& field) {
 }  // namespace
 
 std::optional<Member> MemberOfName(std::string_view name) noexcept {
-  for (std::size_t i = 0; i < kMemberCount; ++i) {
-    if (EqualsFolded(kMemberNames[i], name)) return static_cast<Member>(i);
+  for (const MemberName& member : kMemberNames) {
+    if (EqualsFolded(member.Name, name)) return member.Id;
   }
   return std::nullopt;
 }

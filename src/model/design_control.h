@@ -4,7 +4,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,110 +11,11 @@
 #include <variant>
 #include <vector>
 
-#include "model/vocabulary.h"
+#include "model/kinds.h"
+#include "model/members.h"
 #include "text/numbers.h"
 
 namespace tarnwick {
-
-/// Members that can be read and set by name. `AddItem` stands for the list of a control.
-enum class Member : std::uint8_t {
-  Appearance,
-  AutoSize,
-  BackColor,
-  BackStyle,
-  BorderStyle,
-  Cancel,
-  Caption,
-  Default,
-  Enabled,
-  FontBold,
-  FontItalic,
-  FontName,
-  FontSize,
-  FontStrikethru,
-  FontUnderline,
-  ForeColor,
-  Height,
-  Left,
-  List,
-  Picture,
-  Stretch,
-  TabIndex,
-  Tag,
-  Text,
-  ToolTipText,
-  Top,
-  Value,
-  Visible,
-  Width,
-  WordWrap,
-};
-inline constexpr std::size_t kMemberCount = 30;
-/// Their names, by enumerator.
-inline constexpr std::array<std::string_view, kMemberCount> kMemberNames{
-    "Appearance", "AutoSize", "BackColor", "BackStyle",      "BorderStyle",
-    "Cancel",     "Caption",  "Default",   "Enabled",        "FontBold",
-    "FontItalic", "FontName", "FontSize",  "FontStrikethru", "FontUnderline",
-    "ForeColor",  "Height",   "Left",      "List",           "Picture",
-    "Stretch",    "TabIndex", "Tag",       "Text",           "ToolTipText",
-    "Top",        "Value",    "Visible",   "Width",          "WordWrap",
-};
-
-/// The member of a name without regard to case; nothing for a word no class knows.
-[[nodiscard]] std::optional<Member> MemberOfName(std::string_view name) noexcept;
-
-/// A set of members, one bit each.
-using MemberSet = std::uint32_t;
-static_assert(kMemberCount <= 32);
-
-/// The members of each control class. What a class lacks here is what the form file, the property
-/// sheet and the generated program leave out for its kinds.
-inline constexpr auto kMembersOf = [] {
-  using enum Member;
-  const auto of = [](std::initializer_list<Member> members) {
-    MemberSet set = 0;
-    for (const Member member : members) set |= MemberSet{1} << static_cast<unsigned>(member);
-    return set;
-  };
-  const MemberSet place = of({Enabled, Height, Left, Tag, ToolTipText, Top, Visible, Width});
-  const MemberSet font =
-      of({FontBold, FontItalic, FontName, FontSize, FontStrikethru, FontUnderline});
-  return std::array<MemberSet, 12>{
-      // CommandButton: no foreground colour, hence the font colour in its record
-      place | font | of({Appearance, BackColor, Cancel, Caption, Default, Picture, TabIndex}),
-      // Label
-      place | font |
-          of({Appearance, AutoSize, BackColor, BackStyle, BorderStyle, Caption, ForeColor, TabIndex,
-              WordWrap}),
-      // Image
-      place | of({Appearance, BorderStyle, Picture, Stretch}),
-      // CheckBox
-      place | font | of({Appearance, BackColor, Caption, ForeColor, TabIndex, Value}),
-      // OptionButton
-      place | font | of({Appearance, BackColor, Caption, ForeColor, TabIndex, Value}),
-      // TextBox
-      place | font | of({Appearance, BackColor, BorderStyle, ForeColor, TabIndex, Text}),
-      // ListBox
-      place | font | of({Appearance, BackColor, ForeColor, List, TabIndex}),
-      // UserControl1: its font is one object, not members
-      place | of({Appearance, BackColor, BackStyle, BorderStyle, ForeColor, List, TabIndex, Text}),
-      // PictureBox
-      place | font |
-          of({Appearance, AutoSize, BackColor, BorderStyle, ForeColor, Picture, TabIndex}),
-      // Frame
-      place | font | of({Appearance, BackColor, BorderStyle, Caption, ForeColor, TabIndex}),
-      // Menu
-      of({Caption, Enabled, Tag, Visible}),
-      // Form
-      place | font | of({Appearance, BackColor, BorderStyle, Caption, ForeColor, Picture}),
-  };
-}();
-
-/// True when controls of the class have the member.
-[[nodiscard]] constexpr bool HasMember(ControlClass control_class, Member member) noexcept {
-  const MemberSet members = kMembersOf[static_cast<std::size_t>(control_class)];
-  return (members >> static_cast<unsigned>(member) & 1U) != 0;
-}
 
 using MemberValue = std::variant<bool, std::int32_t, float, std::string>;
 
@@ -185,41 +85,46 @@ using MemberField = std::variant<std::monostate, bool DesignControl::*,
                                  float DesignControl::*, std::string DesignControl::*>;
 
 /// The fields of the members, by enumerator: the one place that ties the two.
-inline constexpr std::array<MemberField, kMemberCount> kMemberFields{
-    &DesignControl::Appearance,
-    &DesignControl::AutoSize,
-    &DesignControl::BackColor,
-    &DesignControl::BackStyle,
-    &DesignControl::BorderStyle,
-    &DesignControl::Cancel,
-    &DesignControl::Caption,
-    &DesignControl::Default,
-    &DesignControl::Enabled,
-    &DesignControl::FontBold,
-    &DesignControl::FontItalic,
-    &DesignControl::FontName,
-    &DesignControl::FontSize,
-    &DesignControl::FontStrikethru,
-    &DesignControl::FontUnderline,
-    &DesignControl::ForeColor,
-    &DesignControl::Height,
-    &DesignControl::Left,
-    std::monostate{},
-    &DesignControl::Picture,
-    &DesignControl::Stretch,
-    &DesignControl::TabIndex,
-    &DesignControl::Tag,
-    &DesignControl::Text,
-    &DesignControl::ToolTipText,
-    &DesignControl::Top,
-    &DesignControl::Value,
-    &DesignControl::Visible,
-    &DesignControl::Width,
-    &DesignControl::WordWrap,
+struct MemberFieldRow {
+  Member Id;
+  MemberField Field;
 };
+inline constexpr std::array<MemberFieldRow, kMemberCount> kMemberFields{{
+    {Member::Appearance, &DesignControl::Appearance},
+    {Member::AutoSize, &DesignControl::AutoSize},
+    {Member::BackColor, &DesignControl::BackColor},
+    {Member::BackStyle, &DesignControl::BackStyle},
+    {Member::BorderStyle, &DesignControl::BorderStyle},
+    {Member::Cancel, &DesignControl::Cancel},
+    {Member::Caption, &DesignControl::Caption},
+    {Member::Default, &DesignControl::Default},
+    {Member::Enabled, &DesignControl::Enabled},
+    {Member::FontBold, &DesignControl::FontBold},
+    {Member::FontItalic, &DesignControl::FontItalic},
+    {Member::FontName, &DesignControl::FontName},
+    {Member::FontSize, &DesignControl::FontSize},
+    {Member::FontStrikethru, &DesignControl::FontStrikethru},
+    {Member::FontUnderline, &DesignControl::FontUnderline},
+    {Member::ForeColor, &DesignControl::ForeColor},
+    {Member::Height, &DesignControl::Height},
+    {Member::Left, &DesignControl::Left},
+    {Member::List, std::monostate{}},
+    {Member::Picture, &DesignControl::Picture},
+    {Member::Stretch, &DesignControl::Stretch},
+    {Member::TabIndex, &DesignControl::TabIndex},
+    {Member::Tag, &DesignControl::Tag},
+    {Member::Text, &DesignControl::Text},
+    {Member::ToolTipText, &DesignControl::ToolTipText},
+    {Member::Top, &DesignControl::Top},
+    {Member::Value, &DesignControl::Value},
+    {Member::Visible, &DesignControl::Visible},
+    {Member::Width, &DesignControl::Width},
+    {Member::WordWrap, &DesignControl::WordWrap},
+}};
+static_assert(HasRowOfEach(kMemberFields, kMemberCount));
 
 [[nodiscard]] constexpr const MemberField& FieldOf(Member member) noexcept {
-  return kMemberFields[static_cast<std::size_t>(member)];
+  return kMemberFields[static_cast<std::size_t>(member)].Field;
 }
 
 /// Puts a number into a member's field. A yes/no field is on for any number but 0; false, and the

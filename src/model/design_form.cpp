@@ -12,31 +12,6 @@ namespace tarnwick {
 
 namespace {
 
-constexpr std::int32_t kFaceColor = 12632256;
-constexpr std::int32_t kPaperColor = 16777215;
-constexpr int kHandleCount = 8;
-
-struct TemplateInfo {
-  Kind Id;
-  int Width;   ///< pixels
-  int Height;  ///< pixels
-  std::int32_t BackColor;
-};
-
-/// The templates in the order of the collection.
-constexpr std::array<TemplateInfo, 19> kTemplates{{
-    {Kind::Button, 75, 25, kFaceColor},        {Kind::Label, 65, 17, kFaceColor},
-    {Kind::Image, 105, 105, kFaceColor},       {Kind::CheckBox, 97, 17, kFaceColor},
-    {Kind::OptionButton, 97, 17, kFaceColor},  {Kind::TextBox, 121, 21, kPaperColor},
-    {Kind::RichTextBox, 185, 89, kPaperColor}, {Kind::ListBox, 121, 97, kPaperColor},
-    {Kind::ComboBox, 145, 21, kPaperColor},    {Kind::Time, 28, 28, kFaceColor},
-    {Kind::OpenDialog, 28, 28, kFaceColor},    {Kind::SaveDialog, 28, 28, kFaceColor},
-    {Kind::FileStream, 28, 28, kFaceColor},    {Kind::TransparentFrame, 105, 105, kFaceColor},
-    {Kind::HtmlViewer, 185, 120, kPaperColor}, {Kind::WinSock, 28, 28, kFaceColor},
-    {Kind::PopUpMenu, 28, 28, kFaceColor},     {Kind::Menu, 0, 0, kFaceColor},
-    {Kind::MenuItem, 0, 0, kFaceColor},
-}};
-
 /// Controls stand side by side in memory: a walk over a large form meets them in their order. The
 /// pool outlives them all, whoever holds the last of them.
 std::pmr::polymorphic_allocator<DesignControl> ControlPool() {
@@ -45,30 +20,26 @@ std::pmr::polymorphic_allocator<DesignControl> ControlPool() {
   return pool;
 }
 
-ControlRef MakeElement(Kind kind, int index, int width, int height, std::int32_t back_color) {
+ControlRef MakeElement(const KindInfo& kind, int index) {
   auto control = std::allocate_shared<DesignControl>(ControlPool());
-  control->Id = kind;
+  control->Id = kind.Id;
   control->Index = index;
-  control->Width = static_cast<float>(width * kTwipsPerPixel);
-  control->Height = static_cast<float>(height * kTwipsPerPixel);
+  control->Width = static_cast<float>(kind.Template.Width * kTwipsPerPixel);
+  control->Height = static_cast<float>(kind.Template.Height * kTwipsPerPixel);
   control->FontName = "MS Sans Serif";
-  control->BackColor = back_color;
+  control->BackColor = kind.Template.BackColor;
   return control;
 }
 
 }  // namespace
 
 DesignForm::DesignForm() {
-  const auto add = [this](const ControlRef& control) {
-    controls_.push_back(control);
-    arrays_[static_cast<std::size_t>(control->Id)].push_back(control);
-  };
-  for (const TemplateInfo& t : kTemplates) {
-    add(MakeElement(t.Id, 0, t.Width, t.Height, t.BackColor));
+  for (const KindInfo& kind : AllKinds()) {
+    for (int i = 0; i < kind.Template.Elements; ++i) {
+      const ControlRef& control = controls_.emplace_back(MakeElement(kind, i));
+      arrays_[static_cast<std::size_t>(kind.Id)].push_back(control);
+    }
   }
-  add(MakeElement(Kind::Numero, 0, 0, 0, kFaceColor));
-  add(MakeElement(Kind::Frame, 0, 105, 105, kFaceColor));
-  for (int i = 0; i < kHandleCount; ++i) add(MakeElement(Kind::Handle, i, 7, 7, 0));
 }
 
 int DesignForm::Number() const noexcept {
@@ -146,8 +117,7 @@ bool DesignForm::MenuBarVisible() const noexcept {
 
 ControlRef DesignForm::FindByTag(std::string_view tag) const noexcept {
   for (const ControlRef& control : controls_) {
-    if (control->Index > 0 && static_cast<std::size_t>(control->Id) < kObjectKindCount &&
-        control->Tag == tag) {
+    if (control->Index > 0 && IsObjectKind(control->Id) && control->Tag == tag) {
       return control;
     }
   }

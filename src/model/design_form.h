@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "model/design_control.h"
-#include "model/vocabulary.h"
+#include "model/kinds.h"
 
 namespace tarnwick {
 

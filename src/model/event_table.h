@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "model/vocabulary.h"
+#include "model/kinds.h"
 #include "text/code_page.h"
 
 namespace tarnwick {

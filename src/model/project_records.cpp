@@ -1,6 +1,7 @@
 #include "model/project_records.h"
 
 #include <limits>
+#include <variant>
 
 #include "text/code_page.h"
 #include "text/numbers.h"
@@ -13,34 +14,8 @@ namespace {
 using ObjectArray = RecordArray<ObjectRec> FormRec::*;
 
 ObjectArray ArrayOf(Kind kind) noexcept {
-  switch (kind) {
-    case Kind::Button:
-      return &FormRec::Buttons;
-    case Kind::Label:
-      return &FormRec::Labels;
-    case Kind::Image:
-      return &FormRec::Images;
-    case Kind::CheckBox:
-      return &FormRec::CheckBoxes;
-    case Kind::OptionButton:
-      return &FormRec::OptionButtons;
-    case Kind::TextBox:
-      return &FormRec::TextBoxes;
-    case Kind::RichTextBox:
-      return &FormRec::RichTextBoxes;
-    case Kind::ListBox:
-      return &FormRec::ListBoxes;
-    case Kind::ComboBox:
-      return &FormRec::ComboBoxes;
-    case Kind::Time:
-      return &FormRec::Times;
-    case Kind::OpenDialog:
-      return &FormRec::OpenDialogs;
-    case Kind::SaveDialog:
-      return &FormRec::SaveDialogs;
-    default:
-      return nullptr;
-  }
+  const ObjectArray* const array = std::get_if<ObjectArray>(&InfoOf(kind).Records);
+  return array == nullptr ? nullptr : *array;
 }
 
 }  // namespace
@@ -144,7 +119,7 @@ std::string ResolveProjectPath(const ProjectTables& tables, std::string_view pat
 std::string PictureResourceName(int form, Kind kind, int index) {
   std::string name = "Frm";
   AppendNumber(name, std::int64_t{form});
-  name += kind == Kind::Image ? "Image" : "Btn";
+  name += InfoOf(kind).PictureWord;
   AppendNumber(name, std::int64_t{index});
   name += "_Bmp";
   return name;

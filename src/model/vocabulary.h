@@ -1,14 +1,15 @@
-// The closed vocabulary of object kinds and events. Every word stands here once.
+// The closed vocabulary of events. Every word stands here once.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
 #include <string_view>
-#include <type_traits>
-#include <utility>
+
+#include "text/enum_table.h"
 
 namespace tarnwick {
 
@@ -32,9 +33,9 @@ enum class Event : std::uint8_t {
   OnShow,
   OnPopUp,
 };
-inline constexpr std::size_t kEventCount = 17;
+inline constexpr std::size_t kEventCount = static_cast<std::size_t>(Event::OnPopUp) + 1;
 /// The events from OnTimer to OnShow: those the generator walks.
-inline constexpr std::size_t kWalkedEventCount = 16;
+inline constexpr std::size_t kWalkedEventCount = static_cast<std::size_t>(Event::OnPopUp);
 
 struct EventInfo {
   Event Id;
@@ -68,6 +69,7 @@ inline constexpr std::array<EventInfo, kEventCount> kEvents{{
     {Event::OnShow, "150", "OnShow", ".OnShow", "OnShow"},
     {Event::OnPopUp, "170", "OnPopUp", ".OnPopUp", "OnPopUp"},
 }};
+static_assert(HasRowOfEach(kEvents, kEventCount));
 
 [[nodiscard]] constexpr const EventInfo& InfoOf(Event event) noexcept {
   return kEvents[static_cast<std::size_t>(event)];
@@ -84,52 +86,6 @@ inline constexpr std::array<EventInfo, kEventCount> kEvents{{
 /// The event of a code such as "120".
 [[nodiscard]] std::optional<Event> EventOfCode(std::string_view code) noexcept;
 
-/// What stands on a design form: the object kinds, then the parts that are no objects.
-enum class Kind : std::uint8_t {
-  Button,
-  Label,
-  Image,
-  CheckBox,
-  OptionButton,
-  TextBox,
-  RichTextBox,
-  ListBox,
-  ComboBox,
-  Time,
-  OpenDialog,
-  SaveDialog,
-  FileStream,
-  TransparentFrame,
-  HtmlViewer,
-  WinSock,
-  PopUpMenu,
-  Menu,      ///< `mnuBar`, a title of the menu bar
-  MenuItem,  ///< `ItemMnuBar`, an item under a title
-  Frame,
-  Numero,
-  Handle,  ///< `picHandle`
-  Form,
-};
-inline constexpr std::size_t kKindCount = 23;
-/// The kinds from Button to PopUpMenu: those the tool box places and a form file numbers.
-inline constexpr std::size_t kObjectKindCount = 17;
-
-/// Class of a design control; it decides which members the control has.
-enum class ControlClass : std::uint8_t {
-  CommandButton,
-  Label,
-  Image,
-  CheckBox,
-  OptionButton,
-  TextBox,
-  ListBox,
-  UserControl1,
-  PictureBox,
-  Frame,
-  Menu,
-  Form,
-};
-
 enum class EventListId : std::uint8_t {
   None,
   Form,
@@ -143,116 +99,114 @@ enum class EventListId : std::uint8_t {
   Timer,
   PopUp,
 };
+inline constexpr std::size_t kEventListCount = static_cast<std::size_t>(EventListId::PopUp) + 1;
 
-struct KindInfo {
-  Kind Id;
-  std::string_view Name;       ///< in files, form list and property sheet
-  std::string_view Tag;        ///< lower-case array name, by which code compares
-  std::string_view Array;      ///< control array on `FormUser`
-  std::string_view NameWord;   ///< word of `NameObjet`
-  std::string_view Prefix;     ///< of a new object's default name
-  std::string_view ComboText;  ///< suffix in the list of objects, its blanks included
-  ControlClass Class;
-  EventListId Events;
-};
-
-/// All kinds by enumerator.
-inline constexpr std::array<KindInfo, kKindCount> kKinds{{
-    {Kind::Button, "Button", "button", "Button", "Button", "Btn", "   (Button)",
-     ControlClass::CommandButton, EventListId::Button},
-    {Kind::Label, "Label", "label", "Label", "Label", "Label", "   (Label)", ControlClass::Label,
-     EventListId::Picture},
-    {Kind::Image, "Image", "images", "Images", "Image", "Image", "   (Images)", ControlClass::Image,
-     EventListId::Picture},
-    {Kind::CheckBox, "CheckBox", "checkbox", "CheckBox", "CheckBox", "Check", "   (CheckBox)",
-     ControlClass::CheckBox, EventListId::Click},
-    {Kind::OptionButton, "OptionButton", "optionbutton", "OptionButton", "OptionButton",
-     "OptionBtn", "   (OptionButton)", ControlClass::OptionButton, EventListId::Click},
-    {Kind::TextBox, "TextBox", "textbox", "TextBox", "TextBox", "Text", "   (TextBox)",
-     ControlClass::TextBox, EventListId::Edit},
-    {Kind::RichTextBox, "RichTextBox", "richtextbox", "RichTextBox", "RichTextBox", "RichText",
-     "   (RichTextBox)", ControlClass::TextBox, EventListId::Rich},
-    {Kind::ListBox, "ListBox", "listbox", "ListBox", "ListBox", "List", "   (ListBox)",
-     ControlClass::ListBox, EventListId::List},
-    {Kind::ComboBox, "ComboBox", "combobox", "ComboBox", "ComboBox", "Combo", "   (ComboBox)",
-     ControlClass::UserControl1, EventListId::Combo},
-    {Kind::Time, "Time", "time", "Time", "Time", "Time", "   (Time)", ControlClass::PictureBox,
-     EventListId::Timer},
-    {Kind::OpenDialog, "OpenDialog", "opendialog", "OpenDialog", "OpenDialog", "OpenDlg",
-     "   (OpenDialog)", ControlClass::PictureBox, EventListId::None},
-    {Kind::SaveDialog, "SaveDialog", "savedialog", "SaveDialog", "SaveDialog", "SaveDlg",
-     "   (SaveDialog)", ControlClass::PictureBox, EventListId::None},
-    {Kind::FileStream, "FileStream", "filestream", "FileStream", "FileStream", "FileStr",
-     "   (FileStream)", ControlClass::PictureBox, EventListId::None},
-    {Kind::TransparentFrame, "TransparentFrame", "transparentframe", "TransparentFrame",
-     "TransparentFrame", "TrnspFrm", "  (TransparentFrame)", ControlClass::PictureBox,
-     EventListId::None},
-    {Kind::HtmlViewer, "HtmlViewer", "htmlviewer", "HtmlViewer", "HtmlViewer", "Html",
-     "   (HtmlViewer)", ControlClass::TextBox, EventListId::None},
-    {Kind::WinSock, "WinSock", "winsock", "WinSock", "WinSock", "Sock", "   (WinSock)",
-     ControlClass::PictureBox, EventListId::None},
-    {Kind::PopUpMenu, "PopUpMenu", "popupmnu", "PopUpMnu", "PopupMenu", "pMenu", "  (PopupMenu)",
-     ControlClass::PictureBox, EventListId::PopUp},
-    {Kind::Menu, "Menu", "menu", "mnuBar", "", "", "", ControlClass::Menu, EventListId::Click},
-    {Kind::MenuItem, "MenuItem", "itemmnubar", "ItemMnuBar", "", "", "", ControlClass::Menu,
-     EventListId::None},
-    {Kind::Frame, "Frame", "frame", "Frame", "Frame", "", "", ControlClass::Frame,
-     EventListId::None},
-    {Kind::Numero, "", "numero", "Numero", "", "", "", ControlClass::Label, EventListId::None},
-    {Kind::Handle, "", "pichandle", "picHandle", "", "", "", ControlClass::PictureBox,
-     EventListId::None},
-    {Kind::Form, "Form", "form", "Form", "Form", "Form", "   (Form)", ControlClass::Form,
-     EventListId::Form},
-}};
-
-[[nodiscard]] constexpr const KindInfo& InfoOf(Kind kind) noexcept {
-  return kKinds[static_cast<std::size_t>(kind)];
-}
-[[nodiscard]] constexpr std::span<const KindInfo, kKindCount> AllKinds() noexcept {
-  return kKinds;
-}
-/// Calls `use` with a kind from Button to PopUpMenu as a constant, for code that is made for each
-/// of them.
-template <class Use>
-auto WithObjectKind(Kind kind, Use use) {
-  using Result = decltype(use(std::integral_constant<Kind, Kind::Button>{}));
-  using Call = Result (*)(Use&);
-  static constexpr auto calls = []<std::size_t... Kinds>(std::index_sequence<Kinds...>) {
-    return std::array<Call, kObjectKindCount>{
-        [](Use& of) { return of(std::integral_constant<Kind, static_cast<Kind>(Kinds)>{}); }...};
-  }
-  (std::make_index_sequence<kObjectKindCount>{});
-  return calls[static_cast<std::size_t>(kind)](use);
-}
-
-/// The kind of a lower-case tag: array names and file words both ("images", "image"). Nothing for
-/// an unknown word.
-[[nodiscard]] std::optional<Kind> KindOfTag(std::string_view tag) noexcept;
-/// The kind of a record word in a form file, without regard to case.
-[[nodiscard]] std::optional<Kind> KindOfFileWord(std::string_view word) noexcept;
-
-/// An event list of a kind: signature texts, each followed by "#", and beside it the codes.
+/// An event list of a kind: its events, and in their order the signature texts and the codes, each
+/// followed by "#".
 struct EventList {
+  EventListId Id;
   std::span<const Event> Events;
   std::string_view Signatures;
   std::string_view Codes;
 };
 
-[[nodiscard]] const EventList& ListOf(EventListId id) noexcept;
-/// The event list of a lower-case kind tag; empty for kinds without events and unknown words.
-[[nodiscard]] const EventList& EventListOfTag(std::string_view tag) noexcept;
+namespace event_lists {
+
+using enum Event;
+
+inline constexpr std::array<Event, 0> kNone{};
+inline constexpr std::array kForm{OnClick,    OnClose, OnHint,      OnKeyDown,
+                                  OnKeyPress, OnKeyUp, OnMouseDown, OnMouseMove,
+                                  OnMouseUp,  OnPaint, OnResize,    OnShow};
+inline constexpr std::array kButton{OnClick,     OnKeyDown,   OnKeyPress, OnKeyUp,
+                                    OnMouseDown, OnMouseMove, OnMouseUp};
+inline constexpr std::array kEdit{OnChange, OnKeyDown, OnKeyPress, OnKeyUp};
+inline constexpr std::array kRich{OnChange,    OnKeyDown,   OnKeyPress, OnKeyUp,
+                                  OnMouseDown, OnMouseMove, OnMouseUp};
+inline constexpr std::array kPicture{OnClick, OnDblClick, OnMouseDown, OnMouseMove, OnMouseUp};
+inline constexpr std::array kList{OnClick, OnDblClick, OnEnter};
+inline constexpr std::array kClick{OnClick};
+inline constexpr std::array kCombo{OnChange};
+inline constexpr std::array kTimer{OnTimer};
+inline constexpr std::array kPopUp{OnPopUp};
+
+/// The events of the generator's walk, and those of a form without OnKeyPress.
+inline constexpr std::array kWalked = [] {
+  std::array<Event, kWalkedEventCount> events{};
+  for (std::size_t i = 0; i < events.size(); ++i) events[i] = kEvents[i].Id;
+  return events;
+}();
+inline constexpr std::array kShortForm = [] {
+  std::array<Event, kForm.size() - 1> events{};
+  std::copy_if(kForm.begin(), kForm.end(), events.begin(),
+               [](Event event) { return event != OnKeyPress; });
+  return events;
+}();
+
+/// The texts of some events, each followed by "#".
+template <const auto& events, std::string_view EventInfo::*text>
+inline constexpr auto kJoined = [] {
+  constexpr std::size_t size = [] {
+    std::size_t sum = 0;
+    for (const Event event : events) sum += (InfoOf(event).*text).size() + 1;
+    return sum;
+  }();
+  std::array<char, size> joined{};
+  auto at = joined.begin();
+  for (const Event event : events) {
+    at = std::copy((InfoOf(event).*text).begin(), (InfoOf(event).*text).end(), at);
+    *at++ = '#';
+  }
+  return joined;
+}();
+template <const auto& events, std::string_view EventInfo::*text>
+inline constexpr std::string_view kTextOf{kJoined<events, text>.data(),
+                                          kJoined<events, text>.size()};
+
+template <const auto& events>
+constexpr EventList List(EventListId id) noexcept {
+  return {id, events, kTextOf<events, &EventInfo::Signature>, kTextOf<events, &EventInfo::Code>};
+}
+
+/// The same without the last "#".
+template <const auto& events>
+inline constexpr std::string_view kNames = [] {
+  std::string_view names = kTextOf<events, &EventInfo::Name>;
+  names.remove_suffix(1);
+  return names;
+}();
+
+/// The lists by enumerator.
+inline constexpr std::array<EventList, kEventListCount> kLists{{
+    List<kNone>(EventListId::None),
+    List<kForm>(EventListId::Form),
+    List<kButton>(EventListId::Button),
+    List<kEdit>(EventListId::Edit),
+    List<kRich>(EventListId::Rich),
+    List<kPicture>(EventListId::Picture),
+    List<kList>(EventListId::List),
+    List<kClick>(EventListId::Click),
+    List<kCombo>(EventListId::Combo),
+    List<kTimer>(EventListId::Timer),
+    List<kPopUp>(EventListId::PopUp),
+}};
+static_assert(HasRowOfEach(kLists, kEventListCount));
+
+}  // namespace event_lists
+
+[[nodiscard]] constexpr const EventList& ListOf(EventListId id) noexcept {
+  return event_lists::kLists[static_cast<std::size_t>(id)];
+}
 
 /// Events of the member list of the code editor, OnTimer first, no OnPopUp.
 inline constexpr std::string_view kMemberEventNames =
-    "OnTimer#OnClick#OnClose#OnChange#OnEnter#OnDblClick#OnHint#OnKeyDown#OnKeyPress#OnKeyUp#"
-    "OnMouseDown#OnMouseMove#OnMouseUp#OnPaint#OnResize#OnShow#";
+    event_lists::kTextOf<event_lists::kWalked, &EventInfo::Name>;
 /// Short list for forms; OnKeyPress is missing in it.
 inline constexpr std::string_view kShortFormEventNames =
-    "OnClick#OnClose#OnHint#OnKeyDown#OnKeyUp#OnMouseDown#OnMouseMove#OnMouseUp#OnPaint#OnResize#"
-    "OnShow";
+    event_lists::kNames<event_lists::kShortForm>;
 /// Short list for objects.
 inline constexpr std::string_view kShortObjectEventNames =
-    "OnClick#OnKeyDown#OnKeyPress#OnKeyUp#OnMouseDown#OnMouseMove#OnMouseUp";
+    event_lists::kNames<event_lists::kButton>;
 
 /// The events whose entries a new form gets, in the order of adding. OnTimer is among them though
 /// no form ever raises it.

@@ -138,8 +138,8 @@ void FormReader::ReadObject(Kind kind) {
 }
 
 void FormReader::ReadPicture(Kind kind, Object& object) {
-  const bool with_picture = kind == Kind::Button || kind == Kind::Image;
-  if (!with_picture || object.Record == nullptr || !HasPicturePath(object.Record->ImageFile))
+  if (InfoOf(kind).PictureWord.empty() || object.Record == nullptr ||
+      !HasPicturePath(object.Record->ImageFile))
     return;
   object.Control.Picture = ResolveProjectPath(tables_, object.Record->ImageFile, true);
   object.Record->Title = PictureResourceName(window_->Number(), kind, *object.Number);

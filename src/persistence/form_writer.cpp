@@ -107,7 +107,7 @@ class FormWriter {
   void WriteControl(const DesignControl& control) {
     page_.Put(kLineEnd);
     TakeCodes(control);
-    if (static_cast<std::size_t>(control.Id) >= kObjectKindCount) return;
+    if (!IsObjectKind(control.Id)) return;
     const int number = ++counts_[static_cast<std::size_t>(control.Id)];
     if (control.Id == Kind::PopUpMenu) WriteSubs(number);
     const auto* records = record_.Objects(control.Id);

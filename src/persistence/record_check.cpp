@@ -3,7 +3,7 @@
 #include <array>
 #include <optional>
 
-#include "model/vocabulary.h"
+#include "model/kinds.h"
 #include "persistence/record_layouts.h"
 #include "persistence/tag_scanner.h"
 #include "text/code_page.h"

@@ -263,8 +263,8 @@ constexpr Source SourceFor(std::string_view word) {
   for (const EventInfo& event : kEvents) {
     if (event.Name == word) return event.Id;
   }
-  for (std::size_t member = 0; member < kMemberCount; ++member) {
-    if (kMemberNames[member] == word) return static_cast<Member>(member);
+  for (const MemberName& member : kMemberNames) {
+    if (member.Name == word) return member.Id;
   }
   throw "a layout names what does not exist";
 }
@@ -327,6 +327,14 @@ inline constexpr std::array<RecordLayout, kKindCount> kLayouts =
 [[nodiscard]] constexpr const RecordLayout& LayoutOf(Kind kind) noexcept {
   return layouts::kLayouts[static_cast<std::size_t>(kind)];
 }
+static_assert(
+    [] {
+      for (const KindInfo& kind : ObjectKinds()) {
+        if (LayoutOf(kind.Id).Fields.empty()) return false;
+      }
+      return !LayoutOf(Kind::Form).Fields.empty();
+    }(),
+    "a kind has no record in a form file");
 
 /// Calls `use` with the place of each field of a kind's layout that stands in a tag, in their order
 /// and as long as it answers true. The place is a constant, so that a record is read by straight

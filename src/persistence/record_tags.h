@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "text/enum_table.h"
+
 namespace tarnwick {
 
 /// Tags in the order in which the reader takes them, events last.
@@ -60,7 +62,7 @@ enum class Tag : std::uint8_t {
   Enter,
   None,  ///< no tag: a value of the head
 };
-inline constexpr std::size_t kTagCount = 47;
+inline constexpr std::size_t kTagCount = static_cast<std::size_t>(Tag::None);
 
 /// How a value comes out of its stored form.
 enum class Restore : std::uint8_t {
@@ -72,36 +74,61 @@ enum class Restore : std::uint8_t {
 };
 
 struct TagInfo {
+  Tag Id;
   std::string_view Word;  ///< lower case
   Restore How;
 };
 
 inline constexpr std::array<TagInfo, kTagCount> kTags{{
-    {"left", Restore::Plain},        {"top", Restore::Plain},
-    {"width", Restore::Plain},       {"height", Restore::Plain},
-    {"string", Restore::Lines},      {"items", Restore::Items},
-    {"tip", Restore::Commas},        {"visible", Restore::Plain},
-    {"enabled", Restore::Plain},     {"image", Restore::Plain},
-    {"cursor", Restore::Plain},      {"icon", Restore::Plain},
-    {"fontname", Restore::Plain},    {"fontsize", Restore::Plain},
-    {"fontclr", Restore::Plain},     {"taborder", Restore::Plain},
-    {"border", Restore::Plain},      {"color", Restore::Plain},
-    {"wndstate", Restore::Plain},    {"center", Restore::Plain},
-    {"fontbold", Restore::Plain},    {"fontitalic", Restore::Plain},
-    {"readonly", Restore::Plain},    {"hidescrollbars", Restore::Plain},
-    {"scrllbars", Restore::Plain},   {"stretch", Restore::Plain},
-    {"autosize", Restore::Plain},    {"transparent", Restore::Plain},
-    {"multiselect", Restore::Plain}, {"sorted", Restore::Plain},
-    {"columns", Restore::Plain},     {"checked", Restore::Plain},
-    {"close", Restore::Code},        {"resize", Restore::Code},
-    {"show", Restore::Code},         {"change", Restore::Code},
-    {"mousemove", Restore::Code},    {"mouseup", Restore::Code},
-    {"mousedown", Restore::Code},    {"keyup", Restore::Code},
-    {"keydown", Restore::Code},      {"keypress", Restore::Code},
-    {"dblclick", Restore::Code},     {"click", Restore::Code},
-    {"paint", Restore::Code},        {"hint", Restore::Code},
-    {"enter", Restore::Code},
+    {Tag::Left, "left", Restore::Plain},
+    {Tag::Top, "top", Restore::Plain},
+    {Tag::Width, "width", Restore::Plain},
+    {Tag::Height, "height", Restore::Plain},
+    {Tag::String, "string", Restore::Lines},
+    {Tag::Items, "items", Restore::Items},
+    {Tag::Tip, "tip", Restore::Commas},
+    {Tag::Visible, "visible", Restore::Plain},
+    {Tag::Enabled, "enabled", Restore::Plain},
+    {Tag::Image, "image", Restore::Plain},
+    {Tag::Cursor, "cursor", Restore::Plain},
+    {Tag::Icon, "icon", Restore::Plain},
+    {Tag::FontName, "fontname", Restore::Plain},
+    {Tag::FontSize, "fontsize", Restore::Plain},
+    {Tag::FontClr, "fontclr", Restore::Plain},
+    {Tag::TabOrder, "taborder", Restore::Plain},
+    {Tag::Border, "border", Restore::Plain},
+    {Tag::Color, "color", Restore::Plain},
+    {Tag::WndState, "wndstate", Restore::Plain},
+    {Tag::Center, "center", Restore::Plain},
+    {Tag::FontBold, "fontbold", Restore::Plain},
+    {Tag::FontItalic, "fontitalic", Restore::Plain},
+    {Tag::ReadOnly, "readonly", Restore::Plain},
+    {Tag::HideScrollBars, "hidescrollbars", Restore::Plain},
+    {Tag::ScrllBars, "scrllbars", Restore::Plain},
+    {Tag::Stretch, "stretch", Restore::Plain},
+    {Tag::Autosize, "autosize", Restore::Plain},
+    {Tag::Transparent, "transparent", Restore::Plain},
+    {Tag::MultiSelect, "multiselect", Restore::Plain},
+    {Tag::Sorted, "sorted", Restore::Plain},
+    {Tag::Columns, "columns", Restore::Plain},
+    {Tag::Checked, "checked", Restore::Plain},
+    {Tag::Close, "close", Restore::Code},
+    {Tag::Resize, "resize", Restore::Code},
+    {Tag::Show, "show", Restore::Code},
+    {Tag::Change, "change", Restore::Code},
+    {Tag::MouseMove, "mousemove", Restore::Code},
+    {Tag::MouseUp, "mouseup", Restore::Code},
+    {Tag::MouseDown, "mousedown", Restore::Code},
+    {Tag::KeyUp, "keyup", Restore::Code},
+    {Tag::KeyDown, "keydown", Restore::Code},
+    {Tag::KeyPress, "keypress", Restore::Code},
+    {Tag::DblClick, "dblclick", Restore::Code},
+    {Tag::Click, "click", Restore::Code},
+    {Tag::Paint, "paint", Restore::Code},
+    {Tag::Hint, "hint", Restore::Code},
+    {Tag::Enter, "enter", Restore::Code},
 }};
+static_assert(HasRowOfEach(kTags, kTagCount));
 
 [[nodiscard]] constexpr const TagInfo& InfoOf(Tag tag) noexcept {
   return kTags[static_cast<std::size_t>(tag)];

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "model/vocabulary.h"
+#include "model/kinds.h"
 #include "persistence/line_bytes.h"
 #include "persistence/record_tags.h"
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "model/vocabulary.h"
+#include "model/kinds.h"
 #include "persistence/record_values.h"
 #include "text/strings.h"
 

@@ -41,7 +41,7 @@ enum class Command : std::uint8_t {
   Help,
   About,
 };
-inline constexpr std::size_t kCommandCount = 30;
+inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(Command::About) + 1;
 
 /// A row of a menu. A row without a command is a separator.
 struct MenuRow {

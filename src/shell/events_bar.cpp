@@ -50,8 +50,8 @@ EventsBar::Target EventsBar::TargetOf(std::string_view name) {
   const std::string_view word = name.substr(0, name.size() - digits);
   const std::optional<Kind> kind = KindOfTag(Lower(word));
   const auto index = ToInt16(Val(name.substr(word.size())));
-  const bool object = kind && static_cast<std::size_t>(*kind) < kObjectKindCount &&
-                      InfoOf(*kind).Events != EventListId::None && digits > 0 && index;
+  const bool object = kind && IsObjectKind(*kind) && InfoOf(*kind).Events != EventListId::None &&
+                      digits > 0 && index;
   if (!object) return {std::nullopt, 0, std::string(name)};
   Target target{kind, *index, std::string(InfoOf(*kind).Array)};
   AppendNumber(target.Tag, std::int64_t{*index});

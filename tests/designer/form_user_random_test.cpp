@@ -42,9 +42,9 @@ class FormUserRandom : public SurfaceTest, public ::testing::WithParamInterface<
     switch (Number(12)) {
       case 0:
       case 1: {
-        const auto rules = CreationRules();
-        const Kind kind =
-            rules[static_cast<std::size_t>(Number(static_cast<int>(rules.size())))].Id;
+        // Every object kind and the frame.
+        const int chosen = Number(static_cast<int>(kObjectKindCount) + 1);
+        const Kind kind = chosen == 0 ? Kind::Frame : static_cast<Kind>(chosen - 1);
         if (form.Controls().size() < 120) form.Objeto = InfoOf(kind).Name;
         return PressAnywhere();
       }

@@ -7,7 +7,7 @@
 
 #include "fakes/build_paths.h"
 #include "inspector/property_rows.h"
-#include "model/vocabulary.h"
+#include "model/kinds.h"
 #include "persistence/support_files.h"
 
 namespace tarnwick {

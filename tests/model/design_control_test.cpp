@@ -224,11 +224,11 @@ TEST(DesignControl, EachMemberIsTheFieldOfItsName) {
           if constexpr (std::is_same_v<Field, std::monostate>) {
             EXPECT_EQ(member, Member::List);
           } else if constexpr (std::is_same_v<Field, bool DesignControl::*>) {
-            EXPECT_TRUE(control.*field) << kMemberNames[i];
+            EXPECT_TRUE(control.*field) << kMemberNames[i].Name;
           } else if constexpr (std::is_same_v<Field, std::string DesignControl::*>) {
-            EXPECT_EQ(control.*field, kMemberNames[i]);
+            EXPECT_EQ(control.*field, kMemberNames[i].Name);
           } else {
-            EXPECT_EQ(control.*field, number(member)) << kMemberNames[i];
+            EXPECT_EQ(control.*field, number(member)) << kMemberNames[i].Name;
           }
         },
         FieldOf(member));

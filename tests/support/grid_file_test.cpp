@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "built_files.h"
-#include "model/vocabulary.h"
+#include "model/kinds.h"
 
 namespace tarnwick::support {
 namespace {

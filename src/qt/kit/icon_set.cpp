@@ -12,6 +12,7 @@
 #include "designer/tool_box.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
+#include "text/enum_table.h"
 
 // The pictures lie in a static library, whose resources register themselves only when asked to; the
 // asking has to stand outside of any namespace.
@@ -92,13 +93,45 @@ class SvgIconEngine final : public QIconEngine {
   QString name_;
 };
 
+struct CommandIcon {
+  Command Id;
+  const char* Name;
+};
+
 /// Pictures of the commands, by enumerator.
-constexpr std::array<const char*, kCommandCount> kCommandIcons{
-    "new",         "open",      "open",       "save",       "save",     "save",
-    "save",        "exit",      "cut",        "copy",       "paste",    "delete",
-    "front",       "back",      "grid",       "lock",       "code",     "declarations",
-    "properties",  "form",      "events-bar", "object-bar", "examiner", "add-form",
-    "remove-form", "main-form", "menu-edit",  "compile",    "help",     "about"};
+constexpr std::array<CommandIcon, kCommandCount> kCommandIcons{{
+    {Command::New, "new"},
+    {Command::Open, "open"},
+    {Command::OpenOld, "open"},
+    {Command::Save, "save"},
+    {Command::SaveAs, "save"},
+    {Command::SaveForm, "save"},
+    {Command::SaveFormAs, "save"},
+    {Command::Exit, "exit"},
+    {Command::Cut, "cut"},
+    {Command::Copy, "copy"},
+    {Command::Paste, "paste"},
+    {Command::Delete, "delete"},
+    {Command::BringToFront, "front"},
+    {Command::StayBack, "back"},
+    {Command::AlignToGrid, "grid"},
+    {Command::Lock, "lock"},
+    {Command::Code, "code"},
+    {Command::PublicDeclarations, "declarations"},
+    {Command::Properties, "properties"},
+    {Command::Forms, "form"},
+    {Command::EventsBar, "events-bar"},
+    {Command::ObjectBar, "object-bar"},
+    {Command::Examiner, "examiner"},
+    {Command::AddNewForm, "add-form"},
+    {Command::Remove, "remove-form"},
+    {Command::SelectMainForm, "main-form"},
+    {Command::MenuEdit, "menu-edit"},
+    {Command::Compile, "compile"},
+    {Command::Help, "help"},
+    {Command::About, "about"},
+}};
+static_assert(HasRowOfEach(kCommandIcons, kCommandCount));
 
 }  // namespace
 
@@ -115,7 +148,7 @@ QPixmap PixmapOf(const QString& name, int size, qreal ratio, const IconColors& c
 }
 
 QString IconNameOf(Command command) {
-  return QString::fromLatin1(kCommandIcons[static_cast<std::size_t>(command)]);
+  return QString::fromLatin1(kCommandIcons[static_cast<std::size_t>(command)].Name);
 }
 
 QString IconNameOfTool(int number) {

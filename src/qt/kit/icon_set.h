@@ -7,7 +7,7 @@
 #include <QString>
 #include <string_view>
 
-#include "model/vocabulary.h"
+#include "model/kinds.h"
 #include "shell/command_table.h"
 
 namespace tarnwick {
