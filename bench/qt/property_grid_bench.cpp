@@ -13,7 +13,6 @@
 #include "platform/native_files.h"
 #include "qt/frame/main_view.h"
 #include "qt/frame/main_window.h"
-#include "qt/frame/side_windows_view.h"
 #include "qt/grid/property_panel.h"
 #include "qt/kit/qt_ports.h"
 #include "qt/kit/theme.h"
@@ -32,18 +31,15 @@ struct Desk {
   NativeFiles Files;
   QtScreen Screen;
   Ports Given{Files, Fakes.Profiles, Fakes.Processes, Fakes.Messages, Fakes.Dialogs, Screen};
-  MainWindow Window{Files};
-  MainView View{Window};
-  SideWindowsView SideWindows{Window};
-  MDIForm1 Shell{Given, View, SideWindows, View, PathFromNative(test::ProgramFolder())};
+  MDIForm1 Shell{Given, PathFromNative(test::ProgramFolder())};
+  MainWindow Window{Shell, Files};
+  MainView View{Window, Shell};
   std::vector<ControlRef> Objects;
 
   Desk() {
     ApplyTheme(*qApp, Theme::Light);
-    View.Attach(Shell);
-    SideWindows.Attach(Shell, View);
     Window.show();
-    Shell.Load();
+    View.Load();
     Shell.Time_Timer();
     constexpr std::array kKinds{Kind::Button, Kind::Label, Kind::ListBox, Kind::RichTextBox,
                                 Kind::Image};

@@ -8,7 +8,6 @@
 #include "platform/program_folder.h"
 #include "qt/frame/main_view.h"
 #include "qt/frame/main_window.h"
-#include "qt/frame/side_windows_view.h"
 #include "qt/kit/icon_set.h"
 #include "qt/kit/qt_ports.h"
 #include "qt/kit/theme.h"
@@ -36,17 +35,14 @@ int main(int argc, char** argv) {
   const std::string folder = ProgramFolder();
   FillProgramFolder(files, ExecutableFolder() + R"(\..\share\tarnwick)", folder);
 
-  MainWindow window(files);
-  MainView view(window);
-  SideWindowsView side_windows(window);
-  MDIForm1 shell(ports, view, side_windows, view, folder);
-  view.Attach(shell);
+  MDIForm1 shell(ports, folder);
+  MainWindow window(shell, files);
+  MainView view(window, shell);
   if (const QStringList words = QApplication::arguments(); words.size() > 1) {
     const QString path = QFileInfo(words[1]).absoluteFilePath();
     view.OpenAfterStart(PathFromNative(path.toStdString()));
   }
-  side_windows.Attach(shell, view);
   window.show();
-  shell.Load();
+  view.Load();
   return QApplication::exec();
 }

@@ -6,7 +6,7 @@
 
 #include "model/project_records.h"
 #include "shell/command_table.h"
-#include "shell/shell_view.h"
+#include "shell/panels.h"
 
 namespace tarnwick {
 

@@ -16,11 +16,11 @@ class CompileCommand final : public project::CompileHost {
   void Run();
 
   void SaveProject() override { project_.Save(); }
-  void ShowContainer() override { state_.View.ShowContainer(); }
-  void HideContainer() override { state_.View.HideContainer(); }
-  void MoveContainer(int top) override { state_.View.MoveContainer(top); }
+  void ShowContainer() override { state_.View->ShowContainer(); }
+  void HideContainer() override { state_.View->HideContainer(); }
+  void MoveContainer(int top) override { state_.View->MoveContainer(top); }
   void ShowDesignForm(DesignForm& form, bool visible) override {
-    state_.View.SetFormVisible(form.Number(), visible);
+    state_.View->SetFormVisible(form.Number(), visible);
   }
 
  private:

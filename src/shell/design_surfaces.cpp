@@ -13,7 +13,7 @@ FormUser* DesignSurfaces::Of(int form) {
   if (!surface || &surface->Form() != window) {
     surface =
         std::make_unique<FormUser>(*window, tables,
-                                   DesignerPorts{state_.View.Gestures(form), state_.Ports.Messages,
+                                   DesignerPorts{state_.View->Gestures(form), state_.Ports.Messages,
                                                  state_.Ports.Screen, state_.Observer, host_});
     surface->Form_Load();
   }

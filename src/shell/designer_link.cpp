@@ -33,7 +33,7 @@ void InspectorLink::FormRecolored(DesignForm& form) {
   FormUser* surface = surfaces_.Of(form.Number());
   if (surface == nullptr) return;
   surface->PintaPuntitos();
-  state_.View.Gestures(form.Number()).TakeFocus();
+  state_.View->Gestures(form.Number()).TakeFocus();
 }
 
 }  // namespace tarnwick

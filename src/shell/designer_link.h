@@ -31,22 +31,21 @@ class DesignerLink final : public DesignerHost {
   }
   void RemoveHeadRow(const DesignControl& object) override;
 
-  void EnableCopyPasteButtons(bool /*on*/) override { state_.View.CommandsChanged(); }
-  void EnableTool(int /*tool*/, bool /*on*/) override { state_.View.CommandsChanged(); }
-  void ArmedToolChanged() override { state_.View.CommandsChanged(); }
-  void LockChanged() override { state_.View.CommandsChanged(); }
-  void OpenObjectPopUp(const ObjectPopUp& /*entries*/) override { state_.View.ShowObjectPopUp(); }
+  void EnableCopyPasteButtons(bool /*on*/) override { state_.View->CommandsChanged(); }
+  void EnableTool(int /*tool*/, bool /*on*/) override { state_.View->CommandsChanged(); }
+  void ArmedToolChanged() override { state_.View->CommandsChanged(); }
+  void LockChanged() override { state_.View->CommandsChanged(); }
+  void OpenObjectPopUp(const ObjectPopUp& /*entries*/) override { state_.View->ShowObjectPopUp(); }
 
   bool RaiseOpenCodeEditor() override;
   void OpenCode() override { state_.Run(Command::Code); }
   void CompileAndRun() override { state_.Run(Command::Compile); }
 
-  [[nodiscard]] bool ContainerMinimised() override { return state_.View.ContainerMinimised(); }
+  [[nodiscard]] bool ContainerMinimised() override { return false; }
   [[nodiscard]] bool FormMaximised() override { return form_maximised_; }
   void SetFormMaximised(bool maximised) override { form_maximised_ = maximised; }
-  void GrowContainer(float width, float height) override {
-    state_.View.GrowContainer(width, height);
-  }
+  /// The container grows with its windows by itself.
+  void GrowContainer(float /*width*/, float /*height*/) override {}
 
  private:
   ShellState& state_;
@@ -64,16 +63,16 @@ class InspectorLink final : public InspectorHost {
   void borderstylea(DesignForm& form, std::int16_t style) override;
   void FormRecolored(DesignForm& form) override;
   [[nodiscard]] bool PictureLoads(const std::string& path) override {
-    return state_.View.PictureLoads(path);
+    return state_.View->PictureLoads(path);
   }
   void NameChanged(DesignForm& form, std::string_view old_name,
                    std::string_view new_name) override {
-    state_.Windows.NameChanged(form.Number(), old_name, new_name);
+    state_.Code->NameChanged(form.Number(), old_name, new_name);
   }
   void OpenFormPopUp(DesignForm& form, int index) override {
-    state_.Windows.OpenPopUpEdit(form.Number(), index);
+    state_.Menus->OpenPopUpEdit(form.Number(), index);
   }
-  void OpenFormAddItems(DesignForm& form) override { state_.Windows.OpenItemEdit(form.Number()); }
+  void OpenFormAddItems(DesignForm& form) override { state_.View->RunItemDialog(form.Number()); }
 
  private:
   ShellState& state_;

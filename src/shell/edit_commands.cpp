@@ -50,7 +50,7 @@ void EditCommands::Run(Command command) {
     default:
       return;
   }
-  state_.View.CommandsChanged();
+  state_.View->CommandsChanged();
 }
 
 void EditCommands::PressTool(int number) {
@@ -69,8 +69,8 @@ void EditCommands::PressTool(int number) {
   form.m_bDesignMode = true;
   if (number == kFormTool || number == kArrowTool || number == kMenuTool) surface->SelectForm();
   form.Objeto = tool->Objeto;
-  state_.View.CommandsChanged();
-  if (number == kMenuTool) state_.Windows.OpenMenuEdit();
+  state_.View->CommandsChanged();
+  if (number == kMenuTool) state_.Menus->OpenMenuEdit();
 }
 
 }  // namespace tarnwick

@@ -89,6 +89,11 @@ std::string EventsBar::TipOf(int form, const Target& target) const {
   return control != nullptr ? control->Tag : target.Tag;
 }
 
+int EventsBar::CurrentForm() const {
+  const DesignForm* form = state_.Tables.CurrentForm;
+  return form == nullptr ? 0 : form->Number();
+}
+
 std::string EventsBar::Caption(int form) const {
   const FrmBarra* bar = state_.Tables.Bar(form);
   return bar == nullptr || bar->Caption.empty() ? std::string(kDefaultCaption) : bar->Caption;

@@ -47,6 +47,8 @@ class EventsBar {
  public:
   EventsBar(ShellState& state, DesignSurfaces& surfaces) : state_(state), surfaces_(surfaces) {}
 
+  /// The form whose bar is shown; 0 for none.
+  [[nodiscard]] int CurrentForm() const;
   /// Title of a form's bar.
   [[nodiscard]] std::string Caption(int form) const;
   /// The buttons of a form, one for each object, in the order in which the objects got code.

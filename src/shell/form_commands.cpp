@@ -23,7 +23,7 @@ int FormCommands::CurrentNumber() const {
 }
 
 void FormCommands::MarkCurrentLine() {
-  state_.View.SelectFormLine(state_.Tables.ListaFrms.PositionOf(CurrentNumber()));
+  state_.View->SelectFormLine(state_.Tables.ListaFrms.PositionOf(CurrentNumber()));
 }
 
 void FormCommands::Opened(int form) {
@@ -63,10 +63,10 @@ void FormCommands::Remove() {
 
   const auto& lines = tables.ListaFrms.Lines();
   if (lines.empty()) {
-    state_.View.SelectFormLine(-1);
-    state_.View.SetSelectionText("");
+    state_.View->SelectFormLine(-1);
+    state_.View->SetSelectionText("");
     state_.Observer.CurrentFormChanged();
-    state_.View.CommandsChanged();
+    state_.View->CommandsChanged();
     return;
   }
   const std::size_t next = std::min(static_cast<std::size_t>(place), lines.size() - 1);
@@ -79,6 +79,7 @@ void FormCommands::Choose(int form) {
 }
 
 void FormCommands::SelectLine(int place) {
+  if (state_.Busy) return;
   if (state_.RaiseOpenCode()) {
     MarkCurrentLine();
     return;
@@ -89,7 +90,7 @@ void FormCommands::SelectLine(int place) {
 }
 
 void FormCommands::Activated(int form) {
-  if (form == CurrentNumber() || !state_.Tables.IsLive(form)) return;
+  if (state_.Busy || form == CurrentNumber() || !state_.Tables.IsLive(form)) return;
   if (!state_.RaiseOpenCode()) BringUp(form);
 }
 
@@ -98,16 +99,25 @@ void FormCommands::BringUp(int form) {
   if (!tables.IsLive(form)) return;
   tables.CurrentForm = tables.User(form);
   tables.CurrentForm->Visible = true;
-  state_.View.BringFormUp(form);
+  state_.View->BringFormUp(form);
   state_.Observer.CurrentFormChanged();
   MarkCurrentLine();
   sheet_.FillCombo();
   sheet_.ShowSelection();
-  state_.View.CommandsChanged();
+  state_.View->CommandsChanged();
 }
 
 void FormCommands::SelectMainForm() {
-  state_.View.RunFormMain();
+  state_.View->RunFormMain();
+}
+
+FormListMarks FormCommands::Marks() const {
+  return MarksOf(state_.Tables);
+}
+
+void FormCommands::TakeMainForm(const FormMain& dialog) {
+  dialog.Command1_Click(state_.Tables);
+  state_.Observer.FormListChanged();
 }
 
 void FormCommands::CloseAll() {

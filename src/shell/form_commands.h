@@ -3,6 +3,7 @@
 
 #include "inspector/property_sheet.h"
 #include "project/project_context.h"
+#include "shell/form_main.h"
 #include "shell/shell_state.h"
 
 namespace tarnwick {
@@ -20,10 +21,19 @@ class FormCommands final : public project::ContainerHost {
   /// Asks, then takes the current form out of the project. Its number is never used again.
   void Remove();
   /// A line of the form list was chosen, from 0: its form comes up with its events bar. While the
-  /// code editor is open that comes to the front, and nothing is chosen.
+  /// code editor is open that comes to the front, and nothing is chosen; nor while a command runs.
   void SelectLine(int place);
   /// A design window came to the front by the user's hand; the same rule holds.
   void Activated(int form);
+  /// The lines of the form list, and which one is the main form's.
+  [[nodiscard]] const std::vector<FormList::Line>& Lines() const {
+    return state_.Tables.ListaFrms.Lines();
+  }
+  [[nodiscard]] FormListMarks Marks() const;
+  /// The logic of the dialog of the main form, as it opens.
+  [[nodiscard]] FormMain MainFormDialog() const { return FormMain(state_.Tables); }
+  /// `FormMain`'s OK: takes the dialog's text.
+  void TakeMainForm(const FormMain& dialog);
   /// Runs the dialog of the main form.
   void SelectMainForm();
 
@@ -36,8 +46,8 @@ class FormCommands final : public project::ContainerHost {
   /// Tells that every form closes, then empties the project.
   void CloseAll();
 
-  void HideContainer() override { state_.View.HideContainer(); }
-  void ShowContainer() override { state_.View.ShowContainer(); }
+  void HideContainer() override { state_.View->HideContainer(); }
+  void ShowContainer() override { state_.View->ShowContainer(); }
   void ActivateForm(int form) override { BringUp(form); }
 
  private:

@@ -22,8 +22,8 @@ void ProjectCommands::New() {
   ProjectTables& tables = state_.Tables;
   // What is cancelled on the way to a save must not cost the project.
   if (tables.AccionProject != "save" && WantsSave() && !Save()) return;
-  state_.Windows.CloseCode();
-  state_.View.SetTitle(TitleOfOpened(DefaultProjectFile(tables)));
+  state_.Code->CloseCode();
+  state_.View->SetTitle(TitleOfOpened(DefaultProjectFile(tables)));
   state_.Ports.Files.Remove(state_.Settings.EventIndexPath());
   state_.EnableCommands(false);
   SetDefaultPaths(tables);
@@ -32,7 +32,6 @@ void ProjectCommands::New() {
   forms_.HideContainer();
   forms_.CloseAll();
   forms_.AddFirst();
-  ShowIcon();
   forms_.ShowContainer();
   tables.AccionProject = "new";
   state_.EnableCommands(true);
@@ -74,21 +73,20 @@ void ProjectCommands::OpenNamed(const std::string& path) {
 
 void ProjectCommands::Take(std::string path) {
   ProjectTables& tables = state_.Tables;
-  state_.Windows.CloseCode();
+  state_.Code->CloseCode();
   tables.AccionProject = "open";
   state_.EnableCommands(false);
   tables.JumpKey.clear();
   forms_.HideContainer();
   forms_.CloseAll();
   SetProjectFile(tables, std::move(path));
-  state_.View.SetTitle(TitleOfOpened(tables.ProjectFile));
+  state_.View->SetTitle(TitleOfOpened(tables.ProjectFile));
   state_.Settings.Write(kProjectFolder, FolderOf(tables.ProjectFile));
   project::LoadProject(context_, tables.ProjectFile);
   if (!forms_.HasForm()) forms_.AddFirst();
   forms_.ShowContainer();
   forms_.BringUp(forms_.FirstForm());
   state_.ShowPanel(Panel::EventsBar, true);
-  ShowIcon();
   state_.EnableCommands(true);
 }
 
@@ -97,15 +95,15 @@ bool ProjectCommands::TakeProjectPath() {
   std::optional<std::string> path = project::SaveProjectDialog(context_);
   if (!path) return false;
   if (!Lower(*path).ends_with(kExtension)) *path += kExtension;
-  state_.View.SetTitle(TitleOfSaved(*path));
+  state_.View->SetTitle(TitleOfSaved(*path));
   SetProjectFile(state_.Tables, *std::move(path));
   return true;
 }
 
 bool ProjectCommands::WriteProject() {
   // What is typed but not taken yet belongs to the project.
-  state_.View.CommitPendingEdits();
-  state_.Windows.StoreShownCode();
+  state_.View->CommitPendingEdits();
+  state_.Code->StoreShownCode();
   return project::SaveProject(context_, state_.Tables.ProjectFile);
 }
 
@@ -128,8 +126,8 @@ bool ProjectCommands::AskFormFile(int form) {
 }
 
 void ProjectCommands::WriteForm(int form) {
-  state_.View.CommitPendingEdits();
-  state_.Windows.StoreShownCode();
+  state_.View->CommitPendingEdits();
+  state_.Code->StoreShownCode();
   project::WriteFormFile(context_, form);
   project::RefreshFormListEntry(context_, form);
   state_.Observer.FormListChanged();
@@ -156,14 +154,6 @@ bool ProjectCommands::MayClose() {
   const std::string& action = state_.Tables.AccionProject;
   if (action == "save" || action == "new" || !WantsSave()) return true;
   return HasDefaultProjectFile(state_.Tables) ? Save() : WriteProject();
-}
-
-void ProjectCommands::ShowIcon() {
-  const FormRec* first = state_.Tables.Form(1);
-  const std::string text =
-      first == nullptr || first->IconFile.empty() ? std::string(kDefaultFile) : first->IconFile;
-  state_.View.ShowIcon(text,
-                       text == kDefaultFile ? state_.Tables.ProgramFolder + "\\iconapp.ico" : text);
 }
 
 }  // namespace tarnwick

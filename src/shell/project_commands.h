@@ -35,8 +35,6 @@ class ProjectCommands {
   void SaveFormAs();
   /// Asks about saving at the end of the program. False: the program goes on.
   [[nodiscard]] bool MayClose();
-  /// The icon display: the icon of form 1.
-  void ShowIcon();
 
  private:
   [[nodiscard]] bool WantsSave();

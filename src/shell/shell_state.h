@@ -12,7 +12,7 @@
 #include "shell/command_state.h"
 #include "shell/observer_hub.h"
 #include "shell/shell_view.h"
-#include "shell/side_windows.h"
+#include "shell/shell_windows.h"
 
 namespace tarnwick {
 
@@ -27,34 +27,43 @@ struct ApplicationRec {
 
 /// The one project and the doors to everything around it. Lives as long as `MDIForm1`.
 struct ShellState {
-  ShellState(const tarnwick::Ports& ports, ShellView& view, SideWindows& windows,
-             std::string program_folder)
-      : Ports(ports), View(view), Windows(windows), Settings(ports.Profiles, program_folder) {
+  ShellState(const tarnwick::Ports& ports, std::string program_folder)
+      : Ports(ports), Settings(ports.Profiles, program_folder) {
     Tables.ProgramFolder = std::move(program_folder);
   }
 
   tarnwick::Ports Ports;
-  ShellView& View;
-  SideWindows& Windows;
   tarnwick::Settings Settings;
   ProjectTables Tables;
   language::SupportTables Support;
   ApplicationRec Application;
   ShellFlags Flags;
+  bool Busy = false;  ///< a command runs: no other one starts
   ObserverHub Observer;
+  // The windows, from the load of the main window on; no command is enabled before.
+  ShellView* View = nullptr;
+  CodeWindows* Code = nullptr;
+  MenuWindows* Menus = nullptr;
+  ExaminerWindow* Examiner = nullptr;
   /// Runs a command that another room asks for.
   std::function<void(Command)> Run;
 
+  void Use(const ShellWindows& windows) {
+    View = &windows.Main;
+    Code = &windows.Code;
+    Menus = &windows.Menus;
+    Examiner = &windows.Examiner;
+  }
   /// Enables or disables all buttons, tools and menu entries.
   void EnableCommands(bool on) {
     Flags.CommandsEnabled = on;
-    View.CommandsChanged();
+    View->CommandsChanged();
   }
-  /// While the code editor is open: brings it to the front and answers true. Its text belongs to
+  /// While the code editor is open: brings it to the front and returns true. Its text belongs to
   /// what is selected, so nothing else can be chosen meanwhile.
   bool RaiseOpenCode() {
-    if (!Windows.IsCodeOpen()) return false;
-    Windows.BringCodeToFront();
+    if (!Code->IsCodeOpen()) return false;
+    Code->BringCodeToFront();
     return true;
   }
   [[nodiscard]] bool IsShown(Panel panel) const {
@@ -62,8 +71,8 @@ struct ShellState {
   }
   void ShowPanel(Panel panel, bool shown) {
     Flags.PanelShown[static_cast<std::size_t>(panel)] = shown;
-    View.ShowPanel(panel, shown);
-    View.CommandsChanged();
+    View->ShowPanel(panel, shown);
+    View->CommandsChanged();
   }
 };
 

@@ -7,17 +7,9 @@
 #include <string_view>
 
 #include "platform/ports.h"
+#include "shell/panels.h"
 
 namespace tarnwick {
-
-/// Parts of the main window that the user shows and hides.
-enum class Panel : std::uint8_t {
-  Properties,  ///< `Picture1`
-  Forms,       ///< `ListaFrms` with its heading and bar
-  EventsBar,   ///< the `FrmBarra` of the current form
-  ObjectBar,   ///< the floating tool box
-};
-inline constexpr std::size_t kPanelCount = 4;
 
 /// Windows beside the main window, in the order in which the end of the program unloads them.
 enum class SideWindow : std::uint8_t {
@@ -45,8 +37,6 @@ class ShellView {
 
   virtual void SetApplicationTitle(std::string_view title) = 0;
   virtual void SetTitle(std::string_view title) = 0;
-  /// Places `LabelBarra` and `btnClose` by the screen's twips per pixel.
-  virtual void PlaceHeadStrip() = 0;
   /// Lays out the panels, the form list and the scroll bars, and builds `ObjectBar`, hidden, with
   /// the main window as its parent.
   virtual void LayOutPanels() = 0;
@@ -56,8 +46,6 @@ class ShellView {
   virtual void StopTimer() = 0;
   /// Shows the logo window on top of all with this text, or changes the text.
   virtual void ShowLogo(std::string_view text) = 0;
-  /// True when the logo window wants `Time` to go on ticking while it is shown.
-  [[nodiscard]] virtual bool LogoDemandsTimer() = 0;
   /// Ends the logo's place on top of all and closes it.
   virtual void CloseLogo() = 0;
 
@@ -68,9 +56,6 @@ class ShellView {
   /// Moves the container's top edge to `top` pixels of the screen: the generator works behind a
   /// container that stands off it.
   virtual void MoveContainer(int top) = 0;
-  [[nodiscard]] virtual bool ContainerMinimised() = 0;
-  /// The container grows, or shrinks, by twips.
-  virtual void GrowContainer(float width, float height) = 0;
   /// Takes a design window into the container: it is shown, in front, with the focus.
   virtual void BringFormUp(int form) = 0;
   /// Shows or hides one design window without choosing it.
@@ -87,8 +72,6 @@ class ShellView {
   virtual void CommandsChanged() = 0;
   /// The line of `ListaFrms` to mark as selected, from 0; -1 for none.
   virtual void SelectFormLine(int place) = 0;
-  /// Text and picture of the icon display.
-  virtual void ShowIcon(std::string_view text, std::string_view picture) = 0;
   /// The arrow for the screen and the main window (true), or each window's own pointer.
   virtual void SetArrowPointer(bool arrow) = 0;
   /// Quiet text at the foot of the main window.
@@ -100,6 +83,8 @@ class ShellView {
   virtual void ShowObjectPopUp() = 0;
   /// Opens the dialog `FormMain` and returns when it is closed.
   virtual void RunFormMain() = 0;
+  /// Opens `FormAddItems` on the selected list of the form and returns when it is closed.
+  virtual void RunItemDialog(int form) = 0;
   /// Name, version and program folder, in a box.
   virtual void ShowAbout(std::string_view program_folder) = 0;
   /// Takes a half-typed value out of the focused widget into the tables.

@@ -15,13 +15,13 @@ constexpr int kContainerHeight = 6000;  // twips
 
 }  // namespace
 
-void StartUp::Load() {
+void StartUp::Load(const ShellWindows& windows) {
+  state_.Use(windows);
   ProjectTables& tables = state_.Tables;
-  state_.View.SetTitle(TitleOfOpened(DefaultProjectFile(tables)));
-  state_.View.SetApplicationTitle(kApplicationTitle);
-  state_.View.PlaceHeadStrip();
+  state_.View->SetTitle(TitleOfOpened(DefaultProjectFile(tables)));
+  state_.View->SetApplicationTitle(kApplicationTitle);
   state_.EnableCommands(false);
-  state_.View.StartTimer();
+  state_.View->StartTimer();
   tables.AccionProject = "app";
   tables.MainFormName = kFirstMainForm;
 }
@@ -40,14 +40,14 @@ void StartUp::Time_Timer() {
       Step{&StartUp::LayOutPanels, "Wait...  100%"},
       Step{&StartUp::ShowFirstForm, ""},
   };
-  state_.View.StopTimer();
+  state_.View->StopTimer();
   if (begun_) return;
   begun_ = true;
-  state_.View.ShowLogo("Wait...  1%");
+  state_.View->ShowLogo("Wait...  1%");
   state_.Ports.Screen.Yield();
   for (const Step& step : kSteps) {
     (this->*step.Run)();
-    if (!step.LogoText.empty()) state_.View.ShowLogo(step.LogoText);
+    if (!step.LogoText.empty()) state_.View->ShowLogo(step.LogoText);
     state_.Ports.Screen.Yield();
   }
   done_ = true;
@@ -59,7 +59,6 @@ void StartUp::DropEventIndex() {
 }
 
 void StartUp::SetDefaults() {
-  if (state_.View.LogoDemandsTimer()) state_.View.StartTimer();
   SetDefaultPaths(state_.Tables);
 }
 
@@ -73,33 +72,30 @@ void StartUp::AddSupportFile(std::string_view name,
 
 void StartUp::LoadLanguage() {
   AddSupportFile("\\Add003.tn", AddKeywordFile);
-  state_.Windows.LoadLanguage();
 }
 
 void StartUp::LoadSupportTables() {
   AddSupportFile("\\Add002.tn", AddFunctionFile);
   AddSupportFile("\\Add001.tn", AddMemberFile);
   AddSupportFile("\\Add004.tn", AddKindFile);
-  state_.Windows.SupportTablesLoaded();
 }
 
 void StartUp::LoadCodeWindows() {
-  state_.Windows.LoadCodeWindows();
+  state_.Code->LoadCodeWindows();
 }
 
 void StartUp::LayOutPanels() {
-  state_.View.LayOutPanels();
+  state_.View->LayOutPanels();
   for (std::size_t i = 0; i < kPanelCount; ++i) {
-    state_.View.ShowPanel(static_cast<Panel>(i), state_.Flags.PanelShown[i]);
+    state_.View->ShowPanel(static_cast<Panel>(i), state_.Flags.PanelShown[i]);
   }
 }
 
 void StartUp::ShowFirstForm() {
-  state_.View.ShowContainerAt(kContainerWidth, kContainerHeight);
+  state_.View->ShowContainerAt(kContainerWidth, kContainerHeight);
   forms_.AddFirst();
-  project_.ShowIcon();
   state_.EnableCommands(true);
-  state_.View.CloseLogo();
+  state_.View->CloseLogo();
 }
 
 }  // namespace tarnwick

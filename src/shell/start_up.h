@@ -2,7 +2,6 @@
 #pragma once
 
 #include "shell/form_commands.h"
-#include "shell/project_commands.h"
 #include "shell/shell_state.h"
 
 namespace tarnwick {
@@ -10,10 +9,10 @@ namespace tarnwick {
 /// The load of the main window, and the long initialisation that its timer's first tick starts.
 class StartUp {
  public:
-  StartUp(ShellState& state, FormCommands& forms, ProjectCommands& project)
-      : state_(state), forms_(forms), project_(project) {}
+  StartUp(ShellState& state, FormCommands& forms) : state_(state), forms_(forms) {}
 
-  void Load();
+  /// Takes the windows that every command uses from now on.
+  void Load(const ShellWindows& windows);
   /// Runs all steps once; later ticks only stop the timer. The screen is given time to repaint
   /// after each.
   void Time_Timer();
@@ -33,7 +32,6 @@ class StartUp {
 
   ShellState& state_;
   FormCommands& forms_;
-  ProjectCommands& project_;
   bool begun_ = false;
   bool done_ = false;
 };

@@ -5,13 +5,8 @@
 namespace tarnwick {
 
 void StatusFollower::Refresh() {
-  state_.View.SetSelectionText(SelectionStatus(state_.Tables));
-  state_.View.CommandsChanged();
-}
-
-void StatusFollower::FormChanged(int form) {
-  if (form == 1) project_.ShowIcon();
-  Refresh();
+  state_.View->SetSelectionText(SelectionStatus(state_.Tables));
+  state_.View->CommandsChanged();
 }
 
 }  // namespace tarnwick

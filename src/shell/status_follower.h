@@ -2,27 +2,25 @@
 #pragma once
 
 #include "model/project_observer.h"
-#include "shell/project_commands.h"
 #include "shell/shell_state.h"
 
 namespace tarnwick {
 
-/// Keeps the text of the selection, the states of the commands and the icon display up to date.
+/// Keeps the text of the selection and the states of the commands up to date.
 class StatusFollower final : public ProjectObserver {
  public:
-  StatusFollower(ShellState& state, ProjectCommands& project) : state_(state), project_(project) {}
+  explicit StatusFollower(ShellState& state) : state_(state) {}
 
   /// Tells the view the selection's text and that commands may differ.
   void Refresh();
 
-  void FormChanged(int form) override;
+  void FormChanged(int /*form*/) override { Refresh(); }
   void ControlsChanged(int /*form*/) override { Refresh(); }
   void SelectionChanged(int /*form*/) override { Refresh(); }
   void CurrentFormChanged() override { Refresh(); }
 
  private:
   ShellState& state_;
-  ProjectCommands& project_;
 };
 
 }  // namespace tarnwick

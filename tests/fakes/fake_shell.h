@@ -10,7 +10,7 @@
 #include "fakes/fake_ports.h"
 #include "model/project_observer.h"
 #include "shell/shell_view.h"
-#include "shell/side_windows.h"
+#include "shell/shell_windows.h"
 
 namespace tarnwick {
 
@@ -24,14 +24,10 @@ class FakeShellView final : public ShellView {
   std::string ApplicationTitle;
   std::string Status;
   std::string SelectionText;
-  std::string IconText;
-  std::string IconPicture;
   std::map<Panel, bool> PanelShown;
   int SelectedLine = -1;
   int FormInFront = 0;
   int CommandChanges = 0;
-  bool WantsTimer = false;
-  bool Minimised = false;
   bool PicturesLoad = true;
   std::function<void()> OnFormMain;
   std::function<void()> OnCloseMainWindow;
@@ -45,12 +41,10 @@ class FakeShellView final : public ShellView {
     Say("title", title);
     Title = title;
   }
-  void PlaceHeadStrip() override { Say("head strip"); }
   void LayOutPanels() override { Say("lay out panels"); }
   void StartTimer() override { Say("timer on"); }
   void StopTimer() override { Say("timer off"); }
   void ShowLogo(std::string_view text) override { Say("logo", text); }
-  [[nodiscard]] bool LogoDemandsTimer() override { return WantsTimer; }
   void CloseLogo() override { Say("logo closed"); }
   void ShowContainerAt(int width, int height) override {
     Say("container at", std::to_string(width) + "x" + std::to_string(height));
@@ -58,11 +52,6 @@ class FakeShellView final : public ShellView {
   void HideContainer() override { Say("container hidden"); }
   void ShowContainer() override { Say("container shown"); }
   void MoveContainer(int top) override { Say("container moved", std::to_string(top)); }
-  [[nodiscard]] bool ContainerMinimised() override { return Minimised; }
-  void GrowContainer(float width, float height) override {
-    Say("container grown",
-        std::to_string(static_cast<int>(width)) + "," + std::to_string(static_cast<int>(height)));
-  }
   void BringFormUp(int form) override {
     Say("form up", std::to_string(form));
     FormInFront = form;
@@ -80,10 +69,6 @@ class FakeShellView final : public ShellView {
   }
   void CommandsChanged() override { ++CommandChanges; }
   void SelectFormLine(int place) override { SelectedLine = place; }
-  void ShowIcon(std::string_view text, std::string_view picture) override {
-    IconText = text;
-    IconPicture = picture;
-  }
   void SetArrowPointer(bool arrow) override { Say(arrow ? "arrow" : "own pointer"); }
   void SetStatus(std::string_view text) override { Status = text; }
   void SetSelectionText(std::string_view text) override { SelectionText = text; }
@@ -95,6 +80,7 @@ class FakeShellView final : public ShellView {
     Say("FormMain");
     if (OnFormMain) OnFormMain();
   }
+  void RunItemDialog(int form) override { Say("item edit", std::to_string(form)); }
   void ShowAbout(std::string_view program_folder) override { Say("about", program_folder); }
   void CommitPendingEdits() override { Say("commit"); }
   void CloseMainWindow() override {
@@ -125,15 +111,13 @@ class FakeShellView final : public ShellView {
 };
 
 /// Log entries begin with "windows ".
-class FakeSideWindows final : public SideWindows {
+class FakeSideWindows final : public CodeWindows, public MenuWindows, public ExaminerWindow {
  public:
   explicit FakeSideWindows(CallLog& log) : log_(&log) {}
 
   bool CodeOpen = false;
   std::function<void()> OnStoreShownCode;
 
-  void LoadLanguage() override { Say("language"); }
-  void SupportTablesLoaded() override { Say("support tables"); }
   void LoadCodeWindows() override { Say("code windows"); }
   void OpenCode() override {
     Say("open code");
@@ -154,7 +138,6 @@ class FakeSideWindows final : public SideWindows {
   void OpenPopUpEdit(int form, int index) override {
     Say("popup edit " + std::to_string(form) + "," + std::to_string(index));
   }
-  void OpenItemEdit(int form) override { Say("item edit " + std::to_string(form)); }
   void OpenExaminer() override { Say("examiner"); }
   void NameChanged(int form, std::string_view old_name, std::string_view new_name) override {
     Say("renamed " + std::to_string(form) + " " + std::string(old_name) + " to " +

@@ -15,6 +15,8 @@
 #include "qt/frame/main_view.h"
 #include "qt/frame/main_window.h"
 #include "qt/surface/container.h"
+#include "shell/command_center.h"
+#include "shell/form_commands.h"
 #include "shell/mdi_form.h"
 
 namespace tarnwick {
@@ -24,15 +26,14 @@ namespace {
 class EventsBarWindowTest : public ::testing::Test {
  protected:
   FakePorts ports;
-  MainWindow window{ports.Files};
-  MainView view{window};
+  MDIForm1 shell{ports.All(), "Z:\\opt\\tarnwick"};
+  MainWindow window{shell, ports.Files};
+  MainView view{window, shell};
   FakeSideWindows windows{ports.Log};
-  MDIForm1 shell{ports.All(), view, windows, view, "Z:\\opt\\tarnwick"};
 
   void SetUp() override {
-    view.Attach(shell);
     window.show();
-    shell.Load();
+    shell.Load({view, windows, windows, windows});
     shell.Time_Timer();
     Settle();
   }
@@ -160,8 +161,8 @@ TEST_F(EventsBarWindowTest, ACloseHidesItAndItsEntryLosesTheCheckMark) {
   Button(QStringLiteral("FrmBarraClose"))->click();
   Settle();
   EXPECT_FALSE(bar().isVisible());
-  EXPECT_FALSE(shell.State(Command::EventsBar).Checked);
-  shell.Run(Command::EventsBar);
+  EXPECT_FALSE(shell.Commands().State(Command::EventsBar).Checked);
+  shell.Commands().Run(Command::EventsBar);
   Settle();
   EXPECT_TRUE(bar().isVisible());
   EXPECT_NE(Button(QStringLiteral("btncodigo_1")), nullptr);
@@ -171,9 +172,9 @@ TEST_F(EventsBarWindowTest, ADraggedBarComesBackWhereItWasLeft) {
   const QPoint before = bar().pos();
   DragBy(QPoint(80, -120));
   EXPECT_EQ(bar().pos(), before + QPoint(80, -120));
-  shell.Run(Command::EventsBar);
+  shell.Commands().Run(Command::EventsBar);
   Settle();
-  shell.Run(Command::EventsBar);
+  shell.Commands().Run(Command::EventsBar);
   Settle();
   EXPECT_EQ(bar().pos(), before + QPoint(80, -120));
 }
@@ -185,18 +186,18 @@ TEST_F(EventsBarWindowTest, ADragNeverTakesItOutOfTheMainWindow) {
 
 TEST_F(EventsBarWindowTest, ItShowsTheBarOfTheCurrentFormOnly) {
   Store("Form", Event::OnShow, "a");
-  shell.Run(Command::AddNewForm);
+  shell.Commands().Run(Command::AddNewForm);
   Settle();
   EXPECT_TRUE(bar().isVisible());
   EXPECT_EQ(Button(QStringLiteral("btncodigo_1")), nullptr);
-  shell.SelectFormLine(0);
+  shell.Forms().SelectLine(0);
   Settle();
   EXPECT_NE(Button(QStringLiteral("btncodigo_1")), nullptr);
 }
 
 TEST_F(EventsBarWindowTest, WithoutAFormThereIsNoBar) {
   ports.Messages.Answers = {true};
-  shell.Run(Command::Remove);
+  shell.Commands().Run(Command::Remove);
   Settle();
   EXPECT_EQ(shell.Tables().CurrentForm, nullptr);
   EXPECT_FALSE(bar().isVisible());

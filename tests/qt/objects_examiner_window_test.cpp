@@ -133,7 +133,7 @@ TEST_F(ObjectsExaminerOnScreen, MenuAndToolbarOpenIt) {
   EXPECT_TRUE(window_->isVisible());
   window_->close();
   program.Window().activateWindow();
-  program.Shell().Run(Command::Examiner);
+  program.Shell().Commands().Run(Command::Examiner);
   EXPECT_TRUE(window_->isVisible());
   EXPECT_EQ(program.Window().findChildren<ObjectsExaminerWindow*>().size(), 1);
 }

@@ -116,17 +116,15 @@ Program::Program(FileDialogs dialogs) {
   DialogPort& chosen = dialogs == FileDialogs::Real ? static_cast<DialogPort&>(real_dialogs_)
                                                     : static_cast<DialogPort&>(Dialogs);
   const Ports ports{files_, profiles_, processes_, messages_, chosen, screen_};
-  window_ = std::make_unique<MainWindow>(files_);
-  view_ = std::make_unique<MainView>(*window_);
-  side_windows_ = std::make_unique<SideWindowsView>(*window_);
-  shell_ = std::make_unique<MDIForm1>(ports, *view_, *side_windows_, *view_, Home.Path());
-  view_->Attach(*shell_);
-  side_windows_->Attach(*shell_, *view_);
+  shell_ = std::make_unique<MDIForm1>(ports, Home.Path());
+  window_ = std::make_unique<MainWindow>(*shell_, files_);
+  view_ = std::make_unique<MainView>(*window_, *shell_);
   window_->show();
-  shell_->Load();
+  view_->Load();
   EXPECT_TRUE(QTest::qWaitFor(
       [this] {
-        return shell_->Tables().CurrentForm != nullptr && shell_->State(Command::New).Enabled;
+        return shell_->Tables().CurrentForm != nullptr &&
+               shell_->Commands().State(Command::New).Enabled;
       },
       kPatience));
   window_->activateWindow();
@@ -140,10 +138,9 @@ Program::~Program() {
   Tables().AccionProject = "save";
   window_->close();
   Settle();
-  shell_.reset();
-  side_windows_.reset();
   view_.reset();
   window_.reset();
+  shell_.reset();
 }
 
 DesignForm& Program::Form() {

@@ -25,8 +25,9 @@
 #include "platform/profile_files.h"
 #include "qt/frame/main_view.h"
 #include "qt/frame/main_window.h"
-#include "qt/frame/side_windows_view.h"
 #include "qt/kit/qt_ports.h"
+#include "shell/command_center.h"
+#include "shell/form_commands.h"
 #include "shell/mdi_form.h"
 
 class QAction;
@@ -171,10 +172,9 @@ class Program {
   QtMessages messages_;
   QtDialogs real_dialogs_;
   QtScreen screen_;
+  std::unique_ptr<MDIForm1> shell_;
   std::unique_ptr<MainWindow> window_;
   std::unique_ptr<MainView> view_;
-  std::unique_ptr<SideWindowsView> side_windows_;
-  std::unique_ptr<MDIForm1> shell_;
 };
 
 /// Place of a twips value in pixels.

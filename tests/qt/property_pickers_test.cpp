@@ -217,7 +217,7 @@ TEST_F(PropertyPickers, WhatThePanelEditsIsThereAfterSavingAndOpening) {
   program.User.Do([&](QDialog& dialog) { Choose(dialog, program.Projects.Native("a.tnp")); });
   program.User.Do([&](QDialog& dialog) { Choose(dialog, program.Projects.Native("a.ftn")); });
   program.Key(Qt::Key_S, Qt::ControlModifier);
-  program.Shell().Run(Command::New);
+  program.Shell().Commands().Run(Command::New);
   program.User.Do([&](QDialog& dialog) { Choose(dialog, program.Projects.Native("a.tnp")); });
   program.Key(Qt::Key_O, Qt::ControlModifier);
   program.Click(program.Surface(), {87, 30});

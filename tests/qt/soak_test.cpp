@@ -336,7 +336,7 @@ class RandomUser {
   void Check() {
     SCOPED_TRACE("after action " + std::to_string(last_) + ", " + note_);
     ASSERT_TRUE(program_.Window().isVisible());
-    ASSERT_TRUE(program_.Shell().State(Command::New).Enabled);
+    ASSERT_TRUE(program_.Shell().Commands().State(Command::New).Enabled);
     int live = 0;
     for (int form = 1; form <= program_.Tables().FormsCount; ++form) {
       const bool is_live = program_.Tables().IsLive(form);

@@ -18,7 +18,7 @@ TEST_F(CloseTest, RightAfterTheStartItAsks) {
 }
 
 TEST_F(CloseTest, RightAfterNewItAsksNothing) {
-  main.Run(Command::New);
+  main.Commands().Run(Command::New);
   log().Clear();
   EXPECT_TRUE(main.Close());
   EXPECT_EQ(log().Count("ask"), 0U);
@@ -41,7 +41,7 @@ TEST_F(CloseTest, YesOnTheDefaultProjectSavesWithItsDialog) {
 TEST_F(CloseTest, YesOnANamedProjectWritesItDirectly) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
   ports.Dialogs.OpenAnswers = {"Z:\\p\\a.tnp"};
-  main.Run(Command::Open);
+  main.Commands().Run(Command::Open);
   log().Clear();
   ports.Messages.Answers = {true};
   EXPECT_TRUE(main.Close());
@@ -54,15 +54,15 @@ TEST_F(CloseTest, ACancelledSaveDialogAfterYesKeepsTheProgramOpen) {
   ports.Messages.Answers = {true};
   EXPECT_FALSE(main.Close());
   EXPECT_EQ(log().Count("view unload"), 0U);
-  EXPECT_TRUE(main.State(Command::Save).Enabled);
+  EXPECT_TRUE(main.Commands().State(Command::Save).Enabled);
   EXPECT_EQ(tables().FormsCount, 1);
 }
 
 TEST_F(CloseTest, ACancelledFormDialogAfterYesKeepsItOpenToo) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
   ports.Dialogs.OpenAnswers = {"Z:\\p\\a.tnp"};
-  main.Run(Command::Open);
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::Open);
+  main.Commands().Run(Command::AddNewForm);
   ports.Messages.Answers = {true};
   EXPECT_FALSE(main.Close());
   EXPECT_EQ(log().Count("view unload"), 0U);
@@ -74,13 +74,13 @@ TEST_F(CloseTest, NoClosesWithoutSaving) {
 }
 
 TEST_F(CloseTest, ExitTakesTheSamePath) {
-  main.Run(Command::Exit);
+  main.Commands().Run(Command::Exit);
   EXPECT_TRUE(closed);
   ExpectOrder({"view close", kQuestion, "view unload 0", "view unload container"});
 }
 
 TEST_F(CloseTest, TheWindowsAreUnloadedInTheirOrder) {
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   log().Clear();
   EXPECT_TRUE(main.Close());
   const auto entry = [](SideWindow window) {
@@ -101,13 +101,13 @@ TEST_F(CloseTest, ASecondRequestAsksNothingMore) {
   log().Clear();
   EXPECT_TRUE(main.Close());
   EXPECT_TRUE(log().Entries().empty());
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   EXPECT_TRUE(log().Entries().empty());
 }
 
 TEST_F(CloseTest, ARequestInTheMidstOfACommandWaits) {
   view.OnFormMain = [this] { EXPECT_FALSE(main.Close()); };
-  main.Run(Command::SelectMainForm);
+  main.Commands().Run(Command::SelectMainForm);
   EXPECT_EQ(log().Count("ask"), 0U);
   EXPECT_TRUE(main.Close());
 }
@@ -117,8 +117,9 @@ TEST(CloseBeforeStart, ARequestDuringTheStartWaits) {
   FakeShellView view(ports.Log);
   FakeSideWindows windows(ports.Log);
   FakeObserver observer(ports.Log);
-  MDIForm1 main(ports.All(), view, windows, observer, std::string(kProgram));
-  main.Load();
+  MDIForm1 main(ports.All(), std::string(kProgram));
+  main.AddObserver(observer);
+  main.Load({view, windows, windows, windows});
   EXPECT_FALSE(main.Close());
   main.Time_Timer();
   EXPECT_TRUE(main.Close());

@@ -10,7 +10,7 @@ class CompileCommandTest : public ShellTest {
 
 TEST_F(CompileCommandTest, SavesGeneratesAndStartsTheCompiler) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
-  main.Run(Command::Compile);
+  main.Commands().Run(Command::Compile);
   ExpectOrder({"view arrow", "replace Z:\\p\\one.ftn", "replace Z:\\p\\a.tnp",
                "view container hidden", "view container moved 1768", "view container shown",
                "view form hidden 1", "replace Z:\\p\\a.com", "view container hidden",
@@ -22,7 +22,7 @@ TEST_F(CompileCommandTest, SavesGeneratesAndStartsTheCompiler) {
 
 TEST_F(CompileCommandTest, TheDefaultProjectShowsTheSaveDialogAndTakesItsNewNames) {
   ports.Dialogs.SaveAnswers = {"Z:\\p\\b.tnp", "Z:\\p\\one.ftn"};
-  main.Run(Command::Compile);
+  main.Commands().Run(Command::Compile);
   EXPECT_TRUE(ports.Files.Exists("Z:\\p\\b.com"));
   EXPECT_FALSE(ports.Files.Exists("Z:\\opt\\tarnwick\\UnTitle.com"));
   EXPECT_EQ(view.Status, "Source text: Z:\\p\\b.com");
@@ -30,7 +30,7 @@ TEST_F(CompileCommandTest, TheDefaultProjectShowsTheSaveDialogAndTakesItsNewName
 
 TEST_F(CompileCommandTest, AQuietTextTellsWhereTheSourceLies) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
-  main.Run(Command::Compile);
+  main.Commands().Run(Command::Compile);
   EXPECT_EQ(view.Status, "Source text: Z:\\p\\a.com");
   EXPECT_EQ(log().Count("show"), 0U);
 }
@@ -43,10 +43,10 @@ TEST_F(CompileCommandTest, F5OnADesignFormRunsTheSameCommand) {
 
 TEST_F(CompileCommandTest, WithoutAFormThereIsNothingToCompile) {
   ports.Messages.Answers = {true};
-  main.Run(Command::Remove);
+  main.Commands().Run(Command::Remove);
   log().Clear();
-  EXPECT_FALSE(main.State(Command::Compile).Enabled);
-  main.Run(Command::Compile);
+  EXPECT_FALSE(main.Commands().State(Command::Compile).Enabled);
+  main.Commands().Run(Command::Compile);
   EXPECT_TRUE(log().Entries().empty());
 }
 
@@ -54,27 +54,27 @@ TEST_F(CompileCommandTest, ShownCodeIsStoredBeforeItIsGenerated) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
   windows.CodeOpen = true;
   windows.OnStoreShownCode = [this] { tables().EventTable.Replace("Form1.OnShow", "Beep"); };
-  main.Run(Command::Compile);
+  main.Commands().Run(Command::Compile);
   EXPECT_NE(ports.Files.Bytes("Z:\\p\\a.com")->find("Beep"), std::string::npos);
   EXPECT_TRUE(windows.CodeOpen);
 }
 
 TEST_F(CompileCommandTest, ARemovedMainFormGivesWayToTheFirstOfTheList) {
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\1.ftn", "Z:\\p\\2.ftn"});
-  main.SelectFormLine(0);
+  main.Forms().SelectLine(0);
   ports.Messages.Answers = {true};
-  main.Run(Command::Remove);
-  main.Run(Command::Compile);
+  main.Commands().Run(Command::Remove);
+  main.Commands().Run(Command::Compile);
   EXPECT_EQ(tables().MainFormName, "Form2 (2.ftn)");
 }
 
 TEST_F(CompileCommandTest, TheCurrentFormIsToBeSeenAgainAfterwards) {
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\1.ftn", "Z:\\p\\2.ftn"});
-  main.Run(Command::Compile);
+  main.Commands().Run(Command::Compile);
   EXPECT_TRUE(tables().User(2)->Visible);
-  main.SelectFormLine(0);
+  main.Forms().SelectLine(0);
   EXPECT_TRUE(tables().User(1)->Visible);
   EXPECT_EQ(view.FormInFront, 1);
 }
@@ -82,9 +82,9 @@ TEST_F(CompileCommandTest, TheCurrentFormIsToBeSeenAgainAfterwards) {
 TEST_F(CompileCommandTest, TheWinSockNumberGoesOnFromCompileToCompile) {
   Place(18, 10, 10);
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\1.ftn"});
-  main.Run(Command::Compile);
+  main.Commands().Run(Command::Compile);
   const std::string first = *ports.Files.Bytes("Z:\\p\\a.com");
-  main.Run(Command::Compile);
+  main.Commands().Run(Command::Compile);
   EXPECT_NE(*ports.Files.Bytes("Z:\\p\\a.com"), first);
 }
 

@@ -48,7 +48,7 @@ class Bench final : public ShellTest {
   /// Starts, places a button and looks whether anybody was told anything.
   Held StartUp() {
     log().Clear();
-    main.Load();
+    main.Load(views);
     main.Time_Timer();
     EXPECT_NE(tables().CurrentForm, nullptr);
     EXPECT_EQ(log().Count("show"), 0U) << Text();

@@ -13,16 +13,16 @@ class EditCommandsTest : public ShellTest {
 
 TEST_F(EditCommandsTest, CutDeletesAndCopiesNothing) {
   Place(0, 10, 10);
-  main.Run(Command::Cut);
+  main.Commands().Run(Command::Cut);
   EXPECT_FALSE(form().HasObjects(Kind::Button));
   EXPECT_EQ(form().NameObjet, "Form");
-  main.Run(Command::Paste);
+  main.Commands().Run(Command::Paste);
   EXPECT_FALSE(form().HasObjects(Kind::Button));
 }
 
 TEST_F(EditCommandsTest, DeleteTakesTheObjectAtOnce) {
   Place(3, 10, 10);
-  main.Run(Command::Delete);
+  main.Commands().Run(Command::Delete);
   EXPECT_FALSE(form().HasObjects(Kind::Label));
   EXPECT_EQ(log().Count("ask"), 0U);
   EXPECT_EQ(main.Sheet().Combo().Rows().size(), 1U);
@@ -30,48 +30,48 @@ TEST_F(EditCommandsTest, DeleteTakesTheObjectAtOnce) {
 
 TEST_F(EditCommandsTest, CopyAndPasteMakeASecondObject) {
   Place(0, 10, 10);
-  main.Run(Command::Copy);
-  main.Run(Command::Paste);
+  main.Commands().Run(Command::Copy);
+  main.Commands().Run(Command::Paste);
   EXPECT_EQ(form().UBound(Kind::Button), 2);
   EXPECT_EQ(form().NameObjet, "Button2");
 }
 
 TEST_F(EditCommandsTest, PasteReadsTheSourceAsItIsThen) {
   Place(0, 10, 10);
-  main.Run(Command::Copy);
+  main.Commands().Run(Command::Copy);
   form().Element(Kind::Button, 1)->Caption = "changed";
-  main.Run(Command::Paste);
+  main.Commands().Run(Command::Paste);
   EXPECT_EQ(form().Element(Kind::Button, 2)->Caption, "changed");
 }
 
 TEST_F(EditCommandsTest, DeleteWithTheFormSelectedLosesNothing) {
   Place(0, 10, 10);
-  main.PressTool(kArrowTool);
-  main.Run(Command::Delete);
+  main.Commands().PressTool(kArrowTool);
+  main.Commands().Run(Command::Delete);
   EXPECT_TRUE(form().HasObjects(Kind::Button));
 }
 
 TEST_F(EditCommandsTest, OnABlockedFormCutCopyAndPasteTellSo) {
   Place(0, 10, 10);
-  main.Run(Command::Lock);
-  main.Run(Command::Cut);
-  main.Run(Command::Copy);
-  main.Run(Command::Paste);
+  main.Commands().Run(Command::Lock);
+  main.Commands().Run(Command::Cut);
+  main.Commands().Run(Command::Copy);
+  main.Commands().Run(Command::Paste);
   EXPECT_EQ(log().Count(kUnblock), 3U);
   EXPECT_EQ(form().UBound(Kind::Button), 1);
 }
 
 TEST_F(EditCommandsTest, LockTogglesAndMarksItsEntries) {
-  EXPECT_FALSE(main.State(Command::Lock).Checked);
-  main.Run(Command::Lock);
-  EXPECT_TRUE(main.State(Command::Lock).Checked);
+  EXPECT_FALSE(main.Commands().State(Command::Lock).Checked);
+  main.Commands().Run(Command::Lock);
+  EXPECT_TRUE(main.Commands().State(Command::Lock).Checked);
   EXPECT_FALSE(form().m_bDesignMode);
-  main.Run(Command::Lock);
-  EXPECT_FALSE(main.State(Command::Lock).Checked);
+  main.Commands().Run(Command::Lock);
+  EXPECT_FALSE(main.Commands().State(Command::Lock).Checked);
 }
 
 TEST_F(EditCommandsTest, ABlockedFormPlacesNothing) {
-  main.Run(Command::Lock);
+  main.Commands().Run(Command::Lock);
   form().Objeto = "Button";
   surface().Form_MouseDown(kLeftButton, 0, Twips(10), Twips(10));
   EXPECT_FALSE(form().HasObjects(Kind::Button));
@@ -79,7 +79,7 @@ TEST_F(EditCommandsTest, ABlockedFormPlacesNothing) {
 
 TEST_F(EditCommandsTest, AlignToGridRoundsTheHalfDown) {
   Place(0, 15, 16);
-  main.Run(Command::AlignToGrid);
+  main.Commands().Run(Command::AlignToGrid);
   EXPECT_FLOAT_EQ(form().Element(Kind::Button, 1)->Left, Twips(10));
   EXPECT_FLOAT_EQ(form().Element(Kind::Button, 1)->Top, Twips(20));
 }
@@ -94,28 +94,28 @@ TEST_F(EditCommandsTest, FrontAndBackChangeTheDrawingOrder) {
     return std::find(order.begin(), order.end(), control) - order.begin();
   };
   surface().SelectObject(first);
-  main.Run(Command::BringToFront);
+  main.Commands().Run(Command::BringToFront);
   EXPECT_GT(place_of(first), place_of(second));
-  main.Run(Command::StayBack);
+  main.Commands().Run(Command::StayBack);
   EXPECT_LT(place_of(first), place_of(second));
 }
 
 TEST_F(EditCommandsTest, OrderCommandsNeedAnObject) {
-  EXPECT_FALSE(main.State(Command::BringToFront).Enabled);
-  EXPECT_FALSE(main.State(Command::StayBack).Enabled);
+  EXPECT_FALSE(main.Commands().State(Command::BringToFront).Enabled);
+  EXPECT_FALSE(main.Commands().State(Command::StayBack).Enabled);
   Place(0, 10, 10);
-  EXPECT_TRUE(main.State(Command::BringToFront).Enabled);
-  EXPECT_TRUE(main.State(Command::StayBack).Enabled);
+  EXPECT_TRUE(main.Commands().State(Command::BringToFront).Enabled);
+  EXPECT_TRUE(main.Commands().State(Command::StayBack).Enabled);
 }
 
 TEST_F(EditCommandsTest, CopyAndPasteAreOffWhileATransparentFrameIsSelected) {
   Place(kTransparentFrameTool, 10, 10);
-  EXPECT_FALSE(main.State(Command::Copy).Enabled);
-  EXPECT_FALSE(main.State(Command::Paste).Enabled);
-  EXPECT_TRUE(main.State(Command::Cut).Enabled);
-  main.PressTool(kArrowTool);
-  EXPECT_TRUE(main.State(Command::Copy).Enabled);
-  EXPECT_TRUE(main.State(Command::Paste).Enabled);
+  EXPECT_FALSE(main.Commands().State(Command::Copy).Enabled);
+  EXPECT_FALSE(main.Commands().State(Command::Paste).Enabled);
+  EXPECT_TRUE(main.Commands().State(Command::Cut).Enabled);
+  main.Commands().PressTool(kArrowTool);
+  EXPECT_TRUE(main.Commands().State(Command::Copy).Enabled);
+  EXPECT_TRUE(main.Commands().State(Command::Paste).Enabled);
 }
 
 TEST_F(EditCommandsTest, CodeIsOffForKindsWithoutEvents) {
@@ -130,31 +130,31 @@ TEST_F(EditCommandsTest, CodeIsOffForKindsWithoutEvents) {
   int x = 0;
   for (const Case& c : kCases) {
     Place(c.Tool, x += 20, 300);
-    EXPECT_EQ(main.State(Command::Code).Enabled, c.HasCode) << form().NameObjet;
+    EXPECT_EQ(main.Commands().State(Command::Code).Enabled, c.HasCode) << form().NameObjet;
     // The pop-up of the surface and the commands it runs say the same.
     const ObjectPopUp entries = surface().PopUpEntries();
-    EXPECT_EQ(main.State(Command::Code).Enabled, entries.Code);
-    EXPECT_EQ(main.State(Command::Copy).Enabled, entries.Copy);
-    EXPECT_EQ(main.State(Command::Paste).Enabled, entries.Paste);
-    EXPECT_EQ(main.State(Command::BringToFront).Enabled, entries.Front);
-    EXPECT_EQ(main.State(Command::Lock).Checked, entries.Locked);
-    EXPECT_EQ(main.State(Command::Properties).Checked, entries.PropertiesChecked);
-    main.Run(Command::Delete);
+    EXPECT_EQ(main.Commands().State(Command::Code).Enabled, entries.Code);
+    EXPECT_EQ(main.Commands().State(Command::Copy).Enabled, entries.Copy);
+    EXPECT_EQ(main.Commands().State(Command::Paste).Enabled, entries.Paste);
+    EXPECT_EQ(main.Commands().State(Command::BringToFront).Enabled, entries.Front);
+    EXPECT_EQ(main.Commands().State(Command::Lock).Checked, entries.Locked);
+    EXPECT_EQ(main.Commands().State(Command::Properties).Checked, entries.PropertiesChecked);
+    main.Commands().Run(Command::Delete);
   }
 }
 
 TEST_F(EditCommandsTest, CodeOpensTheEditor) {
-  main.Run(Command::Code);
+  main.Commands().Run(Command::Code);
   EXPECT_TRUE(windows.CodeOpen);
 }
 
 TEST_F(EditCommandsTest, WhileTheEditorIsOpenItsObjectCannotGo) {
   Place(0, 10, 10);
-  main.Run(Command::Copy);
-  main.Run(Command::Code);
-  main.Run(Command::Cut);
-  main.Run(Command::Delete);
-  main.Run(Command::Paste);
+  main.Commands().Run(Command::Copy);
+  main.Commands().Run(Command::Code);
+  main.Commands().Run(Command::Cut);
+  main.Commands().Run(Command::Delete);
+  main.Commands().Run(Command::Paste);
   EXPECT_EQ(form().UBound(Kind::Button), 1);
   EXPECT_EQ(form().NameObjet, "Button1");
   EXPECT_EQ(log().Count("windows code to front"), 3U);
@@ -169,7 +169,7 @@ TEST_F(EditCommandsTest, TheRightButtonOpensThePopUp) {
 
 TEST_F(EditCommandsTest, ACommandChosenInThePopUpRuns) {
   Place(0, 10, 10);
-  view.OnObjectPopUp = [this] { main.Run(Command::Delete); };
+  view.OnObjectPopUp = [this] { main.Commands().Run(Command::Delete); };
   surface().ObjectMouseDown(form().Element(Kind::Button, 1), kRightButton, 0, 5, 5);
   EXPECT_FALSE(form().HasObjects(Kind::Button));
 }
@@ -183,19 +183,19 @@ TEST_F(EditCommandsTest, DoubleClickOpensTheCode) {
 class OtherCommandsTest : public EditCommandsTest {};
 
 TEST_F(OtherCommandsTest, HelpOpensTheHelpFileOfTheProgramFolder) {
-  main.Run(Command::Help);
+  main.Commands().Run(Command::Help);
   EXPECT_EQ(log().Entries(), std::vector<std::string>{"open Z:\\opt\\tarnwick\\Tarnwick.chm"});
 }
 
 TEST_F(OtherCommandsTest, AboutNamesTheProgramFolder) {
-  main.Run(Command::About);
+  main.Commands().Run(Command::About);
   EXPECT_EQ(log().Entries(), std::vector<std::string>{"view about Z:\\opt\\tarnwick"});
 }
 
 TEST_F(OtherCommandsTest, WindowsOfOtherRoomsOpen) {
-  main.Run(Command::PublicDeclarations);
-  main.Run(Command::Examiner);
-  main.Run(Command::MenuEdit);
+  main.Commands().Run(Command::PublicDeclarations);
+  main.Commands().Run(Command::Examiner);
+  main.Commands().Run(Command::MenuEdit);
   EXPECT_EQ(log().Entries(), (std::vector<std::string>{"windows declarations", "windows examiner",
                                                        "windows menu edit"}));
 }
@@ -206,37 +206,37 @@ TEST_F(OtherCommandsTest, EachPanelIsShownAndHiddenByItsEntry) {
                                            {Command::EventsBar, Panel::EventsBar},
                                            {Command::ObjectBar, Panel::ObjectBar}};
   for (const auto& [command, panel] : panels) {
-    const bool before = main.PanelShown(panel);
-    main.Run(command);
+    const bool before = main.Commands().PanelShown(panel);
+    main.Commands().Run(command);
     EXPECT_EQ(view.PanelShown[panel], !before);
-    EXPECT_EQ(main.State(command).Checked, !before);
-    main.Run(command);
-    EXPECT_EQ(main.State(command).Checked, before);
+    EXPECT_EQ(main.Commands().State(command).Checked, !before);
+    main.Commands().Run(command);
+    EXPECT_EQ(main.Commands().State(command).Checked, before);
   }
 }
 
 TEST_F(OtherCommandsTest, APanelClosedByItsOwnButtonLosesItsCheckMark) {
-  main.SetPanelShown(Panel::Properties, false);
-  EXPECT_FALSE(main.State(Command::Properties).Checked);
+  main.Commands().SetPanelShown(Panel::Properties, false);
+  EXPECT_FALSE(main.Commands().State(Command::Properties).Checked);
   EXPECT_EQ(view.PanelShown[Panel::Properties], false);
 }
 
 TEST_F(OtherCommandsTest, APropertyPanelShownAgainShowsTheSelection) {
   ports.Files.Put("Z:\\opt\\tarnwick\\Add004.tn", "");
-  main.SetPanelShown(Panel::Properties, false);
+  main.Commands().SetPanelShown(Panel::Properties, false);
   Place(0, 10, 10);
   EXPECT_NE(main.Sheet().SelName(), "Form1Btn1");
-  main.SetPanelShown(Panel::Properties, true);
+  main.Commands().SetPanelShown(Panel::Properties, true);
   EXPECT_EQ(main.Sheet().SelName(), "Form1Btn1");
   EXPECT_EQ(main.Sheet().SelKind(), "Button");
 }
 
 TEST_F(OtherCommandsTest, ACommandThatIsOffDoesNothing) {
   ports.Messages.Answers = {true};
-  main.Run(Command::Remove);
+  main.Commands().Run(Command::Remove);
   log().Clear();
-  main.Run(Command::Compile);
-  main.Run(Command::Code);
+  main.Commands().Run(Command::Compile);
+  main.Commands().Run(Command::Code);
   EXPECT_TRUE(log().Entries().empty());
 }
 

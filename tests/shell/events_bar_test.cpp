@@ -25,7 +25,7 @@ class EventsBarTest : public ShellTest {
     ports.Files.Put("Z:\\p\\one.ftn", form_text);
     ports.Files.Put("Z:\\p\\one.tnp", "one.ftn\r\n");
     ports.Dialogs.OpenAnswers = {"Z:\\p\\one.tnp"};
-    main.Run(Command::Open);
+    main.Commands().Run(Command::Open);
     ASSERT_EQ(tables().FormsCount, 1);
     log().Clear();
   }
@@ -315,14 +315,14 @@ TEST_F(EventsBarTest, ADeletedObjectTakesItsButtonAlong) {
   Place(kButtonTool, 20, 20);
   Store("Button1", Event::OnClick, "a");
   Store("Form", Event::OnShow, "a");
-  main.Run(Command::Delete);
+  main.Commands().Run(Command::Delete);
   EXPECT_EQ(Tags(), Texts{"Form"});
   Place(kButtonTool, 20, 20);
   EXPECT_EQ(Tags(), Texts{"Form"});
 }
 
 TEST_F(EventsBarTest, EachFormHasABarOfItsOwn) {
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   Store("Form", Event::OnShow, "a");
   EXPECT_EQ(Tags(1), Texts{"Form"});
   EXPECT_TRUE(Tags(2).empty());
@@ -337,8 +337,8 @@ TEST_F(EventsBarTest, TheBarOfAFormThatIsNotThereTakesNothing) {
 
 TEST_F(EventsBarTest, ItIsShownFromTheFirstStartAndHiddenByItsEntry) {
   EXPECT_TRUE(view.PanelShown[Panel::EventsBar]);
-  EXPECT_TRUE(main.State(Command::EventsBar).Checked);
-  main.Run(Command::EventsBar);
+  EXPECT_TRUE(main.Commands().State(Command::EventsBar).Checked);
+  main.Commands().Run(Command::EventsBar);
   EXPECT_FALSE(view.PanelShown[Panel::EventsBar]);
 }
 

@@ -8,23 +8,23 @@ class FormCommandsTest : public ShellTest {
   void SetUp() override { Start(); }
 
   void AddForms(int count) {
-    for (int i = 0; i < count; ++i) main.Run(Command::AddNewForm);
+    for (int i = 0; i < count; ++i) main.Commands().Run(Command::AddNewForm);
     log().Clear();
   }
   void RemoveCurrent() {
     ports.Messages.Answers = {true};
-    main.Run(Command::Remove);
+    main.Commands().Run(Command::Remove);
   }
 };
 
 TEST_F(FormCommandsTest, TheFirstFormOfAnEmptyProjectIsMainFormAtOnce) {
   EXPECT_EQ(Lines(), std::vector<std::string>{"Form1 ()"});
   EXPECT_EQ(tables().MainFormName, "Form1 ()");
-  EXPECT_EQ(main.FormMarks().MainForm, 1);
+  EXPECT_EQ(main.Forms().Marks().MainForm, 1);
 }
 
 TEST_F(FormCommandsTest, AFurtherFormComesUpAndIsCurrent) {
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   EXPECT_EQ(Lines(), (std::vector<std::string>{"Form1 ()", "Form2 ()"}));
   EXPECT_EQ(tables().CurrentForm, tables().User(2));
   EXPECT_EQ(view.FormInFront, 2);
@@ -34,7 +34,7 @@ TEST_F(FormCommandsTest, AFurtherFormComesUpAndIsCurrent) {
 }
 
 TEST_F(FormCommandsTest, ANewFormHasTheDefaultsOfForms) {
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   const FormRec& record = *tables().Form(2);
   EXPECT_EQ(record.Name, "Form2");
   EXPECT_EQ(record.FileName, "");
@@ -54,14 +54,14 @@ TEST_F(FormCommandsTest, ANewFormHasTheDefaultsOfForms) {
 
 TEST_F(FormCommandsTest, RemoveAsksWithTheFormsNameAndTheCriticalIcon) {
   tables().Form(1)->Name = "Start";
-  main.Run(Command::Remove);
+  main.Commands().Run(Command::Remove);
   EXPECT_EQ(log().Count("ask Delete Start?"), 1U);
   EXPECT_EQ(ports.Messages.LastTitle, "Tarnwick");
   EXPECT_EQ(ports.Messages.LastIcon, MessageIcon::Critical);
 }
 
 TEST_F(FormCommandsTest, NoKeepsTheForm) {
-  main.Run(Command::Remove);
+  main.Commands().Run(Command::Remove);
   EXPECT_EQ(tables().Form(1)->Removed, 0);
   EXPECT_EQ(Lines().size(), 1U);
   EXPECT_EQ(log().Count("told closing"), 0U);
@@ -79,26 +79,26 @@ TEST_F(FormCommandsTest, YesTakesFormBarAndLineAway) {
 
 TEST_F(FormCommandsTest, AfterRemovingForm2OfThreeTheNextFormIsForm4) {
   AddForms(2);
-  main.SelectFormLine(1);
+  main.Forms().SelectLine(1);
   RemoveCurrent();
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   EXPECT_EQ(tables().FormsCount, 4);
   EXPECT_EQ(Lines(), (std::vector<std::string>{"Form1 ()", "Form3 ()", "Form4 ()"}));
 }
 
 TEST_F(FormCommandsTest, TheMainFormIsNotProtected) {
   AddForms(1);
-  main.SelectFormLine(0);
+  main.Forms().SelectLine(0);
   RemoveCurrent();
   EXPECT_EQ(tables().Form(1)->Removed, 1);
   EXPECT_EQ(tables().MainFormName, "Form1 ()");
-  EXPECT_EQ(main.FormMarks().MainForm, 0);
-  EXPECT_EQ(main.FormMarks().MainName, "Form1");
+  EXPECT_EQ(main.Forms().Marks().MainForm, 0);
+  EXPECT_EQ(main.Forms().Marks().MainName, "Form1");
 }
 
 TEST_F(FormCommandsTest, AfterRemoveTheLineAtTheSamePlaceIsSelected) {
   AddForms(2);
-  main.SelectFormLine(1);
+  main.Forms().SelectLine(1);
   RemoveCurrent();
   EXPECT_EQ(view.SelectedLine, 1);
   EXPECT_EQ(tables().CurrentForm, tables().User(3));
@@ -122,23 +122,23 @@ TEST_F(FormCommandsTest, WithNoFormLeftFormCommandsAreOff) {
         Command::Copy, Command::Paste, Command::Delete, Command::AlignToGrid, Command::Lock,
         Command::Code, Command::PublicDeclarations, Command::SelectMainForm, Command::MenuEdit,
         Command::EventsBar, Command::BringToFront, Command::StayBack}) {
-    EXPECT_FALSE(main.State(command).Enabled) << MenuRowOf(command)->Name;
+    EXPECT_FALSE(main.Commands().State(command).Enabled) << MenuRowOf(command)->Name;
   }
-  EXPECT_TRUE(main.State(Command::AddNewForm).Enabled);
-  EXPECT_TRUE(main.State(Command::New).Enabled);
+  EXPECT_TRUE(main.Commands().State(Command::AddNewForm).Enabled);
+  EXPECT_TRUE(main.Commands().State(Command::New).Enabled);
 }
 
 TEST_F(FormCommandsTest, AddNewFormAddsToAProjectWithoutForms) {
   RemoveCurrent();
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   EXPECT_EQ(Lines(), std::vector<std::string>{"Form2 ()"});
   EXPECT_EQ(tables().CurrentForm, tables().User(2));
-  EXPECT_TRUE(main.State(Command::Compile).Enabled);
+  EXPECT_TRUE(main.Commands().State(Command::Compile).Enabled);
 }
 
 TEST_F(FormCommandsTest, ALineOfTheListBringsItsFormUpWithItsEventsBar) {
   AddForms(2);
-  main.SelectFormLine(1);
+  main.Forms().SelectLine(1);
   EXPECT_EQ(tables().CurrentForm, tables().User(2));
   EXPECT_EQ(view.FormInFront, 2);
   EXPECT_TRUE(view.PanelShown[Panel::EventsBar]);
@@ -147,40 +147,40 @@ TEST_F(FormCommandsTest, ALineOfTheListBringsItsFormUpWithItsEventsBar) {
 
 TEST_F(FormCommandsTest, LinesKeepTheirFormsAfterARemoval) {
   AddForms(2);
-  main.SelectFormLine(0);
+  main.Forms().SelectLine(0);
   RemoveCurrent();
-  main.SelectFormLine(1);
+  main.Forms().SelectLine(1);
   EXPECT_EQ(tables().CurrentForm, tables().User(3));
 }
 
 TEST_F(FormCommandsTest, APlaceWithoutALineSelectsNothing) {
-  main.SelectFormLine(7);
-  main.SelectFormLine(-1);
+  main.Forms().SelectLine(7);
+  main.Forms().SelectLine(-1);
   EXPECT_EQ(tables().CurrentForm, tables().User(1));
   EXPECT_TRUE(log().Entries().empty());
 }
 
 TEST_F(FormCommandsTest, ADesignWindowThatComesToTheFrontIsCurrent) {
   AddForms(1);
-  main.FormActivated(1);
+  main.Forms().Activated(1);
   EXPECT_EQ(tables().CurrentForm, tables().User(1));
   EXPECT_EQ(view.SelectedLine, 0);
   log().Clear();
-  main.FormActivated(1);
-  main.FormActivated(9);
+  main.Forms().Activated(1);
+  main.Forms().Activated(9);
   EXPECT_TRUE(log().Entries().empty());
 }
 
 TEST_F(FormCommandsTest, WhileTheCodeEditorIsOpenNothingElseIsChosen) {
   AddForms(1);
   windows.CodeOpen = true;
-  main.SelectFormLine(0);
+  main.Forms().SelectLine(0);
   EXPECT_EQ(tables().CurrentForm, tables().User(2));
   EXPECT_EQ(view.SelectedLine, 1);
-  main.FormActivated(1);
-  main.Run(Command::AddNewForm);
-  main.Run(Command::Remove);
-  main.PressTool(0);
+  main.Forms().Activated(1);
+  main.Commands().Run(Command::AddNewForm);
+  main.Commands().Run(Command::Remove);
+  main.Commands().PressTool(0);
   EXPECT_EQ(tables().CurrentForm, tables().User(2));
   EXPECT_EQ(tables().FormsCount, 2);
   EXPECT_EQ(tables().CurrentForm->Objeto, "");
@@ -188,16 +188,16 @@ TEST_F(FormCommandsTest, WhileTheCodeEditorIsOpenNothingElseIsChosen) {
 }
 
 TEST_F(FormCommandsTest, TheRemoveEntryNamesTheCurrentForm) {
-  EXPECT_EQ(main.Caption(Command::Remove), "Remove Form1 from project");
+  EXPECT_EQ(main.Commands().Caption(Command::Remove), "Remove Form1 from project");
   tables().Form(1)->Name = "Start";
-  EXPECT_EQ(main.Caption(Command::Remove), "Remove Start from project");
+  EXPECT_EQ(main.Commands().Caption(Command::Remove), "Remove Start from project");
   AddForms(1);
-  EXPECT_EQ(main.Caption(Command::Remove), "Remove Form2 from project");
+  EXPECT_EQ(main.Commands().Caption(Command::Remove), "Remove Form2 from project");
 }
 
 TEST_F(FormCommandsTest, TwoFormsHoldObjectsOfOneNameUnderKeysOfTheirOwn) {
   Place(0, 10, 10);
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   Place(0, 10, 10);
   EXPECT_EQ(tables().User(1)->Element(Kind::Button, 1)->Tag, "Form1Btn1");
   EXPECT_EQ(tables().User(2)->Element(Kind::Button, 1)->Tag, "Form2Btn1");
@@ -208,11 +208,11 @@ TEST_F(FormCommandsTest, TwoFormsHoldObjectsOfOneNameUnderKeysOfTheirOwn) {
 TEST_F(FormCommandsTest, ASavedProjectIsRenumberedWhenItIsReadAgain) {
   AddForms(2);
   tables().EventTable.Replace("Form3.OnShow", "Beep");
-  main.SelectFormLine(1);
+  main.Forms().SelectLine(1);
   RemoveCurrent();
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\1.ftn", "Z:\\p\\3.ftn"});
   ports.Dialogs.OpenAnswers = {"Z:\\p\\a.tnp"};
-  main.Run(Command::Open);
+  main.Commands().Run(Command::Open);
   EXPECT_EQ(tables().FormsCount, 2);
   EXPECT_EQ(*tables().EventTable.Find("Form2.OnShow"), "Beep");
   EXPECT_EQ(tables().EventTable.Find("Form3.OnShow"), nullptr);
@@ -229,11 +229,11 @@ TEST_F(SelectMainFormTest, TheDialogTakesTheChosenLine) {
     EXPECT_EQ(dialog.Text1(), "Form1 ()");
     dialog.List1_Click(1);
     EXPECT_EQ(dialog.Text1(), "Form2 ()");
-    main.TakeMainForm(dialog);
+    main.Forms().TakeMainForm(dialog);
   };
-  main.Run(Command::SelectMainForm);
+  main.Commands().Run(Command::SelectMainForm);
   EXPECT_EQ(tables().MainFormName, "Form2 ()");
-  EXPECT_EQ(main.FormMarks().MainForm, 2);
+  EXPECT_EQ(main.Forms().Marks().MainForm, 2);
   ExpectOrder({"view FormMain", "told list"});
 }
 
@@ -243,16 +243,16 @@ TEST_F(SelectMainFormTest, CancelChangesNothing) {
     FormMain dialog(tables());
     dialog.List1_Click(1);
   };
-  main.Run(Command::SelectMainForm);
+  main.Commands().Run(Command::SelectMainForm);
   EXPECT_EQ(tables().MainFormName, "Form1 ()");
 }
 
 TEST_F(SelectMainFormTest, AnyTextIsTakenAsItStands) {
   FormMain dialog(tables());
   dialog.Text1_Change("  nobody ( ");
-  main.TakeMainForm(dialog);
+  main.Forms().TakeMainForm(dialog);
   EXPECT_EQ(tables().MainFormName, "  nobody ( ");
-  EXPECT_EQ(main.FormMarks().MainForm, 0);
+  EXPECT_EQ(main.Forms().Marks().MainForm, 0);
 }
 
 TEST_F(SelectMainFormTest, AMainFormThatIsInNoLineSelectsNone) {
@@ -269,16 +269,16 @@ TEST_F(SelectMainFormTest, TheTextGoesOutOfDateWhenTheFormIsSavedAndItsNameStill
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
   EXPECT_EQ(tables().MainFormName, "Form1 ()");
   EXPECT_EQ(Lines(), std::vector<std::string>{"Form1 (one.ftn)"});
-  EXPECT_EQ(main.FormMarks().MainForm, 1);
+  EXPECT_EQ(main.Forms().Marks().MainForm, 1);
 }
 
 TEST_F(SelectMainFormTest, AmongFormsOfOneNameTheWholeTextDecides) {
   AddForms(1);
   tables().Form(2)->Name = "Form1";
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn", "Z:\\p\\two.ftn"});
-  EXPECT_EQ(main.FormMarks().MainForm, 1);
+  EXPECT_EQ(main.Forms().Marks().MainForm, 1);
   tables().MainFormName = "Form1 (two.ftn)";
-  EXPECT_EQ(main.FormMarks().MainForm, 2);
+  EXPECT_EQ(main.Forms().Marks().MainForm, 2);
 }
 
 }  // namespace

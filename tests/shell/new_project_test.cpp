@@ -11,7 +11,7 @@ class NewProjectTest : public ShellTest {
 };
 
 TEST_F(NewProjectTest, AsksAboutSavingWithItsTitleAndIcon) {
-  main.Run(Command::New);
+  main.Commands().Run(Command::New);
   EXPECT_EQ(log().Count(kQuestion), 1U);
   EXPECT_EQ(ports.Messages.LastTitle, "Tarnwick IDE");
   EXPECT_EQ(ports.Messages.LastIcon, MessageIcon::Question);
@@ -19,7 +19,7 @@ TEST_F(NewProjectTest, AsksAboutSavingWithItsTitleAndIcon) {
 
 TEST_F(NewProjectTest, NoGoesOnWithoutSaving) {
   Place(0, 10, 10);
-  main.Run(Command::New);
+  main.Commands().Run(Command::New);
   EXPECT_EQ(log().Count("dialog save"), 0U);
   EXPECT_EQ(log().Count("replace"), 0U);
   EXPECT_EQ(tables().FormsCount, 1);
@@ -30,7 +30,7 @@ TEST_F(NewProjectTest, NoGoesOnWithoutSaving) {
 TEST_F(NewProjectTest, YesSavesFirst) {
   ports.Messages.Answers = {true};
   ports.Dialogs.SaveAnswers = {"Z:\\p\\a.tnp", "Z:\\p\\one.ftn"};
-  main.Run(Command::New);
+  main.Commands().Run(Command::New);
   ExpectOrder({kQuestion, "dialog save", "replace Z:\\p\\one.ftn", "replace Z:\\p\\a.tnp",
                "view title Tarnwick    Z:\\opt\\tarnwick\\UnTitle.tnp"});
   EXPECT_EQ(tables().ProjectFile, "Z:\\opt\\tarnwick\\UnTitle.tnp");
@@ -40,7 +40,7 @@ TEST_F(NewProjectTest, YesSavesFirst) {
 TEST_F(NewProjectTest, ACancelledSaveDialogAfterYesStopsIt) {
   Place(0, 10, 10);
   ports.Messages.Answers = {true};
-  main.Run(Command::New);
+  main.Commands().Run(Command::New);
   EXPECT_EQ(log().Count("dialog save"), 1U);
   EXPECT_TRUE(tables().CurrentForm->HasObjects(Kind::Button));
   EXPECT_EQ(tables().AccionProject, "app");
@@ -50,7 +50,7 @@ TEST_F(NewProjectTest, ACancelledSaveDialogAfterYesStopsIt) {
 TEST_F(NewProjectTest, ACancelledFormDialogAfterYesStopsItToo) {
   ports.Messages.Answers = {true};
   ports.Dialogs.SaveAnswers = {"Z:\\p\\a.tnp", std::nullopt};
-  main.Run(Command::New);
+  main.Commands().Run(Command::New);
   EXPECT_EQ(tables().AccionProject, "app");
   EXPECT_EQ(tables().ProjectFile, "Z:\\p\\a.tnp");
   EXPECT_EQ(log().Count("told closing"), 0U);
@@ -60,7 +60,7 @@ TEST_F(NewProjectTest, AFailedWriteAfterYesStopsItToo) {
   ports.Messages.Answers = {true};
   ports.Dialogs.SaveAnswers = {"Z:\\p\\a.tnp", "Z:\\p\\one.ftn"};
   ports.Files.SetReadOnly(true);
-  main.Run(Command::New);
+  main.Commands().Run(Command::New);
   EXPECT_EQ(log().Count("told closing"), 0U);
   EXPECT_EQ(log().Count("show"), 0U);
 }
@@ -68,15 +68,15 @@ TEST_F(NewProjectTest, AFailedWriteAfterYesStopsItToo) {
 TEST_F(NewProjectTest, SaveThenNewAsksNothingEvenAfterEdits) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
   Place(0, 10, 10);
-  main.Run(Command::New);
+  main.Commands().Run(Command::New);
   EXPECT_EQ(log().Count("ask"), 0U);
   EXPECT_EQ(tables().AccionProject, "new");
 }
 
 TEST_F(NewProjectTest, NewAfterNewAsksAgain) {
-  main.Run(Command::New);
+  main.Commands().Run(Command::New);
   log().Clear();
-  main.Run(Command::New);
+  main.Commands().Run(Command::New);
   EXPECT_EQ(log().Count(kQuestion), 1U);
 }
 
@@ -89,8 +89,8 @@ TEST_F(NewProjectTest, ResetsAllThatOpenResets) {
   tables().MenuItems.emplace_back();
   tables().JumpKey = "Form1.x";
   tables().MainFormName = "Other ()";
-  main.Run(Command::AddNewForm);
-  main.Run(Command::New);
+  main.Commands().Run(Command::AddNewForm);
+  main.Commands().Run(Command::New);
   EXPECT_EQ(tables().FormsCount, 1);
   EXPECT_EQ(Lines(), std::vector<std::string>{"Form1 ()"});
   EXPECT_EQ(tables().EventTable.Find("Form1.Button1.OnClick"), nullptr);
@@ -109,9 +109,9 @@ TEST_F(NewProjectTest, ResetsAllThatOpenResets) {
 
 TEST_F(NewProjectTest, TheStepsComeInTheirOrder) {
   ports.Files.Put("Z:\\opt\\tarnwick\\IniEvents.ini", "[Events]\r\n");
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   log().Clear();
-  main.Run(Command::New);
+  main.Commands().Run(Command::New);
   ExpectOrder({kQuestion, "windows close code", "view title", "remove Z:\\opt\\tarnwick\\IniEvents",
                "view container hidden", "told closing 1", "told closing 2", "told opened 1",
                "view form up 1", "view container shown"});
@@ -122,28 +122,28 @@ TEST_F(NewProjectTest, TheStepsComeInTheirOrder) {
 TEST_F(NewProjectTest, TheObjectListHoldsTheNewFormAlone) {
   Place(0, 10, 10);
   EXPECT_EQ(main.Sheet().Combo().Rows().size(), 2U);
-  main.Run(Command::New);
+  main.Commands().Run(Command::New);
   ASSERT_EQ(main.Sheet().Combo().Rows().size(), 1U);
   EXPECT_EQ(main.Sheet().Combo().Rows().front().Text, "Form1   (Form)");
 }
 
 TEST_F(NewProjectTest, TheIconDisplayGoesBackToTheDefault) {
   tables().Form(1)->IconFile = "Z:\\p\\my.ico";
-  main.Run(Command::New);
-  EXPECT_EQ(view.IconText, "(Default)");
-  EXPECT_EQ(view.IconPicture, "Z:\\opt\\tarnwick\\iconapp.ico");
+  main.Commands().Run(Command::New);
+  EXPECT_EQ(ProgramIconOf(tables()).Text, "(Default)");
+  EXPECT_EQ(ProgramIconOf(tables()).Picture, "Z:\\opt\\tarnwick\\iconapp.ico");
 }
 
 TEST_F(NewProjectTest, CommandsAreOffInBetweenAndOnAfterwards) {
   observer.OnFormClosing = [this](int) {
-    EXPECT_FALSE(main.State(Command::Save).Enabled);
-    EXPECT_FALSE(main.ToolState(0).Enabled);
-    main.Run(Command::AddNewForm);
+    EXPECT_FALSE(main.Commands().State(Command::Save).Enabled);
+    EXPECT_FALSE(main.Commands().ToolState(0).Enabled);
+    main.Commands().Run(Command::AddNewForm);
   };
-  main.Run(Command::New);
+  main.Commands().Run(Command::New);
   EXPECT_EQ(tables().FormsCount, 1);
-  EXPECT_TRUE(main.State(Command::Save).Enabled);
-  EXPECT_TRUE(main.ToolState(0).Enabled);
+  EXPECT_TRUE(main.Commands().State(Command::Save).Enabled);
+  EXPECT_TRUE(main.Commands().ToolState(0).Enabled);
 }
 
 }  // namespace

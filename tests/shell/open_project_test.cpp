@@ -11,24 +11,24 @@ class OpenProjectTest : public ShellTest {
 
   /// Lays down a saved project of two forms, the second with a button, and starts afresh.
   void SaveTwoForms() {
-    main.Run(Command::AddNewForm);
+    main.Commands().Run(Command::AddNewForm);
     Place(0, 20, 30);
     SaveUnder("Z:\\p\\two.tnp", {"Z:\\p\\one.ftn", "Z:\\p\\second.ftn"});
-    main.Run(Command::New);
+    main.Commands().Run(Command::New);
     log().Clear();
   }
 };
 
 TEST_F(OpenProjectTest, TheDialogHasItsTitleFilterAndRememberedFolder) {
   ports.Profiles.Write(std::string(kSettings), "Paths", "OpenDlg", "Z:\\old\\");
-  main.Run(Command::Open);
+  main.Commands().Run(Command::Open);
   EXPECT_EQ(ports.Dialogs.LastRequest.Title, "Open Project");
   EXPECT_EQ(ports.Dialogs.LastRequest.Filter, "Tarnwick Project (New Version)|*.tnp");
   EXPECT_EQ(ports.Dialogs.LastRequest.StartFolder, "Z:\\old\\");
 }
 
 TEST_F(OpenProjectTest, AFirstRunHasNoFolderToStartIn) {
-  main.Run(Command::Open);
+  main.Commands().Run(Command::Open);
   EXPECT_EQ(ports.Dialogs.LastRequest.StartFolder, "");
 }
 
@@ -36,21 +36,21 @@ TEST_F(OpenProjectTest, CancelledItLeavesEverythingAsItWas) {
   Place(0, 10, 10);
   const std::string title = view.Title;
   log().Clear();
-  main.Run(Command::Open);
+  main.Commands().Run(Command::Open);
   EXPECT_EQ(tables().LoadingProject, 0);
   EXPECT_EQ(tables().AccionProject, "app");
   EXPECT_EQ(view.Title, title);
   EXPECT_TRUE(tables().CurrentForm->HasObjects(Kind::Button));
   EXPECT_EQ(tables().CurrentForm->NameObjet, "Button1");
-  EXPECT_TRUE(main.State(Command::Open).Enabled);
-  EXPECT_TRUE(main.ToolState(0).Enabled);
+  EXPECT_TRUE(main.Commands().State(Command::Open).Enabled);
+  EXPECT_TRUE(main.Commands().ToolState(0).Enabled);
   EXPECT_EQ(log().Entries(),
             (std::vector<std::string>{"profile read [Paths] OpenDlg", "dialog open"}));
 }
 
 TEST_F(OpenProjectTest, AFileThatCannotBeReadLeavesEverythingAsItWas) {
   ports.Dialogs.OpenAnswers = {"Z:\\p\\none.tnp"};
-  main.Run(Command::Open);
+  main.Commands().Run(Command::Open);
   EXPECT_EQ(tables().ProjectFile, "Z:\\opt\\tarnwick\\UnTitle.tnp");
   EXPECT_EQ(tables().LoadingProject, 0);
   EXPECT_EQ(tables().AccionProject, "app");
@@ -60,14 +60,14 @@ TEST_F(OpenProjectTest, AFileThatCannotBeReadLeavesEverythingAsItWas) {
 TEST_F(OpenProjectTest, ItAsksNothingAboutSaving) {
   SaveTwoForms();
   ports.Dialogs.OpenAnswers = {"Z:\\p\\two.tnp"};
-  main.Run(Command::Open);
+  main.Commands().Run(Command::Open);
   EXPECT_EQ(log().Count("ask"), 0U);
 }
 
 TEST_F(OpenProjectTest, ReadsTheProjectAndShowsItsFirstFormWithTheEventsBar) {
   SaveTwoForms();
   ports.Dialogs.OpenAnswers = {"Z:\\p\\two.tnp"};
-  main.Run(Command::Open);
+  main.Commands().Run(Command::Open);
   EXPECT_EQ(tables().FormsCount, 2);
   EXPECT_EQ(Lines(), (std::vector<std::string>{"Form1 (one.ftn)", "Form2 (second.ftn)"}));
   EXPECT_EQ(tables().CurrentForm, tables().User(1));
@@ -77,13 +77,13 @@ TEST_F(OpenProjectTest, ReadsTheProjectAndShowsItsFirstFormWithTheEventsBar) {
   EXPECT_TRUE(tables().User(2)->HasObjects(Kind::Button));
   EXPECT_EQ(tables().AccionProject, "open");
   EXPECT_EQ(tables().LoadingProject, 0);
-  EXPECT_TRUE(main.State(Command::Open).Enabled);
+  EXPECT_TRUE(main.Commands().State(Command::Open).Enabled);
 }
 
 TEST_F(OpenProjectTest, TitlePathsAndFolderFollowTheChosenFile) {
   SaveTwoForms();
   ports.Dialogs.OpenAnswers = {"Z:\\p\\two.tnp"};
-  main.Run(Command::Open);
+  main.Commands().Run(Command::Open);
   EXPECT_EQ(view.Title, "Tarnwick    Z:\\p\\two.tnp");
   EXPECT_EQ(tables().ProjectFile, "Z:\\p\\two.tnp");
   EXPECT_EQ(tables().SourceFile, "Z:\\p\\two.com");
@@ -94,7 +94,7 @@ TEST_F(OpenProjectTest, TitlePathsAndFolderFollowTheChosenFile) {
 TEST_F(OpenProjectTest, TheStepsComeInTheirOrder) {
   SaveTwoForms();
   ports.Dialogs.OpenAnswers = {"Z:\\p\\two.tnp"};
-  main.Run(Command::Open);
+  main.Commands().Run(Command::Open);
   ExpectOrder({"dialog open", "windows close code", "view container hidden", "told closing 1",
                "view title", "profile write [Paths] OpenDlg=Z:\\p\\", "read Z:\\p\\two.tnp",
                "read Z:\\p\\one.ftn", "read Z:\\p\\second.ftn", "view container shown"});
@@ -103,7 +103,7 @@ TEST_F(OpenProjectTest, TheStepsComeInTheirOrder) {
 TEST_F(OpenProjectTest, AMissingFormFileIsNamedAndTheRestIsRead) {
   ports.Files.Put("Z:\\p\\a.tnp", "1\x95gone.ftn\r\nMF##Form1 ()\r\n");
   ports.Dialogs.OpenAnswers = {"Z:\\p\\a.tnp"};
-  main.Run(Command::Open);
+  main.Commands().Run(Command::Open);
   EXPECT_EQ(log().Count("show Error: File ' Z:\\p\\gone.ftn ' does not exist!"), 1U);
   EXPECT_EQ(tables().FormsCount, 1);
   EXPECT_EQ(tables().MainFormName, "Form1 ()");
@@ -120,9 +120,9 @@ TEST_F(OpenProjectTest, TheIconDisplayShowsTheIconOfFormOne) {
   ports.Files.Put("Z:\\q\\i.tnp", "1\x95one.ftn\r\n");
   tables().ProgramFolder = "C:\\opt";
   ports.Dialogs.OpenAnswers = {"Z:\\q\\i.tnp"};
-  main.Run(Command::Open);
-  EXPECT_EQ(view.IconText, "Z:\\q\\my.ico");
-  EXPECT_EQ(view.IconPicture, "Z:\\q\\my.ico");
+  main.Commands().Run(Command::Open);
+  EXPECT_EQ(ProgramIconOf(tables()).Text, "Z:\\q\\my.ico");
+  EXPECT_EQ(ProgramIconOf(tables()).Picture, "Z:\\q\\my.ico");
 }
 
 TEST_F(OpenProjectTest, AProjectThatTheDesktopNamesOpensWithoutADialog) {
@@ -133,7 +133,7 @@ TEST_F(OpenProjectTest, AProjectThatTheDesktopNamesOpensWithoutADialog) {
   EXPECT_EQ(tables().AccionProject, "open");
   EXPECT_EQ(tables().LoadingProject, 0);
   EXPECT_EQ(Lines(), (std::vector<std::string>{"Form1 (one.ftn)", "Form2 (second.ftn)"}));
-  EXPECT_TRUE(main.State(Command::Save).Enabled);
+  EXPECT_TRUE(main.Commands().State(Command::Save).Enabled);
 }
 
 TEST_F(OpenProjectTest, AFileThatTheDesktopNamesInVainLeavesEverythingAsItWas) {
@@ -151,23 +151,23 @@ class OpenOldTest : public OpenProjectTest {
 };
 
 TEST_F(OpenOldTest, TheDialogHasItsTitleAndFilter) {
-  main.Run(Command::OpenOld);
+  main.Commands().Run(Command::OpenOld);
   EXPECT_EQ(ports.Dialogs.LastRequest.Title, "Open Old Version");
   EXPECT_EQ(ports.Dialogs.LastRequest.Filter, "Tarnwick Project (Old Version)|*.ptn|All Files|*.*");
 }
 
 TEST_F(OpenOldTest, CancelledItLeavesEverythingAsItWas) {
-  main.Run(Command::OpenOld);
+  main.Commands().Run(Command::OpenOld);
   EXPECT_EQ(tables().LoadingProject, 0);
   EXPECT_EQ(tables().AccionProject, "app");
-  EXPECT_TRUE(main.State(Command::OpenOld).Enabled);
+  EXPECT_TRUE(main.Commands().State(Command::OpenOld).Enabled);
   EXPECT_EQ(log().Count("told closing"), 0U);
 }
 
 TEST_F(OpenOldTest, ConvertsBesideTheOldFileAndOpensTheResult) {
   ports.Files.Put("Z:\\old\\app.ptn", std::string(kOld));
   ports.Dialogs.OpenAnswers = {"Z:\\old\\app.ptn"};
-  main.Run(Command::OpenOld);
+  main.Commands().Run(Command::OpenOld);
   EXPECT_TRUE(ports.Files.Exists("Z:\\old\\app.ftn"));
   EXPECT_EQ(ports.Files.Bytes("Z:\\old\\app.tnp"),
             "1\x95"
@@ -186,7 +186,7 @@ TEST_F(OpenOldTest, AnExistingFormFileOfThatNameIsOverwrittenUnasked) {
   ports.Files.Put("Z:\\old\\app.ptn", std::string(kOld));
   ports.Files.Put("Z:\\old\\app.ftn", "something else");
   ports.Dialogs.OpenAnswers = {"Z:\\old\\app.ptn"};
-  main.Run(Command::OpenOld);
+  main.Commands().Run(Command::OpenOld);
   EXPECT_EQ(log().Count("ask"), 0U);
   EXPECT_NE(ports.Files.Bytes("Z:\\old\\app.ftn"), "something else");
 }
@@ -194,7 +194,7 @@ TEST_F(OpenOldTest, AnExistingFormFileOfThatNameIsOverwrittenUnasked) {
 TEST_F(OpenOldTest, APathWithADotInAFolderIsCutThere) {
   ports.Files.Put("Z:\\v1.2\\app.ptn", std::string(kOld));
   ports.Dialogs.OpenAnswers = {"Z:\\v1.2\\app.ptn"};
-  main.Run(Command::OpenOld);
+  main.Commands().Run(Command::OpenOld);
   EXPECT_TRUE(ports.Files.Exists("Z:\\v1.tnp"));
   EXPECT_EQ(tables().ProjectFile, "Z:\\v1.tnp");
 }
@@ -203,7 +203,7 @@ TEST_F(OpenOldTest, AFailedConversionLeavesEverythingAsItWas) {
   ports.Files.Put("Z:\\old\\app.ptn", std::string(kOld));
   ports.Files.SetReadOnly(true);
   ports.Dialogs.OpenAnswers = {"Z:\\old\\app.ptn"};
-  main.Run(Command::OpenOld);
+  main.Commands().Run(Command::OpenOld);
   EXPECT_EQ(tables().ProjectFile, "Z:\\opt\\tarnwick\\UnTitle.tnp");
   EXPECT_EQ(log().Count("told closing"), 0U);
 }

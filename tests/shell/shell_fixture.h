@@ -12,7 +12,13 @@
 #include "designer/tool_box.h"
 #include "fakes/fake_ports.h"
 #include "fakes/fake_shell.h"
+#include "inspector/property_sheet.h"
+#include "shell/command_center.h"
+#include "shell/events_bar.h"
+#include "shell/form_commands.h"
+#include "shell/form_main.h"
 #include "shell/mdi_form.h"
+#include "shell/program_icon.h"
 
 namespace tarnwick {
 
@@ -29,7 +35,9 @@ class ShellTest : public ::testing::Test {
   FakeShellView view{ports.Log};
   FakeSideWindows windows{ports.Log};
   FakeObserver observer{ports.Log};
-  MDIForm1 main{ports.All(), view, windows, observer, std::string(kProgram)};
+  ShellWindows views{view, windows, windows, windows};
+  MDIForm1 main{ports.All(), std::string(kProgram)};
+  ShellTest() { main.AddObserver(observer); }
 
   CallLog& log() { return ports.Log; }
   ProjectTables& tables() { return main.Tables(); }
@@ -38,7 +46,7 @@ class ShellTest : public ::testing::Test {
   /// Start-up as the program does it; the log is empty afterwards.
   void Start() {
     view.OnCloseMainWindow = [this] { closed = main.Close(); };
-    main.Load();
+    main.Load(views);
     main.Time_Timer();
     log().Clear();
   }
@@ -46,7 +54,7 @@ class ShellTest : public ::testing::Test {
 
   /// Arms a tool and presses and releases on the form, both at the same place in pixels.
   void Place(int tool, int x, int y) {
-    main.PressTool(tool);
+    main.Commands().PressTool(tool);
     surface().Form_MouseDown(kLeftButton, 0, Twips(x), Twips(y));
     surface().MouseUp();
   }
@@ -54,7 +62,7 @@ class ShellTest : public ::testing::Test {
   void SaveUnder(const std::string& path, std::initializer_list<std::string> forms) {
     ports.Dialogs.SaveAnswers.push_back(path);
     for (const std::string& form : forms) ports.Dialogs.SaveAnswers.push_back(form);
-    main.Run(Command::Save);
+    main.Commands().Run(Command::Save);
     log().Clear();
   }
   std::vector<std::string> Lines() {

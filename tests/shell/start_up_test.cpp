@@ -6,15 +6,18 @@ namespace {
 class StartUpTest : public ShellTest {};
 
 TEST_F(StartUpTest, LoadSetsTitlesDisablesTheToolsAndStartsTheTimer) {
-  main.Load();
+  tables().AccionProject = "open";
+  tables().MainFormName = "Other ()";
+  main.Load(views);
+  EXPECT_GT(view.CommandChanges, 0);
   EXPECT_EQ(view.Title, "Tarnwick    Z:\\opt\\tarnwick\\UnTitle.tnp");
   EXPECT_EQ(view.ApplicationTitle, "Tarnwick");
-  ExpectOrder({"view title", "view application title", "view head strip", "view timer on"});
+  ExpectOrder({"view title", "view application title", "view timer on"});
   for (const ToolbarButton& button : MainToolbar()) {
-    EXPECT_FALSE(main.State(button.Does).Enabled) << button.Tip;
+    EXPECT_FALSE(main.Commands().State(button.Does).Enabled) << button.Tip;
   }
   for (const ToolInfo& tool : AllTools()) {
-    EXPECT_FALSE(main.ToolState(tool.Number).Enabled) << tool.Tip;
+    EXPECT_FALSE(main.Commands().ToolState(tool.Number).Enabled) << tool.Tip;
   }
   EXPECT_EQ(tables().AccionProject, "app");
   EXPECT_EQ(tables().MainFormName, "Form1 ()");
@@ -23,11 +26,11 @@ TEST_F(StartUpTest, LoadSetsTitlesDisablesTheToolsAndStartsTheTimer) {
 
 TEST_F(StartUpTest, TheLogoTextsComeInTheirOrderAroundTheSteps) {
   ports.Files.Put("Z:\\opt\\tarnwick\\IniEvents.ini", "[Events]\r\n");
-  main.Load();
+  main.Load(views);
   log().Clear();
   main.Time_Timer();
   ExpectOrder({"view timer off", "view logo Wait...  1%", "remove Z:\\opt\\tarnwick\\IniEvents.ini",
-               "view logo Wait...  10%", "read Z:\\opt\\tarnwick\\Add003.tn", "windows language",
+               "view logo Wait...  10%", "read Z:\\opt\\tarnwick\\Add003.tn",
                "view logo Wait...  50%", "read Z:\\opt\\tarnwick\\Add002.tn",
                "read Z:\\opt\\tarnwick\\Add001.tn", "read Z:\\opt\\tarnwick\\Add004.tn",
                "view logo Wait...  70%", "windows code windows", "view logo Wait...  80%",
@@ -53,8 +56,8 @@ TEST_F(StartUpTest, TheScreenIsGivenTimeToRepaintAfterEachLogoText) {
   LoggingScreen screen(log());
   const Ports with_screen{ports.Files,    ports.Profiles, ports.Processes,
                           ports.Messages, ports.Dialogs,  screen};
-  MDIForm1 window(with_screen, view, windows, observer, std::string(kProgram));
-  window.Load();
+  MDIForm1 window(with_screen, std::string(kProgram));
+  window.Load(views);
   window.Time_Timer();
   const std::vector<std::string>& all = log().Entries();
   for (std::size_t i = 0; i + 1 < all.size(); ++i) {
@@ -73,25 +76,22 @@ TEST_F(StartUpTest, TheFirstFormStandsAndTheCommandsAreOn) {
   EXPECT_EQ(tables().ProjectFile, "Z:\\opt\\tarnwick\\UnTitle.tnp");
   EXPECT_EQ(tables().SourceFile, "Z:\\opt\\tarnwick\\UnTitle.com");
   EXPECT_EQ(tables().ExeFile, "Z:\\opt\\tarnwick\\UnTitle.exe");
-  EXPECT_TRUE(main.State(Command::Compile).Enabled);
-  EXPECT_TRUE(main.ToolState(0).Enabled);
+  EXPECT_TRUE(main.Commands().State(Command::Compile).Enabled);
+  EXPECT_TRUE(main.Commands().ToolState(0).Enabled);
   EXPECT_EQ(view.SelectedLine, 0);
-  EXPECT_EQ(view.IconText, "(Default)");
-  EXPECT_EQ(view.IconPicture, "Z:\\opt\\tarnwick\\iconapp.ico");
+  EXPECT_EQ(ProgramIconOf(tables()).Text, "(Default)");
+  EXPECT_EQ(ProgramIconOf(tables()).Picture, "Z:\\opt\\tarnwick\\iconapp.ico");
 }
 
 TEST_F(StartUpTest, NoScratchFileMeansNothingToDelete) {
-  main.Load();
+  main.Load(views);
   main.Time_Timer();
   EXPECT_EQ(log().Count("remove"), 0U);
 }
 
-TEST_F(StartUpTest, ATimerThatTheLogoKeepsTickingStartsNothingTwice) {
-  view.WantsTimer = true;
-  main.Load();
+TEST_F(StartUpTest, ALaterTickStartsNothingTwice) {
+  main.Load(views);
   main.Time_Timer();
-  ExpectOrder(
-      {"view timer off", "view logo Wait...  1%", "view timer on", "view logo Wait...  10%"});
   log().Clear();
   main.Time_Timer();
   EXPECT_EQ(log().Entries(), std::vector<std::string>{"view timer off"});

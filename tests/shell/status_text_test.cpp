@@ -17,15 +17,15 @@ TEST_F(StatusTextTest, OfTheFormItTellsThePlaceAndSizeOfTheProgramsForm) {
 TEST_F(StatusTextTest, OfAnObjectItTellsPixels) {
   Place(0, 20, 30);
   EXPECT_EQ(view.SelectionText, "Form1Btn1   Left 20  Top 30  Width 75  Height 25");
-  EXPECT_EQ(main.SelectionText(), view.SelectionText);
+  EXPECT_EQ(SelectionStatus(tables()), view.SelectionText);
 }
 
 TEST_F(StatusTextTest, ItFollowsTheObject) {
   Place(0, 20, 30);
-  main.Run(Command::AlignToGrid);
+  main.Commands().Run(Command::AlignToGrid);
   surface().KeyDown(keys::kRight, kCtrlBit);
   EXPECT_EQ(view.SelectionText, "Form1Btn1   Left 21  Top 30  Width 75  Height 25");
-  main.Run(Command::Delete);
+  main.Commands().Run(Command::Delete);
   EXPECT_EQ(view.SelectionText, "Form1   Left 0  Top 0  Width 400  Height 333");
 }
 
@@ -43,7 +43,7 @@ TEST(PointerText, TellsWholePixels) {
 
 TEST_F(StatusTextTest, WithoutAFormThereIsNothingToTell) {
   ports.Messages.Answers = {true};
-  main.Run(Command::Remove);
+  main.Commands().Run(Command::Remove);
   EXPECT_EQ(SelectionStatus(tables()), "");
 }
 

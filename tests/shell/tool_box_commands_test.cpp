@@ -12,7 +12,7 @@ class ToolBoxTest : public ShellTest {
   std::vector<int> Down() {
     std::vector<int> down;
     for (const ToolInfo& tool : AllTools()) {
-      if (main.ToolState(tool.Number).Checked) down.push_back(tool.Number);
+      if (main.Commands().ToolState(tool.Number).Checked) down.push_back(tool.Number);
     }
     return down;
   }
@@ -35,7 +35,7 @@ TEST_F(ToolBoxTest, EachNumberArmsItsKind) {
       {14, "FileStream"}, {15, "TransparentFrame"}, {16, "HtmlViewer"},
       {18, "WinSock"},    {19, "PopUpMenu"}};
   for (const auto& [number, kind] : kinds) {
-    main.PressTool(number);
+    main.Commands().PressTool(number);
     EXPECT_EQ(form().Objeto, kind);
     EXPECT_EQ(Down(), std::vector<int>{number});
     EXPECT_EQ(ToolOf(number)->Tip, kind);
@@ -43,7 +43,7 @@ TEST_F(ToolBoxTest, EachNumberArmsItsKind) {
 }
 
 TEST_F(ToolBoxTest, TheArmedToolStaysDownUntilTheObjectIsPlaced) {
-  main.PressTool(3);
+  main.Commands().PressTool(3);
   EXPECT_EQ(Down(), std::vector<int>{3});
   surface().Form_MouseDown(kLeftButton, 0, Twips(10), Twips(10));
   EXPECT_EQ(Down(), std::vector<int>{kArrowTool});
@@ -60,8 +60,8 @@ TEST_F(ToolBoxTest, OneToolPlacesOneObjectWhateverThePresses) {
 
 TEST_F(ToolBoxTest, TheArrowClearsWhatIsArmedAndSelectsTheForm) {
   Place(0, 10, 10);
-  main.PressTool(1);
-  main.PressTool(kArrowTool);
+  main.Commands().PressTool(1);
+  main.Commands().PressTool(kArrowTool);
   EXPECT_EQ(form().Objeto, "Form");
   EXPECT_EQ(form().NameObjet, "Form");
   EXPECT_EQ(form().ControlSel, nullptr);
@@ -69,7 +69,7 @@ TEST_F(ToolBoxTest, TheArrowClearsWhatIsArmedAndSelectsTheForm) {
 }
 
 TEST_F(ToolBoxTest, TheFormToolAlwaysAddsAForm) {
-  main.PressTool(kFormTool);
+  main.Commands().PressTool(kFormTool);
   EXPECT_EQ(tables().FormsCount, 2);
   EXPECT_EQ(form().Number(), 2);
   EXPECT_EQ(form().Objeto, "Form");
@@ -78,7 +78,7 @@ TEST_F(ToolBoxTest, TheFormToolAlwaysAddsAForm) {
 
 TEST_F(ToolBoxTest, TheMenuToolOpensTheMenuDesignerOnTheForm) {
   Place(0, 10, 10);
-  main.PressTool(kMenuTool);
+  main.Commands().PressTool(kMenuTool);
   EXPECT_EQ(log().Count("windows menu edit"), 1U);
   EXPECT_EQ(form().ControlSel, nullptr);
   EXPECT_EQ(form().NameObjet, "Form");
@@ -87,9 +87,9 @@ TEST_F(ToolBoxTest, TheMenuToolOpensTheMenuDesignerOnTheForm) {
 
 TEST_F(ToolBoxTest, AKindPressedWithNoFormOpenAddsAFormThenStaysPendingOnIt) {
   ports.Messages.Answers = {true};
-  main.Run(Command::Remove);
+  main.Commands().Run(Command::Remove);
   log().Clear();
-  main.PressTool(0);
+  main.Commands().PressTool(0);
   EXPECT_EQ(Lines(), std::vector<std::string>{"Form2 ()"});
   EXPECT_EQ(form().Objeto, "Button");
   EXPECT_EQ(Down(), std::vector<int>{0});
@@ -98,57 +98,57 @@ TEST_F(ToolBoxTest, AKindPressedWithNoFormOpenAddsAFormThenStaysPendingOnIt) {
 
 TEST_F(ToolBoxTest, AnyToolLiftsTheBlockOfTheForm) {
   for (const int tool : {0, kArrowTool, kMenuTool}) {
-    main.Run(Command::Lock);
+    main.Commands().Run(Command::Lock);
     ASSERT_FALSE(form().m_bDesignMode);
-    main.PressTool(tool);
+    main.Commands().PressTool(tool);
     EXPECT_TRUE(form().m_bDesignMode) << tool;
-    EXPECT_FALSE(main.State(Command::Lock).Checked) << tool;
+    EXPECT_FALSE(main.Commands().State(Command::Lock).Checked) << tool;
   }
 }
 
 TEST_F(ToolBoxTest, ASecondTransparentFrameCannotBeArmed) {
-  EXPECT_TRUE(main.ToolState(kTransparentFrameTool).Enabled);
+  EXPECT_TRUE(main.Commands().ToolState(kTransparentFrameTool).Enabled);
   Place(kTransparentFrameTool, 10, 10);
-  EXPECT_FALSE(main.ToolState(kTransparentFrameTool).Enabled);
-  main.PressTool(kTransparentFrameTool);
+  EXPECT_FALSE(main.Commands().ToolState(kTransparentFrameTool).Enabled);
+  main.Commands().PressTool(kTransparentFrameTool);
   EXPECT_EQ(form().Objeto, "");
 }
 
 TEST_F(ToolBoxTest, ItsToolComesBackWhenTheTransparentFrameIsDeleted) {
   Place(kTransparentFrameTool, 10, 10);
-  main.Run(Command::Delete);
-  EXPECT_TRUE(main.ToolState(kTransparentFrameTool).Enabled);
+  main.Commands().Run(Command::Delete);
+  EXPECT_TRUE(main.Commands().ToolState(kTransparentFrameTool).Enabled);
 }
 
 TEST_F(ToolBoxTest, ItsToolFollowsTheCurrentForm) {
   Place(kTransparentFrameTool, 10, 10);
-  main.Run(Command::AddNewForm);
-  EXPECT_TRUE(main.ToolState(kTransparentFrameTool).Enabled);
-  main.SelectFormLine(0);
-  EXPECT_FALSE(main.ToolState(kTransparentFrameTool).Enabled);
+  main.Commands().Run(Command::AddNewForm);
+  EXPECT_TRUE(main.Commands().ToolState(kTransparentFrameTool).Enabled);
+  main.Forms().SelectLine(0);
+  EXPECT_FALSE(main.Commands().ToolState(kTransparentFrameTool).Enabled);
 }
 
 TEST_F(ToolBoxTest, ItsToolFollowsAProjectThatWasRead) {
   Place(kTransparentFrameTool, 10, 10);
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\1.ftn"});
-  main.Run(Command::New);
-  EXPECT_TRUE(main.ToolState(kTransparentFrameTool).Enabled);
+  main.Commands().Run(Command::New);
+  EXPECT_TRUE(main.Commands().ToolState(kTransparentFrameTool).Enabled);
   ports.Dialogs.OpenAnswers = {"Z:\\p\\a.tnp"};
-  main.Run(Command::Open);
-  EXPECT_FALSE(main.ToolState(kTransparentFrameTool).Enabled);
+  main.Commands().Run(Command::Open);
+  EXPECT_FALSE(main.Commands().ToolState(kTransparentFrameTool).Enabled);
 }
 
 TEST_F(ToolBoxTest, ANumberWithoutAToolArmsNothing) {
-  main.PressTool(42);
+  main.Commands().PressTool(42);
   EXPECT_EQ(form().Objeto, "");
   EXPECT_EQ(ToolOf(42), nullptr);
 }
 
 TEST_F(ToolBoxTest, EachFormKeepsWhatIsArmedOnIt) {
-  main.PressTool(0);
-  main.Run(Command::AddNewForm);
+  main.Commands().PressTool(0);
+  main.Commands().Run(Command::AddNewForm);
   EXPECT_EQ(Down(), std::vector<int>{kArrowTool});
-  main.SelectFormLine(0);
+  main.Forms().SelectLine(0);
   EXPECT_EQ(Down(), std::vector<int>{0});
 }
 

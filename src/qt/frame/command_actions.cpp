@@ -10,7 +10,7 @@
 #include "designer/tool_box.h"
 #include "qt/kit/icon_set.h"
 #include "qt/kit/text_bridge.h"
-#include "shell/mdi_form.h"
+#include "shell/command_center.h"
 
 namespace tarnwick {
 
@@ -41,14 +41,11 @@ bool HasIcon(Command command) {
 
 }  // namespace
 
-CommandActions::CommandActions(QMainWindow& window) : QObject(&window) {
+CommandActions::CommandActions(QMainWindow& window, CommandCenter& commands)
+    : QObject(&window), commands_(commands) {
   BuildMenuBar(window);
   BuildToolbar(window);
   BuildPopUp(window);
-}
-
-void CommandActions::Attach(MDIForm1& shell) {
-  shell_ = &shell;
   Refresh();
 }
 
@@ -133,26 +130,24 @@ void CommandActions::BuildPopUp(QMainWindow& window) {
 }
 
 void CommandActions::Run(Command command) {
-  if (shell_ == nullptr) return;
-  shell_->Run(command);
+  commands_.Run(command);
   // A check mark that the toolkit set by itself goes back to what is true.
   Refresh();
 }
 
 void CommandActions::PressTool(int number) {
-  if (shell_ == nullptr) return;
-  shell_->PressTool(number);
+  commands_.PressTool(number);
   Refresh();
 }
 
 void CommandActions::Refresh() {
   for (const Entry& entry : entries_) {
-    const CommandState state = shell_ != nullptr ? shell_->State(entry.Does) : CommandState{};
+    const CommandState state = commands_.State(entry.Does);
     if (entry.Action != nullptr) {
       entry.Action->setEnabled(state.Enabled);
       if (entry.Action->isCheckable()) entry.Action->setChecked(state.Checked);
-      if (entry.Does == Command::Remove && shell_ != nullptr) {
-        entry.Action->setText(ToQString(shell_->Caption(entry.Does)));
+      if (entry.Does == Command::Remove) {
+        entry.Action->setText(ToQString(commands_.Caption(entry.Does)));
       }
     }
     if (entry.Button != nullptr) {
@@ -161,7 +156,7 @@ void CommandActions::Refresh() {
     }
   }
   for (const auto& [number, action] : tools_) {
-    const CommandState state = shell_ != nullptr ? shell_->ToolState(number) : CommandState{};
+    const CommandState state = commands_.ToolState(number);
     action->setEnabled(state.Enabled);
     action->setChecked(state.Checked);
   }

@@ -17,7 +17,7 @@ class QToolButton;
 
 namespace tarnwick {
 
-class MDIForm1;
+class CommandCenter;
 
 /// One action for each row of a menu and one button for each command of the toolbar; all follow
 /// the same state.
@@ -25,11 +25,9 @@ class CommandActions final : public QObject {
   Q_OBJECT
 
  public:
-  explicit CommandActions(QMainWindow& window);
+  CommandActions(QMainWindow& window, CommandCenter& commands);
 
-  /// From now on actions run commands and tools.
-  void Attach(MDIForm1& shell);
-  /// Reads state, check marks and captions of all commands and tools anew.
+  /// Reads state, check marks and captions of all commands and tools again.
   void Refresh();
   [[nodiscard]] QMenu& ObjectPopUp() { return *pop_up_; }
   /// A button of a small bar: named `name` and the index, with tip and picture of its command.
@@ -50,7 +48,7 @@ class CommandActions final : public QObject {
   void Run(Command command);
   void PressTool(int number);
 
-  MDIForm1* shell_ = nullptr;
+  CommandCenter& commands_;
   std::vector<Entry> entries_;
   std::vector<std::pair<int, QAction*>> tools_;
   QMenu* pop_up_ = nullptr;

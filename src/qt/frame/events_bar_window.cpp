@@ -14,8 +14,7 @@
 #include "qt/kit/icon_set.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
-#include "qt/surface/container.h"
-#include "shell/mdi_form.h"
+#include "shell/command_center.h"
 
 namespace tarnwick {
 
@@ -30,8 +29,11 @@ constexpr int kEdge = 24;  ///< distance from the container's corner
 
 }  // namespace
 
-EventsBarWindow::EventsBarWindow(Container& container, QWidget* parent)
+EventsBarWindow::EventsBarWindow(EventsBar& bar, CommandCenter& commands, QWidget& container,
+                                 QWidget* parent)
     : QFrame(parent),
+      bar_(bar),
+      commands_(commands),
       container_(container),
       title_(new QLabel(this)),
       room_(new QWidget(this)),
@@ -63,8 +65,7 @@ EventsBarWindow::EventsBarWindow(Container& container, QWidget* parent)
   declare_->setAccessibleName(ToQString(kPublicDeclarations));
   declare_->setIcon(IconOf(IconNameOf(Command::PublicDeclarations)));
   connect(declare_, &QToolButton::clicked, this, [this] {
-    if (shell_ == nullptr) return;
-    shell_->Bar().btnCDeclare_Click();
+    bar_.btnCDeclare_Click();
     PopUp(*declare_);
   });
 
@@ -81,11 +82,6 @@ EventsBarWindow::EventsBarWindow(Container& container, QWidget* parent)
   parent->installEventFilter(this);
 }
 
-void EventsBarWindow::Attach(MDIForm1& shell) {
-  shell_ = &shell;
-  Refresh();
-}
-
 QToolButton* EventsBarWindow::MakeButton(const QString& name) {
   auto* button = new QToolButton(room_);
   button->setObjectName(name);
@@ -96,16 +92,15 @@ QToolButton* EventsBarWindow::MakeButton(const QString& name) {
 }
 
 void EventsBarWindow::Refresh() {
-  if (shell_ == nullptr) return;
-  const DesignForm* form = shell_->Tables().CurrentForm;
-  const bool shown = form != nullptr && shell_->PanelShown(Panel::EventsBar);
-  if (form != nullptr) {
-    title_->setText(ToQString(shell_->Bar().Caption(form->Number())));
-    SetButtons(shell_->Bar().btncodigo(form->Number()));
+  const int form = bar_.CurrentForm();
+  const bool shown = form != 0 && commands_.PanelShown(Panel::EventsBar);
+  if (form != 0) {
+    title_->setText(ToQString(bar_.Caption(form)));
+    SetButtons(bar_.btncodigo(form));
   }
   const bool had_focus = isAncestorOf(QApplication::focusWidget());
   setVisible(shown);
-  if (!shown && had_focus) GiveFocusBack();
+  if (!shown && had_focus) Q_EMIT Left();
   if (!shown) return;
   Place();
   raise();
@@ -154,20 +149,20 @@ void EventsBarWindow::PutButtons() {
 
 void EventsBarWindow::Press(int number) {
   const auto place = static_cast<std::size_t>(number);
-  if (shell_ == nullptr || place >= shown_.size()) return;
+  if (place >= shown_.size()) return;
   const std::string tag = shown_[place].Tag;
-  shell_->Bar().btncodigo_Click(tag);
+  bar_.btncodigo_Click(tag);
   PopUp(*buttons_[place]);
 }
 
 void EventsBarWindow::PopUp(QToolButton& button) {
   pross_->clear();
-  const std::vector<std::string>& rows = shell_->Bar().ProssItem();
+  const std::vector<std::string>& rows = bar_.ProssItem();
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const int row = static_cast<int>(i);
     QAction* action = pross_->addAction(ToQString(rows[i]));
     action->setObjectName(QStringLiteral("ProssItem_%1").arg(row));
-    connect(action, &QAction::triggered, this, [this, row] { shell_->Bar().ProssItem_Click(row); });
+    connect(action, &QAction::triggered, this, [this, row] { bar_.ProssItem_Click(row); });
   }
   if (rows.empty()) return;
   pross_->setActiveAction(pross_->actions().front());
@@ -176,13 +171,7 @@ void EventsBarWindow::PopUp(QToolButton& button) {
 
 void EventsBarWindow::Hide() {
   // Hiding is the shell's to decide, so that its menu row follows.
-  if (shell_ != nullptr) shell_->SetPanelShown(Panel::EventsBar, false);
-}
-
-void EventsBarWindow::GiveFocusBack() {
-  const DesignForm* form = shell_ != nullptr ? shell_->Tables().CurrentForm : nullptr;
-  DesignWindow* window = form != nullptr ? container_.Window(form->Number()) : nullptr;
-  if (window != nullptr) window->Surface().setFocus();
+  commands_.SetPanelShown(Panel::EventsBar, false);
 }
 
 void EventsBarWindow::Place() {
@@ -223,7 +212,7 @@ void EventsBarWindow::mouseReleaseEvent(QMouseEvent* /*event*/) {
 void EventsBarWindow::keyPressEvent(QKeyEvent* event) {
   auto* const button = qobject_cast<QToolButton*>(QApplication::focusWidget());
   if (event->key() == Qt::Key_Escape) {
-    GiveFocusBack();
+    Q_EMIT Left();
   } else if (button != nullptr &&
              (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
     button->click();

@@ -14,8 +14,7 @@ class QToolButton;
 
 namespace tarnwick {
 
-class Container;
-class MDIForm1;
+class CommandCenter;
 
 /// `FrmBarra`: shows the bar of the current form. It floats over the container, at its lower edge
 /// until the user drags it elsewhere by its head, and is never out of the main window. Closing it
@@ -24,11 +23,15 @@ class EventsBarWindow final : public QFrame {
   Q_OBJECT
 
  public:
-  EventsBarWindow(Container& container, QWidget* parent);
+  /// Floats over `container`, within `parent`.
+  EventsBarWindow(EventsBar& bar, CommandCenter& commands, QWidget& container, QWidget* parent);
 
-  void Attach(MDIForm1& shell);
-  /// Reads buttons, tips and title of the current form anew; hidden while there is none.
+  /// Reads buttons, tips and title of the current form again; hidden while there is none.
   void Refresh();
+
+ Q_SIGNALS:
+  /// The bar gives the focus up: the user goes back to the form.
+  void Left();
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -44,11 +47,11 @@ class EventsBarWindow final : public QFrame {
   void Press(int number);
   void PopUp(QToolButton& button);
   void Hide();
-  void GiveFocusBack();
   void Place();
 
-  MDIForm1* shell_ = nullptr;
-  Container& container_;
+  EventsBar& bar_;
+  CommandCenter& commands_;
+  QWidget& container_;
   QLabel* title_;
   QWidget* room_;  ///< where the buttons stand
   QToolButton* declare_;

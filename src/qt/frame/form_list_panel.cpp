@@ -10,12 +10,12 @@
 #include "qt/kit/icon_set.h"
 #include "qt/kit/panel_frame.h"
 #include "qt/kit/text_bridge.h"
-#include "shell/mdi_form.h"
+#include "shell/form_commands.h"
 
 namespace tarnwick {
 
-FormListPanel::FormListPanel(CommandActions& commands, QWidget* parent)
-    : QWidget(parent), list_(new QListWidget), warning_(new QLabel) {
+FormListPanel::FormListPanel(FormCommands& forms, CommandActions& commands, QWidget* parent)
+    : QWidget(parent), forms_(forms), list_(new QListWidget), warning_(new QLabel) {
   auto* frame = new PanelFrame(QStringLiteral("Picture3"), QStringLiteral("Forms"), this);
   frame->Heading().setObjectName(QStringLiteral("Label1"));
   int index = 0;
@@ -37,20 +37,18 @@ FormListPanel::FormListPanel(CommandActions& commands, QWidget* parent)
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(frame);
   // A press selects, also on the line that is marked already.
-  connect(list_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
-    if (shell_ != nullptr) shell_->SelectFormLine(list_->row(item));
-  });
+  connect(list_, &QListWidget::itemClicked, this,
+          [this](QListWidgetItem* item) { forms_.SelectLine(list_->row(item)); });
   connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
-    if (shell_ != nullptr && row >= 0) shell_->SelectFormLine(row);
+    if (row >= 0) forms_.SelectLine(row);
   });
 }
 
 void FormListPanel::Refresh() {
-  if (shell_ == nullptr) return;
   const QSignalBlocker quiet(list_);
   const int selected = list_->currentRow();
-  const auto& lines = shell_->Tables().ListaFrms.Lines();
-  const FormListMarks marks = shell_->FormMarks();
+  const auto& lines = forms_.Lines();
+  const FormListMarks marks = forms_.Marks();
   while (list_->count() > static_cast<int>(lines.size()))
     delete list_->takeItem(list_->count() - 1);
   for (int i = 0; i < static_cast<int>(lines.size()); ++i) {

@@ -9,7 +9,7 @@ class QVBoxLayout;
 
 namespace tarnwick {
 
-class MDIForm1;
+class FormCommands;
 class CommandActions;
 class PanelFrame;
 
@@ -19,16 +19,15 @@ class FormListPanel final : public QWidget {
   Q_OBJECT
 
  public:
-  FormListPanel(CommandActions& commands, QWidget* parent);
+  FormListPanel(FormCommands& forms, CommandActions& commands, QWidget* parent);
 
-  void Attach(MDIForm1& shell) { shell_ = &shell; }
-  /// Reads lines and marks anew.
+  /// Reads lines and marks again.
   void Refresh();
   /// Marks a line as selected; -1 for none.
   void Select(int place);
 
  private:
-  MDIForm1* shell_ = nullptr;
+  FormCommands& forms_;
   QListWidget* list_;
   QLabel* warning_;
 };

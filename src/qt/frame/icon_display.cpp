@@ -8,6 +8,7 @@
 #include "qt/kit/panel_frame.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
+#include "shell/program_icon.h"
 
 namespace tarnwick {
 
@@ -17,8 +18,13 @@ constexpr int kPicture = 32;
 
 }  // namespace
 
-IconDisplay::IconDisplay(looks::PictureCache& pictures, QWidget* parent)
-    : QWidget(parent), pictures_(pictures), picture_(new QLabel), text_(new QLabel) {
+IconDisplay::IconDisplay(const ProjectTables& tables, looks::PictureCache& pictures,
+                         QWidget* parent)
+    : QWidget(parent),
+      tables_(tables),
+      pictures_(pictures),
+      picture_(new QLabel),
+      text_(new QLabel) {
   auto* frame = new PanelFrame(QStringLiteral("Picture5"), QStringLiteral("Program icon"), this);
   picture_->setObjectName(QStringLiteral("ProgramIcon"));
   picture_->setFixedSize(kPicture, kPicture);
@@ -35,15 +41,15 @@ IconDisplay::IconDisplay(looks::PictureCache& pictures, QWidget* parent)
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(frame);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  Show("(Default)", "");
+  Refresh();
 }
 
-void IconDisplay::Show(std::string_view text, std::string_view picture) {
-  full_ = ToQString(text);
+void IconDisplay::Refresh() {
+  const ProgramIconChoice icon = ProgramIconOf(tables_);
+  full_ = ToQString(icon.Text);
   text_->setToolTip(full_);
-  const QPixmap* own = picture.empty() ? nullptr : &pictures_.At(picture);
-  picture_->setPixmap(own != nullptr && !own->isNull() ? *own
-                                                       : ProgramIcon().pixmap(kPicture, kPicture));
+  const QPixmap& own = pictures_.At(icon.Picture);
+  picture_->setPixmap(own.isNull() ? ProgramIcon().pixmap(kPicture, kPicture) : own);
   Elide();
 }
 

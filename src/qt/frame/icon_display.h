@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QWidget>
-#include <string_view>
 
 #include "looks/picture_cache.h"
 
@@ -10,14 +9,17 @@ class QLabel;
 
 namespace tarnwick {
 
+struct ProjectTables;
+
 /// Shows the picture and the path of the program's icon, or "(Default)".
 class IconDisplay final : public QWidget {
   Q_OBJECT
 
  public:
-  IconDisplay(looks::PictureCache& pictures, QWidget* parent);
+  IconDisplay(const ProjectTables& tables, looks::PictureCache& pictures, QWidget* parent);
 
-  void Show(std::string_view text, std::string_view picture);
+  /// Reads the icon of the project again.
+  void Refresh();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -25,6 +27,7 @@ class IconDisplay final : public QWidget {
  private:
   void Elide();
 
+  const ProjectTables& tables_;
   looks::PictureCache& pictures_;
   QLabel* picture_;
   QLabel* text_;

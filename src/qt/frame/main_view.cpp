@@ -4,16 +4,22 @@
 #include <QMenu>
 #include <utility>
 
-#include "designer/tool_box.h"
+#include "inspector/form_add_items.h"
+#include "qt/frame/about_dialog.h"
 #include "qt/frame/command_actions.h"
 #include "qt/frame/events_bar_window.h"
 #include "qt/frame/form_list_panel.h"
 #include "qt/frame/icon_display.h"
+#include "qt/frame/logo_window.h"
+#include "qt/frame/main_form_dialog.h"
 #include "qt/frame/main_window.h"
-#include "qt/frame/small_windows.h"
+#include "qt/frame/object_bar.h"
+#include "qt/frame/objects_examiner_window.h"
+#include "qt/grid/item_dialog.h"
 #include "qt/grid/property_panel.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/surface/container.h"
+#include "shell/form_commands.h"
 #include "shell/mdi_form.h"
 
 namespace tarnwick {
@@ -35,14 +41,20 @@ class NoGestures final : public GesturePort {
 
 }  // namespace
 
-MainView::MainView(MainWindow& window)
-    : window_(window), no_gestures_(std::make_unique<NoGestures>()) {
+MainView::MainView(MainWindow& window, MDIForm1& shell)
+    : window_(window),
+      shell_(shell),
+      forms_(window, shell),
+      code_(*this),
+      menus_(*this),
+      no_gestures_(std::make_unique<NoGestures>()) {
+  shell.AddObserver(*this);
+  shell.AddObserver(forms_);
   time_.setObjectName(QStringLiteral("Time"));
   time_.setInterval(1);
   QObject::connect(&time_, &QTimer::timeout, &window_, [this] {
-    if (shell_ == nullptr) return;
-    shell_->Time_Timer();
-    if (!start_project_.empty()) shell_->OpenNamed(std::exchange(start_project_, {}));
+    shell_.Time_Timer();
+    if (!start_project_.empty()) shell_.OpenNamed(std::exchange(start_project_, {}));
   });
   refresh_.setSingleShot(true);
   refresh_.setInterval(0);
@@ -51,9 +63,8 @@ MainView::MainView(MainWindow& window)
 
 MainView::~MainView() = default;
 
-void MainView::Attach(MDIForm1& shell) {
-  shell_ = &shell;
-  window_.Attach(shell);
+void MainView::Load() {
+  shell_.Load({*this, code_, menus_, window_.Examiner()});
 }
 
 void MainView::SetApplicationTitle(std::string_view title) {
@@ -104,10 +115,6 @@ void MainView::ShowContainer() {
 
 void MainView::MoveContainer(int top) {
   window_.Forms().widget()->setVisible(top >= 0 && top < window_.height());
-}
-
-void MainView::GrowContainer(float /*width*/, float /*height*/) {
-  // The container grows with its windows by itself.
 }
 
 void MainView::BringFormUp(int form) {
@@ -168,10 +175,6 @@ void MainView::SelectFormLine(int place) {
   window_.FormLines().Select(place);
 }
 
-void MainView::ShowIcon(std::string_view text, std::string_view picture) {
-  window_.ProgramIconView().Show(text, picture);
-}
-
 void MainView::SetArrowPointer(bool arrow) {
   if (arrow == arrow_) return;
   arrow_ = arrow;
@@ -196,7 +199,14 @@ void MainView::ShowObjectPopUp() {
 }
 
 void MainView::RunFormMain() {
-  if (shell_ != nullptr) RunFormMainDialog(*shell_, &window_);
+  RunMainFormDialog(shell_.Forms(), &window_);
+}
+
+void MainView::RunItemDialog(int form) {
+  DesignForm* design = shell_.Tables().User(form);
+  if (design == nullptr) return;
+  FormAddItems logic(shell_.Tables(), shell_.Context().Observer, *design);
+  tarnwick::RunItemDialog(logic, &window_);
 }
 
 void MainView::ShowAbout(std::string_view program_folder) {
@@ -220,56 +230,16 @@ void MainView::UnloadContainer() {
   window_.Forms().widget()->hide();
 }
 
-DesignWindowDoors MainView::DoorsOf(int form) {
-  DesignWindowDoors doors;
-  doors.User = [this, form] { return shell_ != nullptr ? shell_->User(form) : nullptr; };
-  doors.Record = [this, form]() -> const FormRec* {
-    return shell_ != nullptr ? shell_->Tables().Form(form) : nullptr;
-  };
-  doors.Activated = [this, form] {
-    if (shell_ != nullptr) shell_->FormActivated(form);
-  };
-  doors.PointerMoved = [this](QPoint place) { window_.SetPointerText(place); };
-  doors.Escape = [this] {
-    if (shell_ != nullptr) shell_->PressTool(kArrowTool);
-  };
-  doors.Resized = [this] {
-    if (shell_ != nullptr) shell_->RefreshStatus();
-  };
-  doors.FocusIsKept = [this] { return window_.Properties().KeepsFocus(); };
-  return doors;
-}
-
-void MainView::FormOpened(int form) {
-  if (shell_ == nullptr) return;
-  DesignForm* design = shell_->Tables().User(form);
-  if (design != nullptr) window_.Forms().Open(form, *design, DoorsOf(form));
-}
-
-void MainView::FormClosing(int form) {
-  window_.Forms().Close(form);
-  // The next project's pictures may be others under the same names.
-  if (window_.Forms().IsEmpty()) window_.Pictures().Clear();
+void MainView::FormClosing(int /*form*/) {
   ScheduleBarRefresh();
 }
 
 void MainView::FormChanged(int form) {
-  if (DesignWindow* window = window_.Forms().Window(form)) window->SyncWithForm();
-}
-
-void MainView::ControlsChanged(int form) {
-  if (DesignWindow* window = window_.Forms().Window(form)) window->Surface().update();
-}
-
-void MainView::SelectionChanged(int form) {
-  ControlsChanged(form);
-  ScheduleRefresh();
+  if (form == 1) window_.ProgramIconView().Refresh();
 }
 
 void MainView::CurrentFormChanged() {
-  if (shell_ == nullptr) return;
-  const DesignForm* current = shell_->Tables().CurrentForm;
-  window_.Forms().SetCurrent(current != nullptr ? current->Number() : 0);
+  window_.ProgramIconView().Refresh();
   ScheduleBarRefresh();
 }
 
@@ -280,10 +250,6 @@ void MainView::FormListChanged() {
 
 void MainView::EventsBarChanged(int /*form*/) {
   ScheduleBarRefresh();
-}
-
-void MainView::MenuBarChanged(int form) {
-  if (DesignWindow* window = window_.Forms().Window(form)) window->SyncMenuBar();
 }
 
 }  // namespace tarnwick

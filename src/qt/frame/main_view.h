@@ -7,7 +7,8 @@
 #include <utility>
 
 #include "model/project_observer.h"
-#include "qt/surface/design_surface.h"
+#include "qt/frame/design_windows_view.h"
+#include "qt/frame/missing_windows.h"
 #include "shell/shell_view.h"
 
 namespace tarnwick {
@@ -16,33 +17,29 @@ class MainWindow;
 class MDIForm1;
 class LogoWindow;
 
-/// Joins the shell and the widgets. It is built before the shell, which it is handed to, and
-/// attached to it afterwards.
+/// Joins the shell and the widgets: built after both, it lends the windows to the commands.
 class MainView final : public ShellView, public ProjectObserver {
  public:
-  explicit MainView(MainWindow& window);
+  MainView(MainWindow& window, MDIForm1& shell);
   ~MainView() override;
 
-  void Attach(MDIForm1& shell);
+  /// Starts the shell on the windows.
+  void Load();
   /// A project to open as soon as the start is through.
   void OpenAfterStart(std::string path) { start_project_ = std::move(path); }
 
   // ShellView
   void SetApplicationTitle(std::string_view title) override;
   void SetTitle(std::string_view title) override;
-  void PlaceHeadStrip() override {}
   void LayOutPanels() override;
   void StartTimer() override;
   void StopTimer() override;
   void ShowLogo(std::string_view text) override;
-  [[nodiscard]] bool LogoDemandsTimer() override { return false; }
   void CloseLogo() override;
   void ShowContainerAt(int width, int height) override;
   void HideContainer() override;
   void ShowContainer() override;
   void MoveContainer(int top) override;
-  [[nodiscard]] bool ContainerMinimised() override { return false; }
-  void GrowContainer(float width, float height) override;
   void BringFormUp(int form) override;
   void SetFormVisible(int form, bool visible) override;
   [[nodiscard]] GesturePort& Gestures(int form) override;
@@ -50,12 +47,12 @@ class MainView final : public ShellView, public ProjectObserver {
   void ShowPanel(Panel panel, bool shown) override;
   void CommandsChanged() override;
   void SelectFormLine(int place) override;
-  void ShowIcon(std::string_view text, std::string_view picture) override;
   void SetArrowPointer(bool arrow) override;
   void SetStatus(std::string_view text) override;
   void SetSelectionText(std::string_view text) override;
   void ShowObjectPopUp() override;
   void RunFormMain() override;
+  void RunItemDialog(int form) override;
   void ShowAbout(std::string_view program_folder) override;
   void CommitPendingEdits() override;
   void CloseMainWindow() override;
@@ -63,24 +60,22 @@ class MainView final : public ShellView, public ProjectObserver {
   void UnloadContainer() override;
 
   // ProjectObserver
-  void FormOpened(int form) override;
   void FormClosing(int form) override;
   void FormChanged(int form) override;
-  void ControlsChanged(int form) override;
-  void SelectionChanged(int form) override;
   void CurrentFormChanged() override;
   void FormListChanged() override;
   void EventsBarChanged(int form) override;
-  void MenuBarChanged(int form) override;
 
  private:
-  [[nodiscard]] DesignWindowDoors DoorsOf(int form);
   void ScheduleRefresh();
   void ScheduleBarRefresh();
   void Refresh();
 
   MainWindow& window_;
-  MDIForm1* shell_ = nullptr;
+  MDIForm1& shell_;
+  DesignWindowsView forms_;
+  MissingCodeWindows code_;
+  MissingMenuWindows menus_;
   std::string start_project_;
   QTimer time_;
   QTimer refresh_;

@@ -10,12 +10,14 @@
 #include "qt/frame/events_bar_window.h"
 #include "qt/frame/form_list_panel.h"
 #include "qt/frame/icon_display.h"
-#include "qt/frame/small_windows.h"
+#include "qt/frame/object_bar.h"
+#include "qt/frame/objects_examiner_window.h"
 #include "qt/frame/tool_box_panel.h"
 #include "qt/grid/property_panel.h"
 #include "qt/kit/panel_frame.h"
 #include "qt/kit/theme.h"
 #include "qt/surface/container.h"
+#include "shell/command_center.h"
 #include "shell/mdi_form.h"
 
 namespace tarnwick {
@@ -29,14 +31,18 @@ constexpr int kFormsHeight = 130;
 
 }  // namespace
 
-MainWindow::MainWindow(FilePort& files)
-    : pictures_([&files](const std::string& path) { return files.Read(path); }),
-      actions_(new CommandActions(*this)),
+MainWindow::MainWindow(MDIForm1& shell, FilePort& files)
+    : shell_(shell),
+      pictures_([&files](const std::string& path) { return files.Read(path); }),
+      actions_(new CommandActions(*this, shell.Commands())),
       container_(new Container(pictures_, texts_, this)),
-      tools_(new ToolBoxPanel(QStringLiteral("BtnObjet"), kToolColumns, this)),
-      icon_(new IconDisplay(pictures_, this)),
-      object_bar_(new ObjectBar(this)),
-      events_bar_(new EventsBarWindow(*container_, this)),
+      tools_(new ToolBoxPanel(shell.Commands(), QStringLiteral("BtnObjet"), kToolColumns, this)),
+      form_list_(new FormListPanel(shell.Forms(), *actions_, this)),
+      properties_(new PropertyPanel(shell.Sheet(), pictures_, this)),
+      icon_(new IconDisplay(shell.Tables(), pictures_, this)),
+      object_bar_(new ObjectBar(shell.Commands(), this)),
+      events_bar_(new EventsBarWindow(shell.Bar(), shell.Commands(), *container_, this)),
+      examiner_(new ObjectsExaminerWindow(shell.Examiner(), this)),
       right_(new QWidget(this)),
       panels_(new QSplitter(Qt::Vertical, right_)),
       status_(new QLabel(this)),
@@ -46,6 +52,10 @@ MainWindow::MainWindow(FilePort& files)
   resize(1400, 900);
   BuildPanels();
   BuildStatusBar();
+  connect(properties_, &PropertyPanel::ShownWanted, this,
+          [this](bool shown) { shell_.Commands().SetPanelShown(Panel::Properties, shown); });
+  connect(properties_, &PropertyPanel::Left, this, [this] { GoToForm(); });
+  connect(events_bar_, &EventsBarWindow::Left, this, [this] { GoToForm(); });
 }
 
 MainWindow::~MainWindow() = default;
@@ -58,6 +68,11 @@ void MainWindow::BuildPanels() {
 
   panels_->setObjectName(QStringLiteral("RightPanels"));
   panels_->setHandleWidth(kRoom);
+  panels_->addWidget(properties_);
+  panels_->addWidget(form_list_);
+  panels_->setChildrenCollapsible(false);
+  panels_->setStretchFactor(0, 1);
+  panels_->setSizes({kPropertiesHeight, kFormsHeight});
   auto* right_column = new QVBoxLayout(right_);
   right_column->setContentsMargins(0, 0, 0, 0);
   right_column->setSpacing(kRoom);
@@ -95,31 +110,13 @@ void MainWindow::BuildStatusBar() {
   statusBar()->addPermanentWidget(pointer_);
 }
 
-void MainWindow::Attach(MDIForm1& shell) {
-  shell_ = &shell;
-  actions_->Attach(shell);
-  tools_->Attach(shell);
-  object_bar_->Attach(shell);
-  events_bar_->Attach(shell);
-  properties_ = new PropertyPanel(shell.Sheet(), pictures_, this);
-  form_list_ = new FormListPanel(*actions_, this);
-  form_list_->Attach(shell);
-  panels_->addWidget(properties_);
-  panels_->addWidget(form_list_);
-  panels_->setChildrenCollapsible(false);
-  panels_->setStretchFactor(0, 1);
-  panels_->setSizes({kPropertiesHeight, kFormsHeight});
-  connect(properties_, &PropertyPanel::ShownWanted, this,
-          [this](bool shown) { shell_->SetPanelShown(Panel::Properties, shown); });
-  connect(properties_, &PropertyPanel::Left, this, [this] {
-    const DesignForm* current = shell_->Tables().CurrentForm;
-    DesignWindow* form = current != nullptr ? container_->Window(current->Number()) : nullptr;
-    if (form != nullptr) form->Surface().setFocus();
-  });
+void MainWindow::GoToForm() {
+  const DesignForm* current = shell_.Tables().CurrentForm;
+  DesignWindow* form = current != nullptr ? container_->Window(current->Number()) : nullptr;
+  if (form != nullptr) form->Surface().setFocus();
 }
 
 void MainWindow::RefreshCommands() {
-  if (shell_ == nullptr) return;
   actions_->Refresh();
   tools_->Refresh();
   object_bar_->Refresh();
@@ -150,7 +147,7 @@ void MainWindow::SetFormListVisible(bool visible) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  if (shell_ == nullptr || shell_->Close()) {
+  if (shell_.Close()) {
     event->accept();
   } else {
     event->ignore();

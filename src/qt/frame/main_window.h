@@ -19,20 +19,20 @@ class IconDisplay;
 class FilePort;
 class MDIForm1;
 class ObjectBar;
+class ObjectsExaminerWindow;
 class PropertyPanel;
 class ToolBoxPanel;
 
 /// Menu bar and toolbar above, tool box at the left, container in the middle, panels at the right,
-/// status bar below. What happens is decided by the shell; this only builds and lays out.
+/// status bar below. What happens is decided by the shell, each of whose parts
+/// goes to the panel that shows it; this only builds and lays out.
 class MainWindow final : public QMainWindow {
   Q_OBJECT
 
  public:
-  explicit MainWindow(FilePort& files);
+  MainWindow(MDIForm1& shell, FilePort& files);
   ~MainWindow() override;
 
-  /// Gives all parts the logic they forward to.
-  void Attach(MDIForm1& shell);
   /// State of all commands and tools changed.
   void RefreshCommands();
 
@@ -42,6 +42,7 @@ class MainWindow final : public QMainWindow {
   [[nodiscard]] IconDisplay& ProgramIconView() { return *icon_; }
   [[nodiscard]] ObjectBar& FloatingTools() { return *object_bar_; }
   [[nodiscard]] EventsBarWindow& EventButtons() { return *events_bar_; }
+  [[nodiscard]] ObjectsExaminerWindow& Examiner() { return *examiner_; }
   [[nodiscard]] CommandActions& Actions() { return *actions_; }
   [[nodiscard]] looks::PictureCache& Pictures() { return pictures_; }
   void SetStatus(const QString& text);
@@ -57,10 +58,12 @@ class MainWindow final : public QMainWindow {
  private:
   void BuildPanels();
   void BuildStatusBar();
+  /// Gives the focus to the current design form.
+  void GoToForm();
 
+  MDIForm1& shell_;
   looks::PictureCache pictures_;
   TextCache texts_;
-  MDIForm1* shell_ = nullptr;
   CommandActions* actions_;
   Container* container_;
   ToolBoxPanel* tools_;
@@ -69,6 +72,7 @@ class MainWindow final : public QMainWindow {
   IconDisplay* icon_;
   ObjectBar* object_bar_;
   EventsBarWindow* events_bar_;
+  ObjectsExaminerWindow* examiner_;
   QWidget* right_;
   QSplitter* panels_;
   QLabel* status_;

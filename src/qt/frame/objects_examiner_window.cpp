@@ -51,9 +51,9 @@ void FillList(QListWidget& list, const std::vector<std::string>& rows) {
 
 }  // namespace
 
-ObjectsExaminerWindow::ObjectsExaminerWindow(const language::SupportTables& tables, QWidget* parent)
+ObjectsExaminerWindow::ObjectsExaminerWindow(FormViewObjects& logic, QWidget* parent)
     : QWidget(parent, Qt::Window),
-      logic_(tables),
+      logic_(logic),
       find_(new QLineEdit),
       kinds_(MakeList("Lista")),
       members_(MakeList("ListaPro")),
@@ -115,7 +115,7 @@ void ObjectsExaminerWindow::Build() {
   whole->addWidget(parts);
 }
 
-void ObjectsExaminerWindow::Open() {
+void ObjectsExaminerWindow::OpenExaminer() {
   logic_.Open();
   {
     const QSignalBlocker quiet(kinds_);

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "inspector/objects_examiner.h"
+#include "shell/shell_windows.h"
 
 class QLabel;
 class QLineEdit;
@@ -18,16 +19,14 @@ namespace tarnwick {
 ///   letters          find a kind; Up, Down, Page Up, Page Down move in it from the field
 ///   Enter, Right     on to the members; Left goes back to the kinds
 ///   Esc              closes
-class ObjectsExaminerWindow final : public QWidget {
+class ObjectsExaminerWindow final : public QWidget, public ExaminerWindow {
   Q_OBJECT
 
  public:
-  ObjectsExaminerWindow(const language::SupportTables& tables, QWidget* parent);
+  ObjectsExaminerWindow(FormViewObjects& logic, QWidget* parent);
 
   /// Fills the lists, shows the window and gives the focus to the search.
-  void Open();
-  /// The logic behind, for whoever wants a row selected at the next opening.
-  [[nodiscard]] FormViewObjects& Logic() { return logic_; }
+  void OpenExaminer() override;
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -40,7 +39,7 @@ class ObjectsExaminerWindow final : public QWidget {
   void ShowText();
   bool PressInSearch(QKeyEvent& event);
 
-  FormViewObjects logic_;
+  FormViewObjects& logic_;
   QLineEdit* find_;
   QListWidget* kinds_;
   QListWidget* members_;

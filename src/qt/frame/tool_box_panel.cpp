@@ -6,7 +6,7 @@
 #include "designer/tool_box.h"
 #include "qt/kit/icon_set.h"
 #include "qt/kit/text_bridge.h"
-#include "shell/mdi_form.h"
+#include "shell/command_center.h"
 
 namespace tarnwick {
 
@@ -18,7 +18,9 @@ constexpr int kBetween = 2;
 
 }  // namespace
 
-ToolBoxPanel::ToolBoxPanel(const QString& name, int columns, QWidget* parent) : QWidget(parent) {
+ToolBoxPanel::ToolBoxPanel(CommandCenter& commands, const QString& name, int columns,
+                           QWidget* parent)
+    : QWidget(parent), commands_(commands) {
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(kBetween);
@@ -36,24 +38,19 @@ ToolBoxPanel::ToolBoxPanel(const QString& name, int columns, QWidget* parent) : 
     button->setCheckable(true);
     button->setFocusPolicy(Qt::NoFocus);
     connect(button, &QToolButton::clicked, this, [this, number] {
-      if (shell_ != nullptr) shell_->PressTool(number);
+      commands_.PressTool(number);
       Refresh();
     });
     grid->addWidget(button, place / columns, place % columns);
     buttons_.emplace_back(number, button);
     ++place;
   }
-}
-
-void ToolBoxPanel::Attach(MDIForm1& shell) {
-  shell_ = &shell;
   Refresh();
 }
 
 void ToolBoxPanel::Refresh() {
-  if (shell_ == nullptr) return;
   for (const auto& [number, button] : buttons_) {
-    const CommandState state = shell_->ToolState(number);
+    const CommandState state = commands_.ToolState(number);
     button->setEnabled(state.Enabled);
     button->setChecked(state.Checked);
   }

@@ -9,7 +9,7 @@ class QToolButton;
 
 namespace tarnwick {
 
-class MDIForm1;
+class CommandCenter;
 
 /// One button for each tool, in the order of the screen. The armed tool's button stays down.
 class ToolBoxPanel final : public QWidget {
@@ -17,14 +17,13 @@ class ToolBoxPanel final : public QWidget {
 
  public:
   /// Buttons are named `name` and the tool's number.
-  ToolBoxPanel(const QString& name, int columns, QWidget* parent);
+  ToolBoxPanel(CommandCenter& commands, const QString& name, int columns, QWidget* parent);
 
-  void Attach(MDIForm1& shell);
-  /// Reads the state of all tools anew.
+  /// Reads the state of all tools again.
   void Refresh();
 
  private:
-  MDIForm1* shell_ = nullptr;
+  CommandCenter& commands_;
   std::vector<std::pair<int, QToolButton*>> buttons_;
 };
 

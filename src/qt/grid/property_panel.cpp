@@ -51,8 +51,10 @@ PropertyPanel::PropertyPanel(PropertySheet& sheet, looks::PictureCache& pictures
   RowsChanged();
 }
 
-// The logic may be gone by now: nothing is told to it here.
-PropertyPanel::~PropertyPanel() = default;
+// Its logic was there first and outlives it.
+PropertyPanel::~PropertyPanel() {
+  sheet_.SetView(nullptr);
+}
 
 void PropertyPanel::BuildHead() {
   auto* frame = new PanelFrame(QStringLiteral("Picture1"), QStringLiteral("Properties"), this);

@@ -1,0 +1,113 @@
+#include "shell/command_center.h"
+
+#include "inspector/property_sheet.h"
+#include "shell/compile_command.h"
+#include "shell/edit_commands.h"
+#include "shell/form_commands.h"
+#include "shell/project_commands.h"
+#include "shell/shell_state.h"
+
+namespace tarnwick {
+
+void CommandCenter::Run(Command command) {
+  if (state_.Busy || !State(command).Enabled) return;
+  if (command == Command::Exit) {
+    state_.View->CloseMainWindow();
+    return;
+  }
+  if (WaitsForCodeEditor(command) && state_.RaiseOpenCode()) return;
+  state_.Busy = true;
+  Dispatch(command);
+  state_.Busy = false;
+}
+
+void CommandCenter::Dispatch(Command command) {
+  switch (command) {
+    case Command::New:
+      return project_.New();
+    case Command::Open:
+      return project_.Open(false);
+    case Command::OpenOld:
+      return project_.Open(true);
+    case Command::Save:
+      project_.Save();
+      return;
+    case Command::SaveAs:
+      return project_.SaveAs();
+    case Command::SaveForm:
+      return project_.SaveForm();
+    case Command::SaveFormAs:
+      return project_.SaveFormAs();
+    case Command::Code:
+      return state_.Code->OpenCode();
+    case Command::PublicDeclarations:
+      return state_.Code->OpenPublicDeclarations();
+    case Command::Properties:
+      return Toggle(Panel::Properties);
+    case Command::Forms:
+      return Toggle(Panel::Forms);
+    case Command::EventsBar:
+      return Toggle(Panel::EventsBar);
+    case Command::ObjectBar:
+      return Toggle(Panel::ObjectBar);
+    case Command::Examiner:
+      return state_.Examiner->OpenExaminer();
+    case Command::AddNewForm:
+      return forms_.AddNew();
+    case Command::Remove:
+      return forms_.Remove();
+    case Command::SelectMainForm:
+      return forms_.SelectMainForm();
+    case Command::MenuEdit:
+      return state_.Menus->OpenMenuEdit();
+    case Command::Compile:
+      return compile_.Run();
+    case Command::Help:
+      state_.Ports.Processes.OpenDocument(state_.Tables.ProgramFolder + "\\Tarnwick.chm");
+      return;
+    case Command::About:
+      return state_.View->ShowAbout(state_.Tables.ProgramFolder);
+    default:
+      return edit_.Run(command);
+  }
+}
+
+CommandState CommandCenter::State(Command command) const {
+  return StateOf(command, state_.Tables, state_.Flags);
+}
+
+std::string CommandCenter::Caption(Command command) const {
+  return CaptionOf(command, state_.Tables);
+}
+
+void CommandCenter::PressTool(int number) {
+  if (state_.Busy || !ToolState(number).Enabled) return;
+  // What a tool would select is what the open code editor works on.
+  if (state_.RaiseOpenCode()) return;
+  state_.Busy = true;
+  edit_.PressTool(number);
+  state_.Busy = false;
+}
+
+CommandState CommandCenter::ToolState(int number) const {
+  return StateOfTool(number, state_.Tables, state_.Flags);
+}
+
+bool CommandCenter::PanelShown(Panel panel) const {
+  return state_.IsShown(panel);
+}
+
+void CommandCenter::Toggle(Panel panel) {
+  SetPanelShown(panel, !PanelShown(panel));
+}
+
+void CommandCenter::SetPanelShown(Panel panel, bool shown) {
+  if (PanelShown(panel) == shown) return;
+  state_.ShowPanel(panel, shown);
+  if (panel == Panel::Properties) {
+    sheet_.SetPanelVisible(shown);
+    if (shown) sheet_.ShowSelection();
+  }
+}
+
+}  // namespace tarnwick
