@@ -1,0 +1,187 @@
+#include "editor/form_codigo.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "text/code_page.h"
+#include "text/numbers.h"
+
+namespace tarnwick::editor {
+
+namespace {
+
+// Sections and keys of the scratch index.
+constexpr std::string_view kEventsSection = "Events";
+constexpr std::string_view kEventsIndexSection = "EventsIndex";
+constexpr SettingKey kSearchWhere{"Search", "Whr"};
+constexpr SettingKey kPanelState{"Load", "LstFnc"};
+constexpr std::string_view kPanelOpen = "1";
+constexpr std::string_view kPanelClosed = "2";
+
+constexpr std::string_view kMenuWord = "menu";
+constexpr std::string_view kFormWord = "Form";
+
+/// The wanted suffix of a form that was never opened is written with this row.
+constexpr std::string_view kDefaultFormRow = "11";
+
+int RowOfSuffix(const std::vector<EventRow>& rows, std::string_view suffix) {
+  const auto found = std::find_if(rows.begin(), rows.end(), [suffix](const EventRow& row) {
+    return EqualsFolded(InfoOf(row.Id).Suffix, suffix);
+  });
+  return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
+}
+
+}  // namespace
+
+void FormCodigo::Open() {
+  DesignForm* window = project_.CurrentForm;
+  if (window == nullptr) return;
+  LoadPanel();
+  events_.clear();
+  event_row_ = -1;
+  if (project_.JumpKey.find('.') != std::string::npos) {
+    target_ = TargetOfKey(project_.JumpKey, window->Number());
+    LoadNamedItem();
+    return;
+  }
+  target_ = TargetOfSelection(*window);
+  switch (target_.What) {
+    case CodeTarget::Sort::MenuItem:
+      caption_ = target_.NameObjet;
+      LoadEvents(kMenuWord);
+      break;
+    case CodeTarget::Sort::Form: {
+      const FormRec* record = project_.RecordOf(*window);
+      caption_ = record == nullptr ? std::string(kFormWord) : record->Name;
+      LoadEvents(kFormWord);
+      window->ControlSel = nullptr;
+      break;
+    }
+    default:
+      // The name before stays where no control is selected.
+      if (window->ControlSel != nullptr) caption_ = window->ControlSel->Tag;
+      if (language_.ObjectHelp.Find(target_.KindWord) != nullptr) {
+        LoadEvents(target_.KindWord);
+      } else {
+        project_.JumpKey.clear();
+        editor_.SetText("");
+      }
+  }
+}
+
+void FormCodigo::LoadPanel() {
+  functions_.Fill();
+  const std::string where = settings_.ReadEventIndex(kSearchWhere.Section, kSearchWhere.Key);
+  const double row = Val(where);
+  const auto rows = static_cast<double>(kComboSearchRows.size());
+  combo_search_ = row >= 0 && row < rows ? static_cast<int>(row) : 0;
+  const std::string state = settings_.ReadEventIndex(kPanelState.Section, kPanelState.Key);
+  functions_visible_ = state.empty() || state == kPanelOpen;
+}
+
+void FormCodigo::SetComboSearch(int row) {
+  combo_search_ = std::clamp(row, 0, static_cast<int>(kComboSearchRows.size()) - 1);
+  settings_.WriteEventIndex(kSearchWhere.Section, kSearchWhere.Key,
+                            NumberText(static_cast<std::int64_t>(combo_search_)));
+}
+
+void FormCodigo::LoadNamedItem() {
+  project_.JumpKey.clear();
+  caption_ = target_.NameObjet;
+  events_ = {{"Sub " + caption_ + "_OnClick", Event::OnClick}};
+  event_row_ = 0;
+  ShowTextOf(ShownKey());
+}
+
+std::string FormCodigo::WantedEvent() {
+  if (!project_.JumpKey.empty()) return "." + std::exchange(project_.JumpKey, {});
+  if (target_.What == CodeTarget::Sort::MenuItem) return {};
+  return settings_.ReadEventIndex(kEventsSection, KeyPrefixOf(target_));
+}
+
+void FormCodigo::LoadEvents(std::string_view kind_word) {
+  IsLoading_ = true;
+  const std::string wanted = WantedEvent();
+  events_ = EventRowsOf(kind_word, caption_);
+  event_row_ = wanted.empty() ? -1 : RowOfSuffix(events_, wanted);
+  if (event_row_ < 0) event_row_ = DefaultRowOf(kind_word, events_);
+  if (wanted.empty() && target_.What == CodeTarget::Sort::Form) {
+    settings_.WriteEventIndex(kEventsIndexSection, KeyPrefixOf(target_), kDefaultFormRow);
+  }
+  ShowTextOf(ShownKey());
+  IsLoading_ = false;
+}
+
+std::string FormCodigo::ShownKey() const {
+  if (event_row_ < 0) return {};
+  const Event event = events_[static_cast<std::size_t>(event_row_)].Id;
+  return KeyPrefixOf(target_).append(InfoOf(event).Suffix);
+}
+
+void FormCodigo::ShowTextOf(const std::string& key) {
+  const std::string* code = key.empty() ? nullptr : project_.EventTable.Find(key);
+  // An entry that is not there and an empty one show the same page.
+  editor_.SetText(code == nullptr ? std::string_view() : std::string_view(*code));
+}
+
+void FormCodigo::StoreText(const std::string& text) {
+  const std::string key = ShownKey();
+  if (key.empty()) return;
+  if (target_.What == CodeTarget::Sort::NamedItem && text.empty()) {
+    // An item that was opened by its name has no entry while it has no code.
+    project_.EventTable.Remove(key);
+  } else {
+    project_.EventTable.Replace(key, text);
+  }
+}
+
+void FormCodigo::StoreShown() {
+  if (IsOpen()) StoreText(editor_.Text());
+}
+
+void FormCodigo::Events_Click(int row) {
+  if (IsLoading_ || !IsOpen() || row < 0 || row >= static_cast<int>(events_.size())) return;
+  if (row == event_row_) return;
+  StoreShown();
+  event_row_ = row;
+  ShowTextOf(ShownKey());
+}
+
+void FormCodigo::Accept() {
+  if (!IsOpen()) return;
+  const std::string text = editor_.Text();
+  const int form = target_.Form;
+  StoreText(text);
+  if (target_.What != CodeTarget::Sort::NamedItem) {
+    if (event_row_ >= 0) {
+      const std::string prefix = KeyPrefixOf(target_);
+      const Event event = events_[static_cast<std::size_t>(event_row_)].Id;
+      settings_.WriteEventIndex(kEventsSection, prefix, InfoOf(event).Suffix);
+      settings_.WriteEventIndex(kEventsIndexSection, prefix,
+                                NumberText(static_cast<std::int64_t>(event_row_)));
+    }
+    settings_.WriteEventIndex(kPanelState.Section, kPanelState.Key,
+                              functions_visible_ ? kPanelOpen : kPanelClosed);
+    const std::string name = BarNameOf(target_);
+    if (text.empty()) {
+      host_.DelBoockMarck(form, name);
+    } else {
+      host_.PopBoockMarck(form, name);
+    }
+  }
+  host_.CodeAccepted(form);
+  Close();
+}
+
+void FormCodigo::Cancel() {
+  if (IsOpen()) Close();
+}
+
+void FormCodigo::Close() {
+  target_ = {};
+  events_.clear();
+  event_row_ = -1;
+  host_.Unload();
+}
+
+}  // namespace tarnwick::editor

@@ -1,0 +1,60 @@
+// The project and the tables on which the code windows are tested.
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include "language/support_tables.h"
+#include "model/menu_bar.h"
+#include "support/project_builder.h"
+
+namespace tarnwick::test {
+
+/// See IntellisenseCases for what stands where.
+struct EditorProject {
+  ProjectBuilder Builder;
+  ProjectTables& Tables = Builder.Tables;
+  language::SupportTables Language;
+
+  EditorProject() {
+    Builder.Title("mnuFile", "&File").Item("mnuOpen", "&Open");
+    const BuiltForm main = Builder.AddForm("Main");
+    main.Add(Kind::Button, "Ok");
+    main.Add(Kind::Label, "my_label");
+    main.Add(Kind::Image, "Pic");
+    main.Add(Kind::PopUpMenu, "Pop");
+    BuildMenuControls(Tables, main.User());
+    Builder.AddForm("Other").Add(Kind::ListBox, "Ok");
+    Members("as", {"Integer", "QForm"});
+    Members("button", {"Caption", "Color", "Click"});
+    Members("listbox", {"AddItems"});
+    Members("label", {"Caption"});
+    Members("form", {"Show", "Caption"});
+    Members("menu", {"Caption", "Visible"});
+    Members("item(menu)", {"Checked", "Caption"});
+    Members("image", {"Picture"});
+    Members("images", {"wrong"});
+    Members("popupmnu", {"Popup"});
+    Members("screen", {"Width"});
+    Members("application", {"Title"});
+    Language.EventLists.Add("button", {"OnClick", "OnKeyUp"});
+    Language.EventLists.Add("label", {"OnClick", "OnDblClick"});
+    Language.EventLists.Add("images", {"OnPaint"});
+    Language.EventLists.Add("form", {"OnShow"});
+    Language.EventLists.Add("menu", {"OnClick"});
+    Language.EventLists.Add("item(menu)", {"OnClick"});
+    for (const char* kind : {"FORM", "BUTTON", "LABEL", "IMAGE", "POPUPMENU", "LISTBOX"}) {
+      Language.ObjectHelp.Add(kind, {});
+    }
+  }
+
+  void Members(std::string_view key, const std::vector<std::string>& names) {
+    std::vector<language::KindMember> members;
+    for (const std::string& name : names) {
+      members.push_back({name, language::MemberSort::Property});
+    }
+    Language.MemberLists.Add(key, std::move(members));
+  }
+};
+
+}  // namespace tarnwick::test

@@ -1,0 +1,375 @@
+#include "editor/form_codigo.h"
+
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "designer/selection.h"
+#include "editor/editor_project.h"
+#include "editor/form_view_codes.h"
+#include "fakes/fake_edit_widget.h"
+#include "fakes/fake_ports.h"
+
+namespace tarnwick::test {
+namespace {
+
+using editor::FormCodigo;
+using Rows = std::vector<std::string>;
+
+/// Log entries: "code N NAME", "no code N NAME", "accepted N", "unload".
+class FakeCodeHost final : public editor::CodeHost {
+ public:
+  void PopBoockMarck(int form, std::string_view name) override {
+    Log.push_back("code " + std::to_string(form) + " " + std::string(name));
+  }
+  void DelBoockMarck(int form, std::string_view name) override {
+    Log.push_back("no code " + std::to_string(form) + " " + std::string(name));
+  }
+  void CodeAccepted(int form) override { Log.push_back("accepted " + std::to_string(form)); }
+  void Unload() override { Log.emplace_back("unload"); }
+
+  Rows Log;
+};
+
+class FormCodigoTest : public testing::Test {
+ protected:
+  void Select(Kind kind, int index) { tarnwick::Select(*Window(), Window()->Element(kind, index)); }
+  void SelectItem(std::string_view name) {
+    Window()->ControlSel = nullptr;
+    Window()->NameObjet = name;
+    Window()->IndexObjet = 0;
+  }
+  DesignForm* Window() { return project_.Tables.CurrentForm; }
+  std::string Code(std::string_view key) {
+    const std::string* code = project_.Tables.EventTable.Find(key);
+    return code == nullptr ? "(none)" : *code;
+  }
+  void SetCode(std::string_view key, std::string_view code) {
+    project_.Tables.EventTable.Replace(key, code);
+  }
+  Rows EventTexts() {
+    Rows texts;
+    for (const editor::EventRow& row : codigo_.Events()) texts.push_back(row.Text);
+    return texts;
+  }
+  std::string Remembered(std::string_view section, std::string_view key) {
+    return settings_.ReadEventIndex(section, key);
+  }
+
+  EditorProject project_;
+  FakePorts ports_;
+  Settings settings_{ports_.Profiles, "C:\\Tarnwick"};
+  FakeEditWidget editor_;
+  FakeCodeHost host_;
+  FormCodigo codigo_{project_.Tables, project_.Language, settings_, editor_, host_};
+};
+
+TEST_F(FormCodigoTest, AFormThatWasNeverOpenedShowsOnShowTheTwelfthRow) {
+  tarnwick::Select(*Window(), nullptr);
+  SetCode("Form1.OnShow", "Beep");
+  codigo_.Open();
+  EXPECT_EQ(codigo_.Caption(), "Main");
+  EXPECT_EQ(codigo_.EventRowNo(), 11);
+  EXPECT_EQ(EventTexts().at(11), "Sub Main_OnShow");
+  EXPECT_EQ(EventTexts().at(1), "Sub Main_OnClose (Action As Integer)");
+  EXPECT_EQ(editor_.Text(), "Beep");
+  EXPECT_EQ(Remembered("EventsIndex", "Form1"), "11");
+}
+
+TEST_F(FormCodigoTest, TheRowsOfAFormKeepTheirDoubleBlanks) {
+  tarnwick::Select(*Window(), nullptr);
+  codigo_.Open();
+  EXPECT_EQ(EventTexts().at(7),
+            "Sub Main_OnMouseMove (X  As Integer, Y  As Integer, Shift  As Integer)");
+  EXPECT_EQ(EventTexts().size(), 12U);
+}
+
+TEST_F(FormCodigoTest, AnObjectShowsItsUserNameAndTheDefaultEventOfItsKind) {
+  Select(Kind::Button, 1);
+  SetCode("Form1.Button1.OnClick", "Click");
+  codigo_.Open();
+  EXPECT_EQ(codigo_.Caption(), "Ok");
+  EXPECT_EQ(codigo_.EventRowNo(), 0);
+  EXPECT_EQ(EventTexts().at(0), "Sub Ok_OnClick");
+  EXPECT_EQ(editor_.Text(), "Click");
+}
+
+TEST_F(FormCodigoTest, AnEmptyEntryAndNoEntryShowTheSamePage) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  EXPECT_EQ(editor_.Text(), "");
+  codigo_.Cancel();
+  SetCode("Form1.Button1.OnClick", "");
+  codigo_.Open();
+  EXPECT_EQ(editor_.Text(), "");
+}
+
+TEST_F(FormCodigoTest, AChangeOfEventStoresTheTextAndShowsTheOther) {
+  Select(Kind::Button, 1);
+  SetCode("Form1.Button1.OnKeyDown", "key");
+  codigo_.Open();
+  editor_.SetText("typed");
+  codigo_.Events_Click(1);
+  EXPECT_EQ(Code("Form1.Button1.OnClick"), "typed");
+  EXPECT_EQ(editor_.Text(), "key");
+  EXPECT_TRUE(host_.Log.empty());
+}
+
+TEST_F(FormCodigoTest, SettingTheTextBeginsANewUndoHistory) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  const int before = editor_.Histories;
+  codigo_.Events_Click(2);
+  EXPECT_EQ(editor_.Histories, before + 1);
+}
+
+TEST_F(FormCodigoTest, AcceptStoresRemembersTheEventTellsTheBarAndCloses) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  codigo_.Events_Click(2);
+  editor_.SetText("k");
+  codigo_.Accept();
+  EXPECT_EQ(Code("Form1.Button1.OnKeyPress"), "k");
+  EXPECT_EQ(Remembered("Events", "Form1.Button1"), ".OnKeyPress");
+  EXPECT_EQ(Remembered("EventsIndex", "Form1.Button1"), "2");
+  EXPECT_EQ(host_.Log, (Rows{"code 1 Button1", "accepted 1", "unload"}));
+  EXPECT_FALSE(codigo_.IsOpen());
+  codigo_.Open();
+  EXPECT_EQ(codigo_.EventRowNo(), 2);
+  EXPECT_EQ(editor_.Text(), "k");
+}
+
+TEST_F(FormCodigoTest, KeysOfAnySpellingAreOne) {
+  Select(Kind::Button, 1);
+  SetCode("Form1.Button1.OnkeyDown", "old spelling");
+  codigo_.Open();
+  codigo_.Events_Click(1);
+  EXPECT_EQ(editor_.Text(), "old spelling");
+}
+
+TEST_F(FormCodigoTest, AcceptOfAnEmptyTextKeepsTheEntryAndTellsTheBar) {
+  Select(Kind::Button, 1);
+  SetCode("Form1.Button1.OnClick", "x");
+  codigo_.Open();
+  editor_.SetText("");
+  codigo_.Accept();
+  EXPECT_EQ(Code("Form1.Button1.OnClick"), "");
+  EXPECT_EQ(host_.Log.front(), "no code 1 Button1");
+}
+
+TEST_F(FormCodigoTest, CancelStoresNothing) {
+  Select(Kind::Button, 1);
+  SetCode("Form1.Button1.OnClick", "kept");
+  codigo_.Open();
+  editor_.SetText("typed");
+  codigo_.Cancel();
+  EXPECT_EQ(Code("Form1.Button1.OnClick"), "kept");
+  EXPECT_EQ(host_.Log, Rows{"unload"});
+}
+
+TEST_F(FormCodigoTest, WhatIsOpenStaysTheTargetWhateverIsSelectedMeanwhile) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  Select(Kind::Label, 1);
+  editor_.SetText("of the button");
+  codigo_.Accept();
+  EXPECT_EQ(Code("Form1.Button1.OnClick"), "of the button");
+  EXPECT_EQ(Code("Form1.Label1.OnClick"), "(none)");
+}
+
+TEST_F(FormCodigoTest, APictureIsKeyedByItsArray) {
+  Select(Kind::Image, 1);
+  codigo_.Open();
+  editor_.SetText("p");
+  codigo_.Accept();
+  EXPECT_EQ(Code("Form1.Images1.OnClick"), "p");
+  EXPECT_EQ(host_.Log.front(), "code 1 Images1");
+}
+
+TEST_F(FormCodigoTest, APopupMenuIsKeyedByItsArrayAndOpensOnItsOneEvent) {
+  Select(Kind::PopUpMenu, 1);
+  codigo_.Open();
+  EXPECT_EQ(EventTexts(), Rows{"Sub Pop_OnPopUp"});
+  EXPECT_FALSE(codigo_.EventsEnabled());
+  editor_.SetText("p");
+  codigo_.Accept();
+  EXPECT_EQ(Code("Form1.PopUpMnu1.OnPopUp"), "p");
+}
+
+TEST_F(FormCodigoTest, BracketsOfTheCaptionAreLeftOutOfTheRows) {
+  Window()->Element(Kind::Image, 1)->Tag = "Image(3)";
+  Select(Kind::Image, 1);
+  codigo_.Open();
+  EXPECT_EQ(EventTexts().front(), "Sub Image3_OnClick");
+}
+
+TEST_F(FormCodigoTest, AnItemOfTheMenuBarHasOneRowAndTheKeyOfItsName) {
+  SelectItem("mnuOpen");
+  codigo_.Open();
+  EXPECT_EQ(EventTexts(), Rows{"Sub mnuOpen_OnClick"});
+  editor_.SetText("open");
+  codigo_.Accept();
+  EXPECT_EQ(Code("Form1.mnuOpen.OnClick"), "open");
+  EXPECT_EQ(Remembered("Events", "Form1.mnuOpen"), ".OnClick");
+  EXPECT_EQ(host_.Log.front(), "code 1 mnuOpen");
+}
+
+TEST_F(FormCodigoTest, AnItemWhoseNameHoldsFormIsNotTheForm) {
+  Window()->Element(Kind::MenuItem, 1)->Tag = "mnuFormat";
+  SelectItem("mnuFormat");
+  codigo_.Open();
+  EXPECT_EQ(EventTexts(), Rows{"Sub mnuFormat_OnClick"});
+}
+
+TEST_F(FormCodigoTest, AnObjectOnAFormWithAMenuBarIsStillAnObject) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  EXPECT_EQ(codigo_.Caption(), "Ok");
+}
+
+TEST_F(FormCodigoTest, AJumpToAnEventOpensThereOnce) {
+  Select(Kind::Button, 1);
+  project_.Tables.JumpKey = "OnKeyUp";
+  codigo_.Open();
+  EXPECT_EQ(EventTexts().at(static_cast<std::size_t>(codigo_.EventRowNo())),
+            "Sub Ok_OnKeyUp (Key As Word, Shift As Integer)");
+  EXPECT_EQ(project_.Tables.JumpKey, "");
+}
+
+TEST_F(FormCodigoTest, AJumpToAnEventThatTheKindLacksOpensTheDefault) {
+  Select(Kind::Button, 1);
+  project_.Tables.JumpKey = "OnTimer";
+  codigo_.Open();
+  EXPECT_EQ(codigo_.EventRowNo(), 0);
+}
+
+TEST_F(FormCodigoTest, AJumpWithADotOpensTheItemWhateverIsSelected) {
+  Select(Kind::Button, 1);
+  SetCode("Form1.ppmCopy.OnClick", "copy");
+  project_.Tables.JumpKey = "Form1.ppmCopy";
+  codigo_.Open();
+  EXPECT_EQ(EventTexts(), Rows{"Sub ppmCopy_OnClick"});
+  EXPECT_EQ(editor_.Text(), "copy");
+  EXPECT_EQ(project_.Tables.JumpKey, "");
+}
+
+TEST_F(FormCodigoTest, TextOfAJumpedItemThatIsDeletedLeavesNoEntry) {
+  project_.Tables.JumpKey = "Form1.ppmCopy";
+  codigo_.Open();
+  editor_.SetText("copy");
+  codigo_.Accept();
+  EXPECT_EQ(Code("Form1.ppmCopy.OnClick"), "copy");
+  project_.Tables.JumpKey = "Form1.ppmCopy";
+  codigo_.Open();
+  editor_.SetText("");
+  codigo_.Accept();
+  EXPECT_EQ(Code("Form1.ppmCopy.OnClick"), "(none)");
+}
+
+TEST_F(FormCodigoTest, AKindWithoutALineInTheSupportFileHasNoEvents) {
+  project_.Builder.Form(1).Add(Kind::WinSock, "Sock");
+  Select(Kind::WinSock, 1);
+  codigo_.Open();
+  EXPECT_TRUE(codigo_.Events().empty());
+  EXPECT_EQ(codigo_.EventRowNo(), -1);
+  editor_.SetText("x");
+  codigo_.Accept();
+  EXPECT_EQ(Code("Form1.WinSock1.OnClick"), "(none)");
+}
+
+TEST_F(FormCodigoTest, ARememberedEventThatIsNoRowGivesTheDefault) {
+  settings_.WriteEventIndex("Events", "Form1.Button1", ".OnTimer");
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  EXPECT_EQ(codigo_.EventRowNo(), 0);
+}
+
+TEST_F(FormCodigoTest, TheRememberedRowNumberCountsForNothing) {
+  settings_.WriteEventIndex("Events", "Form1.Button1", ".OnKeyUp");
+  settings_.WriteEventIndex("EventsIndex", "Form1.Button1", "60");
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  EXPECT_EQ(codigo_.EventRowNo(), 3);
+}
+
+TEST_F(FormCodigoTest, AnObjectThatIsRenamedKeepsItsCode) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  editor_.SetText("mine");
+  codigo_.Accept();
+  Window()->Element(Kind::Button, 1)->Tag = "Renamed";
+  codigo_.Open();
+  EXPECT_EQ(codigo_.Caption(), "Renamed");
+  EXPECT_EQ(editor_.Text(), "mine");
+}
+
+TEST_F(FormCodigoTest, StoringWhatIsShownChangesNothingElse) {
+  Select(Kind::Button, 1);
+  codigo_.StoreShown();
+  codigo_.Open();
+  editor_.SetText("half");
+  codigo_.StoreShown();
+  EXPECT_EQ(Code("Form1.Button1.OnClick"), "half");
+  EXPECT_TRUE(codigo_.IsOpen());
+  EXPECT_TRUE(host_.Log.empty());
+}
+
+TEST_F(FormCodigoTest, ThePanelOpensAsItWasLeftAtAnAccept) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  EXPECT_TRUE(codigo_.WndFuncVisible());
+  codigo_.ShowWndFunc(false);
+  codigo_.Accept();
+  codigo_.Open();
+  EXPECT_FALSE(codigo_.WndFuncVisible());
+  EXPECT_EQ(Remembered("Load", "LstFnc"), "2");
+  codigo_.ShowWndFunc(true);
+  codigo_.Cancel();
+  codigo_.Open();
+  EXPECT_FALSE(codigo_.WndFuncVisible());
+}
+
+TEST_F(FormCodigoTest, TheRowOfTheSearchIsRememberedAndABadOneIsTheFirst) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  codigo_.SetComboSearch(2);
+  codigo_.Cancel();
+  codigo_.Open();
+  EXPECT_EQ(codigo_.ComboSearch(), 2);
+  settings_.WriteEventIndex("Search", "Whr", "9");
+  codigo_.Open();
+  EXPECT_EQ(codigo_.ComboSearch(), 0);
+}
+
+TEST_F(FormCodigoTest, NothingOpensWithoutAForm) {
+  project_.Tables.CurrentForm = nullptr;
+  codigo_.Open();
+  EXPECT_FALSE(codigo_.IsOpen());
+  codigo_.Accept();
+  EXPECT_TRUE(host_.Log.empty());
+}
+
+TEST_F(FormCodigoTest, DeclarationsAreStoredByAcceptAlone) {
+  editor::FormViewCodes codes(project_.Tables, editor_, host_);
+  project_.Tables.Form(2)->DeclarePbl = "Dim a";
+  ASSERT_TRUE(codes.Open(2));
+  EXPECT_EQ(codes.Caption(), "Form: Other  (Public Declarations)");
+  EXPECT_EQ(editor_.Text(), "Dim a");
+  editor_.SetText("Dim b");
+  codes.Cancel();
+  EXPECT_EQ(project_.Tables.Form(2)->DeclarePbl, "Dim a");
+  ASSERT_TRUE(codes.Open(2));
+  editor_.SetText("Dim b");
+  codes.Accept();
+  EXPECT_EQ(project_.Tables.Form(2)->DeclarePbl, "Dim b");
+  EXPECT_FALSE(codes.Open(3));
+}
+
+TEST(CodeFonts, TheNameOfTheDeclarationsFontStandsAsItIs) {
+  EXPECT_EQ(editor::kCodeFont, "Courier New");
+  EXPECT_EQ(editor::kDeclarationsFont, "Courdir new");
+}
+
+}  // namespace
+}  // namespace tarnwick::test
