@@ -28,7 +28,7 @@ constexpr std::array kMix{Kind::Button,  Kind::Label,    Kind::TextBox,      Kin
 void FillObject(BuiltObject& object, int number) {
   // A project that was read has its objects in the table, with code or without.
   object.Tables.EventTable.OwnerFor(
-      {object.User.Number(), object.Control.Id, object.Control.Index});
+      ObjectKey(object.User.Number(), object.Control.Id, object.Control.Index));
   object.At(number % 640, number % 480).Size(75, 25);
   object.Control.Caption = "Caption " + std::to_string(number);
   object.Control.Text = "Text " + std::to_string(number);

@@ -28,15 +28,12 @@ int Fail(std::FILE* err, const std::string& what, const std::string& path) {
 int Generate(LoadedProject& project, const Arguments& arguments, std::FILE* out, std::FILE* err) {
   GeneratorState state;
   project::CheckMainForm(project.Tables);
+  const std::string source = GenerateSource(project.Tables, state);
   if (!arguments.OutputFile) {
-    bool written = true;
-    WriteSource(project.Tables, state,
-                [&](std::string_view piece) { written = written && Print(out, piece); });
-    written = std::fflush(out) == 0 && written;
+    const bool written = Print(out, source) && std::fflush(out) == 0;
     return written ? 0 : Fail(err, "cannot write to", "standard output");
   }
   const std::string path = WindowsPathOf(*arguments.OutputFile);
-  const std::string source = GenerateSource(project.Tables, state);
   if (!project.Files.Replace(path, source)) return Fail(err, "cannot write", *arguments.OutputFile);
   return 0;
 }
@@ -79,20 +76,19 @@ int Check(LoadedProject& project, std::FILE* out) {
 
 }  // namespace
 
-int RunCommand(const Arguments& arguments, std::FILE* out, std::FILE* err,
-               std::optional<LoadedProject>& project) {
+int RunCommand(const Arguments& arguments, std::FILE* out, std::FILE* err) {
   if (arguments.What == Command::Convert) return Convert(arguments, err);
   // What `check` has to say of missing files stands among its findings.
   const bool quiet = arguments.What == Command::Check;
-  project.emplace(arguments.ProgramFolder, err, quiet);
-  if (!project->Load(arguments.Input)) return Fail(err, "cannot read", arguments.Input);
+  LoadedProject project(arguments.ProgramFolder, err, quiet);
+  if (!project.Load(arguments.Input)) return Fail(err, "cannot read", arguments.Input);
   switch (arguments.What) {
     case Command::Generate:
-      return Generate(*project, arguments, out, err);
+      return Generate(project, arguments, out, err);
     case Command::Resave:
-      return Resave(*project, arguments, err);
+      return Resave(project, arguments, err);
     default:
-      return Check(*project, out);
+      return Check(project, out);
   }
 }
 

@@ -1,17 +1,13 @@
 // tarnwick-cli: the project's logic with no display.
 #include <cstdio>
-#include <cstdlib>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
-#include "platform/large_pages.h"
 
 int main(int argc, char** argv) {
   using namespace tarnwick;
-  PreferLargePages();
   const ParsedArguments parsed =
       ParseArguments(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
   if (const auto* const print = std::get_if<PrintAndLeave>(&parsed)) {
@@ -22,9 +18,5 @@ int main(int argc, char** argv) {
     std::fputs(wrong->Text.c_str(), stderr);
     return 2;
   }
-  std::optional<LoadedProject> project;
-  const int exit = RunCommand(std::get<Arguments>(parsed), stdout, stderr, project);
-  std::fflush(stdout);
-  // The project's memory goes with the process: taking it apart would cost a tenth of the run.
-  std::_Exit(exit);
+  return RunCommand(std::get<Arguments>(parsed), stdout, stderr);
 }

@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "codegen/resources.h"
-#include "model/control_walk.h"
 
 namespace tarnwick {
 
@@ -67,9 +66,9 @@ void DeclareObjects(Generation& gen, Kind kind) {
     if (objects.size() > 1 && objects[1]) declarer.Declare(objects[1]->Tag);
     return;
   }
-  WalkControls<ControlPart::Head>(objects, 1, [&](const ControlRef& object) {
-    if (object) declarer.Declare(object->Tag);
-  });
+  for (std::size_t i = 1; i < objects.size(); ++i) {
+    if (objects[i]) declarer.Declare(objects[i]->Tag);
+  }
 }
 
 void DeclarePopUpItems(Generation& gen, int number) {

@@ -8,7 +8,7 @@ namespace tarnwick {
 EmittedCode FindEmittedCode(ProjectTables& tables) {
   EmittedCode emitted;
   GeneratorState state;
-  Generation gen(tables, state, [](std::string_view) {});
+  Generation gen(tables, state);
   gen.Bodies = &emitted.texts_;
   for (int form = 1; form <= tables.FormsCount; ++form) {
     if (!tables.IsLive(form)) continue;

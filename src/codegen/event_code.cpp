@@ -1,7 +1,5 @@
 #include "codegen/event_code.h"
 
-#include "model/control_walk.h"
-
 namespace tarnwick {
 
 namespace {
@@ -16,17 +14,17 @@ void WriteBody(Generation& gen, std::string_view code) {
 template <class Write>
 void ForEachObjectEvent(Generation& gen, Write write) {
   GeneratorState& state = gen.State;
-  WalkControls<ControlPart::Head>(gen.User().Controls(), 0, [&](const ControlRef& control) {
+  for (const ControlRef& control : gen.User().Controls()) {
     const Kind kind = control->Id;
     const EventWalk walk = InfoOf(kind).Program.Events;
-    if (!control->Visible || walk == EventWalk::PassedOver) return;
-    if (kind == Kind::Menu && !gen.MenuBarVisible()) return;
+    if (!control->Visible || walk == EventWalk::PassedOver) continue;
+    if (kind == Kind::Menu && !gen.MenuBarVisible()) continue;
     if (walk == EventWalk::Numbered) state.CurrentOrdinal = state.KindCounters.Step(kind);
     const OwnerCode code = gen.Code.OfObject(kind, state.CurrentOrdinal);
-    code.ForEach<kObjectEvents>([&](Event event, std::string_view text) {
+    code.ForEach(kObjectEvents, [&](Event event, std::string_view text) {
       write(SubNameOf(control->Tag, state.CurrentOrdinal), event, text);
     });
-  });
+  }
 }
 
 /// Calls `write(name)` with each item and sub-item of popup number `p` from item `first` on. A
@@ -86,7 +84,7 @@ void WritePopUpBodies(Generation& gen) {
 }
 
 void WriteFormBodies(Generation& gen) {
-  gen.Code.OfForm().ForEach<kFormSubEvents>([&](Event event, std::string_view code) {
+  gen.Code.OfForm().ForEach(kFormSubEvents, [&](Event event, std::string_view code) {
     gen.Out.Line("Sub ", gen.Record().Name, "_", InfoOf(event).Signature);
     WriteBody(gen, code);
     gen.Out.Line("End Sub");
@@ -97,7 +95,7 @@ void WriteFormBodies(Generation& gen) {
 }  // namespace
 
 void WriteSubDeclares(Generation& gen) {
-  gen.Code.OfForm().ForEach<kFormSubEvents>([&](Event event, std::string_view) {
+  gen.Code.OfForm().ForEach(kFormSubEvents, [&](Event event, std::string_view) {
     // The bare event name: the parameters stand in the Sub line alone.
     gen.Out.Line("Declare Sub ", gen.Record().Name, "_", InfoOf(event).Name);
   });

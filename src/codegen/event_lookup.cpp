@@ -4,42 +4,34 @@
 
 namespace tarnwick {
 
-void EventLookup::SetForm(int form) {
-  form_ = form;
-  key_ = "Form";
-  AppendNumber(key_, std::int64_t{form});
-  form_size_ = key_.size();
+namespace {
+
+std::string FormKey(int form) {
+  return std::string(InfoOf(Kind::Form).Name) + NumberText(std::int64_t{form});
 }
 
-const EventCodeTable::Owner* EventLookup::OwnerBehindDot(std::string_view name) {
-  key_.resize(form_size_);
-  key_ += '.';
-  key_ += name;
-  return table_.OwnerOf(key_);
+}  // namespace
+
+OwnerCode EventLookup::OfForm() const {
+  return OwnerCode(table_.OwnerOf(FormKey(form_)));
 }
 
-std::string_view EventLookup::CodeOf(const EventCodeTable::Owner* owner, Event event) {
-  const std::string* code = owner == nullptr ? nullptr : owner->Find(event);
-  return code == nullptr ? std::string_view() : std::string_view(*code);
+OwnerCode EventLookup::OfObject(Kind kind, int ordinal) const {
+  return OwnerCode(table_.OwnerOf(ObjectKey(form_, kind, ordinal)));
 }
 
-OwnerCode EventLookup::OfForm() {
-  key_.resize(form_size_);
-  return OwnerCode(table_.OwnerOf(key_));
+OwnerCode EventLookup::OfName(std::string_view name) const {
+  return OwnerCode(table_.OwnerOf(FormKey(form_).append(".").append(name)));
 }
 
-OwnerCode EventLookup::OfObject(Kind kind, int ordinal) {
-  return OwnerCode(table_.OwnerOf({form_, kind, ordinal}));
+std::string_view EventLookup::OnClickOf(std::string_view item) const {
+  return OfName(item).Of(Event::OnClick);
 }
 
-std::string_view EventLookup::OnClickOf(std::string_view item) {
-  return CodeOf(OwnerBehindDot(item), Event::OnClick);
-}
-
-std::string_view EventLookup::OnPopUpOf(std::string_view name, int number) {
-  const std::string_view code = CodeOf(OwnerBehindDot(name), Event::OnPopUp);
+std::string_view EventLookup::OnPopUpOf(std::string_view name, int number) const {
+  const std::string_view code = OfName(name).Of(Event::OnPopUp);
   if (!code.empty()) return code;
-  return CodeOf(table_.OwnerOf({form_, Kind::PopUpMenu, number}), Event::OnPopUp);
+  return OfObject(Kind::PopUpMenu, number).Of(Event::OnPopUp);
 }
 
 }  // namespace tarnwick

@@ -1,9 +1,8 @@
 // Event code by the keys that the generator builds: form, kind and running number, or item name.
 #pragma once
 
-#include <algorithm>
 #include <array>
-#include <bit>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -32,57 +31,48 @@ inline constexpr std::array kObjectEvents{Event::OnTimer,     Event::OnClick,   
 class OwnerCode {
  public:
   OwnerCode() = default;
-  explicit OwnerCode(const EventCodeTable::Owner* owner) : owner_(owner) {
-    if (owner != nullptr) filled_ = owner->FilledEvents();
-  }
+  explicit OwnerCode(const EventCodeTable::Owner* owner) : owner_(owner) {}
+
   [[nodiscard]] std::string_view Of(Event event) const noexcept {
-    if (!filled_.test(static_cast<std::size_t>(event))) return {};
-    return *owner_->Find(event);
+    const std::string* const code = owner_ == nullptr ? nullptr : owner_->Find(event);
+    return code == nullptr ? std::string_view() : std::string_view(*code);
   }
   /// Calls `use(event, code)` for each of `events` that has code, in their order.
-  template <const auto& events, class Use>
-  void ForEach(Use use) const {
-    static_assert(std::is_sorted(events.begin(), events.end()));
-    constexpr unsigned long wanted = [] {
-      unsigned long bits = 0;
-      for (const Event event : events) bits |= BitOf(event);
-      return bits;
-    }();
-    for (unsigned long left = filled_.to_ulong() & wanted; left != 0; left &= left - 1) {
-      const auto event = static_cast<Event>(std::countr_zero(left));
-      use(event, std::string_view(*owner_->Find(event)));
+  template <class Use>
+  void ForEach(std::span<const Event> events, Use use) const {
+    if (owner_ == nullptr) return;
+    for (const Event event : events) {
+      const std::string_view code = Of(event);
+      if (!code.empty()) use(event, code);
     }
   }
 
  private:
   const EventCodeTable::Owner* owner_ = nullptr;
-  EventSet filled_;
 };
 
-/// Looks code up for one form at a time. Keys are built in one buffer that is used again.
+/// Looks up code for one form at a time.
 class EventLookup {
  public:
   explicit EventLookup(const EventCodeTable& table) noexcept : table_(table) {}
-  void SetForm(int form);
+  void SetForm(int form) { form_ = form; }
 
   /// Code of the form itself.
-  [[nodiscard]] OwnerCode OfForm();
+  [[nodiscard]] OwnerCode OfForm() const;
   /// Code of the object with this running number in its kind.
-  [[nodiscard]] OwnerCode OfObject(Kind kind, int ordinal);
+  [[nodiscard]] OwnerCode OfObject(Kind kind, int ordinal) const;
   /// OnClick code of a menu or popup item.
-  [[nodiscard]] std::string_view OnClickOf(std::string_view item);
+  [[nodiscard]] std::string_view OnClickOf(std::string_view item) const;
   /// OnPopUp code of a popup menu: under its name or else under its array name and number, which
   /// is where editor and reader put it.
-  [[nodiscard]] std::string_view OnPopUpOf(std::string_view name, int number);
+  [[nodiscard]] std::string_view OnPopUpOf(std::string_view name, int number) const;
 
  private:
-  [[nodiscard]] const EventCodeTable::Owner* OwnerBehindDot(std::string_view name);
-  [[nodiscard]] static std::string_view CodeOf(const EventCodeTable::Owner* owner, Event event);
+  /// Code under a name of the user's choice.
+  [[nodiscard]] OwnerCode OfName(std::string_view name) const;
 
   const EventCodeTable& table_;
   int form_ = 0;
-  std::string key_;
-  std::size_t form_size_ = 0;  ///< length of "Form3" at the head of the buffer
 };
 
 }  // namespace tarnwick

@@ -3,7 +3,6 @@
 #include "codegen/menu_init.h"
 #include "codegen/object_init.h"
 #include "codegen/object_lines.h"
-#include "model/control_walk.h"
 
 namespace tarnwick {
 
@@ -32,7 +31,7 @@ void WriteFormLines(Generation& gen) {
 
 void WriteFormHooks(Generation& gen) {
   const std::string& name = gen.Record().Name;
-  gen.Code.OfForm().ForEach<kFormHookEvents>([&](Event event, std::string_view) {
+  gen.Code.OfForm().ForEach(kFormHookEvents, [&](Event event, std::string_view) {
     gen.Out.Line(name, InfoOf(event).Suffix, " = ", name, "_", InfoOf(event).Name);
   });
 }
@@ -67,28 +66,28 @@ void WriteFormInit(Generation& gen) {
   counters.Set(Kind::PopUpMenu, 1);
   std::int16_t button_count = 0;
   bool menu_bar_done = false;
-  WalkControls<ControlPart::Whole>(gen.User().Controls(), 0, [&](const ControlRef& control) {
-    if (!control->Visible) return;
+  for (const ControlRef& control : gen.User().Controls()) {
+    if (!control->Visible) continue;
     switch (InfoOf(control->Id).Program.SetUp) {
       case SetUpRule::None:
-        return;
+        break;
       case SetUpRule::OwnLines:
         WriteObjectInit(gen, *control);
         gen.Out.Blank();
-        return;
+        break;
       case SetUpRule::AllLines:
         WriteAllLines(gen, *control, button_count);
-        return;
+        break;
       case SetUpRule::PopUp:
         WritePopUpInit(gen, control->Tag);
         counters.Step(Kind::PopUpMenu);
-        return;
+        break;
       case SetUpRule::MenuBar:
         if (gen.MenuBarVisible() && !menu_bar_done) WriteMenuBarInit(gen);
         menu_bar_done = true;
-        return;
+        break;
     }
-  });
+  }
   counters.Set(Kind::PopUpMenu, 0);
 }
 

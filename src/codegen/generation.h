@@ -20,8 +20,8 @@ namespace tarnwick {
 /// One run of the generator: the tables it reads, the text it writes, and the form it is at.
 class Generation {
  public:
-  Generation(ProjectTables& tables, GeneratorState& state, TextSink sink)
-      : Tables(tables), State(state), Out(std::move(sink)), Code(tables.EventTable) {}
+  Generation(ProjectTables& tables, GeneratorState& state)
+      : Tables(tables), State(state), Code(tables.EventTable) {}
 
   /// Turns to a form of the project; everything below then speaks of it.
   void SelectForm(int form);

@@ -7,7 +7,6 @@
 #include "codegen/form_init.h"
 #include "model/units.h"
 #include "text/code_page.h"
-#include "text/fetch_ahead.h"
 
 namespace tarnwick {
 
@@ -58,7 +57,7 @@ constexpr std::array kCheckLines{
 constexpr std::array kTimeLines{RecordLine{".Enabled = ", &R::Enabled},
                                 RecordLine{".Interval = ", &R::Interval}};
 
-constexpr std::span<const RecordLine> LinesOf(Kind kind) noexcept {
+std::span<const RecordLine> LinesOf(Kind kind) noexcept {
   switch (kind) {
     case Kind::Button:
       return kButtonLines;
@@ -256,22 +255,16 @@ void WriteObjectInit(Generation& gen, const DesignControl& control) {
   static const ObjectRec empty{};
   const RecordArray<ObjectRec>* records = gen.Record().Objects(kind);
   const ObjectRec& record = records == nullptr ? empty : RecordOrEmpty(*records, ordinal);
-  // The next object of the kind mostly has the record behind this one.
-  FetchAhead(&record + 1, 1);
-  WithObjectKind(kind, [&](auto constant) {
-    static constexpr std::span<const RecordLine> lines = LinesOf(constant);
-    [&]<std::size_t... Lines>(std::index_sequence<Lines...>) {
-      (gen.Out.Line(control.Tag, lines[Lines].Text, record.*lines[Lines].Field), ...);
-    }
-    (std::make_index_sequence<lines.size()>{});
-  });
+  for (const RecordLine& line : LinesOf(kind)) {
+    gen.Out.Line(control.Tag, line.Text, record.*line.Field);
+  }
   WriteKindRest(gen, control, record, ordinal);
 }
 
 void WriteObjectHooks(Generation& gen, const DesignControl& control) {
   const int ordinal = gen.State.CurrentOrdinal;
   const OwnerCode code = gen.Code.OfObject(control.Id, ordinal);
-  code.ForEach<kObjectEvents>([&](Event event, std::string_view text) {
+  code.ForEach(kObjectEvents, [&](Event event, std::string_view text) {
     if (IsBlank(text)) return;
     gen.Out.Line(control.Tag, InfoOf(event).Suffix, " = ", SubNameOf(control.Tag, ordinal), "_",
                  InfoOf(event).Name);

@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
-#include <utility>
 #include <variant>
 
 #include "model/units.h"
@@ -58,7 +57,7 @@ constexpr std::array kCommonLines{
     CommonLine{".ShowHint = ", Derived::On},
 };
 
-constexpr bool Writes(Kind kind, const CommonLine& line) {
+bool Writes(Kind kind, const CommonLine& line) {
   const KindInfo& info = InfoOf(kind);
   const auto* const member = std::get_if<Member>(&line.Value);
   const std::optional<Member> needs = member != nullptr ? *member : line.Needs;
@@ -70,85 +69,85 @@ constexpr bool Writes(Kind kind, const CommonLine& line) {
   return member == nullptr || !Holds(info.Program.HeldBack, *member);
 }
 
-/// A member's value as it prints: texts in quotes, lengths in pixels.
-Quoted Printed(const std::string& value) {
-  return {value};
-}
-float Printed(float value) {
-  return PixelsOf(value);
-}
-std::string_view Printed(bool value) {
-  return value ? "True" : "False";
-}
-std::int32_t Printed(std::int32_t value) {
-  return value;
-}
-
 /// Writes the lines of one object.
-struct LineWriter {
-  Generation& gen;
-  const DesignControl& control;
-  std::int16_t& button_count;
+class LineWriter {
+ public:
+  LineWriter(Generation& gen, const DesignControl& control, std::int16_t& button_count)
+      : gen_(gen), control_(control), button_count_(button_count) {}
 
+  void Write(const CommonLine& line) {
+    if (const auto* const member = std::get_if<Member>(&line.Value)) {
+      std::visit([&](auto field) { PutMember(line.Text, field); }, FieldOf(*member));
+    } else {
+      PutDerived(line.Text, std::get<Derived>(line.Value));
+    }
+  }
+
+ private:
   /// Font lines fill the shared Font object; all others are members of the object itself.
-  template <std::size_t line, class... Parts>
-  void Put(const Parts&... parts) const {
-    constexpr std::string_view text = kCommonLines[line].Text;
-    if constexpr (text.front() == '.') {
-      gen.Out.Line(control.Tag, text, parts...);
+  template <class... Parts>
+  void Put(std::string_view text, const Parts&... parts) {
+    if (text.front() == '.') {
+      gen_.Out.Line(control_.Tag, text, parts...);
     } else {
-      gen.Out.Line(text, parts...);
+      gen_.Out.Line(text, parts...);
     }
   }
 
-  template <std::size_t line>
-  void Write() const {
-    constexpr auto value = std::get<kCommonLines[line].Value.index()>(kCommonLines[line].Value);
-    if constexpr (std::is_same_v<decltype(value), const Member>) {
-      Put<line>(Printed(control.*std::get<FieldOf(value).index()>(FieldOf(value))));
-    } else if constexpr (value == Derived::FontSize) {
-      PutFontSize<line>();
-    } else if constexpr (value == Derived::FontColor) {
-      StepOrdinal(button_count);
-      Put<line>(RecordOrEmpty(gen.Record().Buttons, button_count).FontColor);
-    } else if constexpr (value == Derived::WordWrap) {
-      gen.State.CurrentOrdinal = gen.State.KindCounters.Step(Kind::Label);
-      Put<line>(RecordOrEmpty(gen.Record().Labels, gen.State.CurrentOrdinal).Icon);
-    } else if constexpr (value == Derived::SharedFont) {
-      Put<line>();
-    } else if constexpr (value == Derived::Parent) {
-      Put<line>(gen.Record().Name);
-    } else {
-      static_assert(value == Derived::On);
-      Put<line>('1');
+  /// A member's value: texts in quotes, lengths in pixels.
+  template <class Field>
+  void PutMember(std::string_view text, Field field) {
+    if constexpr (std::is_same_v<Field, std::string DesignControl::*>) {
+      Put(text, Quoted{control_.*field});
+    } else if constexpr (std::is_same_v<Field, float DesignControl::*>) {
+      Put(text, PixelsOf(control_.*field));
+    } else if constexpr (std::is_same_v<Field, bool DesignControl::*>) {
+      Put(text, control_.*field ? "True" : "False");
+    } else if constexpr (!std::is_same_v<Field, std::monostate>) {
+      Put(text, control_.*field);
     }
   }
 
-  template <std::size_t line>
-  void PutFontSize() const {
-    const double size = RoundHalfEven(static_cast<double>(control.FontSize));
+  void PutDerived(std::string_view text, Derived value) {
+    switch (value) {
+      case Derived::FontSize:
+        return PutFontSize(text);
+      case Derived::FontColor:
+        StepOrdinal(button_count_);
+        return Put(text, RecordOrEmpty(gen_.Record().Buttons, button_count_).FontColor);
+      case Derived::WordWrap:
+        gen_.State.CurrentOrdinal = gen_.State.KindCounters.Step(Kind::Label);
+        return Put(text, RecordOrEmpty(gen_.Record().Labels, gen_.State.CurrentOrdinal).Icon);
+      case Derived::SharedFont:
+        return Put(text);
+      case Derived::Parent:
+        return Put(text, gen_.Record().Name);
+      case Derived::On:
+        return Put(text, "1");
+    }
+  }
+
+  void PutFontSize(std::string_view text) {
+    const double size = RoundHalfEven(static_cast<double>(control_.FontSize));
     if (const std::optional<std::int32_t> whole = ToInt32(size)) {
-      Put<line>(*whole);
+      Put(text, *whole);
     } else {
-      Put<line>(NumberText(static_cast<float>(size)));
+      Put(text, static_cast<float>(size));
     }
   }
+
+  Generation& gen_;
+  const DesignControl& control_;
+  std::int16_t& button_count_;
 };
 
 }  // namespace
 
 void WriteCommonLines(Generation& gen, const DesignControl& control, std::int16_t& button_count) {
-  const LineWriter writer{gen, control, button_count};
-  // Straight code for each kind: most of a text is these lines.
-  WithObjectKind(control.Id, [&](auto kind) {
-    [&]<std::size_t... Lines>(std::index_sequence<Lines...>) {
-      const auto write = [&](auto line) {
-        if constexpr (Writes(kind, kCommonLines[line])) writer.Write<line>();
-      };
-      (write(std::integral_constant<std::size_t, Lines>{}), ...);
-    }
-    (std::make_index_sequence<kCommonLines.size()>{});
-  });
+  LineWriter writer(gen, control, button_count);
+  for (const CommonLine& line : kCommonLines) {
+    if (Writes(control.Id, line)) writer.Write(line);
+  }
 }
 
 }  // namespace tarnwick

@@ -1,15 +1,14 @@
 #include "codegen/program_source.h"
 
-#include <utility>
-#include <vector>
+#include <string>
 
 #include "codegen/declarations.h"
 #include "codegen/event_code.h"
 #include "codegen/form_init.h"
 #include "codegen/generation.h"
-#include "codegen/show_diversion.h"
+#include "codegen/show_rewriter.h"
 #include "codegen/transparent_frame.h"
-#include "text/code_page.h"
+#include "text/strings.h"
 
 namespace tarnwick {
 
@@ -28,18 +27,6 @@ void ForEachForm(Generation& gen, Write write) {
 bool HasTransparentFrame(const ProjectTables& tables, int form) {
   const DesignForm* user = tables.UserIfAny(form);
   return user != nullptr && user->HasObjects(Kind::TransparentFrame);
-}
-
-/// Room for the text of a project, so that it grows without being copied in most cases.
-std::size_t ExpectedSize(const ProjectTables& tables) {
-  constexpr std::size_t kPerControl = 768;
-  constexpr std::size_t kPerForm = 1024;
-  std::size_t size = kPerForm;
-  for (int i = 1; i <= tables.FormsCount; ++i) {
-    size += kPerForm;
-    if (const DesignForm* user = tables.UserIfAny(i)) size += kPerControl * user->Controls().size();
-  }
-  return size;
 }
 
 void WriteIncludeLine(Generation& gen) {
@@ -66,18 +53,8 @@ void WriteFreeLines(Generation& gen) {
   }
 }
 
-/// Forms with a transparent frame are not shown by their own name.
-std::vector<ShowDiversion> DiversionsOf(const ProjectTables& tables) {
-  std::vector<ShowDiversion> diverted;
-  for (int i = 1; i <= tables.FormsCount; ++i) {
-    if (!tables.IsLive(i) || !HasTransparentFrame(tables, i)) continue;
-    diverted.push_back({tables.Form(i)->Name, TransparentFrameSubName(i)});
-  }
-  return diverted;
-}
-
-void WriteSections(ProjectTables& tables, GeneratorState& state, TextSink sink) {
-  Generation gen(tables, state, std::move(sink));
+std::string WriteSections(ProjectTables& tables, GeneratorState& state) {
+  Generation gen(tables, state);
   gen.Out.Line("Dim Font As QFont");
   ForEachForm(gen, [&] { WriteDeclarations(gen); });
   ForEachForm(gen, [&] {
@@ -95,32 +72,22 @@ void WriteSections(ProjectTables& tables, GeneratorState& state, TextSink sink) 
   gen.Out.Blank();
   WriteStartLine(gen);
   ForEachForm(gen, [&] { WriteFreeLines(gen); });
-  gen.Out.Flush();
+  return gen.Out.Take();
 }
 
 }  // namespace
 
-void WriteSource(ProjectTables& tables, GeneratorState& state, const TextSink& sink) {
+std::string GenerateSource(ProjectTables& tables, GeneratorState& state) {
   state.KindCounters.Reset(CounterLife::Form);
   state.DefaultIconDone = false;
-  const std::vector<ShowDiversion> diverted = DiversionsOf(tables);
-  if (diverted.empty()) {
-    WriteSections(tables, state, sink);
-  } else {
-    std::string text;
-    text.reserve(ExpectedSize(tables));
-    WriteSections(tables, state, [&](std::string_view piece) { text += piece; });
-    sink(DivertShowCalls(text, diverted));
+  std::string text = WriteSections(tables, state);
+  // Forms with a transparent frame are not shown by their own name.
+  for (int i = 1; i <= tables.FormsCount; ++i) {
+    if (!tables.IsLive(i) || !HasTransparentFrame(tables, i)) continue;
+    text = RewriteShowCalls(text, tables.Form(i)->Name + ".show", TransparentFrameSubName(i));
   }
   // The text is printed whole, as one more line.
-  sink("\r\n");
-}
-
-std::string GenerateSource(ProjectTables& tables, GeneratorState& state) {
-  std::string text;
-  text.reserve(ExpectedSize(tables));
-  WriteSource(tables, state, [&](std::string_view piece) { text += piece; });
-  return text;
+  return text.append(kLineEnd);
 }
 
 }  // namespace tarnwick

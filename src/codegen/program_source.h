@@ -4,7 +4,6 @@
 #include <string>
 
 #include "codegen/generator_state.h"
-#include "codegen/source_text.h"
 #include "model/project_records.h"
 
 namespace tarnwick {
@@ -13,8 +12,5 @@ namespace tarnwick {
 /// Reads the tables; nothing in them changes but design windows that come into being on first
 /// touch. `state` goes on from one compilation to the next.
 [[nodiscard]] std::string GenerateSource(ProjectTables& tables, GeneratorState& state);
-
-/// The same text handed on piece by piece, so that a long one is at no time there as a whole.
-void WriteSource(ProjectTables& tables, GeneratorState& state, const TextSink& sink);
 
 }  // namespace tarnwick

@@ -1,11 +1,14 @@
 // The generated text while it grows: whole lines.
 #pragma once
 
-#include <cstddef>
+#include <concepts>
+#include <cstdint>
+#include <string>
 #include <string_view>
 #include <utility>
 
-#include "text/text_page.h"
+#include "text/numbers.h"
+#include "text/strings.h"
 
 namespace tarnwick {
 
@@ -21,42 +24,38 @@ struct Numbered {
   bool HasNumber = false;
 };
 
-[[nodiscard]] inline std::size_t MostBytesOf(const Quoted& quoted) noexcept {
-  return quoted.Text.size() + 2;
-}
-inline char* SetPart(char* at, const Quoted& quoted) noexcept {
-  *at++ = '"';
-  at = SetPart(at, quoted.Text);
-  *at++ = '"';
-  return at;
-}
+/// A number that prints as its digits.
+template <class T>
+concept WholeNumber = std::integral<T> && !std::same_as<T, bool> && !std::same_as<T, char>;
 
-[[nodiscard]] inline std::size_t MostBytesOf(const Numbered& numbered) noexcept {
-  return numbered.Text.size() + MostBytesOf(numbered.Number);
-}
-inline char* SetPart(char* at, const Numbered& numbered) noexcept {
-  at = SetPart(at, numbered.Text);
-  return numbered.HasNumber ? SetPart(at, numbered.Number) : at;
-}
-
-/// A text of lines, each ended by CR LF, on its way to a sink. A line is given as its parts:
+/// A text of lines, each ended by CR LF. A line is given as its parts: texts, numbers and the two
+/// above.
 ///
 ///   text.Line(name, ".Caption = ", Quoted{caption});
 class SourceText {
  public:
-  explicit SourceText(TextSink sink) : page_(std::move(sink)) {}
-
   template <class... Parts>
   void Line(const Parts&... parts) {
-    page_.Put(parts..., "\r\n");
+    (Append(parts), ...);
+    text_ += kLineEnd;
   }
   void Blank() { Line(); }
 
-  /// Hands on what was written since the last time. Nobody else does so at the end.
-  void Flush() { page_.Flush(); }
+  [[nodiscard]] const std::string& Text() const noexcept { return text_; }
+  /// Moves the text out.
+  [[nodiscard]] std::string Take() noexcept { return std::move(text_); }
 
  private:
-  TextPage page_;
+  void Append(std::string_view text) { text_ += text; }
+  void Append(WholeNumber auto number) { AppendNumber(text_, static_cast<std::int64_t>(number)); }
+  void Append(float number) { AppendNumber(text_, number); }
+  void Append(const Quoted& quoted) { text_.append(1, '"').append(quoted.Text).append(1, '"'); }
+  void Append(const Numbered& numbered) {
+    text_ += numbered.Text;
+    if (numbered.HasNumber) Append(numbered.Number);
+  }
+
+  std::string text_;
 };
 
 }  // namespace tarnwick

@@ -1,7 +1,6 @@
 #include "model/design_form.h"
 
 #include <algorithm>
-#include <memory_resource>
 #include <string_view>
 
 #include "model/units.h"
@@ -12,16 +11,8 @@ namespace tarnwick {
 
 namespace {
 
-/// Controls stand side by side in memory: a walk over a large form meets them in their order. The
-/// pool outlives them all, whoever holds the last of them.
-std::pmr::polymorphic_allocator<DesignControl> ControlPool() {
-  static auto* const pool = new std::pmr::unsynchronized_pool_resource(
-      std::pmr::pool_options{.max_blocks_per_chunk = 256, .largest_required_pool_block = 512});
-  return pool;
-}
-
 ControlRef MakeElement(const KindInfo& kind, int index) {
-  auto control = std::allocate_shared<DesignControl>(ControlPool());
+  auto control = std::make_shared<DesignControl>();
   control->Id = kind.Id;
   control->Index = index;
   control->Width = static_cast<float>(kind.Template.Width * kTwipsPerPixel);
@@ -58,7 +49,7 @@ std::string DesignForm::KeyPrefix() const {
 
 const ControlRef& DesignForm::Load(Kind kind) {
   auto& elements = arrays_[static_cast<std::size_t>(kind)];
-  auto control = std::allocate_shared<DesignControl>(ControlPool(), *elements.front());
+  auto control = std::make_shared<DesignControl>(*elements.front());
   control->Index = static_cast<int>(elements.size());
   control->Visible = false;
   elements.push_back(control);

@@ -584,20 +584,6 @@ static_assert(
     }(),
     "an object kind lacks a word, its tool or its class");
 
-/// Calls `use` with a kind from Button to PopUpMenu as a constant, for code that is made for each
-/// of them.
-template <class Use>
-auto WithObjectKind(Kind kind, Use use) {
-  using Result = decltype(use(std::integral_constant<Kind, Kind::Button>{}));
-  using Call = Result (*)(Use&);
-  static constexpr auto calls = []<std::size_t... Kinds>(std::index_sequence<Kinds...>) {
-    return std::array<Call, kObjectKindCount>{
-        [](Use& of) { return of(std::integral_constant<Kind, static_cast<Kind>(Kinds)>{}); }...};
-  }
-  (std::make_index_sequence<kObjectKindCount>{});
-  return calls[static_cast<std::size_t>(kind)](use);
-}
-
 /// The kind of a lower-case tag: array names and file words both ("images", "image"). Nothing for
 /// an unknown word.
 [[nodiscard]] std::optional<Kind> KindOfTag(std::string_view tag) noexcept;

@@ -1,7 +1,9 @@
 #include "persistence/form_reader.h"
 
 #include <algorithm>
+#include <type_traits>
 #include <utility>
+#include <variant>
 
 #include "model/new_form.h"
 #include "model/units.h"
@@ -15,18 +17,8 @@ namespace tarnwick {
 
 namespace {
 
-/// The events of a layout, a bit each.
-constexpr unsigned long EventBitsOf(Kind kind) {
-  unsigned long bits = 0;
-  for (const LayoutField& field : LayoutOf(kind).Fields) {
-    const auto* const event = std::get_if<Event>(&field.Value);
-    if (event != nullptr) bits |= BitOf(*event);
-  }
-  return bits;
-}
-
 /// Twips from a number of pixels as text; a number too large for single precision is refused.
-void ReadPlace(std::string_view value, float& twips) {
+void ReadLength(std::string_view value, float& twips) {
   SetNumber(twips, Val(value) * kTwipsPerPixel);
 }
 
@@ -48,10 +40,11 @@ FormReader::FormReader(ProjectTables& tables, std::string file_name, int target)
 FormReadResult FormReader::Read(std::string_view text) {
   const auto loading = std::exchange(tables_.LoadingProject, std::int16_t{1});
   bool refused = false;
-  for (std::size_t at = 0; at <= text.size() && !refused;) {
-    const std::string_view line = scanner_.Scan(text.substr(at));
-    if (!line.empty()) refused = !ReadRecord(line);
-    at += line.size() + 2;
+  for (const std::string_view line : Split(text, kLineEnd)) {
+    if (line.empty()) continue;
+    scanner_.Scan(line);
+    refused = !ReadRecord(line);
+    if (refused) break;
   }
   tables_.LoadingProject = loading;
   if (refused) return FormReadResult::Refused;
@@ -106,12 +99,13 @@ void FormReader::ReadFormValues(int form) {
   FrmBarra& bar = *tables_.Bar(form);
   bar.Caption = record_->Name + " Procedures";
   bar.Entries.clear();
-  ReadPlace(scanner_.Stored(Tag::Width), window_->Width);
-  ReadPlace(scanner_.Stored(Tag::Height), window_->Height);
+  ReadLength(scanner_.Stored(Tag::Width), window_->Width);
+  ReadLength(scanner_.Stored(Tag::Height), window_->Height);
   window_->NameObjet = "Form";
   DesignControl no_control;
+  no_control.Id = Kind::Form;
   Object object{no_control, std::nullopt, nullptr, nullptr};
-  TakeFields<Kind::Form>(object);
+  TakeFields(Kind::Form, object);
   if (record_->ImageFile != kDefaultFile) {
     window_->WindowPicture = ResolveProjectPath(tables_, record_->ImageFile, true);
   }
@@ -128,12 +122,13 @@ void FormReader::ReadObject(Kind kind) {
   if (object.Number && *object.Number < 0) object.Number.reset();
   if (object.Number) {
     if (InfoOf(kind).Events != EventListId::None) {
-      object.Code = &tables_.EventTable.OwnerFor({window_number_, kind, *object.Number});
+      object.Code = &tables_.EventTable.OwnerFor(ObjectKey(window_number_, kind, *object.Number));
     }
-    if (auto* const records = record_->Objects(kind))
+    if (auto* const records = record_->Objects(kind)) {
       object.Record = records->Ensure(*object.Number);
+    }
   }
-  WithObjectKind(kind, [&](auto constant) { TakeFields<constant>(object); });
+  TakeFields(kind, object);
   ReadPicture(kind, object);
 }
 
@@ -147,20 +142,20 @@ void FormReader::ReadPicture(Kind kind, Object& object) {
 
 void FormReader::ReadMenuTitle() {
   if (!std::exchange(menu_met_, true)) tables_.ClearMenuArrays();
-  const std::string caption(scanner_.Value(Tag::String));
-  ReadMenu(tables_, *window_, caption, scanner_.Name(), scanner_.Value(Tag::Items));
+  ReadMenu(tables_, *window_, scanner_.Value(Tag::String), scanner_.Name(),
+           scanner_.Value(Tag::Items));
 }
 
 void FormReader::ReadItemCode() {
-  const std::string_view code = scanner_.Value(Tag::Click);
+  const std::string code = scanner_.Value(Tag::Click);
   const std::string owner = form_key_ + "." + std::string(scanner_.Name());
   tables_.EventTable.Replace(owner, Event::OnClick, code);
   if (!code.empty()) TellBar(std::string(scanner_.Name()), Event::OnClick);
 }
 
 void FormReader::ReadDeclarations() {
-  const std::string_view text = scanner_.Value(Tag::String);
-  if (!text.empty()) record_->DeclarePbl = text;
+  std::string text = scanner_.Value(Tag::String);
+  if (!text.empty()) record_->DeclarePbl = std::move(text);
 }
 
 void FormReader::TellBar(std::string name, Event event) {
@@ -186,24 +181,46 @@ void FormReader::Take(Object& object, Tag tag, Special special) {
   }
 }
 
-void FormReader::TakeCode(Object& object, Tag tag, Event event) {
-  const std::string_view code = scanner_.Value(tag);
-  if (object.Code == nullptr || code.empty()) return;
+void FormReader::Take(Object& object, Tag tag, Member member) {
+  DesignControl& control = object.Control;
+  if (!control.Has(member)) return;
+  switch (member) {
+    case Member::Left:
+      return ReadLength(scanner_.Stored(tag), control.Left);
+    case Member::Top:
+      return ReadLength(scanner_.Stored(tag), control.Top);
+    case Member::Width:
+      return ReadLength(scanner_.Stored(tag), control.Width);
+    case Member::Height:
+      return ReadLength(scanner_.Stored(tag), control.Height);
+    default:
+      control.Set(member, scanner_.Value(tag));
+  }
+  // The state of a check or option object is kept both on the control and in its record.
+  if (member == Member::Value) Take(object, tag, &ObjectRec::Checked);
+}
+
+void FormReader::Take(Object& object, Tag tag, Event event) {
+  if (object.Control.Id == Kind::Form) return TakeFormCode(tag, event);
+  if (object.Code == nullptr) return;
+  const std::string code = scanner_.Value(tag);
+  // Every event of the kind has an entry. Of two objects with one number the first keeps its code,
+  // empty or not.
+  object.Code->Add(event, code);
+  if (code.empty()) return;
   std::string name(InfoOf(object.Control.Id).Array);
   AppendNumber(name, std::int64_t{*object.Number});
   TellBar(std::move(name), event);
-  // Of two objects with one number the first keeps its code, empty or not.
-  tables_.EventTable.Add(*object.Code, event, code);
 }
 
 void FormReader::TakeFormCode(Tag tag, Event event) {
-  const std::string_view code = scanner_.Value(tag);
+  const std::string code = scanner_.Value(tag);
   if (!code.empty()) TellBar("Form", event);
   tables_.EventTable.Replace(form_key_, event, code);
 }
 
 void FormReader::Take(Object& object, Tag tag, ItemsText items) {
-  const std::string_view rows = scanner_.Value(tag);
+  const std::string rows = scanner_.Value(tag);
   if (object.Record != nullptr) object.Record->*items.Field = rows;
   object.Control.Items = ItemRows(rows);
 }
@@ -244,46 +261,14 @@ void FormReader::Take(Object& object, Tag tag, T PopUpItemRec::*field) {
   if (object.Number) Put(tag, record_->PopUps.Ensure(*object.Number)->*field);
 }
 
-template <Kind kind, Tag tag, Member member>
-void FormReader::TakeMember(Object& object) {
-  constexpr ControlClass control_class = InfoOf(kind).Class;
-  constexpr auto field = std::get<FieldOf(member).index()>(FieldOf(member));
-  if constexpr (!HasMember(control_class, member)) {
-    return;
-  } else if constexpr (member == Member::Left || member == Member::Top || member == Member::Width ||
-                       member == Member::Height) {
-    ReadPlace(scanner_.Stored(tag), object.Control.*field);
-  } else if constexpr (member == Member::Value && control_class == ControlClass::OptionButton) {
-    object.Control.SetOption(Val(scanner_.Stored(tag)));
-  } else {
-    Put(tag, object.Control.*field);
+void FormReader::TakeFields(Kind kind, Object& object) {
+  for (const LayoutField& field : LayoutOf(kind).Fields) {
+    if (field.In == Tag::None) continue;
+    std::visit([&](auto source) { Take(object, field.In, source); }, field.Value);
   }
-  // The state of a check or option object is kept on the control and in its record both.
-  if constexpr (member == Member::Value) Take(object, tag, &ObjectRec::Checked);
-}
-
-template <Kind kind>
-void FormReader::TakeFields(Object& object) {
-  ForEachField<kind>([&](auto place) {
-    constexpr const LayoutField& field = LayoutOf(kind).Fields[place];
-    constexpr auto source = std::get<field.Value.index()>(field.Value);
-    if constexpr (std::is_same_v<decltype(source), const Member>) {
-      TakeMember<kind, field.In, source>(object);
-    } else if constexpr (!std::is_same_v<decltype(source), const Event>) {
-      Take(object, field.In, source);
-    } else if constexpr (kind == Kind::Form) {
-      TakeFormCode(field.In, source);
-    } else if (!scanner_.Stored(field.In).empty()) {
-      TakeCode(object, field.In, source);
-    }
-    return true;
-  });
-  if (object.Code != nullptr) EventCodeTable::AddEmpty(*object.Code, EventSet(EventBitsOf(kind)));
-  static constexpr std::span<const InheritedMember> inherited = InheritedMembersOf(kind);
-  [&]<std::size_t... Places>(std::index_sequence<Places...>) {
-    (TakeMember<kind, inherited[Places].In, inherited[Places].Target>(object), ...);
+  for (const InheritedMember& inherited : InheritedMembersOf(kind)) {
+    Take(object, inherited.In, inherited.Target);
   }
-  (std::make_index_sequence<inherited.size()>{});
 }
 
 }  // namespace tarnwick

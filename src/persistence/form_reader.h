@@ -6,7 +6,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <type_traits>
 
 #include "model/project_records.h"
 #include "persistence/record_layouts.h"
@@ -37,12 +36,12 @@ class FormReader {
   [[nodiscard]] int LastForm() const noexcept { return last_form_; }
 
  private:
-  /// What the values of one object go to; null where a bad number leaves no record.
+  /// The targets of one object's values; null where a bad number leaves no record.
   struct Object {
     DesignControl& Control;
     std::optional<std::int16_t> Number;
     ObjectRec* Record;
-    EventCodeTable::Owner* Code;  ///< where its code goes
+    EventCodeTable::Owner* Code;
   };
 
   /// False when the form is refused and the file is read no further.
@@ -55,14 +54,11 @@ class FormReader {
   void ReadItemCode();
   void ReadDeclarations();
 
-  /// Takes the values of a record, field by field, to where they live.
-  template <Kind kind>
-  void TakeFields(Object& object);
-  template <Kind kind, Tag tag, Member member>
-  void TakeMember(Object& object);
+  /// Takes the values of a record, field by field. There is one overload for each type of source.
+  void TakeFields(Kind kind, Object& object);
   void Take(Object& object, Tag tag, Special special);
-  void TakeCode(Object& object, Tag tag, Event event);
-  void TakeFormCode(Tag tag, Event event);
+  void Take(Object& object, Tag tag, Member member);
+  void Take(Object& object, Tag tag, Event event);
   void Take(Object& object, Tag tag, ItemsText items);
   void Take(Object& object, Tag tag, CommaText text);
   template <class T>
@@ -75,12 +71,12 @@ class FormReader {
   void Take(Object& object, Tag tag, T HtmlViewerRec::*field);
   template <class T>
   void Take(Object& object, Tag tag, T PopUpItemRec::*field);
+  void TakeFormCode(Tag tag, Event event);
 
-  /// Puts a value into a field: a number as it is stored, a text restored.
+  /// Puts a value into a field: a text restored, a number by the digits at its head.
   template <class T>
   void Put(Tag tag, T& field) {
-    constexpr bool is_text = std::is_same_v<T, std::string>;
-    SetFromText(field, is_text ? scanner_.Value(tag) : scanner_.Stored(tag));
+    SetFromText(field, scanner_.Value(tag));
   }
 
   void TellBar(std::string name, Event event);

@@ -9,13 +9,12 @@
 #include <variant>
 #include <vector>
 
-#include "model/control_walk.h"
 #include "model/units.h"
 #include "persistence/menu_text.h"
 #include "persistence/record_layouts.h"
 #include "persistence/stored_text.h"
+#include "text/numbers.h"
 #include "text/strings.h"
-#include "text/text_page.h"
 
 namespace tarnwick {
 
@@ -25,53 +24,34 @@ namespace {
 /// before, so an object without a key is written with the code of an earlier one.
 using CodeValues = std::array<std::string, kEventCount>;
 
-/// How a control's member stands in its record: texts with their commas stored, but for the name of
-/// a font; lengths in pixels; a state as yes or no.
-template <Member member>
-auto StoredMember(const DesignControl& control) {
-  const auto& value = control.*std::get<FieldOf(member).index()>(FieldOf(member));
-  using Value = std::remove_cvref_t<decltype(value)>;
-  if constexpr (member == Member::FontName) {
-    return std::string_view(value);
-  } else if constexpr (std::is_same_v<Value, std::string>) {
-    return StoredText{value};
-  } else if constexpr (std::is_same_v<Value, float> && member != Member::FontSize) {
-    return PixelsOf(value);
-  } else if constexpr (std::is_same_v<Value, bool>) {
-    return value ? '1' : '0';
-  } else if constexpr (member == Member::Value) {
-    return value == 1 || value == -1 ? '1' : '0';
-  } else {
-    return value;
-  }
-}
+const DesignControl kNoControl;
+const ObjectRec kNoRecord;
 
+/// Appends the records of one form.
 class FormWriter {
  public:
-  FormWriter(const ProjectTables& tables, const DesignForm& window, const FormRec& record,
-             TextSink sink)
-      : tables_(tables),
+  FormWriter(std::string& out, const ProjectTables& tables, const DesignForm& window,
+             const FormRec& record)
+      : out_(out),
+        tables_(tables),
         window_(window),
         record_(record),
         form_key_(window.KeyPrefix()),
-        window_number_(window.Number()),
-        page_(std::move(sink)) {}
+        window_number_(window.Number()) {}
 
   void Write() {
     WriteFormRecord();
-    WalkControls<ControlPart::Whole>(window_.Controls(), 0, [&](const ControlRef& control) {
+    for (const ControlRef& control : window_.Controls()) {
       if (control->Visible && control->Id != Kind::Handle) WriteControl(*control);
-    });
-    std::string rest;
-    AppendMenuRecords(rest, tables_, window_);
-    rest += "[DeclarePbl] String<";
-    AppendStoredLines(rest, record_.DeclarePbl);
-    page_.Put(rest, ">String", kLineEnd);
-    page_.Flush();
+    }
+    AppendMenuRecords(out_, tables_, window_);
+    out_ += "[DeclarePbl] String<";
+    AppendStoredLines(out_, record_.DeclarePbl);
+    out_.append(">String").append(kLineEnd);
   }
 
  private:
-  /// What the fields of the record being written are taken from.
+  /// What the fields of a record are taken from.
   struct Object {
     const DesignControl& Control;
     int Number;
@@ -80,15 +60,13 @@ class FormWriter {
 
   void WriteFormRecord() {
     if (const auto* owner = tables_.EventTable.OwnerOf(form_key_)) {
-      for (const EventInfo& event : AllEvents()) Take(*owner, event.Id);
+      for (const EventInfo& event : AllEvents()) TakeCode(*owner, event.Id);
     }
-    static const DesignControl no_control;
-    static const ObjectRec no_record;
-    WriteRecord<Kind::Form>({no_control, window_.Number(), no_record});
+    WriteRecord(Kind::Form, {kNoControl, window_.Number(), kNoRecord});
     codes_ = CodeValues{};
   }
 
-  void Take(const EventCodeTable::Owner& owner, Event event) {
+  void TakeCode(const EventCodeTable::Owner& owner, Event event) {
     const std::string* code = owner.Find(event);
     if (code == nullptr) return;
     std::string& value = codes_[static_cast<std::size_t>(event)];
@@ -98,23 +76,22 @@ class FormWriter {
 
   /// The look-up uses the element's index: it comes before the running number is stepped.
   void TakeCodes(const DesignControl& control) {
-    const auto* owner = tables_.EventTable.OwnerOf({window_number_, control.Id, control.Index});
+    const auto* owner =
+        tables_.EventTable.OwnerOf(ObjectKey(window_number_, control.Id, control.Index));
     if (owner == nullptr) return;
-    for (const Event event : NewObjectEvents()) Take(*owner, event);
-    Take(*owner, Event::OnPopUp);
+    for (const Event event : NewObjectEvents()) TakeCode(*owner, event);
+    TakeCode(*owner, Event::OnPopUp);
   }
 
   void WriteControl(const DesignControl& control) {
-    page_.Put(kLineEnd);
+    out_ += kLineEnd;
     TakeCodes(control);
     if (!IsObjectKind(control.Id)) return;
     const int number = ++counts_[static_cast<std::size_t>(control.Id)];
     if (control.Id == Kind::PopUpMenu) WriteSubs(number);
     const auto* records = record_.Objects(control.Id);
-    static const ObjectRec no_record;
-    const Object object{control, number,
-                        records != nullptr ? RecordOrEmpty(*records, number) : no_record};
-    WithObjectKind(control.Id, [&](auto kind) { WriteRecord<kind>(object); });
+    WriteRecord(control.Id, {control, number,
+                             records != nullptr ? RecordOrEmpty(*records, number) : kNoRecord});
   }
 
   void WriteSubs(int number) {
@@ -129,107 +106,112 @@ class FormWriter {
   void WriteSub(std::string_view name) {
     std::string code;
     AppendItemCode(code, tables_, form_key_, name);
-    if (!code.empty()) page_.Put("[Sub]{", name, "} Click<", code, ">Click", kLineEnd);
+    if (code.empty()) return;
+    out_.append("[Sub]{").append(name).append("} Click<").append(code).append(">Click");
+    out_ += kLineEnd;
   }
 
-  /// Straight code for each kind: a form's text is these records.
-  template <Kind kind>
-  void WriteRecord(const Object& object) {
-    static constexpr const RecordLayout& layout = LayoutOf(kind);
-    [&]<std::size_t... Places>(std::index_sequence<Places...>) {
-      const auto write = [&](auto place) {
-        constexpr const LayoutField& field = layout.Fields[place];
-        constexpr auto source = std::get<field.Value.index()>(field.Value);
-        using Type = std::remove_const_t<decltype(source)>;
-        if constexpr (std::is_same_v<Type, Member>) {
-          page_.Put(field.Before, StoredMember<source>(object.Control));
-        } else if constexpr (std::is_same_v<Type, Special>) {
-          page_.Put(field.Before);
-          Put<source>(object);
-        } else {
-          page_.Put(field.Before, ValueOf(object, source));
-        }
-      };
-      (write(std::integral_constant<std::size_t, Places>{}), ...);
+  void WriteRecord(Kind kind, const Object& object) {
+    const RecordLayout& layout = LayoutOf(kind);
+    for (const LayoutField& field : layout.Fields) {
+      out_ += field.Before;
+      std::visit([&](auto source) { Put(object, source); }, field.Value);
     }
-    (std::make_index_sequence<layout.Fields.size()>{});
-    page_.Put(layout.End, kLineEnd);
+    out_.append(layout.End).append(kLineEnd);
   }
 
-  template <Special special>
-  void Put(const Object& object) {
-    if constexpr (special == Special::Number) {
-      page_.Put(object.Number);
-    } else if constexpr (special == Special::Name) {
-      page_.Put(object.Control.Index == 0 ? record_.Name : object.Control.Tag);
-    } else if constexpr (special == Special::WindowCaption) {
-      page_.Put(StoredText{window_.Caption});
-    } else if constexpr (special == Special::WindowColor) {
-      page_.Put(window_.BackColor);
-    } else if constexpr (special == Special::ItemList) {
-      std::string rows;
-      AppendPopUpRows(rows, RecordOrEmpty(tables_.PopUpMenus, object.Number));
-      page_.Put(StoredItems(rows));
+  void Put(const Object& object, Special special) {
+    switch (special) {
+      case Special::Number:
+        return PutValue(std::int32_t{object.Number});
+      case Special::Name:
+        return PutValue(object.Control.Index == 0 ? record_.Name : object.Control.Tag);
+      case Special::WindowCaption:
+        return AppendStoredText(out_, window_.Caption);
+      case Special::WindowColor:
+        return PutValue(window_.BackColor);
+      case Special::ItemList: {
+        std::string rows;
+        AppendPopUpRows(rows, RecordOrEmpty(tables_.PopUpMenus, object.Number));
+        return AppendStoredItems(out_, rows);
+      }
+      case Special::One:
+        out_ += '1';
+    }
+  }
+  void Put(const Object& object, Member member) {
+    std::visit([&](auto field) { PutMember(object.Control, member, field); }, FieldOf(member));
+  }
+  void Put(const Object& /*object*/, Event event) {
+    out_ += codes_[static_cast<std::size_t>(event)];
+  }
+  void Put(const Object& object, ItemsText items) {
+    AppendStoredItems(out_, object.Record.*items.Field);
+  }
+  void Put(const Object& /*object*/, CommaText text) {
+    AppendStoredText(out_, record_.*text.Field);
+  }
+  template <class T>
+  void Put(const Object& object, T ObjectRec::*field) {
+    PutValue(object.Record.*field);
+  }
+  template <class T>
+  void Put(const Object& /*object*/, T FormRec::*field) {
+    PutValue(record_.*field);
+  }
+  template <class T>
+  void Put(const Object& object, T WinSockRec::*field) {
+    PutValue(RecordOrEmpty(record_.WinSocks, object.Number).*field);
+  }
+  template <class T>
+  void Put(const Object& object, T HtmlViewerRec::*field) {
+    PutValue(RecordOrEmpty(record_.HtmlViewers, object.Number).*field);
+  }
+  template <class T>
+  void Put(const Object& object, T PopUpItemRec::*field) {
+    PutValue(RecordOrEmpty(record_.PopUps, object.Number).*field);
+  }
+
+  /// Texts of a control have their commas stored, but for the name of a font; lengths are in
+  /// pixels; a state is 1 or 0.
+  template <class T>
+  void PutMember(const DesignControl& control, Member member, T DesignControl::*field) {
+    const T& value = control.*field;
+    if constexpr (std::is_same_v<T, std::string>) {
+      member == Member::FontName ? PutValue(value) : AppendStoredText(out_, value);
+    } else if constexpr (std::is_same_v<T, float>) {
+      AppendNumber(out_, member == Member::FontSize ? value : PixelsOf(value));
+    } else if constexpr (std::is_same_v<T, bool>) {
+      out_ += value ? '1' : '0';
+    } else if (member == Member::Value) {
+      out_ += value == 1 || value == -1 ? '1' : '0';
     } else {
-      static_assert(special == Special::One);
-      page_.Put('1');
+      PutValue(value);
     }
   }
+  void PutMember(const DesignControl& /*control*/, Member /*member*/, std::monostate /*field*/) {}
 
-  [[nodiscard]] const std::string& ValueOf(const Object& /*object*/, Event event) const {
-    return codes_[static_cast<std::size_t>(event)];
-  }
-  template <class T>
-  [[nodiscard]] const T& ValueOf(const Object& object, T ObjectRec::*field) const {
-    return object.Record.*field;
-  }
-  [[nodiscard]] StoredText ValueOf(const Object& object, ItemsText items) const {
-    return StoredItems(object.Record.*items.Field);
-  }
-  template <class T>
-  [[nodiscard]] const T& ValueOf(const Object& /*object*/, T FormRec::*field) const {
-    return record_.*field;
-  }
-  [[nodiscard]] StoredText ValueOf(const Object& /*object*/, CommaText text) const {
-    return {record_.*text.Field};
-  }
-  template <class T>
-  [[nodiscard]] const T& ValueOf(const Object& object, T WinSockRec::*field) const {
-    return RecordOrEmpty(record_.WinSocks, object.Number).*field;
-  }
-  template <class T>
-  [[nodiscard]] const T& ValueOf(const Object& object, T HtmlViewerRec::*field) const {
-    return RecordOrEmpty(record_.HtmlViewers, object.Number).*field;
-  }
-  template <class T>
-  [[nodiscard]] const T& ValueOf(const Object& object, T PopUpItemRec::*field) const {
-    return RecordOrEmpty(record_.PopUps, object.Number).*field;
-  }
+  void PutValue(const std::string& text) { out_ += text; }
+  void PutValue(std::int32_t number) { AppendNumber(out_, std::int64_t{number}); }
 
+  std::string& out_;
   const ProjectTables& tables_;
   const DesignForm& window_;
   const FormRec& record_;
   const std::string form_key_;
   const int window_number_;
-  TextPage page_;
   CodeValues codes_;
   std::array<int, kObjectKindCount> counts_{};
 };
 
 }  // namespace
 
-void AppendFormText(std::string& out, const ProjectTables& tables, int form) {
-  const DesignForm* window = tables.UserIfAny(form);
-  const FormRec* record = tables.Form(form);
-  if (window == nullptr || record == nullptr) return;
-  constexpr std::size_t kUsualRecord = 512;
-  out.reserve(out.size() + window->Controls().size() * kUsualRecord);
-  FormWriter(tables, *window, *record, [&](std::string_view piece) { out += piece; }).Write();
-}
-
 std::string FormFileText(const ProjectTables& tables, int form) {
   std::string text;
-  AppendFormText(text, tables, form);
+  const DesignForm* window = tables.UserIfAny(form);
+  const FormRec* record = tables.Form(form);
+  if (window == nullptr || record == nullptr) return text;
+  FormWriter(text, tables, *window, *record).Write();
   return text;
 }
 

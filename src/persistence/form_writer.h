@@ -7,11 +7,9 @@
 
 namespace tarnwick {
 
-/// Appends the records of the form with that number, in file order, each ended by CR LF. An object
-/// whose record is missing is written with an empty one: no object is lost for it. Nothing for a
-/// number without a form.
-void AppendFormText(std::string& out, const ProjectTables& tables, int form);
-/// The same text on its own: the bytes of the form's file.
+/// The records of the form with that number, in file order, each ended by CR LF: the bytes of its
+/// file. An object whose record is missing is written with an empty one: no object is lost for it.
+/// "" for a number without a form.
 [[nodiscard]] std::string FormFileText(const ProjectTables& tables, int form);
 
 }  // namespace tarnwick

@@ -42,11 +42,11 @@ bool Fits(const Source& source, std::string_view text) {
 class FormChecker {
  public:
   std::vector<RecordFault> Check(std::string_view text) {
-    for (std::size_t at = 0; at <= text.size();) {
-      const std::string_view line = scanner_.Scan(text.substr(at));
+    for (const std::string_view line : Split(text, kLineEnd)) {
       ++line_;
-      if (!line.empty()) CheckLine(line);
-      at += line.size() + 2;
+      if (line.empty()) continue;
+      scanner_.Scan(line);
+      CheckLine(line);
     }
     if (!form_met_) faults_.insert(faults_.begin(), {1, "", "", "the file holds no form record"});
     return std::move(faults_);

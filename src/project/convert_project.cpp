@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "persistence/old_project.h"
-#include "persistence/stored_text.h"
+#include "text/code_page.h"
 #include "text/path_text.h"
 #include "text/strings.h"
 

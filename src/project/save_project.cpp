@@ -7,24 +7,12 @@
 
 namespace tarnwick::project {
 
-namespace {
-
-/// Writes a form's file; `text` is where it is put together.
-bool WriteForm(ProjectContext& context, int form, std::string& text) {
+bool WriteFormFile(ProjectContext& context, int form) {
   const FormRec* record = context.Tables.Form(form);
   if (form < 1 || record == nullptr || record->FileName.empty()) return false;
   context.Tables.User(form);
   context.Screen.Yield();
-  text.clear();
-  AppendFormText(text, context.Tables, form);
-  return context.Files.Replace(record->FileName, text);
-}
-
-}  // namespace
-
-bool WriteFormFile(ProjectContext& context, int form) {
-  std::string text;
-  return WriteForm(context, form, text);
+  return context.Files.Replace(record->FileName, FormFileText(context.Tables, form));
 }
 
 bool SaveProject(ProjectContext& context, const std::string& path) {
@@ -32,12 +20,11 @@ bool SaveProject(ProjectContext& context, const std::string& path) {
   bool saved = true;
   context.Container.HideContainer();
   DesignForm* const active = tables.CurrentForm;
-  std::string text;  // one for all forms: the memory for it is asked for once
   for (int form = 1; form <= tables.FormsCount; ++form) {
     if (!tables.IsLive(form)) continue;
     context.Container.ActivateForm(form);
     if (tables.Form(form)->FileName.empty()) SaveFormDialog(context, form);
-    saved = WriteForm(context, form, text) && saved;
+    saved = WriteFormFile(context, form) && saved;
     RefreshFormListEntry(context, form);
   }
   saved = context.Files.Replace(path, ProjectIndexText(tables, FolderOf(path))) && saved;

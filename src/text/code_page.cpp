@@ -3,10 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstring>
 #include <iterator>
-
-#include "text/short_bytes.h"
 
 namespace tarnwick {
 namespace {
@@ -67,26 +64,9 @@ std::string Mapped(std::string_view text, const ByteTable& table) {
   return mapped;
 }
 
-/// The positions of one byte, from the left. Each is found once, so that a search for a byte in
-/// two forms never walks the same stretch twice for the form that is rare.
-class ByteFinder {
- public:
-  ByteFinder(std::string_view text, char byte) noexcept : text_(text), byte_(byte) {}
-  /// The first position at or behind `from`; npos when there is none.
-  std::size_t At(std::size_t from) noexcept {
-    if (!known_ || next_ < from) {
-      next_ = text_.find(byte_, from);
-      known_ = true;
-    }
-    return next_;
-  }
-
- private:
-  std::string_view text_;
-  char byte_;
-  std::size_t next_ = 0;
-  bool known_ = false;
-};
+bool EqualBytesFolded(char a, char b) noexcept {
+  return LowerByte(a) == LowerByte(b);
+}
 
 void AppendUtf8(std::string& out, char32_t code_point) {
   const auto value = static_cast<std::uint32_t>(code_point);
@@ -135,24 +115,6 @@ Decoded DecodeOne(std::string_view utf8) noexcept {
   return {value, size};
 }
 
-/// The bits of eight bytes in which the two cases of a letter never differ: all but three of each.
-constexpr std::uint64_t kCaseless = 0x8F8F8F8F8F8F8F8FU;
-
-constexpr bool CaselessHolds() {
-  return std::all_of(std::begin(kCaseRuns), std::end(kCaseRuns), [](const CaseRun& run) {
-    for (unsigned upper = run.First; upper <= run.Last; ++upper) {
-      if (((upper ^ (upper + run.ToLower)) & kCaseless & 0xFFU) != 0) return false;
-    }
-    return true;
-  });
-}
-static_assert(CaselessHolds());
-
-constexpr std::uint64_t Mixed(std::uint64_t bits) noexcept {
-  bits *= 0x9E3779B97F4A7C15U;
-  return bits ^ bits >> 32U;
-}
-
 }  // namespace
 
 constexpr ByteTable kLowerBytes = MakeCaseTable(true);
@@ -167,42 +129,25 @@ std::string Upper(std::string_view text) {
 }
 
 bool EqualsFolded(std::string_view a, std::string_view b) noexcept {
-  // Most texts that are equal are so to the byte.
-  return a.size() == b.size() && (SameBytes(a.data(), b) || StartsWithFolded(a, b));
+  return a.size() == b.size() && StartsWithFolded(a, b);
 }
 
 bool StartsWithFolded(std::string_view text, std::string_view start) noexcept {
   if (text.size() < start.size()) return false;
-  return std::equal(start.begin(), start.end(), text.begin(),
-                    [](char x, char y) { return LowerByte(x) == LowerByte(y); });
+  return std::equal(start.begin(), start.end(), text.begin(), EqualBytesFolded);
 }
 
 std::size_t FindFolded(std::string_view text, std::string_view part, std::size_t from) noexcept {
-  if (from > text.size() || text.size() - from < part.size()) return std::string_view::npos;
-  if (part.empty()) return from;
-  const std::size_t last = text.size() - part.size();
-  const std::string_view starts = text.substr(0, last + 1);
-  ByteFinder lower(starts, LowerByte(part.front()));
-  ByteFinder upper(starts, UpperByte(part.front()));
-  while (from <= last) {
-    const std::size_t at = std::min(lower.At(from), upper.At(from));
-    if (at == std::string_view::npos) break;
-    if (StartsWithFolded(text.substr(at), part)) return at;
-    from = at + 1;
-  }
-  return std::string_view::npos;
+  if (from > text.size()) return std::string_view::npos;
+  const auto* const start = text.begin() + from;
+  const auto* const found =
+      std::search(start, text.end(), part.begin(), part.end(), EqualBytesFolded);
+  if (found == text.end() && !part.empty()) return std::string_view::npos;
+  return static_cast<std::size_t>(found - text.begin());
 }
 
-std::size_t FoldedHash::operator()(std::string_view text) const {
-  std::uint64_t hash = text.size();
-  for (; text.size() >= sizeof hash; text.remove_prefix(sizeof hash)) {
-    std::uint64_t bytes = 0;
-    std::memcpy(&bytes, text.data(), sizeof bytes);
-    hash = Mixed(hash ^ (bytes & kCaseless));
-  }
-  std::uint64_t rest = 0;
-  for (const char c : text) rest = rest << 8U | Index(c);
-  return static_cast<std::size_t>(Mixed(hash ^ (rest & kCaseless)));
+std::size_t FoldedHash::operator()(std::string_view text) const noexcept {
+  return std::hash<std::string>()(Lower(text));
 }
 
 std::string CodePageToUtf8(std::string_view text) {

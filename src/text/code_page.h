@@ -44,9 +44,7 @@ extern const std::array<char, 256> kUpperBytes;
 /// Hash and equality that ignore case, for keyed tables looked up by string_view.
 struct FoldedHash {
   using is_transparent = void;
-  /// It throws nothing. Only, of a hash that could, the standard library keeps the value with each
-  /// key, and a search then reads no key but the one that it is for.
-  [[nodiscard]] std::size_t operator()(std::string_view text) const noexcept(false);
+  [[nodiscard]] std::size_t operator()(std::string_view text) const noexcept;
 };
 struct FoldedEqual {
   using is_transparent = void;

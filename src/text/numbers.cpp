@@ -62,7 +62,7 @@ double OutOfRange(std::string_view number) noexcept {
 
 }  // namespace
 
-double ValOfAny(std::string_view text) noexcept {
+double Val(std::string_view text) noexcept {
   const std::size_t start = text.find_first_not_of(' ');
   if (start == std::string_view::npos) return 0;
   text.remove_prefix(start);
@@ -82,21 +82,11 @@ void AppendNumber(std::string& out, std::int64_t value) {
   out.append(digits.data(), end.ptr);
 }
 
-char* PutNumber(char* at, float value) noexcept {
-  // Whole numbers of this size and below are the same as single and as 32-bit number.
-  constexpr float kPlainLimit = 16777216.0F;
-  char* const end = at + kMostSingle;
-  if (value >= -kPlainLimit && value <= kPlainLimit) {
-    // Nearly every single is whole, and whole numbers print faster. Minus zero is 0 here.
-    const auto whole = static_cast<std::int32_t>(value);
-    if (static_cast<float>(whole) == value) return std::to_chars(at, end, whole).ptr;
-  }
-  return std::to_chars(at, end, value, std::chars_format::fixed).ptr;
-}
-
 void AppendNumber(std::string& out, float value) {
-  std::array<char, kMostSingle> digits{};
-  out.append(digits.data(), PutNumber(digits.data(), value));
+  std::array<char, 64> digits{};  // no single prints longer than "-0." and 47 places
+  if (value == 0) value = 0;      // minus zero
+  const auto end = std::to_chars(digits.begin(), digits.end(), value, std::chars_format::fixed);
+  out.append(digits.data(), end.ptr);
 }
 
 std::string NumberText(std::int64_t value) {

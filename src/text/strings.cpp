@@ -69,8 +69,7 @@ std::string ReplaceAll(std::string_view text, std::string_view from, std::string
 }
 
 void ReplaceByte(std::span<char> text, char from, char to) noexcept {
-  // Every byte is stored: so the compiler can take many at a time.
-  for (char& byte : text) byte = byte == from ? to : byte;
+  std::replace(text.begin(), text.end(), from, to);
 }
 
 bool Contains(std::string_view text, std::string_view part) noexcept {

@@ -73,9 +73,8 @@ TEST(GenerateTest, AFullDeviceIsTold) {
   std::FILE* const full = std::fopen("/dev/full", "w");
   ASSERT_NE(full, nullptr);
   const test::TextStream err;
-  std::optional<LoadedProject> loaded;
   const ParsedArguments parsed = ParseArguments({"generate", project});
-  EXPECT_EQ(RunCommand(std::get<Arguments>(parsed), full, err.File(), loaded), 1);
+  EXPECT_EQ(RunCommand(std::get<Arguments>(parsed), full, err.File()), 1);
   EXPECT_EQ(err.Text(), "tarnwick-cli: cannot write to standard output\n");
   std::fclose(full);
 }

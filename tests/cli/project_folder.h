@@ -26,8 +26,7 @@ inline CallResult Call(const std::vector<std::string>& words) {
   if (const auto* const wrong = std::get_if<WrongUsage>(&parsed)) return {2, "", wrong->Text};
   const TextStream out;
   const TextStream err;
-  std::optional<LoadedProject> project;
-  const int exit = RunCommand(std::get<Arguments>(parsed), out.File(), err.File(), project);
+  const int exit = RunCommand(std::get<Arguments>(parsed), out.File(), err.File());
   return {exit, out.Text(), err.Text()};
 }
 

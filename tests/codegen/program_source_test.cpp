@@ -105,40 +105,6 @@ TEST(ProgramSource, ShowCallsInUserCodeAreRewrittenFormByForm) {
             std::string::npos);
 }
 
-/// What a project of 300 buttons hands on, with a frame on its second form or without.
-std::vector<std::string> PiecesOf(bool framed) {
-  ProjectBuilder project;
-  const BuiltForm form = project.AddForm();
-  for (int n = 1; n <= 300; ++n) form.Add(Kind::Button, "B" + std::to_string(n));
-  form.Code(Event::OnShow, "Form2.Show");
-  project.AddForm().Add(framed ? Kind::TransparentFrame : Kind::Label, "Last");
-  GeneratorState state;
-  std::vector<std::string> pieces;
-  WriteSource(project.Tables, state, [&](std::string_view piece) { pieces.emplace_back(piece); });
-  return pieces;
-}
-
-void ExpectWhole(const std::string& text, const std::string& call) {
-  EXPECT_TRUE(text.starts_with("Dim Font As QFont\r\nDim Form1 As QForm\r\n"));
-  EXPECT_TRUE(text.ends_with("Form1.ShowModal\r\n\r\n"));
-  EXPECT_NE(text.find("Sub Form1_OnShow\r\n" + call), std::string::npos);
-  std::size_t at = 0;
-  for (int n = 1; n <= 300; ++n) {
-    at = text.find("\r\nB" + std::to_string(n) + ".Layout = 2\r\n", at);
-    ASSERT_NE(at, std::string::npos) << n;
-  }
-}
-
-TEST(ProgramSource, ALongTextIsHandedOnInPiecesInItsOrder) {
-  const std::vector<std::string> pieces = PiecesOf(false);
-  EXPECT_GT(pieces.size(), 3U);
-  ExpectWhole(Join(pieces, ""), "Form2.Show\r\n");
-}
-
-TEST(ProgramSource, ATextWithAFrameIsHandedOnWithItsCallsDiverted) {
-  ExpectWhole(Join(PiecesOf(true), ""), "TrnspAbrFrm2\n");
-}
-
 TEST(ProgramSource, FreeLinesOfAllHtmlViewersEndTheProgram) {
   ProjectBuilder project;
   const BuiltForm form1 = project.AddForm();

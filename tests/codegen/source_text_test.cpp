@@ -1,5 +1,6 @@
 #include "codegen/source_text.h"
 
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -9,25 +10,25 @@ namespace tarnwick::test {
 namespace {
 
 TEST(SourceText, LineIsItsPartsAndALineEnd) {
-  std::string whole;
-  SourceText text([&](std::string_view piece) { whole += piece; });
-  text.Line("a", std::string("b"), 12, Quoted{"c"}, Numbered{"d", 3, true},
-            Numbered{"e", 4, false});
+  SourceText text;
+  text.Line("a", std::string("b"), std::string_view("c"), 12, Quoted{"d"}, Numbered{"e", 3, true},
+            Numbered{"f", 4, false}, 1.5F);
   text.Blank();
-  text.Flush();
-  EXPECT_EQ(whole, "ab12\"c\"d3e\r\n\r\n");
+  EXPECT_EQ(text.Text(), "abc12\"d\"e3f1.5\r\n\r\n");
 }
 
-TEST(SourceText, QuotesAndLineEndsOfLongLinesFitToo) {
-  for (const std::size_t size : {32762U, 32763U, 32764U, 32765U, 32766U, 32767U, 32768U}) {
-    std::string whole;
-    SourceText text([&](std::string_view piece) { whole += piece; });
-    const std::string part(size, 'a');
-    text.Line(Quoted{part});
-    text.Line(Numbered{part, -1, true});
-    text.Flush();
-    EXPECT_EQ(whole, '"' + part + "\"\r\n" + part + "-1\r\n");
-  }
+TEST(SourceText, NumbersOfEveryWidth) {
+  SourceText text;
+  text.Line(std::numeric_limits<std::int16_t>::min(), " ", std::numeric_limits<std::int32_t>::min(),
+            " ", std::size_t{7});
+  EXPECT_EQ(text.Text(), "-32768 -2147483648 7\r\n");
+}
+
+TEST(SourceText, ATakenTextIsWhole) {
+  SourceText text;
+  const std::string part(100000, 'a');
+  text.Line(Quoted{part});
+  EXPECT_EQ(text.Take(), '"' + part + "\"\r\n");
 }
 
 }  // namespace

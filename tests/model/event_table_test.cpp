@@ -110,29 +110,37 @@ TEST(EventTable, ClearingForgetsEverything) {
   EXPECT_TRUE(table.Add("Form1.OnClick", "y"));
 }
 
-TEST(EventTable, AnObjectIsTheSameByItsPlaceAndByItsKey) {
-  EventCodeTable table;
-  for (int number = 1; number <= 3; ++number) {
-    auto& owner = table.OwnerFor({1, Kind::Image, number});
-    EXPECT_TRUE(table.Add(owner, Event::OnClick, std::to_string(number)));
-  }
-  EXPECT_EQ(*table.Find("form1.images2.onclick"), "2");
-  EXPECT_EQ(table.OwnerOf({1, Kind::Image, 3}), table.OwnerOf("Form1.Images3"));
-  EXPECT_EQ(table.OwnerOf({1, Kind::Image, 4}), nullptr);
-  EXPECT_EQ(table.OwnerOf({1, Kind::Image, 0}), nullptr);
-  EXPECT_EQ(table.OwnerOf({1, Kind::Label, 1}), nullptr);
-  EXPECT_EQ(table.OwnerOf({2, Kind::Image, 1}), nullptr);
+TEST(EventTable, TheKeyOfAnObjectIsItsFormArrayAndNumber) {
+  EXPECT_EQ(ObjectKey(1, Kind::Image, 3), "Form1.Images3");
+  EXPECT_EQ(ObjectKey(32767, Kind::PopUpMenu, 12), "Form32767.PopUpMnu12");
 }
 
-TEST(EventTable, AnObjectIsFoundByItsPlaceHoweverItCame) {
+TEST(EventTable, AnOwnerIsMadeOnceAndFoundInAnyCase) {
   EventCodeTable table;
-  table.Add("Form2.Button5.OnClick", "by key");
-  table.Add(table.OwnerFor({7, Kind::Button, 9}), Event::OnClick, "far ahead");
-  table.Add(table.OwnerFor({2, Kind::Button, 1}), Event::OnClick, "first");
-  EXPECT_EQ(*table.OwnerOf({2, Kind::Button, 5})->Find(Event::OnClick), "by key");
-  EXPECT_EQ(*table.OwnerOf({7, Kind::Button, 9})->Find(Event::OnClick), "far ahead");
-  EXPECT_EQ(*table.OwnerOf({2, Kind::Button, 1})->Find(Event::OnClick), "first");
-  EXPECT_EQ(&table.OwnerFor({2, Kind::Button, 5}), table.OwnerOf("FORM2.BUTTON5"));
+  auto& owner = table.OwnerFor("Form2.Button5");
+  EXPECT_TRUE(owner.Add(Event::OnClick, "first"));
+  EXPECT_FALSE(owner.Add(Event::OnClick, "second"));
+  EXPECT_EQ(&table.OwnerFor("FORM2.BUTTON5"), &owner);
+  EXPECT_EQ(table.OwnerOf("form2.button5"), &owner);
+  EXPECT_EQ(table.OwnerOf("Form2.Button6"), nullptr);
+  EXPECT_EQ(*table.Find("Form2.Button5.OnClick"), "first");
+}
+
+TEST(EventTable, PointersStayValidWhileOtherEntriesCome) {
+  EventCodeTable table;
+  auto& owner = table.OwnerFor("Form1.Button1");
+  owner.Add(Event::OnClick, "Beep");
+  const std::string* const code = table.Find("Form1.Button1.OnClick");
+  for (int number = 2; number <= 5000; ++number) {
+    table.Add(ObjectKey(1, Kind::Button, number), Event::OnClick, "other");
+  }
+  owner.Add(Event::OnKeyUp, "added to the same owner");
+  table.Remove("Form1.Button1.OnKeyUp");
+  EXPECT_EQ(table.Find("Form1.Button1.OnClick"), code);
+  EXPECT_EQ(table.OwnerOf("Form1.Button1"), &owner);
+  EXPECT_EQ(*code, "Beep");
+  table.Replace("Form1.Button1.OnClick", "new");
+  EXPECT_EQ(*code, "new");
 }
 
 TEST(EventTable, ANumberThatIsWrittenInAnotherWayIsAnotherKey) {
@@ -143,16 +151,14 @@ TEST(EventTable, ANumberThatIsWrittenInAnotherWayIsAnotherKey) {
   }
   EXPECT_EQ(table.Size(), 7U);
   EXPECT_EQ(CodeOf(table, "form01.button2.onclick"), "Form01.Button2");
-  EXPECT_EQ(*table.OwnerOf({1, Kind::Button, 2})->Find(Event::OnClick), "Form1.Button2");
-  table.Add("Form1.Button123456789", Event::OnClick, "far");
-  EXPECT_EQ(*table.OwnerOf({1, Kind::Button, 123456789})->Find(Event::OnClick), "far");
+  EXPECT_EQ(CodeOf(table, ObjectKey(1, Kind::Button, 2) + ".OnClick"), "Form1.Button2");
 }
 
-TEST(EventTable, AKeyIsToldAsItWasFirstWritten) {
+TEST(EventTable, AWalkNamesKeysAsTheyWereFirstWrittenAndOwnersInTheirOrder) {
   EventCodeTable table;
   table.Add("FORM1.button2", Event::OnClick, "a");
-  table.Add(table.OwnerFor({1, Kind::Button, 2}), Event::OnKeyUp, "b");
-  table.Add(table.OwnerFor({1, Kind::Button, 1}), Event::OnClick, "c");
+  table.Add("Form1.Button2", Event::OnKeyUp, "b");
+  table.Add("Form1.Button1", Event::OnClick, "c");
   table.Add("FORM1.BUTTON1", Event::OnKeyUp, "d");
   std::vector<std::string> keys;
   table.ForEach([&](const std::string& key, const std::string&) { keys.push_back(key); });
@@ -160,49 +166,23 @@ TEST(EventTable, AKeyIsToldAsItWasFirstWritten) {
                                             "Form1.Button1.OnClick", "Form1.Button1.OnKeyUp"}));
 }
 
-TEST(EventTable, EmptyEntriesAreAddedWhereThereIsNone) {
-  EventCodeTable table;
-  auto& owner = table.OwnerFor({1, Kind::Button, 1});
-  table.Add(owner, Event::OnClick, "code");
-  EventCodeTable::AddEmpty(owner, EventSet(BitOf(Event::OnClick) | BitOf(Event::OnKeyUp)));
-  EXPECT_EQ(CodeOf(table, "Form1.Button1.OnClick"), "code");
-  EXPECT_EQ(CodeOf(table, "Form1.Button1.OnKeyUp"), "");
-  EXPECT_EQ(CodeOf(table, "Form1.Button1.OnKeyDown"), "(none)");
-  EXPECT_EQ(table.Size(), 2U);
-  EXPECT_FALSE(table.Add(owner, Event::OnKeyUp, "too late"));
-  EXPECT_EQ(owner.FilledEvents(), EventSet(BitOf(Event::OnClick)));
-}
-
 TEST(EventTable, ACodeThatIsEmptiedAndFilledAgainIsTheNewOne) {
   EventCodeTable table;
   table.Add("Form1.Button1", Event::OnClick, "old");
   table.Replace("Form1.Button1", Event::OnClick, "");
   EXPECT_EQ(CodeOf(table, "Form1.Button1.OnClick"), "");
-  EXPECT_TRUE(table.OwnerOf("Form1.Button1")->FilledEvents().none());
   table.Remove("Form1.Button1.OnClick");
   EXPECT_EQ(CodeOf(table, "Form1.Button1.OnClick"), "(none)");
   EXPECT_TRUE(table.Add("Form1.Button1", Event::OnClick, "new"));
   EXPECT_EQ(CodeOf(table, "Form1.Button1.OnClick"), "new");
 }
 
-TEST(EventTable, AnObjectFarAheadStaysItsOwnWhenTheOthersCatchUp) {
+TEST(EventTable, ACopyIsItsOwn) {
   EventCodeTable table;
-  table.Add(table.OwnerFor({1, Kind::Button, 100}), Event::OnClick, "far");
-  for (int number = 1; number <= 120; ++number) {
-    table.Add(table.OwnerFor({1, Kind::Button, number}), Event::OnKeyUp, std::to_string(number));
-  }
-  EXPECT_EQ(CodeOf(table, "Form1.Button100.OnClick"), "far");
-  EXPECT_EQ(CodeOf(table, "Form1.Button100.OnKeyUp"), "100");
-  EXPECT_EQ(table.Size(), 121U);
-}
-
-TEST(EventTable, AClearedTableKnowsNoPlaces) {
-  EventCodeTable table;
-  table.OwnerFor({1, Kind::Button, 1});
-  table.Clear();
-  EXPECT_EQ(table.OwnerOf({1, Kind::Button, 1}), nullptr);
-  table.Add(table.OwnerFor({1, Kind::Button, 1}), Event::OnClick, "new");
-  EXPECT_EQ(*table.Find("Form1.Button1.OnClick"), "new");
+  table.Add("Form1.OnClick", "old");
+  const EventCodeTable copy = table;
+  table.Replace("Form1.OnClick", "new");
+  EXPECT_EQ(CodeOf(copy, "Form1.OnClick"), "old");
 }
 
 }  // namespace
