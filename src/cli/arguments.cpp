@@ -26,7 +26,7 @@ constexpr std::array<CommandInfo, 4> kCommands{{
     {Command::Convert, "convert", 1, "convert OLD.ptn",
      "turn a project of the former version into a .tnp and a .ftn beside it"},
     {Command::Check, "check", 1, "check PROJECT.tnp",
-     "name what is amiss in a project, a line each; 1 when there is anything"},
+     "name what is wrong in a project and what to do, a line each; 1 when there is anything"},
 }};
 
 constexpr std::string_view kProgram = "tarnwick-cli";

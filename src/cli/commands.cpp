@@ -4,8 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "cli/project_check.h"
+#include "cli/loaded_project.h"
 #include "codegen/program_source.h"
+#include "project/check.h"
 #include "project/compile.h"
 #include "project/convert_project.h"
 #include "project/save_project.h"
@@ -25,17 +26,24 @@ int Fail(std::FILE* err, const std::string& what, const std::string& path) {
   return 1;
 }
 
-int Generate(LoadedProject& project, const Arguments& arguments, std::FILE* out, std::FILE* err) {
+/// 0 when every form that the index names was read. What was read is generated all the same.
+int TellUnread(LoadedProject& loaded, std::FILE* err) {
+  const std::vector<std::string> unread = project::UnreadForms(loaded.Tables, loaded.Files);
+  for (const std::string& path : unread) Fail(err, "no form was read from", CodePageToUtf8(path));
+  return unread.empty() ? 0 : 1;
+}
+
+int Generate(LoadedProject& loaded, const Arguments& arguments, std::FILE* out, std::FILE* err) {
   GeneratorState state;
-  project::CheckMainForm(project.Tables);
-  const std::string source = GenerateSource(project.Tables, state);
+  project::CheckMainForm(loaded.Tables);
+  const std::string source = GenerateSource(loaded.Tables, state);
   if (!arguments.OutputFile) {
     const bool written = Print(out, source) && std::fflush(out) == 0;
-    return written ? 0 : Fail(err, "cannot write to", "standard output");
+    return written ? TellUnread(loaded, err) : Fail(err, "cannot write to", "standard output");
   }
   const std::string path = WindowsPathOf(*arguments.OutputFile);
-  if (!project.Files.Replace(path, source)) return Fail(err, "cannot write", *arguments.OutputFile);
-  return 0;
+  if (!loaded.Files.Replace(path, source)) return Fail(err, "cannot write", *arguments.OutputFile);
+  return TellUnread(loaded, err);
 }
 
 int Resave(LoadedProject& project, const Arguments& arguments, std::FILE* err) {
@@ -68,10 +76,17 @@ int Convert(const Arguments& arguments, std::FILE* err) {
   return 0;
 }
 
-int Check(LoadedProject& project, std::FILE* out) {
-  const std::vector<std::string> findings = CheckProject(project);
-  for (const std::string& finding : findings) Print(out, CodePageToUtf8(finding) + "\n");
-  return findings.empty() ? 0 : 1;
+int Check(LoadedProject& loaded, std::FILE* out) {
+  bool found = false;
+  const auto print = [&](const std::vector<project::Finding>& findings) {
+    for (const project::Finding& finding : findings) {
+      Print(out, CodePageToUtf8(finding.Line()) + "\n");
+      found = true;
+    }
+  };
+  print(project::CheckFiles(loaded.Tables, loaded.Files));
+  print(project::CheckProject(loaded.Tables, loaded.Files));
+  return found ? 1 : 0;
 }
 
 }  // namespace

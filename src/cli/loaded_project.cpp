@@ -15,12 +15,11 @@ std::string WindowsPathOf(const std::string& native) {
       (failed ? std::filesystem::path(native) : full).lexically_normal().string());
 }
 
-void KeptMessages::Show(std::string_view text, std::string_view title) {
-  Texts.emplace_back(text);
+void ToolMessages::Show(std::string_view text, std::string_view title) {
   if (!quiet_) console_.Show(text, title);
 }
 
-bool KeptMessages::AskYesNo(std::string_view text, std::string_view title, MessageIcon /*icon*/) {
+bool ToolMessages::AskYesNo(std::string_view text, std::string_view title, MessageIcon /*icon*/) {
   Show(text, title);
   return false;
 }

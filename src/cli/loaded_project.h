@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "platform/console_messages.h"
 #include "platform/native_files.h"
@@ -17,15 +16,13 @@ namespace tarnwick {
 /// The Windows path of a path of this machine, made absolute first.
 [[nodiscard]] std::string WindowsPathOf(const std::string& native);
 
-/// Messages on a stream that are kept as well. A quiet one only keeps them.
-class KeptMessages final : public MessagePort {
+/// Messages on a stream; quiet ones are not shown at all.
+class ToolMessages final : public MessagePort {
  public:
-  KeptMessages(std::FILE* out, bool quiet) : console_(out), quiet_(quiet) {}
+  ToolMessages(std::FILE* out, bool quiet) : console_(out), quiet_(quiet) {}
   void Show(std::string_view text, std::string_view title) override;
   [[nodiscard]] bool AskYesNo(std::string_view text, std::string_view title,
                               MessageIcon icon) override;
-
-  std::vector<std::string> Texts;  ///< Windows-1252
 
  private:
   ConsoleMessages console_;
@@ -42,7 +39,7 @@ class LoadedProject {
   bool Load(const std::string& native_path);
 
   NativeFiles Files;
-  KeptMessages Messages;
+  ToolMessages Messages;
   NoDialogs Dialogs;
   NativeScreen Screen;
   ProjectObserver Observer;

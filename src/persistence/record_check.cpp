@@ -48,14 +48,16 @@ class FormChecker {
       scanner_.Scan(line);
       CheckLine(line);
     }
-    if (!form_met_) faults_.insert(faults_.begin(), {1, "", "", "the file holds no form record"});
+    if (!form_met_)
+      faults_.insert(faults_.begin(),
+                     {FaultSort::NoForm, 1, "", "", "the file holds no form record"});
     return std::move(faults_);
   }
 
  private:
-  void Tell(std::string what) {
-    faults_.push_back(
-        {line_, std::string(scanner_.KindWord()), std::string(scanner_.Name()), std::move(what)});
+  void Tell(FaultSort sort, std::string what) {
+    faults_.push_back({sort, line_, std::string(scanner_.KindWord()), std::string(scanner_.Name()),
+                       std::move(what)});
   }
 
   void CheckLine(std::string_view line) {
@@ -64,7 +66,8 @@ class FormChecker {
     const std::optional<Kind> kind = is_form ? std::optional(Kind::Form) : scanner_.ObjectKind();
     if (IsOtherRecord(line, scanner_.KindWord()) && !is_form) return;
     if (!kind) {
-      Tell(scanner_.KindWord().empty() ? "the line is no record" : "the kind is not known");
+      Tell(FaultSort::NoRecord,
+           scanner_.KindWord().empty() ? "the line is no record" : "the kind is not known");
       return;
     }
     CheckNumbers(*kind);
@@ -76,14 +79,14 @@ class FormChecker {
                           std::get<Special>(layout.Fields.front().Value) == Special::Number;
     const std::optional<std::int16_t> number = ToInt16(Val(scanner_.Number()));
     if (numbered && (!number || *number < 0)) {
-      Tell("the number (" + std::string(scanner_.Number()) +
-           ") cannot be used; its properties are lost");
+      Tell(FaultSort::Number, "the number (" + std::string(scanner_.Number()) +
+                                  ") cannot be used; its properties are lost");
     }
     for (const LayoutField& field : layout.Fields) {
       if (field.In == Tag::None || Fits(field.Value, scanner_.Stored(field.In))) continue;
       std::string what = "the value of ";
       what.append(InfoOf(field.In).Word).append(" is out of range: ");
-      Tell(what.append(scanner_.Stored(field.In)));
+      Tell(FaultSort::Value, what.append(scanner_.Stored(field.In)));
     }
   }
 

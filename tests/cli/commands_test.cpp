@@ -86,9 +86,38 @@ TEST(GenerateTest, AMissingFormIsNamedAndTheRestGenerated) {
                                                          "1\x95"
                                                          "gone.ftn\r\n2\x95"
                                                          "f.ftn\r\n")});
-  EXPECT_EQ(result.Exit, 0);
-  EXPECT_EQ(result.Err, "Tarnwick: Error: File ' " + PathFromNative(folder.PathOf("gone.ftn")) +
-                            " ' does not exist!\n");
+  const std::string path = PathFromNative(folder.PathOf("gone.ftn"));
+  EXPECT_EQ(result.Exit, 1);
+  EXPECT_EQ(result.Err, "Tarnwick: Error: File ' " + path +
+                            " ' does not exist!\ntarnwick-cli: no form was read from " + path +
+                            "\n");
+  EXPECT_NE(result.Out.find("Dim Form1 As QForm"), std::string::npos);
+}
+
+TEST(GenerateTest, AListedFileWithoutAFormRecordIsToldAndTheRestWrittenToTheFile) {
+  const ProjectFolder folder;
+  folder.Put("f.ftn", kForm);
+  folder.Put("empty.ftn", "[Label] (1) {L}\r\n");
+  const CallResult result = Call({"generate",
+                                  folder.Put("p.tnp",
+                                             "1\x95"
+                                             "f.ftn\r\n2\x95"
+                                             "empty.ftn\r\n"),
+                                  "-o", folder.PathOf("out.com")});
+  EXPECT_EQ(result.Exit, 1);
+  EXPECT_EQ(result.Err, "tarnwick-cli: no form was read from " +
+                            PathFromNative(folder.PathOf("empty.ftn")) + "\n");
+  EXPECT_NE(folder.Bytes("out.com").find("Dim Form1 As QForm"), std::string::npos);
+}
+
+TEST(GenerateTest, AnIndexOfOtherBytesIsToldByItsExit) {
+  const ProjectFolder folder;
+  const CallResult result =
+      Call({"generate", folder.Put("p.tnp", std::string("\x7F"
+                                                        "ELF\x02\0\x01\r\n\x90\xFE",
+                                                        12))});
+  EXPECT_EQ(result.Exit, 1);
+  EXPECT_NE(result.Err.find("no form was read from"), std::string::npos);
   EXPECT_NE(result.Out.find("Dim Form1 As QForm"), std::string::npos);
 }
 
