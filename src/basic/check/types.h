@@ -94,6 +94,21 @@ inline constexpr Type kAnyObjectType{Storage::Object, 0, kAnyClass};
   return KindOf(type.Kind);
 }
 
+/// The type of a value read from a variable of that type: Whole, Double and String for the widths
+/// of each, any other type itself.
+[[nodiscard]] constexpr Type ValueTypeOf(const Type& type) noexcept {
+  switch (KindOf(type)) {
+    case ValueKind::Whole:
+      return kWholeType;
+    case ValueKind::Real:
+      return kRealType;
+    case ValueKind::Text:
+      return kTextType;
+    default:
+      return type;
+  }
+}
+
 /// Bytes of a variable of that storage, as SIZEOF, Read and Write count them.
 [[nodiscard]] constexpr int BytesOf(Storage storage) noexcept {
   switch (storage) {

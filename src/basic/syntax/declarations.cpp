@@ -39,7 +39,7 @@ void Parser::InitialHere(tree::Declarator& out) {
     out.Initial = Expression();
     return;
   }
-  std::vector<const Node*> values = ArgumentsUntil("}");
+  std::vector<const Node*> values = ArgumentsUntil(nullptr, "}");
   ExpectSign("}");
   out.InitialList = memory_.List(values);
 }

@@ -120,7 +120,7 @@ const tree::Node* Parser::PostfixFrom(const Node* node) {
     if (IsSign("(")) {
       const std::size_t bracket = at_;
       Take();
-      const std::vector<const Node*> arguments = ArgumentsUntil(")");
+      const std::vector<const Node*> arguments = ArgumentsUntil(node, ")");
       int height = HeightOf(node);
       for (const Node* argument : arguments) height = std::max(height, HeightOf(argument));
       if (!ExpectSign(")")) return node;
@@ -148,7 +148,8 @@ const tree::Node* Parser::PostfixFrom(const Node* node) {
   return node;
 }
 
-std::vector<const tree::Node*> Parser::ArgumentsUntil(std::string_view closing) {
+std::vector<const tree::Node*> Parser::ArgumentsUntil(const Node* callee,
+                                                      std::string_view closing) {
   std::vector<const Node*> arguments;
   const auto at_end = [this, closing] {
     return closing.empty() ? AtStatementEnd() : IsSign(closing) || AtLineEnd();
@@ -156,6 +157,12 @@ std::vector<const tree::Node*> Parser::ArgumentsUntil(std::string_view closing) 
   if (at_end()) return arguments;
   while (!failed_) {
     arguments.push_back(IsSign(",") || at_end() ? nullptr : Expression());
+    const Node* last = arguments.back();
+    const auto* name = callee == nullptr ? nullptr : std::get_if<tree::Name>(&callee->Value);
+    if (last != nullptr && name != nullptr &&
+        std::holds_alternative<tree::ByReference>(last->Value)) {
+      out_.References.push_back({name->Text, arguments.size() - 1});
+    }
     if (!TakeSign(",")) break;
   }
   return arguments;

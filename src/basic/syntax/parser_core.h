@@ -182,7 +182,9 @@ class Parser {
   const Node* NumberHere();
   /// The name here, and the parts of one with brackets inside (`pm(1)_OnClick`).
   const Node* NameHere();
-  std::vector<const Node*> ArgumentsUntil(std::string_view closing);
+  /// The arguments up to `closing`, or to the end of the statement when that is "". Null for an
+  /// empty place.
+  std::vector<const Node*> ArgumentsUntil(const Node* callee, std::string_view closing);
   template <class T>
   const Node* MakeNode(SourcePlace from, int height, T value);
 

@@ -1,6 +1,7 @@
 // The syntax tree: what stands in the source, before any name is looked up.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -308,11 +309,18 @@ struct StatementNode {
       Value;
 };
 
+/// An argument handed over with "@": its callee's parameter is a reference.
+struct ReferenceUse {
+  std::string_view Callee;
+  std::size_t Argument;
+};
+
 /// A whole program as it stands in the source. Its texts lie in the source set and the token stream
 /// that it was made of.
 struct SyntaxTree {
   Arena Memory;
   StatementList Statements;
+  std::vector<ReferenceUse> References;
   bool Generated = false;  ///< the text begins like one that the program wrote itself
   bool ApplicationTypeGiven = false;
   bool Console = false;  ///< $APPTYPE CONSOLE
