@@ -18,6 +18,7 @@ FrontEndResult CheckProgram(const std::string& path, SourceReader& reader,
   const TokenStream stream = Preprocess(result.Files, reader, options.Source, result.Found);
   const tree::SyntaxTree tree = Parse(stream, options.Strict, result.Found);
   Program program = Check(tree, classes, options.Strict, result.Found);
+  result.Found.SortByPlace();
   if (result.Found.HasErrors()) return result;
   for (std::size_t i = 0; i < result.Files.Count(); ++i) {
     program.Files.push_back(result.Files.File(static_cast<std::uint16_t>(i)).Path);

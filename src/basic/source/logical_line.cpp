@@ -93,8 +93,9 @@ SourcePlace PlaceIn(std::uint16_t file, std::size_t line_number, std::size_t beg
   return {static_cast<std::uint32_t>(line_number), file, Narrow(begin + 1), Narrow(length)};
 }
 
-void LineReader::Next(bool escapes, std::vector<SourceToken>& tokens) {
+void LineReader::Next(bool escapes, bool counts, std::vector<SourceToken>& tokens) {
   tokens.clear();
+  counts_ = counts;
   rest_ = {};
   language::LineState state;
   state.EscapeChars = escapes;
@@ -108,6 +109,11 @@ void LineReader::Next(bool escapes, std::vector<SourceToken>& tokens) {
       const bool touches = !tokens.empty() && end > 0 && token.Begin == end;
       Take(line, token, touches, escapes, tokens);
       end = token.Begin + token.Length;
+    }
+    const bool open = !lexed_.empty() && lexed_.back().Unclosed;
+    if (open && counts_) {
+      messages_.Note(tokens.back().At, "The closing quote is missing: the text ends with the line",
+                     "Write the quote");
     }
     if (lines == 0 && !lexed_.empty())
       rest_ = Trim(line.substr(lexed_[0].Begin + lexed_[0].Length));
@@ -124,7 +130,7 @@ void LineReader::Take(std::string_view line, const language::Token& token, bool 
   const SourcePlace at = PlaceIn(index_, next_, token.Begin, token.Length);
   std::string_view text = token.In(line);
   if (token.Kind == TokenKind::Unknown) {
-    messages_.Error(at, "This character has no meaning here");
+    if (counts_) messages_.Error(at, "This character has no meaning here");
     return;
   }
   if (token.Kind == TokenKind::Text) {

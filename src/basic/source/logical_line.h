@@ -26,8 +26,8 @@ class LineReader {
   /// True when a further line is there.
   [[nodiscard]] bool HasNext() const noexcept { return next_ < file_.Lines.size(); }
   /// Replaces `tokens` by those of the next statement line, without comments and without a LineEnd.
-  /// `escapes` says whether "\" escapes in its texts.
-  void Next(bool escapes, std::vector<SourceToken>& tokens);
+  /// `escapes` says whether "\" escapes in its texts, `counts` whether its faults are reported.
+  void Next(bool escapes, bool counts, std::vector<SourceToken>& tokens);
   /// What stands on the last line read behind its first token, blanks at both ends off, comment
   /// included.
   [[nodiscard]] std::string_view RestOfDirective() const noexcept { return rest_; }
@@ -42,6 +42,7 @@ class LineReader {
   Messages& messages_;
   std::size_t next_ = 0;
   std::string_view rest_;
+  bool counts_ = true;
   std::vector<language::Token> lexed_;
 };
 

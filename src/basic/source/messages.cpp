@@ -1,6 +1,7 @@
 #include "basic/source/messages.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace tarnwick::basic {
@@ -21,6 +22,13 @@ void Messages::Note(SourcePlace at, std::string text, std::string remedy) {
   if (notes_ >= kMaxNotes) return;
   all_.push_back({Severity::Note, at, std::move(text), std::move(remedy)});
   ++notes_;
+}
+
+void Messages::SortByPlace() {
+  std::stable_sort(all_.begin(), all_.end(), [](const Message& a, const Message& b) {
+    return std::tie(a.At.File, a.At.Line, a.At.Column) <
+           std::tie(b.At.File, b.At.Line, b.At.Column);
+  });
 }
 
 }  // namespace tarnwick::basic

@@ -35,6 +35,9 @@ class Messages {
   /// Adds a note, unless `kMaxNotes` are kept already.
   void Note(SourcePlace at, std::string text, std::string remedy = {});
 
+  /// Puts all messages in the order of their places; those of one place keep their order.
+  void SortByPlace();
+
   [[nodiscard]] bool HasErrors() const noexcept { return errors_ > 0; }
   /// True when no further error is kept, so that a phase may stop.
   [[nodiscard]] bool Full() const noexcept { return errors_ >= kMaxErrors; }

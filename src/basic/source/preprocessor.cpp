@@ -57,7 +57,7 @@ class Preprocessor {
     LineReader lines(files_.File(file), file, out_.Memory, messages_);
     Tokens line;
     while (lines.HasNext() && !messages_.Full()) {
-      lines.Next(escapes_, line);
+      lines.Next(escapes_, Counts(), line);
       if (line.empty()) continue;
       if (line[0].Kind == SourceTokenKind::Directive) {
         TakeDirective(line, lines.RestOfDirective());
