@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "fakes/build_paths.h"
 #include "text/strings.h"
 
 namespace tarnwick::basic::test {
@@ -39,8 +40,7 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 24> kClasses
 }};
 
 std::string ReadFile(const std::string& name) {
-  std::ifstream file(std::string(TARNWICK_SOURCE_DIR) + "/support/objects/" + name,
-                     std::ios::binary);
+  std::ifstream file(tarnwick::test::SourceFolder() + "/support/objects/" + name, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }
 

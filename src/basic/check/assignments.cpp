@@ -114,7 +114,7 @@ void Checker::CheckAssignment(const tree::Assignment& line, SourcePlace at, Stat
 void Checker::Store(Expr target, Expr value, SourcePlace at, Statements& out) {
   if (!target->IsLocation()) {
     // What stands for a faulty target has been reported.
-    if (!std::holds_alternative<WholeConstant>(target->Node)) {
+    if (!IsFaulty(target)) {
       Error(at, "Nothing can be assigned to this");
     }
     return;
@@ -297,7 +297,7 @@ void Checker::CheckCall(const tree::CallLine& line, SourcePlace at, Statements& 
     }
   }
   if (call != nullptr && IsCall(*call)) return Add(out, at, Evaluate{call});
-  if (call != nullptr && std::holds_alternative<WholeConstant>(call->Node)) return;
+  if (call != nullptr && IsFaulty(call)) return;
   Error(target->At, "This is no statement: a call or an assignment is expected");
 }
 

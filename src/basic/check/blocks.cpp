@@ -43,7 +43,7 @@ void Checker::CheckSelect(const tree::SelectBlock& block, SourcePlace at, Statem
   for (std::size_t i = 0; i < block.Cases.size(); ++i) {
     for (CaseTest& test : tests[i]) {
       if ((test.Value->Gives() == ValueKind::Text) != (kind == ValueKind::Text) &&
-          kind != ValueKind::Variant) {
+          kind != ValueKind::Variant && kind != ValueKind::None && !IsFaulty(test.Value)) {
         Error(test.Value->At, "A text is compared with a number",
               "Use STR$ for the number or VAL for the text");
       }

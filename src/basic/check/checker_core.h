@@ -88,8 +88,11 @@ class Checker {
   Expr Text(std::string_view value, SourcePlace at) {
     return Make(kTextType, at, TextConstant{value});
   }
-  /// What stands for an expression that is faulty.
-  Expr Faulty(SourcePlace at) { return Whole(0, at); }
+  /// What stands for an expression that is faulty: of no type, so that nothing more is said of it.
+  Expr Faulty(SourcePlace at) { return Make(kNoType, at, NothingConstant{}); }
+  [[nodiscard]] static bool IsFaulty(Expr value) {
+    return value->Kind == kNoType && std::holds_alternative<NothingConstant>(value->Node);
+  }
   Procedure& Current() { return program_.Procedures[static_cast<std::size_t>(frame_->Id)]; }
 
   // --- Faults (names.cpp) ------------------------------------------------------------------------

@@ -25,7 +25,7 @@ const Expression* Checker::Value(const tree::Node* node) {
     Expr operator()(const tree::Binary& n) const { return C.BinaryValue(n, At); }
   };
   const Expr value = std::visit(Visitor{*this, at}, node->Value);
-  if (value->Gives() == ValueKind::None && !std::holds_alternative<NothingConstant>(value->Node)) {
+  if (value->Kind == kNoType && !IsFaulty(value)) {
     return Fail(at, "This gives no value");
   }
   return value;
@@ -89,6 +89,7 @@ const Expression* Checker::ApplyValue(const tree::Apply& apply, SourcePlace at) 
 }
 
 const Expression* Checker::Element(Expr array, tree::NodeList indexes, SourcePlace at) {
+  if (IsFaulty(array)) return array;
   if (!array->Kind.IsArray()) return Fail(array->At, "This is not an array");
   // The number of dimensions of an array parameter is known by its use alone.
   const bool parameter = std::holds_alternative<LocalSlot>(array->Node) &&
@@ -113,6 +114,7 @@ const Expression* Checker::Location(const tree::Node* node) {
   }
   const Expr value = Value(node);
   if (value->IsLocation()) return value;
+  if (IsFaulty(value)) return nullptr;
   Error(node->At, "A variable is expected here");
   return nullptr;
 }
@@ -168,6 +170,7 @@ const Expression* Checker::Condition(const tree::Node* node) {
 
 const Expression* Checker::Fit(Expr value, Type type, bool quiet) {
   const ValueKind to = KindOf(type);
+  if (IsFaulty(value)) return value;
   if (type.IsArray() || value->Kind.IsArray()) {
     if (type == value->Kind) return value;
     return Fail(value->At, "An array cannot be stored here");

@@ -50,6 +50,7 @@ const Expression* Checker::ChoiceOf(tree::NodeList arguments, SourcePlace at) {
   const Expr condition = Condition(arguments[0]);
   Expr yes = Value(arguments[1]);
   Expr no = Value(arguments[2]);
+  if (IsFaulty(yes) || IsFaulty(no)) return Faulty(at);
   if (yes->Gives() != no->Gives()) {
     const bool text = yes->Gives() == ValueKind::Text || no->Gives() == ValueKind::Text;
     if (text) return Fail(at, "Both values of IIF must be texts, or both numbers");

@@ -87,6 +87,7 @@ Checker::MemberUse Checker::MemberOfValue(Expr owner, std::string_view name, Sou
   }
   MemberUse use;
   use.Failed = true;
+  if (IsFaulty(owner)) return use;
   Error(owner->At, owner->Kind.IsArray() ? "An element of the array must be named in brackets"
                                          : "This is not an object");
   return use;

@@ -70,6 +70,7 @@ const Expression* Checker::BinaryValue(const tree::Binary& binary, SourcePlace a
 }
 
 const Expression* Checker::Combine(Operator op, Expr left, Expr right, SourcePlace at) {
+  if (IsFaulty(left) || IsFaulty(right)) return Faulty(at);
   const BinaryOperator checked = CheckedOf(op);
   if (IsComparison(op)) return Compare(checked, left, right, at);
   const ValueKind a = left->Gives();
@@ -225,6 +226,7 @@ const Expression* Checker::FoldReal(BinaryOperator op, double a, double b, Sourc
 
 const Expression* Checker::UnaryValue(const tree::Unary& unary, SourcePlace at) {
   const Expr operand = Value(unary.Operand);
+  if (IsFaulty(operand)) return operand;
   if (operand->Gives() == ValueKind::Text) {
     return Fail(at, "A number is expected here, not a text", "Use VAL for the text");
   }

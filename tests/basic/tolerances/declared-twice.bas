@@ -1,0 +1,3 @@
+Dim Font As QFont
+Dim MenuBar As QMainMenu
+Dim MenuBar As QMainMenu

@@ -1,0 +1,4 @@
+Dim Font As QFont
+Dim Sock As QSocket
+Sock.Family = 
+Sock.Type = 1

@@ -1,0 +1,3 @@
+Dim Font As QFont
+Dim P As QPopupMenu
+.PopUpMenu = P
