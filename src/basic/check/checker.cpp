@@ -144,11 +144,11 @@ void Checker::CheckRoutine(const tree::Routine& routine, SourcePlace /*at*/) {
 
 void Checker::CheckBody(const tree::Routine& routine, ProcedureId id,
                         std::optional<RecordId> owner) {
-  Frame frame;
+  RoutineScope frame;
   frame.Id = id;
   frame.This = owner;
   frame.InConstructor = routine.Kind == tree::RoutineKind::Constructor;
-  Frame* const outer = std::exchange(frame_, &frame);
+  RoutineScope* const outer = std::exchange(frame_, &frame);
   std::vector<Surrounding> around = std::exchange(around_, {});
   const Procedure& head = program_.At(id);
   for (std::uint32_t i = owner ? 1 : 0; i < head.ParameterCount; ++i) {

@@ -40,7 +40,7 @@ struct TypeFacts {
 };
 
 /// The procedure being checked.
-struct Frame {
+struct RoutineScope {
   ProcedureId Id = kMainProcedure;
   FoldedMap<Symbol> Names;
   FoldedMap<LabelId> Labels;
@@ -270,8 +270,8 @@ class Checker {
   std::unordered_map<const tree::Routine*, ProcedureId> routines_;
   std::unordered_map<const tree::ConstDeclaration*, Expr> late_constants_;
   std::vector<bool> declared_only_;  ///< by procedure: a DECLARE without its SUB
-  Frame main_;
-  Frame* frame_ = &main_;
+  RoutineScope main_;
+  RoutineScope* frame_ = &main_;
   std::vector<Surrounding> around_;
 };
 
