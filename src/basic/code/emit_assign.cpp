@@ -45,6 +45,8 @@ bool FitsAlready(Storage storage, const Expression& value) {
   return operation != nullptr && operation->Operator >= BinaryOperator::Equal && range.Low < 0;
 }
 
+}  // namespace
+
 bool NeedsFit(const Type& type, const Expression& value) {
   switch (type.Kind) {
     case Storage::Byte:
@@ -61,6 +63,8 @@ bool NeedsFit(const Type& type, const Expression& value) {
       return false;
   }
 }
+
+namespace {
 
 /// The instruction that also keeps the result to 32 bits.
 Op IntegerOp(const Expression& value) {

@@ -43,20 +43,22 @@ Operand ProcedureEmitter::ReadArgument(const Argument& argument, Until until, Ca
     case PassBy::Value:
       break;
   }
-  Operand operand = Read(value, until);
   call.Shape.Arguments.push_back({SlotKindOf(value.Kind), value.Kind.Kind, false});
-  if (parameter != nullptr && value.Kind.Kind != parameter->Kind.Kind && !value.Kind.IsArray()) {
-    const Storage storage = parameter->Kind.Kind;
-    const bool fits = storage == Storage::Whole || storage == Storage::Double ||
-                      KindOf(storage) != KindOf(value.Kind);
-    if (!fits && !IsCounted(value.Kind) && storage != Storage::Object) {
-      const Operand fitted = Temporary(false);
-      Fit(storage, parameter->Kind.Detail, fitted.Register, operand.Register);
-      Free(operand);
-      operand = fitted;
-    }
+  const bool same_kind = parameter != nullptr && !parameter->Kind.IsArray() &&
+                         KindOf(parameter->Kind) == KindOf(value.Kind);
+  if (!same_kind || (!parameter->ByReference && !NeedsFit(parameter->Kind, value))) {
+    return Read(value, until);
   }
-  return operand;
+  Operand own = Temporary(IsCounted(value.Kind));
+  StoreInto(own.Register, parameter->Kind, value);
+  if (!parameter->ByReference) return own;
+  // A value for a reference: the procedure gets a variable of its own.
+  const Operand address = Temporary(false);
+  code_.Add(Op::REF_LOCAL, address.Register, own.Register);
+  if (own.Hold == Operand::Kind::Counted) own.Hold = Operand::Kind::Shared;
+  call.Held.push_back(own);
+  call.Shape.Arguments.back().Reference = true;
+  return address;
 }
 
 ProcedureEmitter::CallArguments ProcedureEmitter::ReadArguments(ArgumentList arguments,

@@ -181,6 +181,8 @@ class ProcedureEmitter {
 /// True when evaluating it may run code of the program or change variables, so that a value read
 /// before may be another one after it.
 [[nodiscard]] bool RunsCode(const Expression& expression);
+/// False when the value is sure to be one that a variable of the type can hold.
+[[nodiscard]] bool NeedsFit(const Type& type, const Expression& value);
 /// True when a counted register holds values of that type.
 [[nodiscard]] inline bool IsCounted(const Type& type) {
   return IsCounted(SlotKindOf(type));
