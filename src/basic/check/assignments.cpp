@@ -103,9 +103,11 @@ void Checker::CheckAssignment(const tree::Assignment& line, SourcePlace at, Stat
     Error(base->At, '"' + std::string(name->Text) + "\" is not declared", SimilarTo(name->Text));
     return;
   } else {
-    // The value first: its names are looked up before this one exists.
+    // The value first: its names are looked up before this one exists. `n = n + 1` makes it.
     const Expr checked = Value(value);
-    return Store(Undeclared(name->Text, base->At), checked, at, out);
+    const Symbol* const made = Find(name->Text);
+    return Store(made != nullptr ? SlotOf(*made, base->At) : Undeclared(name->Text, base->At),
+                 checked, at, out);
   }
   if (apply != nullptr) variable = Element(variable, indexes, target->At);
   Store(variable, Value(value), at, out);

@@ -74,7 +74,10 @@ Argument Checker::ArgumentFor(const Variable& parameter, const tree::Node* node,
     }
     return {value, PassBy::Array};
   }
-  if (parameter.ByReference && value->IsLocation() && value->Kind == parameter.Kind) {
+  const bool reference = parameter.OnlyWithAt
+                             ? std::holds_alternative<tree::ByReference>(node->Value)
+                             : parameter.ByReference;
+  if (reference && value->IsLocation() && value->Kind == parameter.Kind) {
     return {value, PassBy::Reference};
   }
   return {Fit(value, parameter.Kind, false), PassBy::Value};

@@ -230,8 +230,10 @@ void Checker::MarkReferences() {
     Procedure& procedure = program_.Procedures[static_cast<std::size_t>(*id)];
     if (use.Argument >= procedure.ParameterCount) continue;
     Variable& parameter = procedure.Locals[use.Argument];
+    if (parameter.ByReference) continue;
     parameter.ByReference = !parameter.Kind.IsArray() && parameter.Kind.Kind != Storage::Object &&
                             parameter.Kind.Kind != Storage::Record;
+    parameter.OnlyWithAt = parameter.ByReference;
   }
 }
 

@@ -25,6 +25,9 @@ struct Variable {
   SourcePlace At;
   /// A parameter that holds a reference to a location of the caller, of exactly this type.
   bool ByReference = false;
+  /// Such a parameter of a head without BYREF: only an argument with "@" is handed over by
+  /// reference, any other as a copy.
+  bool OnlyWithAt = false;
 };
 
 enum class ProcedureKind : std::uint8_t { Main, Sub, Function, Constructor, Event, PropertySet };

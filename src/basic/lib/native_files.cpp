@@ -109,11 +109,13 @@ bool CopyAll(FileStream& from, FileStream& to) {
 void ExtractResource(LibraryCall& call) {
   FileHost* files = NeedFiles(call);
   if (files == nullptr) return;
-  const std::int64_t index = WholeOr(call, 0, 0) - kFirstResource;
-  if (index < 0 || index >= static_cast<std::int64_t>(call.State.Resources.size())) {
+  const std::int64_t handle = WholeOr(call, 0, 0);
+  const auto count = static_cast<std::int64_t>(call.State.Resources.size());
+  if (handle < kFirstResource || handle - kFirstResource >= count) {
     return call.Fail("EXTRACTRESOURCE: this number is no resource of the program");
   }
-  const std::string& source = call.State.Resources[static_cast<std::size_t>(index)];
+  const auto index = static_cast<std::size_t>(handle - kFirstResource);
+  const std::string& source = call.State.Resources[index];
   const std::string target(TextAt(call, 1));
   const auto from = files->Open(source, FileMode::Read);
   const auto to = from ? files->Open(target, FileMode::Create) : nullptr;

@@ -1,0 +1,4 @@
+$TYPECHECK ON
+DIM Label1 AS INTEGER
+PRINT "never"
+Lable1 = 3
