@@ -1,6 +1,8 @@
 #include "codegen/declarations.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <string_view>
 
 #include "codegen/resources.h"
@@ -9,26 +11,30 @@ namespace tarnwick {
 
 namespace {
 
+constexpr bool IsDeclared(const KindInfo& kind) noexcept {
+  return kind.Program.Dim.Rule != DimRule::None;
+}
+constexpr auto kDeclaredCount =
+    static_cast<std::size_t>(std::count_if(kKinds.begin(), kKinds.end(), IsDeclared));
+
 /// The kinds in the order of their lines.
-constexpr auto kDimKinds = [] {
-  constexpr std::size_t count = [] {
-    std::size_t declared = 0;
-    for (const KindInfo& kind : kKinds) declared += kind.Program.Dim.Rule != DimRule::None ? 1 : 0;
-    return declared;
-  }();
-  std::array<Kind, count> kinds{};
-  std::size_t met = 0;
+constexpr std::array<Kind, kDeclaredCount> kDimKinds = [] {
+  std::array<Kind, kDeclaredCount> kinds{};
   for (const KindInfo& kind : kKinds) {
-    if (kind.Program.Dim.Rule == DimRule::None) continue;
-    kinds.at(static_cast<std::size_t>(kind.Program.Dim.Order) - 1) = kind.Id;
-    ++met;
-  }
-  for (std::size_t i = 0; i < count; ++i) {
-    const bool own = InfoOf(kinds[i]).Program.Dim.Order == static_cast<int>(i) + 1;
-    if (!own || met != count) throw "two kinds are declared at one place";
+    const auto line = static_cast<std::size_t>(kind.Program.Dim.Order) - 1;
+    if (IsDeclared(kind) && line < kinds.size()) kinds[line] = kind.Id;
   }
   return kinds;
 }();
+static_assert(
+    [] {
+      for (std::size_t line = 0; line < kDimKinds.size(); ++line) {
+        const int order = InfoOf(kDimKinds[line]).Program.Dim.Order;
+        if (order != static_cast<int>(line) + 1) return false;
+      }
+      return true;
+    }(),
+    "the declarations of the kinds are not numbered from 1, each once");
 
 /// Declares names of one kind: plain ones each, those in array form with one line for the first.
 class NameDeclarer {

@@ -15,7 +15,7 @@ struct LayoutText {
   std::string_view Text;
 };
 
-inline constexpr std::array<LayoutText, 18> kLayoutTexts{{
+inline constexpr std::array<LayoutText, kObjectKindCount + 1> kLayoutTexts{{
     {Kind::Form,
      "[Form](@number@) {@name@}  Left<@form.Left@>Left   Top<@form.Top@>Top   "
      "Width<@form.Width@>Width   Height<@form.Height@>Height   Image<@form.ImageFile@>Image  "

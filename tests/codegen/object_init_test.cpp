@@ -267,6 +267,18 @@ TEST(ObjectInit, HtmlViewerWithAPage) {
                                          ""}));
 }
 
+TEST(ObjectInit, APageOnTheProgramsDriveStandsAsItIsOnlyInTheSameLetters) {
+  ProjectBuilder project;
+  const BuiltForm form = project.AddForm();
+  form.Add(Kind::HtmlViewer, "Html1");
+  form.Record().HtmlViewers.At(1)->Navigate = "C:\\page.htm";
+  EXPECT_EQ(Starting(Generate(project), "xpFl.Open"), (Lines{"xpFl.Open (\"C:\\page.htm\",2)"}));
+  // The drive in the other case counts as relative to the project.
+  form.Record().HtmlViewers.At(1)->Navigate = "c:\\page.htm";
+  EXPECT_EQ(Starting(Generate(project), "xpFl.Open"),
+            (Lines{"xpFl.Open (\"C:\\Work\\c:\\page.htm\",2)"}));
+}
+
 TEST(ObjectInit, HtmlViewerWithoutAPageOpensNone) {
   ProjectBuilder project;
   const BuiltForm form = project.AddForm();

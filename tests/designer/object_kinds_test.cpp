@@ -91,6 +91,8 @@ TEST_F(ObjectKinds, RecordDefaultsPerKind) {
   EXPECT_EQ(image.ImageFile, "(None)");
   EXPECT_EQ(image.PictureName, "(None)");
   EXPECT_EQ(image.Title, "");
+  EXPECT_EQ(image.Enabled, 1);
+  EXPECT_EQ(image.Visible, 1);
   for (const Kind kind : {Kind::OpenDialog, Kind::SaveDialog}) {
     Create(kind);
     EXPECT_EQ(record.Objects(kind)->At(1)->Filter, "All Files|*.*");
@@ -157,7 +159,13 @@ TEST_F(ObjectKinds, APopUpInTheSlotOfADeletedOneBeginsWithoutRows) {
 }
 
 TEST_F(ObjectKinds, TheTransparentFramesValuesLieInTheFormsRecord) {
-  record.TfTransparency = 5;
+  // What a frame that was deleted left behind.
+  for (std::int16_t FormRec::*field :
+       {&FormRec::TfTop, &FormRec::TfLeft, &FormRec::TfWidth, &FormRec::TfHeight,
+        &FormRec::TfTransparency, &FormRec::TfAlign, &FormRec::TfCursor}) {
+    record.*field = 7;
+  }
+  record.TfTranspColor = 7;
   record.TfString = "x";
   const ControlRef frame = Create(Kind::TransparentFrame);
   EXPECT_EQ(frame->Tag, "Form1TrnspFrm");

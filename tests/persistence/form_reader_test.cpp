@@ -461,6 +461,45 @@ TEST(FormReader, WithoutAFormRecordObjectsGoToTheFormBefore) {
   EXPECT_EQ(project.Control(Kind::Button).Tag, "B");
 }
 
+TEST(FormReader, CodeInAFileWithoutAFormRecordHasTheKeyOfTheFormBefore) {
+  FakeProject project;
+  project.Load(WithForm(""));
+  project.Ports.Files.Put("C:\\Work\\b.ftn",
+                          "[Button](1) {B} Click<Beep>Click\r\n[Sub]{mnuX} Click<Halt>Click\r\n");
+  project::ReadFormFile(project.Context, "C:\\Work\\b.ftn");
+  EXPECT_EQ(project.Code("Form1.Button1.OnClick"), "Beep");
+  EXPECT_EQ(project.Code("Form1.mnuX.OnClick"), "Halt");
+}
+
+TEST(FormReader, AFileWithoutAFormRecordMakesNoObjectWhileThereIsNoForm) {
+  FakeProject project;
+  project.Load("[Button](1) {B} Click<Beep>Click\r\n");
+  ASSERT_EQ(project.Tables.FormsCount, 1) << "the empty form that every project has";
+  EXPECT_EQ(project.User().UBound(Kind::Button), 0);
+  EXPECT_EQ(project.Code("Form1.Button1.OnClick"), "(none)");
+}
+
+TEST(FormReader, AWholeRecordWithEmptyBracketsKeepsItsNameAndValues) {
+  FakeProject written;
+  written.Load(
+      WithForm("[Button](1) {Ok} String<Go>String Cursor<4>Cursor Image<(None)>Image "
+               "Tip<Press>Tip Click<Beep>Click\r\n"));
+  std::string text = written.Saved();
+  const std::string head = "[Button]   (1) {Ok}";
+  const std::size_t at = text.find(head);
+  ASSERT_NE(at, std::string::npos);
+  text.replace(at, head.size(), "[Button]   () {Ok}");
+  FakeProject project;
+  project.Load(text);
+  const DesignControl& button = project.Control(Kind::Button);
+  EXPECT_EQ(button.Tag, "Ok");
+  EXPECT_EQ(button.Caption, "Go");
+  EXPECT_EQ(button.ToolTipText, "Press");
+  // No digits are the number 0.
+  EXPECT_EQ(project.Record(Kind::Button, 0).Cursor, 4);
+  EXPECT_EQ(project.Code("Form1.Button0.OnClick"), "Beep");
+}
+
 TEST(FormReader, AFileThatCannotBeReadChangesNothing) {
   FakeProject project;
   project.Load(WithForm(""));
@@ -482,6 +521,7 @@ TEST(FormReader, ReadingBackIntoANumberKeepsListFileAndCount) {
   FakeProject project;
   project.Load(WithForm("[Button](1) {A}\r\n"));
   project.Tables.CurrentForm = &project.User();
+  project.Ports.Log.Clear();
   EXPECT_EQ(project::ReadFormTextInto(project.Context,
                                       "[Form](1) {New} Width<50>Width\r\n[Label](1) {L}\r\n", 1),
             FormReadResult::Read);
@@ -492,6 +532,8 @@ TEST(FormReader, ReadingBackIntoANumberKeepsListFileAndCount) {
   EXPECT_EQ(project.User().UBound(Kind::Button), 0);
   EXPECT_EQ(project.User().UBound(Kind::Label), 1);
   EXPECT_EQ(project.Tables.CurrentForm, &project.User());
+  EXPECT_EQ(project.Ports.Log.Entries(), (std::vector<std::string>{"opened 1", "bar 1"}))
+      << "the views hear of the new window";
 }
 
 TEST(FormReader, ATextWithoutAFormLeavesTheLiveFormAsItWas) {

@@ -46,8 +46,15 @@ TEST(OldProject, MenuItemsLoseTheirPrefix) {
   EXPECT_EQ(Converted("[MenuItem](Item(mnuNew) Click<a>Click"),
             "[MenuItem] {mnuNew}  Click<a>Click");
   EXPECT_EQ(Converted("[itemmenu](mnuNew) Click<a>Click"), "[itemmenu] {mnuNew}  Click<a>Click");
+  EXPECT_EQ(Converted("[ItemMenu](Item(mnuSub) Click<a>Click"),
+            "[ItemMenu] {mnuSub}  Click<a>Click");
   // Only these two kinds have the prefix.
   EXPECT_EQ(Converted("[Menu](Item(x) String<a>String"), "[Menu](1) {Item(x}  String<a>String");
+  EXPECT_EQ(Converted("[Form](Item(x) a"), "[Form] {Item(x}  a");
+  EXPECT_EQ(Converted("[Image](Item(1) a"), "[Image](1) {Item(1}  a");
+  EXPECT_EQ(Converted("[Images](Item(2) a"), "[Image](2) {Item(2}  a");
+  EXPECT_EQ(Converted("[FileStream](Item(2) a"), "[FileStream] {Item(2}  a");
+  EXPECT_EQ(Converted("[TransparentFrame](Item(3) a"), "[TransparentFrame] {Item(3}  a");
 }
 
 TEST(OldProject, DeclarationsAndLinesWithoutAHeadAreCarriedOver) {
