@@ -18,7 +18,7 @@ struct CommandInfo {
   std::string_view Purpose;
 };
 
-constexpr std::array<CommandInfo, 4> kCommands{{
+constexpr std::array<CommandInfo, 5> kCommands{{
     {Command::Generate, "generate", 1, "generate PROJECT.tnp [-o FILE]",
      "write the RapidQ source of a project to FILE or to standard output"},
     {Command::Resave, "resave", 2, "resave PROJECT.tnp OUTDIR",
@@ -27,6 +27,8 @@ constexpr std::array<CommandInfo, 4> kCommands{{
      "turn a project of the former version into a .tnp and a .ftn beside it"},
     {Command::Check, "check", 1, "check PROJECT.tnp",
      "name what is wrong in a project and what to do, a line each; 1 when there is anything"},
+    {Command::Run, "run", 0, "run [OPTIONS] PROGRAM [ARGUMENTS]",
+     "run a RapidQ program that has no windows"},
 }};
 
 constexpr std::string_view kProgram = "tarnwick-cli";
@@ -44,13 +46,14 @@ std::string Help() {
       "it\n"
       "  --help                  this text\n"
       "  --version               the version\n";
+  text += RunOptionsHelp();
   return text;
 }
 
 WrongUsage Wrong(std::string_view what, const CommandInfo* command) {
   std::string text(kProgram);
   text.append(": ").append(what).append("; usage: ").append(kProgram).append(" ");
-  text += command == nullptr ? std::string_view("generate|resave|convert|check PROJECT (--help)")
+  text += command == nullptr ? std::string_view("generate|resave|convert|check|run FILE (--help)")
                              : command->Usage;
   return {text + "\n"};
 }
@@ -94,6 +97,17 @@ ParsedArguments ParseArguments(const std::vector<std::string>& words) {
 
   Arguments arguments;
   arguments.What = command->What;
+  if (command->What == Command::Run) {
+    // What stands behind the program is the program's own, whatever it looks like.
+    std::string wrong;
+    auto run = ParseRunArguments({words.begin() + 1, words.end()}, wrong);
+    if (!run && words.size() > 1 && (words[1] == "--help" || words[1] == "-h")) {
+      return PrintAndLeave{Help()};
+    }
+    if (!run) return Wrong(wrong, command);
+    arguments.Run = *std::move(run);
+    return arguments;
+  }
   std::vector<std::string> operands;
   bool options_end = false;
   for (std::size_t at = 1; at < words.size(); ++at) {

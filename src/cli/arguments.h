@@ -6,9 +6,11 @@
 #include <variant>
 #include <vector>
 
+#include "cli/run_program.h"
+
 namespace tarnwick {
 
-enum class Command { Generate, Resave, Convert, Check };
+enum class Command { Generate, Resave, Convert, Check, Run };
 
 struct Arguments {
   Command What = Command::Check;
@@ -16,6 +18,7 @@ struct Arguments {
   std::string OutputFolder;                  ///< of resave
   std::optional<std::string> OutputFile;     ///< of generate; standard output without it
   std::optional<std::string> ProgramFolder;  ///< Windows-style text, Windows-1252
+  RunArguments Run;                          ///< of run
 };
 
 /// Text to print on standard output before leaving with success: --help and --version.

@@ -93,6 +93,9 @@ int Check(LoadedProject& loaded, std::FILE* out) {
 
 int RunCommand(const Arguments& arguments, std::FILE* out, std::FILE* err) {
   if (arguments.What == Command::Convert) return Convert(arguments, err);
+  if (arguments.What == Command::Run) {
+    return static_cast<int>(RunProgram(arguments.Run, stdin, out, err));
+  }
   // What `check` has to say of missing files stands among its findings.
   const bool quiet = arguments.What == Command::Check;
   LoadedProject project(arguments.ProgramFolder, err, quiet);
