@@ -12,7 +12,7 @@ bool MachineState::Push(const ProcedureCode& procedure, std::uint16_t result, bo
   if (!Frames.empty()) base = Frames.back().Base + Frames.back().Procedure->Start.size();
   const std::size_t size = procedure.Start.size();
   const auto used = static_cast<std::size_t>(base - Stack.get());
-  if (Frames.size() >= kMostCalls || size > kMostStackSlots - used) {
+  if (Frames.size() >= kMostCalls || size > Options.StackSlots - used) {
     return Fail("More than " + std::to_string(std::min(Frames.size(), kMostCalls)) +
                 " calls inside each other");
   }

@@ -34,6 +34,7 @@ struct RunOptions {
   Dispatch How = Dispatch::Threaded;
   std::size_t TextLimit = std::size_t{256} << 20U;
   std::size_t ArrayLimit = kMostArraySlots;
+  std::size_t StackSlots = kMostStackSlots;
 };
 
 enum class RunEnd : std::uint8_t { Ended, Error, StepLimit, TimeLimit, Stopped };
