@@ -16,7 +16,7 @@ struct Outcome {
   std::string Err;
 };
 
-Outcome Run(const std::string& source, RunArguments arguments = {}) {
+Outcome RunText(const std::string& source, RunArguments arguments = {}) {
   const TemporaryFolder folder;
   arguments.Program = folder.Native("program.bas");
   std::ofstream(arguments.Program, std::ios::binary) << source;
@@ -34,14 +34,14 @@ Outcome Run(const std::string& source, RunArguments arguments = {}) {
 }
 
 TEST(RunProgramTest, PrintsAsUtf8AndEnds) {
-  const Outcome outcome = Run("PRINT \"caf\xE9\"\n");
+  const Outcome outcome = RunText("PRINT \"caf\xE9\"\n");
   EXPECT_EQ(outcome.Exit, RunExit::Ended);
   EXPECT_EQ(outcome.Out, "caf\xC3\xA9\n");
   EXPECT_EQ(outcome.Err, "");
 }
 
 TEST(RunProgramTest, AFaultySourceIsNotRun) {
-  const Outcome outcome = Run("PRINT 1\nPRINT (\n");
+  const Outcome outcome = RunText("PRINT 1\nPRINT (\n");
   EXPECT_EQ(outcome.Exit, RunExit::Faulty);
   EXPECT_EQ(outcome.Out, "");
   EXPECT_EQ(outcome.Err.substr(0, 14), "program.bas:2:") << outcome.Err;
@@ -49,7 +49,7 @@ TEST(RunProgramTest, AFaultySourceIsNotRun) {
 }
 
 TEST(RunProgramTest, AnErrorNamesItsLineAndTheCalls) {
-  const Outcome outcome = Run("SUB Work\n  PRINT 1 \\ 0\nEND SUB\nPRINT \"a\"\nWork\n");
+  const Outcome outcome = RunText("SUB Work\n  PRINT 1 \\ 0\nEND SUB\nPRINT \"a\"\nWork\n");
   EXPECT_EQ(outcome.Exit, RunExit::Error);
   EXPECT_EQ(outcome.Out, "a\n");
   EXPECT_NE(outcome.Err.find("program.bas:2:"), std::string::npos);
@@ -60,10 +60,10 @@ TEST(RunProgramTest, AnErrorNamesItsLineAndTheCalls) {
 TEST(RunProgramTest, LimitsHaveAnExitCodeOfTheirOwn) {
   RunArguments arguments;
   arguments.MaxSteps = 1000;
-  EXPECT_EQ(Run("DO\nLOOP\n", arguments).Exit, RunExit::Limit);
+  EXPECT_EQ(RunText("DO\nLOOP\n", arguments).Exit, RunExit::Limit);
   arguments.MaxSteps = 0;
   arguments.MaxSeconds = 0.05;
-  EXPECT_EQ(Run("DO\nLOOP\n", arguments).Exit, RunExit::Limit);
+  EXPECT_EQ(RunText("DO\nLOOP\n", arguments).Exit, RunExit::Limit);
 }
 
 TEST(RunProgramTest, ClockAndArgumentsReachTheProgram) {
@@ -73,13 +73,13 @@ TEST(RunProgramTest, ClockAndArgumentsReachTheProgram) {
   ASSERT_TRUE(arguments.has_value()) << wrong;
   EXPECT_FALSE(arguments->Dump) << "what stands behind the program is the program's";
   EXPECT_EQ(arguments->Seed, 7U);
-  EXPECT_EQ(Run("PRINT TIME$; COMMAND$(2); COMMANDCOUNT\n", *arguments).Out, "13:05:09b2\n");
+  EXPECT_EQ(RunText("PRINT TIME$; COMMAND$(2); COMMANDCOUNT\n", *arguments).Out, "13:05:09b2\n");
 }
 
 TEST(RunProgramTest, ADumpShowsTheCodeAndRunsNothing) {
   RunArguments arguments;
   arguments.Dump = true;
-  const Outcome outcome = Run("PRINT \"hi\"\n", arguments);
+  const Outcome outcome = RunText("PRINT \"hi\"\n", arguments);
   EXPECT_EQ(outcome.Exit, RunExit::Ended);
   EXPECT_NE(outcome.Out.find("PRINT_TEXT"), std::string::npos);
 }

@@ -39,9 +39,10 @@ bool MachineState::Enter(const Instruction* call) {
   if (!Push(procedure, call->A, false)) return false;
   Slot* const base = Base();
   const std::size_t count = std::min<std::size_t>(call[1].B, procedure.ParameterCount);
+  const SlotKind* const kinds = procedure.Parameters.data();
   for (std::size_t i = 0; i < count; ++i) {
     base[i] = caller[ArgumentRegister(call + 2, i)];
-    if (IsCounted(procedure.Parameters[i])) Retain(base[i].B);
+    if (IsCounted(kinds[i])) Retain(base[i].B);
   }
   return true;
 }
@@ -108,7 +109,33 @@ bool MachineState::TooManyActivations() {
               " events or pointer calls inside each other");
 }
 
+bool MachineState::LeavePlain() {
+  const Frame& frame = Frames.back();
+  if (frame.Activation || frame.Variadic || Gosubs.size() != frame.Gosubs ||
+      LocalObjects.size() != frame.Objects || Addresses.DeepestCall() >= Frames.size()) {
+    return false;
+  }
+  const ProcedureCode& procedure = *frame.Procedure;
+  Slot* const base = frame.Base;
+  const std::uint16_t result = frame.Result;
+  const bool counted = IsCounted(procedure.Result);
+  if (counted && result == kNoRegister) return false;
+  Slot value{0};
+  if (procedure.Result != SlotKind::Empty) {
+    value = base[procedure.ResultRegister];
+    if (counted) base[procedure.ResultRegister].B = nullptr;
+  }
+  for (const std::uint16_t number : procedure.Counted) Release(base[number].B);
+  Frames.pop_back();
+  if (procedure.Result == SlotKind::Empty || result == kNoRegister) return true;
+  Slot& target = Frames.back().Base[result];
+  if (counted) Release(target.B);
+  target = value;
+  return true;
+}
+
 bool MachineState::Leave() {
+  if (LeavePlain()) return false;
   const Frame frame = Frames.back();
   const ProcedureCode& procedure = *frame.Procedure;
   Slot result{0};

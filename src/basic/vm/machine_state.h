@@ -87,6 +87,8 @@ struct MachineState {
   bool EnterPointer(const Instruction* call);
   /// Closes the running frame and hands its result over. True when it was an activation.
   bool Leave();
+  /// The same for a call that left nothing behind but its result. False: nothing was done.
+  bool LeavePlain();
   /// Frees all frames from the last one on, down to `count` of them.
   void Unwind(std::size_t count);
   bool PushVariadic(const ProcedureCode& procedure, std::vector<Value> values, std::uint16_t result,
