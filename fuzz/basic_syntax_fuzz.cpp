@@ -1,0 +1,45 @@
+// Any bytes as the text of a program that may include itself: lexer, preprocessor and parser.
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "basic/source/preprocessor.h"
+#include "basic/syntax/parser.h"
+
+namespace {
+
+class OneFile : public tarnwick::basic::SourceReader {
+ public:
+  explicit OneFile(std::string bytes) : bytes_(std::move(bytes)) {}
+  std::optional<std::string> ReadSource(const std::string& path) override {
+    if (path != "m" || reads_++ > 100) return std::nullopt;
+    return bytes_;
+  }
+
+ private:
+  std::string bytes_;
+  int reads_ = 0;
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace tarnwick::basic;
+  const std::string bytes(reinterpret_cast<const char*>(data), size);
+  for (const bool strict : {false, true}) {
+    OneFile reader(bytes);
+    SourceSet files;
+    files.Add("m", bytes);
+    Messages messages;
+    const TokenStream stream = Preprocess(files, reader, {}, messages);
+    if (stream.Tokens.empty() || stream.Tokens.back().Kind != SourceTokenKind::End) std::abort();
+    const tree::SyntaxTree tree = Parse(stream, strict, messages);
+    // Every message has its place in a line that is there.
+    for (const Message& message : messages.All()) {
+      if (message.At.File >= files.Count()) std::abort();
+      if (message.At.Line > files.File(message.At.File).Lines.size()) std::abort();
+    }
+  }
+  return 0;
+}
