@@ -171,14 +171,14 @@ void ProcedureEmitter::Make(const Loop& node) {
   Make(node.Body);
   loop_ends_.pop_back();
   code_.At(place);
-  if (node.After != nullptr) {
-    code_.At(node.After->At);
-    Branch(*node.After, node.UntilAfter, end);
-  }
+  if (node.After != nullptr) code_.At(node.After->At);
   if (node.Before != nullptr) {
+    if (node.After != nullptr) Branch(*node.After, node.UntilAfter, end);
     code_.At(node.Before->At);
     code_.Place(test);
     Branch(*node.Before, !node.UntilBefore, top);
+  } else if (node.After != nullptr) {
+    Branch(*node.After, !node.UntilAfter, top);
   } else {
     code_.Jump(Op::JUMP, top);
   }
