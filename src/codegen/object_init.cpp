@@ -119,12 +119,9 @@ void WriteImagePicture(Generation& gen, std::string_view name, std::string_view 
                gen.PictureImages());
 }
 
-/// The rows of a list. A list of one row is never written, and neither is one whose first row is
-/// the object's name, which is how a list fresh from the tool box looks.
 void WriteListRows(Generation& gen, const DesignControl& control) {
-  const auto& rows = control.Items;
-  if (rows.size() < 2 || rows.front() == control.Tag) return;
-  for (const std::string& row : rows) gen.Out.Line(control.Tag, ".AddItems ", Quoted{row});
+  if (!HasListLines(control)) return;
+  for (const std::string& row : control.Items) gen.Out.Line(control.Tag, ".AddItems ", Quoted{row});
 }
 
 /// The items of a combo box: pieces between double quotes or item ends; a last empty one is none.
@@ -245,6 +242,10 @@ void WriteKindRest(Generation& gen, const DesignControl& control, const ObjectRe
 }
 
 }  // namespace
+
+bool HasListLines(const DesignControl& control) noexcept {
+  return control.Items.size() >= 2 && control.Items.front() != control.Tag;
+}
 
 void WriteObjectInit(Generation& gen, const DesignControl& control) {
   const Kind kind = control.Id;

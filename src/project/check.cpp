@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "codegen/emitted_code.h"
+#include "codegen/object_init.h"
 #include "model/form_list.h"
 #include "text/code_page.h"
 #include "text/numbers.h"
@@ -276,7 +277,7 @@ class Checker {
         CheckText(row.Row, control.*std::get<std::string DesignControl::*>(FieldOf(row.Of)));
       }
     }
-    if (control.Id == Kind::ListBox) {
+    if (control.Id == Kind::ListBox && HasListLines(control)) {
       for (const std::string& item : control.Items) CheckText("AddItems", item);
     } else if (control.Id == Kind::ComboBox) {
       CheckText("AddItems", RecordOrEmpty(*records, control.Index).Items);

@@ -249,10 +249,12 @@ TEST_F(CheckTest, EveryTextThatStandsBetweenQuotesIsLookedAt) {
 }
 
 TEST_F(CheckTest, TextsThatTheProgramLeavesOutAreNotLookedAt) {
-  // A timer writes no hint, a frame no caption; a list of one row is not written.
+  // A timer writes no hint.
   Load("[Time] (1) {T} Enabled<1>Enabled Tip<70>Tip\r\n");
   project_.Control(Kind::Time).ToolTipText = "a\"b";
   EXPECT_EQ(Found(), Ids{});
+  // A list of one row has no lines at all.
+  EXPECT_EQ(Found("[ListBox] (1) {L} Items<a\"b\x95>Items\r\n"), Ids{});
 }
 
 TEST_F(CheckTest, ALineBreakInATextIsFound) {

@@ -189,6 +189,7 @@ TEST(CompileNewProject, ACancelledSaveWritesTheDefaultProjectsSource) {
   program.Key(Qt::Key_F5);
   EXPECT_EQ(program.Log.Count("dialog save"), 1U);
   EXPECT_TRUE(program.Projects.Names().empty());
+  EXPECT_NE(program.Home.Read("UnTitle.com").find("Dim Form1 As QForm"), std::string::npos);
   EXPECT_TRUE(program.Surface().isVisible());
 }
 

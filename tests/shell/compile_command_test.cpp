@@ -28,6 +28,15 @@ TEST_F(CompileCommandTest, TheDefaultProjectShowsTheSaveDialogAndTakesItsNewName
   EXPECT_EQ(view.Status, "Source text: Z:\\p\\b.com");
 }
 
+TEST_F(CompileCommandTest, ACancelledSaveGoesOnUnderTheDefaultNames) {
+  ports.Dialogs.SaveAnswers = {std::nullopt};
+  main.Commands().Run(Command::Compile);
+  ASSERT_TRUE(ports.Files.Exists("Z:\\opt\\tarnwick\\UnTitle.com"));
+  EXPECT_NE(ports.Files.Bytes("Z:\\opt\\tarnwick\\UnTitle.com")->find("Dim Form1 As QForm"),
+            std::string::npos);
+  EXPECT_EQ(log().Count("start"), 1U);
+}
+
 TEST_F(CompileCommandTest, AQuietTextTellsWhereTheSourceLies) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
   main.Commands().Run(Command::Compile);
