@@ -99,7 +99,9 @@ void CodeBuilder::Arguments(const CallShape& shape, const std::vector<std::uint1
   if (fresh) code_.Shapes.push_back(shape);
   Add(Op::WORD, row->second, registers.size());
   for (std::size_t i = 0; i < registers.size(); i += 3) {
-    const auto at = [&](std::size_t n) { return n < registers.size() ? registers[n] : 0; };
+    const auto at = [&](std::size_t n) -> std::size_t {
+      return n < registers.size() ? registers[n] : 0;
+    };
     Add(Op::WORD, registers[i], at(i + 1), at(i + 2));
   }
 }

@@ -143,6 +143,9 @@ struct MachineState {
   bool MakeStart(Slot& variable, const FieldLayout& layout, SlotKind kind, int index, bool local,
                  int depth);
 
+  /// BINARY_BOX: a new variant with the result of an operator on two.
+  bool OperateVariants(const Instruction* operation);
+
   // --- Console and data (console_steps.cpp)
   bool PrintText(std::string_view text, std::int64_t page);
   bool PrintZone(std::int64_t page);

@@ -89,6 +89,20 @@ bool MachineState::MakeRecordAt(Slot& variable, const FieldLayout& layout, bool 
   return true;
 }
 
+bool MachineState::OperateVariants(const Instruction* operation) {
+  std::string error;
+  const Value value =
+      VariantOperation(static_cast<BinaryOperator>(operation[1].A), Content(Base()[operation->B].B),
+                       Content(Base()[operation->C].B), error);
+  if (!error.empty()) return Fail(std::move(error));
+  if (value.View().size() > Options.TextLimit) return Fail("The text is longer than the limit");
+  const Slot box = Boxed(value).Give();
+  Slot& target = Base()[operation->A];
+  Release(target.B);
+  target = box;
+  return true;
+}
+
 bool MachineState::CopyRecord(Body* to, Body* from) {
   if (to == nullptr || from == nullptr) return Fail("A record is used before its DIM");
   if (to == from) return true;

@@ -100,6 +100,17 @@ Value VariantOperation(BinaryOperator op, const Value& left, const Value& right,
   }
 }
 
+void NegateVariant(Slot& target, Slot operand) {
+  const Value content = Content(operand.B);
+  const auto whole = static_cast<std::uint64_t>(content.AsInteger());
+  const Value negative = content.Kind() == SlotKind::Integer
+                             ? Value::Integer(static_cast<std::int64_t>(0 - whole))
+                             : Value::Number(-content.AsNumber());
+  const Slot box = Boxed(negative).Give();
+  Release(target.B);
+  target = box;
+}
+
 bool VariantComparison(BinaryOperator op, const Value& left, const Value& right) {
   int order = 0;
   if (left.Kind() == SlotKind::Text && right.Kind() == SlotKind::Text) {

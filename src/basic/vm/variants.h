@@ -25,6 +25,8 @@ void SetVariant(Slot& variable, Value value);
 /// is one, all else is done with numbers. `error` is set when it has no result.
 [[nodiscard]] Value VariantOperation(BinaryOperator op, const Value& left, const Value& right,
                                      std::string& error);
+/// target = a new variant with -operand.
+void NegateVariant(Slot& target, Slot operand);
 [[nodiscard]] bool VariantComparison(BinaryOperator op, const Value& left, const Value& right);
 
 }  // namespace tarnwick::basic
