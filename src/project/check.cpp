@@ -69,18 +69,6 @@ bool IsStrict(std::string_view code) {
   return false;
 }
 
-/// Objects of these kinds can share an array: the generator declares it by its stem.
-bool FormsArrays(Kind kind) noexcept {
-  switch (InfoOf(kind).Program.Dim.Rule) {
-    case DimRule::Stem:
-    case DimRule::Plain:
-    case DimRule::MenuBar:
-      return true;
-    default:
-      return kind == Kind::MenuItem;  // declared along with its menu bar
-  }
-}
-
 class Checker {
  public:
   Checker(ProjectTables& tables, FilePort& files) : tables_(tables), files_(files) {}
@@ -199,13 +187,12 @@ class Checker {
 
   void CheckName(const std::string& name, std::string_view row) {
     const Kind kind = subject_.Of;
-    const bool in_array = FormsArrays(kind);
-    if (const auto fault = FaultOfName(name, in_array)) {
+    if (const auto fault = FaultOfName(name, kind)) {
       Tell(*fault, row, TextOfNameFault(*fault, name));
       if (*fault == FindingId::NameEmpty) return;
     }
     TakeName(name, {subject_.Place, subject_.Form, kind, false}, row);
-    if (in_array && IsArrayForm(name)) TakeFamily(std::string(ArrayStem(name)), kind, row);
+    if (FormsArrays(kind) && IsArrayForm(name)) TakeFamily(std::string(ArrayStem(name)), kind, row);
   }
 
   void TakeName(const std::string& name, NameUse use, std::string_view row) {

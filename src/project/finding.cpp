@@ -41,10 +41,21 @@ std::string Finding::Line() const {
   return line;
 }
 
-std::optional<FindingId> FaultOfName(std::string_view name, bool in_array) {
+bool FormsArrays(Kind kind) noexcept {
+  switch (InfoOf(kind).Program.Dim.Rule) {
+    case DimRule::Stem:
+    case DimRule::Plain:
+    case DimRule::MenuBar:
+      return true;
+    default:
+      return kind == Kind::MenuItem;  // declared along with its menu bar
+  }
+}
+
+std::optional<FindingId> FaultOfName(std::string_view name, Kind kind) {
   if (Trim(name).empty()) return FindingId::NameEmpty;
   if (IsArrayForm(name)) {
-    if (!in_array) return FindingId::NameInBrackets;
+    if (!FormsArrays(kind)) return FindingId::NameInBrackets;
     const std::optional<std::string_view> stem = StemOf(name);
     if (!stem) return FindingId::NameMalformed;
     name = *stem;

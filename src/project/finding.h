@@ -106,9 +106,12 @@ struct Finding {
   [[nodiscard]] std::string Line() const;
 };
 
+/// True for kinds whose objects can share an array: the generator declares it by its stem.
+[[nodiscard]] bool FormsArrays(Kind kind) noexcept;
 /// What is wrong with a name on its own, for a field in which it is typed; nothing for a good one.
-/// An array's name, such as "Cmd(1)", is good where `in_array` says that the kind can form arrays.
-[[nodiscard]] std::optional<FindingId> FaultOfName(std::string_view name, bool in_array);
+/// An array's name, such as "Cmd(1)", is good for the kinds that form arrays. The items of popup
+/// menus count as PopUpMenu. Whether another thing has the name, CheckProject tells.
+[[nodiscard]] std::optional<FindingId> FaultOfName(std::string_view name, Kind kind);
 /// The sentence that goes with a fault of a name: "the name End is a word of the language".
 [[nodiscard]] std::string TextOfNameFault(FindingId fault, std::string_view name);
 

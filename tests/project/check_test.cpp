@@ -142,6 +142,16 @@ TEST_F(CheckTest, NamesThatAreNoIdentifiersAreFound) {
   }
 }
 
+TEST_F(CheckTest, ANameCanBeLookedAtOnItsOwn) {
+  EXPECT_EQ(FaultOfName("Ok", Kind::Button), std::nullopt);
+  EXPECT_EQ(FaultOfName("Ok(1)", Kind::Button), std::nullopt);
+  EXPECT_EQ(FaultOfName("Ok(1)", Kind::MenuItem), std::nullopt);
+  EXPECT_EQ(FaultOfName("Ok(1)", Kind::PopUpMenu), FindingId::NameInBrackets);
+  EXPECT_EQ(FaultOfName("Ok(1)", Kind::Form), FindingId::NameInBrackets);
+  EXPECT_EQ(FaultOfName("End(1)", Kind::Label), FindingId::NameReserved);
+  EXPECT_EQ(FaultOfName("  ", Kind::Label), FindingId::NameEmpty);
+}
+
 TEST_F(CheckTest, AFormsNameIsLookedAtLikeAnObjects) {
   Load("", "[Form](1) {1st form}  Image<(Default)>Image Icon<(Default)>Icon\r\n");
   project_.Tables.MainFormName = "1st form (a.ftn)";
