@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "model/menu_row.h"
 #include "text/strings.h"
 
 namespace tarnwick {
@@ -33,15 +34,10 @@ std::vector<std::vector<std::size_t>> ItemsByTitle(const std::vector<MenuItemRec
 
 /// The menu has two levels whatever the designer showed: one depth prefix is taken off and the
 /// item hangs under its title.
-std::string_view WithoutDepth(std::string_view caption) noexcept {
-  constexpr std::string_view kDepth = "...";
-  return caption.substr(0, kDepth.size()) == kDepth ? caption.substr(kDepth.size()) : caption;
-}
-
 void WriteMenuItem(Generation& gen, std::string_view title, const MenuItemRec& item,
                    std::size_t place) {
   gen.Out.Line(title, ".AddItems ", item.Name);
-  gen.Out.Line(item.Name, ".Caption = ", Quoted{WithoutDepth(item.Caption)});
+  gen.Out.Line(item.Name, ".Caption = ", Quoted{WithoutMenuDepth(item.Caption)});
   if (gen.Code.OnClickOf(item.Name).empty()) return;
   gen.Out.Line(item.Name, ".OnClick = ", SubNameOf(item.Name, static_cast<int>(place)), "_OnClick");
 }

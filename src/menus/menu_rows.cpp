@@ -3,66 +3,15 @@
 #include <cstdint>
 
 #include "model/menu_bar.h"
-#include "text/strings.h"
 
-namespace tarnwick {
+namespace tarnwick::menus {
 
-namespace {
-
-constexpr std::string_view kGap = "    (";
-
-std::string_view NameOf(std::string_view row) {
-  const std::size_t open = row.find('(');
-  const std::size_t close = row.find(')');
-  if (open == std::string_view::npos || close == std::string_view::npos || close < open) return {};
-  return row.substr(open + 1, close - open - 1);
-}
-
-/// The pieces as the parse at confirmation takes them: the gap of four blanks ends the caption,
-/// and blanks at its start stay.
-struct ParsedRow {
-  bool Nested;
-  std::string_view WithPrefix;
-  std::string_view Caption;
-  std::string_view Name;
-};
-
-ParsedRow ParseRow(std::string_view row) {
-  ParsedRow parsed{row.starts_with(kMenuDepth), row.substr(0, row.find(kGap)), {}, NameOf(row)};
-  parsed.Caption = parsed.WithPrefix;
-  if (parsed.Nested) parsed.Caption.remove_prefix(kMenuDepth.size());
-  parsed.Caption = TrimRight(parsed.Caption);
-  return parsed;
-}
-
-}  // namespace
-
-std::string MenuRowText(bool nested, std::string_view caption, std::string_view name) {
-  std::string row(nested ? kMenuDepth : std::string_view());
-  return row.append(caption).append(kGap).append(name).append(")");
-}
-
-MenuRowParts SplitMenuRow(std::string_view row) {
-  MenuRowParts parts;
-  parts.Nested = row.starts_with(kMenuDepth);
-  std::string_view caption = Trim(row.substr(0, row.find('(')));
-  if (caption.starts_with(kMenuDepth)) caption.remove_prefix(kMenuDepth.size());
-  parts.Caption = caption;
-  parts.Name = NameOf(row);
-  return parts;
-}
-
-bool IsEmptyMenuRow(std::string_view row) noexcept {
-  while (row.starts_with(kMenuDepth)) row.remove_prefix(kMenuDepth.size());
-  return row.empty();
-}
-
-void ParseMenuRows(ProjectTables& tables, const std::vector<std::string>& rows) {
+void ParseMenuRows(ProjectTables& tables, const Rows& rows) {
   tables.ClearMenuArrays();
   for (const std::string& row : rows) {
     if (IsEmptyMenuRow(row)) continue;
-    const ParsedRow parsed = ParseRow(row);
-    tables.MenuRows.emplace_back(parsed.WithPrefix);
+    const ParsedMenuRow parsed = ParseMenuRow(row);
+    tables.MenuRows.emplace_back(parsed.Text);
     if (parsed.Nested) {
       AddMenuItem(tables, parsed.Caption, parsed.Name);
     } else {
@@ -81,19 +30,18 @@ void ClearFormMenu(ProjectTables& tables, DesignForm& window) {
   tables.ClearMenuArrays();
 }
 
-std::vector<std::string> RowsOfFormMenu(const DesignForm& window) {
-  std::vector<std::vector<std::string>> items(static_cast<std::size_t>(window.UBound(Kind::Menu)) +
-                                              1);
+Rows RowsOfFormMenu(const DesignForm& window) {
+  std::vector<Rows> items(static_cast<std::size_t>(window.UBound(Kind::Menu)) + 1);
   for (const ControlRef& control : window.Controls()) {
     const auto title = static_cast<std::size_t>(control->MenuParent);
     if (control->Id != Kind::MenuItem || control->Index == 0 || title >= items.size()) continue;
-    items[title].push_back(MenuRowText(true, control->Caption, control->Tag));
+    items[title].push_back(MenuRowText(1, control->Caption, control->Tag));
   }
-  std::vector<std::string> rows;
+  Rows rows;
   for (int index = 1; index <= window.UBound(Kind::Menu); ++index) {
     const ControlRef title = window.Element(Kind::Menu, index);
     if (!title) continue;
-    rows.push_back(MenuRowText(false, title->Caption, title->Tag));
+    rows.push_back(MenuRowText(0, title->Caption, title->Tag));
     for (std::string& item : items[static_cast<std::size_t>(index)]) {
       rows.push_back(std::move(item));
     }
@@ -101,11 +49,12 @@ std::vector<std::string> RowsOfFormMenu(const DesignForm& window) {
   return rows;
 }
 
-void ParsePopUpRows(PopUpFormRec& popup, const std::vector<std::string>& rows) {
+void ParsePopUpRows(PopUpFormRec& popup, const Rows& rows) {
   popup.Items.assign(1, {});
+  popup.Items.front().Entries.resize(1);
   for (const std::string& row : rows) {
     if (IsEmptyMenuRow(row)) continue;
-    const ParsedRow parsed = ParseRow(row);
+    const ParsedMenuRow parsed = ParseMenuRow(row);
     if (!parsed.Nested) {
       PopUpMenuRec& top = popup.Items.emplace_back();
       top.Caption = parsed.Caption;
@@ -119,16 +68,16 @@ void ParsePopUpRows(PopUpFormRec& popup, const std::vector<std::string>& rows) {
   }
 }
 
-std::vector<std::string> RowsOfPopUp(const PopUpFormRec& popup) {
-  std::vector<std::string> rows;
+Rows RowsOfPopUp(const PopUpFormRec& popup) {
+  Rows rows;
   for (std::size_t row = 1; row < popup.Items.size(); ++row) {
     const PopUpMenuRec& top = popup.Items[row];
-    rows.push_back(MenuRowText(false, top.Caption, top.Name));
+    rows.push_back(MenuRowText(0, top.Caption, top.Name));
     for (std::size_t entry = 1; entry < top.Entries.size(); ++entry) {
-      rows.push_back(MenuRowText(true, top.Entries[entry].Text, top.Entries[entry].Name));
+      rows.push_back(MenuRowText(1, top.Entries[entry].Text, top.Entries[entry].Name));
     }
   }
   return rows;
 }
 
-}  // namespace tarnwick
+}  // namespace tarnwick::menus

@@ -3,12 +3,10 @@
 
 #include <string_view>
 
+#include "model/menu_row.h"
 #include "model/project_records.h"
 
 namespace tarnwick {
-
-/// The depth prefix of a menu row, once for each level below the titles.
-inline constexpr std::string_view kMenuDepth = "...";
 
 /// Adds a title to the menu arrays.
 void AddMenuTitle(ProjectTables& tables, std::string_view caption, std::string_view name);

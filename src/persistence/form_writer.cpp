@@ -30,11 +30,13 @@ const ObjectRec kNoRecord;
 /// Appends the records of one form.
 class FormWriter {
  public:
+  /// `menu` is the window that has the menu bar: the form's own, or one that stands in for it.
   FormWriter(std::string& out, const ProjectTables& tables, const DesignForm& window,
-             const FormRec& record)
+             const FormRec& record, const DesignForm& menu)
       : out_(out),
         tables_(tables),
         window_(window),
+        menu_(menu),
         record_(record),
         form_key_(window.KeyPrefix()),
         window_number_(window.Number()) {}
@@ -42,9 +44,11 @@ class FormWriter {
   void Write() {
     WriteFormRecord();
     for (const ControlRef& control : window_.Controls()) {
-      if (control->Visible && control->Id != Kind::Handle) WriteControl(*control);
+      const bool replaced = &menu_ != &window_ && control->Class() == ControlClass::Menu;
+      if (control->Visible && control->Id != Kind::Handle && !replaced) WriteControl(*control);
     }
-    AppendMenuRecords(out_, tables_, window_);
+    if (&menu_ != &window_) WriteMenuControls();
+    AppendMenuRecords(out_, tables_, menu_);
     out_ += "[DeclarePbl] String<";
     AppendStoredLines(out_, record_.DeclarePbl);
     out_.append(">String").append(kLineEnd);
@@ -57,6 +61,12 @@ class FormWriter {
     int Number;
     const ObjectRec& Record;
   };
+
+  void WriteMenuControls() {
+    for (const ControlRef& control : menu_.Controls()) {
+      if (control->Visible && control->Class() == ControlClass::Menu) WriteControl(*control);
+    }
+  }
 
   void WriteFormRecord() {
     if (const auto* owner = tables_.EventTable.OwnerOf(form_key_)) {
@@ -197,6 +207,7 @@ class FormWriter {
   std::string& out_;
   const ProjectTables& tables_;
   const DesignForm& window_;
+  const DesignForm& menu_;
   const FormRec& record_;
   const std::string form_key_;
   const int window_number_;
@@ -207,11 +218,16 @@ class FormWriter {
 }  // namespace
 
 std::string FormFileText(const ProjectTables& tables, int form) {
+  const DesignForm* window = tables.UserIfAny(form);
+  return window == nullptr ? std::string() : FormFileTextWithMenu(tables, form, *window);
+}
+
+std::string FormFileTextWithMenu(const ProjectTables& tables, int form, const DesignForm& menu) {
   std::string text;
   const DesignForm* window = tables.UserIfAny(form);
   const FormRec* record = tables.Form(form);
   if (window == nullptr || record == nullptr) return text;
-  FormWriter(text, tables, *window, *record).Write();
+  FormWriter(text, tables, *window, *record, menu).Write();
   return text;
 }
 

@@ -18,10 +18,6 @@ constexpr std::string_view kItemEnd = "\x8D*\x8D";
 constexpr std::string_view kDirectMark = "\x8D#\x8D";
 constexpr std::string_view kNestedMark = "\x8E#\x8D";
 
-bool IsNested(const DesignControl& item) {
-  return item.Caption.starts_with(kMenuDepth);
-}
-
 /// Writes the titles of one form with their items.
 class MenuWriter {
  public:
@@ -41,10 +37,10 @@ class MenuWriter {
     bool nested = false;
     for (const DesignControl* item : items_[static_cast<std::size_t>(title.Index)]) {
       WriteItemCode(*item);
-      nested = nested || IsNested(*item);
-      const std::string_view caption = item->Caption;
-      list += IsNested(*item) ? caption.substr(kMenuDepth.size()) : caption;
-      list += IsNested(*item) ? kNestedMark : kDirectMark;
+      const bool deeper = IsDeeperItem(item->Caption);
+      nested = nested || deeper;
+      list += WithoutMenuDepth(item->Caption);
+      list += deeper ? kNestedMark : kDirectMark;
       list.append(item->Tag).append(kItemEnd);
     }
     // A title with nested items has its own blanks in the head.
@@ -64,7 +60,7 @@ class MenuWriter {
     std::string code;
     AppendItemCode(code, tables_, form_key_, item.Tag);
     if (code.empty()) return;
-    out_ += IsNested(item) ? "[ItemMenu]   (" : "[MenuItem]   (";
+    out_ += IsDeeperItem(item.Caption) ? "[ItemMenu]   (" : "[MenuItem]   (";
     AppendNumber(out_, std::int64_t{items_done_});
     out_.append(")  {").append(item.Tag).append("}  Click<").append(code).append(">Click\r\n");
   }

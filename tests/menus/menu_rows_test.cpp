@@ -7,24 +7,22 @@
 
 #include "model/menu_bar.h"
 
-namespace tarnwick {
+namespace tarnwick::menus {
 namespace {
 
-using Rows = std::vector<std::string>;
-
 TEST(MenuRow, IsPrefixCaptionGapAndName) {
-  EXPECT_EQ(MenuRowText(false, "&File", "mnuFile"), "&File    (mnuFile)");
-  EXPECT_EQ(MenuRowText(true, "&New", "mnuNew"), "...&New    (mnuNew)");
-  EXPECT_EQ(MenuRowText(true, "-", "sep1"), "...-    (sep1)");
+  EXPECT_EQ(MenuRowText(0, "&File", "mnuFile"), "&File    (mnuFile)");
+  EXPECT_EQ(MenuRowText(1, "&New", "mnuNew"), "...&New    (mnuNew)");
+  EXPECT_EQ(MenuRowText(1, "-", "sep1"), "...-    (sep1)");
 }
 
 TEST(MenuRow, SplitsIntoItsParts) {
   const MenuRowParts top = SplitMenuRow("&File    (mnuFile)");
-  EXPECT_FALSE(top.Nested);
+  EXPECT_EQ(top.Depth, 0);
   EXPECT_EQ(top.Caption, "&File");
   EXPECT_EQ(top.Name, "mnuFile");
   const MenuRowParts item = SplitMenuRow("...-    (sep1)");
-  EXPECT_TRUE(item.Nested);
+  EXPECT_EQ(item.Depth, 1);
   EXPECT_EQ(item.Caption, "-");
   EXPECT_EQ(item.Name, "sep1");
 }
@@ -43,7 +41,7 @@ TEST(MenuRow, AnEmptyRowIsAnEntryNotYetFilled) {
   EXPECT_FALSE(IsEmptyMenuRow("....    (x)"));
   EXPECT_FALSE(IsEmptyMenuRow(" "));
   const MenuRowParts row = SplitMenuRow("");
-  EXPECT_FALSE(row.Nested);
+  EXPECT_EQ(row.Depth, 0);
   EXPECT_EQ(row.Caption + row.Name, "");
 }
 
@@ -181,4 +179,4 @@ TEST(PopUpRows, ComeBackInTheirOrder) {
 }
 
 }  // namespace
-}  // namespace tarnwick
+}  // namespace tarnwick::menus
