@@ -13,7 +13,7 @@ constexpr std::uint8_t Index(char c) noexcept {
 }
 
 /// Bytes 0x80 to 0x9F of the page; all others are the code point of their number. The unassigned
-/// five (81, 8D, 8F, 90, 9D) stand for the control characters of their number.
+/// five (81, 8D, 8F, 90, 9D) are the control characters of their number.
 constexpr std::array<char16_t, 32> kHighControls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,  // 80
     0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,  // 88
@@ -29,7 +29,7 @@ struct CaseRun {
 };
 
 /// Every letter of the page that has both forms in it. The sharp s, the micro sign and the florin
-/// sign have a capital outside the page or none, and stand.
+/// sign have a capital outside the page or none, and are unchanged.
 constexpr CaseRun kCaseRuns[] = {
     {0x41, 0x5A, 0x20},  // A to Z
     {0xC0, 0xD6, 0x20},  // A grave to O diaeresis

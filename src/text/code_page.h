@@ -9,7 +9,7 @@
 
 namespace tarnwick {
 
-// The separators of stored text. They are bytes of the code page that no user types.
+// The separators of stored text: bytes of the code page that users hardly ever type.
 inline constexpr char kStoredComma =
     '\x8D';  ///< a comma in captions, tips, hints and code; starts a value
 inline constexpr char kStoredLineBreak = '\x95';  ///< a line break in code; ends an item of a list
@@ -21,11 +21,12 @@ inline constexpr char kPopUpEntry = '\x8F';  ///< starts a sub-item of a popup; 
 extern const std::array<char, 256> kLowerBytes;
 extern const std::array<char, 256> kUpperBytes;
 
-/// The byte's lower-case form in the code page (letters with accents included); other bytes stand.
+/// The byte's lower-case form in the code page (letters with accents included); other bytes are
+/// unchanged.
 [[nodiscard]] inline char LowerByte(char c) noexcept {
   return kLowerBytes[static_cast<unsigned char>(c)];
 }
-/// The byte's upper-case form in the code page; a letter without one in the page stands.
+/// The byte's upper-case form in the code page; a letter without one in the page is unchanged.
 [[nodiscard]] inline char UpperByte(char c) noexcept {
   return kUpperBytes[static_cast<unsigned char>(c)];
 }
@@ -57,7 +58,7 @@ struct FoldedEqual {
 [[nodiscard]] std::string CodePageToUtf8(std::string_view text);
 /// UTF-8 to Windows-1252. What the page lacks, and each byte that is no UTF-8, becomes "?".
 [[nodiscard]] std::string Utf8ToCodePage(std::string_view utf8);
-/// One Unicode code point as its byte; nothing when the page lacks it.
+/// The byte of one Unicode code point; null when the page lacks it.
 [[nodiscard]] std::optional<char> CodePointToByte(char32_t code_point) noexcept;
 /// The Unicode code point of one byte.
 [[nodiscard]] char32_t ByteToCodePoint(char byte) noexcept;

@@ -39,13 +39,13 @@ std::string_view NumberHead(std::string_view text) noexcept {
 }
 
 /// What a number outside the range of a double is nearest to. Its size follows from the exponent
-/// and the place of its first digit that is not 0.
+/// and the position of its first digit that is not 0.
 double OutOfRange(std::string_view number) noexcept {
   const std::size_t e = number.find_first_of("eE");
   const std::string_view digits = number.substr(0, e);
   const std::size_t first = digits.find_first_of("123456789");
   const std::size_t point = std::min(digits.find('.'), digits.size());
-  const double place = static_cast<double>(point) - static_cast<double>(first);
+  const double magnitude = static_cast<double>(point) - static_cast<double>(first);
   double exponent = 0;
   if (e != std::string_view::npos) {
     std::string_view text = number.substr(e + 1);
@@ -57,7 +57,7 @@ double OutOfRange(std::string_view number) noexcept {
                                       : std::numeric_limits<double>::infinity();
     if (negative) exponent = -exponent;
   }
-  return place + exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+  return magnitude + exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ namespace tarnwick {
 [[nodiscard]] inline double RoundHalfEven(double value) noexcept {
   return std::nearbyint(value);
 }
-/// `value` rounded half to even, or nothing when it does not fit the width.
+/// `value` rounded half to even; null when it does not fit the width.
 template <class Whole>
 [[nodiscard]] std::optional<Whole> ToWhole(double value) noexcept {
   const double rounded = RoundHalfEven(value);
@@ -34,7 +34,7 @@ template <class Whole>
 [[nodiscard]] inline std::optional<std::int32_t> ToInt32(double value) noexcept {
   return ToWhole<std::int32_t>(value);
 }
-/// `value` as single precision, or nothing when it does not fit.
+/// `value` as single precision; null when it does not fit.
 [[nodiscard]] inline std::optional<float> ToSingle(double value) noexcept {
   const bool fits = std::abs(value) <= static_cast<double>(std::numeric_limits<float>::max());
   if (!fits) return std::nullopt;

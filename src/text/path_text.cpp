@@ -7,7 +7,7 @@
 namespace tarnwick {
 namespace {
 
-/// The drive that stands for the root of the machine's files.
+/// The drive whose root is the root of the machine's files.
 constexpr char kRootDrive = 'Z';
 
 bool HasDrive(std::string_view path) noexcept {

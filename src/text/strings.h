@@ -23,7 +23,7 @@ inline constexpr std::string_view kLineEnd = "\r\n";
 /// gives one empty piece. The views live as long as `text`.
 [[nodiscard]] std::vector<std::string_view> Split(std::string_view text,
                                                   std::string_view separator);
-/// Not of a string that is gone at the end of the statement: its pieces would be gone with it.
+/// Deleted for temporary strings: the pieces would outlive their text.
 template <std::same_as<std::string> Text>
 std::vector<std::string_view> Split(Text&& text, std::string_view separator) = delete;
 [[nodiscard]] std::string Join(const std::vector<std::string>& pieces, std::string_view separator);
@@ -35,7 +35,7 @@ void ReplaceByte(std::span<char> text, char from, char to) noexcept;
 [[nodiscard]] bool Contains(std::string_view text, std::string_view part) noexcept;
 /// True for a name in array form, such as "Cmd(3)": it holds a "(".
 [[nodiscard]] bool IsArrayForm(std::string_view name) noexcept;
-/// What stands before the first "("; the whole name when there is none.
+/// The text before the first "("; the whole name when there is none.
 [[nodiscard]] std::string_view ArrayStem(std::string_view name) noexcept;
 /// The text without the digits 0 to 9: "Button12" gives "Button".
 [[nodiscard]] std::string WithoutDigits(std::string_view text);
