@@ -23,7 +23,7 @@ std::vector<ProgramChoice> ProgramChoices(std::string_view command_line) {
   for (std::size_t end = text.find_first_of(kGap);; end = text.find_first_of(kGap, end + 1)) {
     const bool last = end == std::string_view::npos;
     const std::size_t size = last ? text.size() : end;
-    // Blanks in a row part nothing more than one does.
+    // Several blanks in a row separate as one does.
     if (kGap.find(text[size - 1]) == std::string_view::npos) {
       choices.push_back({std::string(text.substr(0, size)), text.substr(size)});
     }

@@ -8,8 +8,8 @@
 
 namespace tarnwick {
 
-/// Messages go out as lines of UTF-8, to standard error unless told otherwise. Nobody is there to
-/// ask, so every question is answered No.
+/// Writes messages as lines of UTF-8, by default to standard error. No user can reply, so every
+/// question returns No.
 class ConsoleMessages final : public MessagePort {
  public:
   /// `out` must stay open as long as this port lives.

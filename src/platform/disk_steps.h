@@ -6,11 +6,11 @@
 
 namespace tarnwick {
 
-/// Machine paths, UTF-8. Every step answers whether it succeeded.
+/// Machine paths, UTF-8. Every step returns whether it succeeded.
 class DiskSteps {
  public:
   virtual ~DiskSteps() = default;
-  /// Makes a new file that must not be there yet and answers its descriptor; -1 on failure.
+  /// Makes a new file, which must not exist yet, and returns its descriptor; -1 on failure.
   virtual int Create(const std::string& path, unsigned mode);
   /// Writes all bytes.
   virtual bool Write(int file, std::string_view bytes);

@@ -18,7 +18,7 @@ namespace {
 /// What the system's short-path buffer holds.
 constexpr std::size_t kShortPathSize = 165;
 constexpr off_t kLargestFile = off_t{512} << 20U;
-/// How many links may stand in a row before a file is given up as a circle.
+/// How many links may follow one another before they count as a cycle.
 constexpr int kMostLinks = 40;
 /// How many names are tried for a temporary file.
 constexpr int kMostNames = 100;
@@ -28,14 +28,14 @@ std::string NativeFolderOf(const std::string& native) {
   return slash == std::string::npos ? std::string() : native.substr(0, slash + 1);
 }
 
-/// The end of a row of links, which need not be there itself; nothing for a circle.
+/// The target at the end of a chain of links, which need not exist; null for a cycle.
 std::optional<std::string> LinkTarget(std::string native) {
   for (int i = 0; i < kMostLinks; ++i) {
     std::array<char, PATH_MAX> buffer{};
     const ssize_t size = ::readlink(native.c_str(), buffer.data(), buffer.size());
     if (size < 0) return native;
     const std::string_view target(buffer.data(), static_cast<std::size_t>(size));
-    // What does not begin at the root is told from the link's own folder.
+    // A relative target starts at the link's own folder.
     std::string next = target.substr(0, 1) == "/" ? std::string() : NativeFolderOf(native);
     next.append(target);
     native = std::move(next);
@@ -99,21 +99,21 @@ bool NativeFiles::Replace(const std::string& path, std::string_view bytes) {
   struct stat info {};
   const bool is_new = ::stat(target->c_str(), &info) != 0;
   if (is_new && errno != ENOENT) return false;
-  // The rename needs no right to the file itself, so a write-protected one is asked for here.
+  // The rename needs no right to the file itself, so write protection is checked here.
   const bool writable = is_new || (S_ISREG(info.st_mode) && ::access(target->c_str(), W_OK) == 0);
   return writable && ReplaceNative(*target, is_new, bytes);
 }
 
 bool NativeFiles::ReplaceNative(const std::string& target, bool is_new, std::string_view bytes) {
   const std::string folder = NativeFolderOf(target);
-  // Until it has the old file's permissions, the temporary is nobody else's to read.
+  // Until it has the old file's permissions, no other user may read the temporary file.
   const unsigned mode = is_new ? 0666U : 0600U;
   std::string temporary;
   int file = -1;
   for (int i = 0; i < kMostNames && file < 0; ++i) {
     temporary = folder + TemporaryName();
     file = steps_->Create(temporary, mode);
-    // Only a name that is taken is worth another try.
+    // Another try helps only when the name is taken.
     if (file < 0 && errno != EEXIST) return false;
   }
   if (file < 0) return false;
@@ -123,7 +123,7 @@ bool NativeFiles::ReplaceNative(const std::string& target, bool is_new, std::str
     steps_->Remove(temporary);
     return false;
   }
-  // The new bytes are in place whatever this answers; it only makes them outlast a power cut.
+  // The new bytes are in place even when this fails; it only makes them survive a power cut.
   steps_->FlushFolder(folder.empty() ? "." : folder);
   return true;
 }

@@ -11,17 +11,17 @@
 namespace tarnwick {
 
 /// The file port over the disk. Windows paths are mapped to machine paths, without regard to case
-/// where no exact match is there.
+/// where there is no exact match.
 class NativeFiles final : public FilePort {
  public:
   NativeFiles() : steps_(&own_steps_) {}
-  /// With steps of one's own; they must live as long as the port.
+  /// With other steps, which must outlive the port.
   explicit NativeFiles(DiskSteps& steps) : steps_(&steps) {}
   NativeFiles(const NativeFiles&) = delete;
   NativeFiles& operator=(const NativeFiles&) = delete;
 
   [[nodiscard]] bool Exists(const std::string& path) override;
-  /// Only plain files are read, and none above half a gigabyte: no file of ours comes near it.
+  /// Only plain files are read, and none above half a gigabyte, far more than any project file has.
   [[nodiscard]] std::optional<std::string> Read(const std::string& path) override;
   /// Temporary file in the same folder, write, flush, rename, flush the folder. A link stays a
   /// link: its target is replaced. A file without write permission is not replaced.

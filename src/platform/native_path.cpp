@@ -19,7 +19,7 @@ bool IsThere(const std::string& native) {
 }
 
 /// The entry of a folder whose name is `name` (Windows-1252) but for case; the first in byte order
-/// when there are several, so that the answer does not hang on the disk's order.
+/// when there are several, so that the result does not depend on the order of the disk.
 std::optional<std::string> EntryLike(const std::string& folder, std::string_view name) {
   const std::unique_ptr<DIR, int (*)(DIR*)> listing(::opendir(folder.c_str()), &::closedir);
   if (!listing) return std::nullopt;
@@ -33,7 +33,7 @@ std::optional<std::string> EntryLike(const std::string& folder, std::string_view
   return best;
 }
 
-/// A machine path without what cannot be in one; "" for a path that names nothing here.
+/// The machine path; "" for a path that can name no file here.
 std::string UsableNative(const std::string& path) {
   std::string native = PathToNative(path);
   if (native.find('\0') != std::string::npos) native.clear();
@@ -68,7 +68,7 @@ std::optional<std::string> Walk(const std::string& native, bool may_be_new) {
 std::optional<std::string> FindNative(const std::string& path) {
   const std::string native = UsableNative(path);
   if (native.empty()) return std::nullopt;
-  // The usual case costs one look.
+  // The usual case costs one look-up.
   if (IsThere(native)) return native;
   return Walk(native, false);
 }

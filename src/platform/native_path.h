@@ -6,12 +6,12 @@
 
 namespace tarnwick {
 
-/// The machine path (UTF-8) of what a Windows path names. Where no name on the disk is equal to a
-/// component, one that differs only in case is taken, and one whose characters the code page
-/// lacks is met by the "?" that stands for them. Nothing when no such file or folder is there.
+/// The machine path (UTF-8) of the file or folder that a Windows path names. Where no name on the
+/// disk equals a component, a name that differs only in case is taken; a "?" also matches a
+/// character that the code page lacks. Null when there is no such file or folder.
 [[nodiscard]] std::optional<std::string> FindNative(const std::string& path);
 
-/// The same for a file about to be made: its folder must be there, the file need not.
+/// The same for a file to be made: its folder must exist, the file need not.
 [[nodiscard]] std::optional<std::string> FindNativeForWriting(const std::string& path);
 
 }  // namespace tarnwick

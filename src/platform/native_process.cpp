@@ -70,8 +70,8 @@ void DropSurroundings(int null_file) {
   ::signal(SIGCHLD, SIG_DFL);
 }
 
-/// In the child: forks once more, so that the program is nobody's to wait for, and becomes it. A
-/// failure is told through the pipe, which closes by itself when the program is loaded.
+/// In the child: forks once more, so that no parent has to wait for the program, and loads it. A
+/// failure is reported through the pipe, which closes by itself when the program is loaded.
 [[noreturn]] void BecomeProgram(char* const* arguments, int null_file, int report) {
   ::setsid();
   const pid_t program = ::fork();
@@ -81,12 +81,12 @@ void DropSurroundings(int null_file) {
     ::execv(arguments[0], arguments);
   }
   const char failed = 1;
-  const ssize_t told = ::write(report, &failed, 1);
-  ::_exit(told == 1 ? 1 : 2);
+  const ssize_t written = ::write(report, &failed, 1);
+  ::_exit(written == 1 ? 1 : 2);
 }
 
-/// Reads from the pipe until it closes; true when nothing came.
-bool ClosedInSilence(int report) {
+/// Reads from the pipe until it closes; true when it carried no byte.
+bool ClosedWithoutBytes(int report) {
   char failed = 0;
   for (;;) {
     const ssize_t got = ::read(report, &failed, 1);
@@ -115,7 +115,7 @@ bool Start(std::vector<std::string> words) {
   ::close(report[1]);
   bool started = false;
   if (child > 0) {
-    started = ClosedInSilence(report[0]);
+    started = ClosedWithoutBytes(report[0]);
     // The child between ends at once.
     while (::waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
     }

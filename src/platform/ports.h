@@ -1,5 +1,5 @@
-// What the logic asks of the platform. Each port is a few methods; what a method answers when it
-// fails is part of its contract, and no method throws. Paths are Windows paths throughout.
+// What the logic needs from the platform. Each port is a few methods; what a method returns when it
+// fails is part of its contract, and no method throws. All paths are Windows paths.
 #pragma once
 
 #include <cstdint>
@@ -14,14 +14,14 @@ namespace tarnwick {
 class FilePort {
  public:
   virtual ~FilePort() = default;
-  /// True when a file (not a folder) of that path is there.
+  /// True when a file (not a folder) of that path exists.
   [[nodiscard]] virtual bool Exists(const std::string& path) = 0;
-  /// The file's bytes; nothing when it cannot be read.
+  /// The file's bytes; null when it cannot be read.
   [[nodiscard]] virtual std::optional<std::string> Read(const std::string& path) = 0;
-  /// Replaces the file in one step: afterwards it holds the old bytes (answer false) or the new
-  /// ones (answer true), whatever goes wrong in between.
+  /// Replaces the file in one step. Returns true when it holds the new bytes afterwards; on any
+  /// failure it holds the old ones, and the result is false.
   virtual bool Replace(const std::string& path, std::string_view bytes) = 0;
-  /// Deletes a file; false when there was none or it stays.
+  /// Deletes a file; false when there was none or it cannot be deleted.
   virtual bool Remove(const std::string& path) = 0;
   /// The short 8.3 form of a path, at most 165 characters; "" for a file that does not exist.
   [[nodiscard]] virtual std::string ShortPathOf(const std::string& path) = 0;
@@ -63,7 +63,7 @@ class MessagePort {
                                       MessageIcon icon) = 0;
 };
 
-/// A file dialog to come: `Filter` is caption and patterns in turn, joined by "|".
+/// What a file dialog shows: `Filter` is caption and patterns in turn, joined by "|".
 struct FileDialogRequest {
   std::string Title;
   std::string Filter;
@@ -71,7 +71,7 @@ struct FileDialogRequest {
   std::string StartName;
 };
 
-/// A font as the font dialog takes and gives it.
+/// A font as the font dialog takes and returns it.
 struct FontChoice {
   std::string Name;
   float Size = 8.0F;
@@ -82,7 +82,7 @@ struct FontChoice {
   std::int32_t Color = 0;
 };
 
-/// The common dialogs. Nothing comes back from a cancelled one.
+/// The common dialogs. A cancelled dialog returns null.
 class DialogPort {
  public:
   virtual ~DialogPort() = default;
@@ -132,7 +132,7 @@ class GesturePort {
   virtual void TakeFocus() = 0;
 };
 
-/// The ports the logic is given, by reference; all live as long as the program.
+/// The ports that the logic gets by reference; all live as long as the program.
 struct Ports {
   FilePort& Files;
   ProfilePort& Profiles;

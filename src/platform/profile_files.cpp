@@ -40,7 +40,7 @@ class LineWalk {
   }
   [[nodiscard]] std::size_t Start() const noexcept { return start_; }
   [[nodiscard]] std::size_t End() const noexcept { return end_; }
-  /// Where the line that follows begins.
+  /// Offset of the line that follows.
   [[nodiscard]] std::size_t Following() const noexcept { return next_; }
 
  private:
@@ -59,8 +59,8 @@ std::optional<std::string_view> SectionName(std::string_view line) noexcept {
   return TrimSpace(trimmed.substr(1, close - 1));
 }
 
-/// Where a key stands, or would stand, in a profile text.
-struct Place {
+/// The offsets of a key, or of where it is to be added, in a profile text.
+struct KeyLocation {
   bool SectionFound = false;
   bool KeyFound = false;
   std::size_t ValueStart = 0;  ///< behind the "="
@@ -68,30 +68,30 @@ struct Place {
   std::size_t InsertAt = 0;    ///< behind the section's last line that is not blank
 };
 
-Place Locate(std::string_view text, std::string_view section, std::string_view key) noexcept {
+KeyLocation Locate(std::string_view text, std::string_view section, std::string_view key) noexcept {
   const std::string_view wanted_section = TrimSpace(section);
   const std::string_view wanted_key = TrimSpace(key);
-  Place place;
+  KeyLocation found;
   for (LineWalk walk(text); walk.Next();) {
     const std::string_view line = TrimSpace(walk.Line());
     if (const auto name = SectionName(line)) {
       // Only the first section of a name counts, so the head that follows ends the search.
-      if (place.SectionFound) break;
-      place.SectionFound = EqualsFolded(*name, wanted_section);
-      place.InsertAt = walk.Following();
+      if (found.SectionFound) break;
+      found.SectionFound = EqualsFolded(*name, wanted_section);
+      found.InsertAt = walk.Following();
       continue;
     }
-    if (!place.SectionFound || line.empty()) continue;
-    place.InsertAt = walk.Following();
+    if (!found.SectionFound || line.empty()) continue;
+    found.InsertAt = walk.Following();
     const std::size_t equals = walk.Line().find('=');
     if (line.front() == ';' || equals == kNowhere) continue;
     if (!EqualsFolded(TrimSpace(walk.Line().substr(0, equals)), wanted_key)) continue;
-    place.KeyFound = true;
-    place.ValueStart = walk.Start() + equals + 1;
-    place.ValueEnd = walk.End();
+    found.KeyFound = true;
+    found.ValueStart = walk.Start() + equals + 1;
+    found.ValueEnd = walk.End();
     break;
   }
-  return place;
+  return found;
 }
 
 std::string_view Unquoted(std::string_view value) noexcept {
@@ -100,7 +100,7 @@ std::string_view Unquoted(std::string_view value) noexcept {
   return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
-/// Puts a line end where text is to follow a last line that has none.
+/// Ends the last line where it has no line end, so that text can follow.
 void CloseLastLine(std::string& text) {
   if (!text.empty() && text.back() != '\n' && text.back() != '\r') text += kLineEnd;
 }
@@ -112,10 +112,10 @@ std::string ProfileFiles::Read(const std::string& path, std::string_view section
   if (buffer_size == 0) return {};
   const std::optional<std::string> text = files_.Read(path);
   if (!text) return {};
-  const Place place = Locate(*text, section, key);
-  if (!place.KeyFound) return {};
+  const KeyLocation found = Locate(*text, section, key);
+  if (!found.KeyFound) return {};
   const std::string_view line(*text);
-  std::string_view value = line.substr(place.ValueStart, place.ValueEnd - place.ValueStart);
+  std::string_view value = line.substr(found.ValueStart, found.ValueEnd - found.ValueStart);
   value = value.substr(0, value.find('\0'));
   return std::string(Unquoted(TrimSpace(value)).substr(0, buffer_size - 1));
 }
@@ -126,18 +126,18 @@ bool ProfileFiles::Write(const std::string& path, std::string_view section, std:
   if (!old && files_.Exists(path)) return false;
   std::string text = old.value_or("");
   value = value.substr(0, value.find_first_of("\r\n\0"sv));
-  const Place place = Locate(text, section, key);
-  if (place.KeyFound) {
-    text.replace(place.ValueStart, place.ValueEnd - place.ValueStart, value);
+  const KeyLocation found = Locate(text, section, key);
+  if (found.KeyFound) {
+    text.replace(found.ValueStart, found.ValueEnd - found.ValueStart, value);
     return files_.Replace(path, text);
   }
   std::string added;
-  if (!place.SectionFound) added.append("[").append(section).append("]").append(kLineEnd);
+  if (!found.SectionFound) added.append("[").append(section).append("]").append(kLineEnd);
   added.append(key).append("=").append(value).append(kLineEnd);
   std::string tail;
-  if (place.SectionFound) {
-    tail = text.substr(place.InsertAt);
-    text.resize(place.InsertAt);
+  if (found.SectionFound) {
+    tail = text.substr(found.InsertAt);
+    text.resize(found.InsertAt);
   }
   CloseLastLine(text);
   text.append(added).append(tail);

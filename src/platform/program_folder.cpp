@@ -43,7 +43,7 @@ std::string ProgramFolder() {
 std::string ProgramFolderFor(const ProgramSurroundings& surroundings) {
   const fs::path beside = fs::path(surroundings.Executable).parent_path();
   if (!beside.empty() && ::access(beside.c_str(), W_OK) == 0) return AsFolder(beside);
-  // A data folder that is no whole path is to be passed over, says the desktop's convention.
+  // By the desktop's convention a data folder that is no absolute path is ignored.
   fs::path data = surroundings.DataHome;
   if (!data.is_absolute()) data = fs::path(surroundings.Home) / ".local" / "share";
   const fs::path folder = data / "tarnwick";

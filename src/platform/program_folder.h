@@ -5,7 +5,7 @@
 
 namespace tarnwick {
 
-/// Where a program could live, as machine paths (UTF-8); "" for what is not known.
+/// The folders that the program could use, as machine paths (UTF-8); "" for unknown ones.
 struct ProgramSurroundings {
   std::string Executable;
   std::string DataHome;  ///< the user's data folder, when the desktop names one
