@@ -63,7 +63,7 @@ struct DesignControl {
   /// The kind's word of the array and the element's index, "Images3".
   [[nodiscard]] std::string ArrayAndIndex() const;
 
-  /// The member's value; nothing when the class has no such member.
+  /// The member's value; null when the class has no such member.
   [[nodiscard]] std::optional<MemberValue> Get(Member member) const;
   [[nodiscard]] std::optional<MemberValue> Get(std::string_view name) const;
   /// Sets a member. False, and nothing changed, when the class has no such member or the value
@@ -79,12 +79,12 @@ struct DesignControl {
   bool AddItem(std::string_view row);
 };
 
-/// Where a member lives in a control; nothing for List, whose rows are no single value.
+/// The field of a member in a control; none for List, whose rows are no single value.
 using MemberField = std::variant<std::monostate, bool DesignControl::*,
                                  std::int16_t DesignControl::*, std::int32_t DesignControl::*,
                                  float DesignControl::*, std::string DesignControl::*>;
 
-/// The fields of the members, by enumerator: the one place that ties the two.
+/// The fields of the members, by enumerator. No other table maps members to fields.
 struct MemberFieldRow {
   Member Id;
   MemberField Field;

@@ -59,8 +59,8 @@ const ControlRef& DesignForm::Load(Kind kind) {
 
 void DesignForm::Unload(const ControlRef& control) {
   if (!control || control->Index == 0) return;
-  // The caller's reference may be one of those erased below, and the last: by then only the place
-  // of the control is asked for.
+  // The caller's reference may be one of those erased below, and the last: by then only the address
+  // of the control is used.
   const DesignControl* const gone = control.get();
   const auto index = static_cast<std::size_t>(control->Index);
   auto& elements = arrays_[static_cast<std::size_t>(control->Id)];

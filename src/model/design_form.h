@@ -17,7 +17,8 @@ using ControlRef = std::shared_ptr<DesignControl>;
 
 /// One design window. The collection holds, in order, the templates (element 0 of each control
 /// array, hidden), `Numero`, `Frame`, `picHandle` 0 to 7, and then objects in the order in which
-/// they came. A control that is unloaded leaves the collection; the order of the others stays.
+/// they were added. A control that is unloaded leaves the collection; the order of the others is
+/// kept.
 class DesignForm {
  public:
   DesignForm();

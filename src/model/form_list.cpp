@@ -38,9 +38,9 @@ void FormList::Forget(std::string_view text) {
 }
 
 bool FormList::SetText(int form_number, std::string text) {
-  const int place = PositionOf(form_number);
-  if (place < 0) return false;
-  Line& line = lines_[static_cast<std::size_t>(place)];
+  const int line_index = PositionOf(form_number);
+  if (line_index < 0) return false;
+  Line& line = lines_[static_cast<std::size_t>(line_index)];
   Forget(line.Text);
   texts_.insert(text);
   line.Text = std::move(text);
@@ -48,10 +48,10 @@ bool FormList::SetText(int form_number, std::string text) {
 }
 
 bool FormList::Remove(int form_number) {
-  const int place = PositionOf(form_number);
-  if (place < 0) return false;
-  Forget(lines_[static_cast<std::size_t>(place)].Text);
-  lines_.erase(lines_.begin() + place);
+  const int line_index = PositionOf(form_number);
+  if (line_index < 0) return false;
+  Forget(lines_[static_cast<std::size_t>(line_index)].Text);
+  lines_.erase(lines_.begin() + line_index);
   return true;
 }
 

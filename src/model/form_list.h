@@ -12,7 +12,7 @@ namespace tarnwick {
 
 /// "Form1 (file.ftn)": the text of a line, from a form's name and its file's path.
 [[nodiscard]] std::string FormListText(std::string_view name, std::string_view file_name);
-/// The name part of such a text: what stands before the first " (".
+/// The name part of such a text: the part before the first " (".
 [[nodiscard]] std::string_view FormListName(std::string_view text) noexcept;
 
 /// Lines in the order of their form numbers. Finding a line by number or by text costs no walk.
@@ -32,7 +32,7 @@ class FormList {
   /// Takes a form's line out; false when the form has none.
   bool Remove(int form_number);
   void Clear() noexcept;
-  /// Place of a form's line from 0, or -1.
+  /// Index of a form's line, or -1.
   [[nodiscard]] int PositionOf(int form_number) const noexcept;
   /// True when some line equals the text without regard to case.
   [[nodiscard]] bool Holds(std::string_view text) const noexcept;

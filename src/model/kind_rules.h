@@ -32,7 +32,7 @@ enum class TabRule : std::uint8_t {
   CountOnly,    ///< nowhere
 };
 
-/// The array of a form that holds a kind's records; nothing for a kind without records.
+/// The array of a form that holds a kind's records; empty for a kind without records.
 using RecordHome =
     std::variant<std::monostate, RecordArray<ObjectRec> FormRec::*,
                  RecordArray<WinSockRec> FormRec::*, RecordArray<HtmlViewerRec> FormRec::*,
@@ -92,10 +92,10 @@ enum class SetUpRule : std::uint8_t {
   OwnLines,  ///< the lines of its kind only
   AllLines,  ///< the common lines, those of its kind, and the hooks of its events
   PopUp,     ///< a popup menu with its items
-  MenuBar,   ///< the menu bar, where its first title is met
+  MenuBar,   ///< the menu bar, at its first title
 };
 
-/// How the generator's walks over event code meet an object of a kind.
+/// How the generator's loops over event code treat an object of a kind.
 enum class EventWalk : std::uint8_t {
   PassedOver,
   Unnumbered,  ///< looked up under the running number of the object before it
@@ -113,7 +113,7 @@ enum class CounterLife : std::uint8_t {
 struct ProgramRules {
   Declaration Dim{};
   SetUpRule SetUp = SetUpRule::None;
-  /// Members that the control has, but that stand in no common line.
+  /// Members that the control has, but that no common line writes.
   MemberSet HeldBack = SetOf({Member::Appearance});
   EventWalk Events = EventWalk::PassedOver;
   CounterLife Counter = CounterLife::Walk;

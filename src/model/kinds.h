@@ -16,8 +16,8 @@
 
 namespace tarnwick {
 
-/// What stands on a design form: the object kinds, then the parts that are no objects, in the order
-/// in which a new form has them.
+/// The controls of a design form: the object kinds, then the parts that are no objects, in the
+/// order in which a new form has them.
 enum class Kind : std::uint8_t {
   Button,
   Label,
@@ -50,7 +50,7 @@ inline constexpr std::size_t kObjectKindCount = static_cast<std::size_t>(Kind::M
 /// The tool number of a kind that no tool places.
 inline constexpr int kNoTool = -1;
 
-/// The row of a kind. What a row does not name stays as it stands here.
+/// The row of a kind. A field that a row does not name keeps the value given here.
 struct KindInfo {
   Kind Id{};
 

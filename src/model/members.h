@@ -12,7 +12,7 @@
 
 namespace tarnwick {
 
-/// Members that can be read and set by name. `AddItem` stands for the list of a control.
+/// Members that can be read and set by name. List is the list of a control, which AddItem() fills.
 enum class Member : std::uint8_t {
   Appearance,
   AutoSize,
@@ -86,7 +86,7 @@ inline constexpr std::array<MemberName, kMemberCount> kMemberNames{{
 }};
 static_assert(HasRowOfEach(kMemberNames, kMemberCount));
 
-/// The member of a name without regard to case; nothing for a word no class knows.
+/// The member of a name without regard to case; null for a word that no class knows.
 [[nodiscard]] std::optional<Member> MemberOfName(std::string_view name) noexcept;
 
 /// A set of members, one bit each.

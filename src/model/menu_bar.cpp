@@ -52,7 +52,7 @@ void BuildMenuControls(const ProjectTables& tables, DesignForm& window) {
     for (;
          item < tables.MenuItems.size() && tables.MenuItems[item].Parent <= static_cast<int>(title);
          ++item) {
-      // An item ahead of the first title hangs under nothing and is not reached.
+      // An item before the first title belongs to no title and is left out.
       if (tables.MenuItems[item].Parent == static_cast<int>(title)) {
         AddItemControl(window, tables.MenuItems[item].Caption, tables.MenuItems[item].Name);
       }

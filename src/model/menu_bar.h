@@ -16,7 +16,7 @@ void AddMenuItem(ProjectTables& tables, std::string_view caption, std::string_vi
 void AddTitleControl(DesignForm& window, std::string_view caption, std::string_view name);
 /// Adds an item control under the form's last title control.
 void AddItemControl(DesignForm& window, std::string_view caption, std::string_view name);
-/// Builds a form's menu controls anew from the menu arrays, in the order of titles and items.
+/// Rebuilds a form's menu controls from the menu arrays, in the order of titles and items.
 void BuildMenuControls(const ProjectTables& tables, DesignForm& window);
 /// Unloads all menu controls of a form.
 void ClearMenuControls(DesignForm& window);

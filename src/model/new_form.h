@@ -6,7 +6,7 @@
 namespace tarnwick {
 
 /// Adds an empty form with all defaults: `AddForm`. The first form of an empty project becomes
-/// its main form. Answers its number, 0 when no number is left.
+/// its main form. Returns its number, 0 when no number is left.
 int AddForm(ProjectTables& tables);
 /// The same without the main form rule: the command Add New Form.
 int NewForm(ProjectTables& tables);

@@ -3,9 +3,9 @@
 
 namespace tarnwick {
 
-/// The one narrow observer through which windows follow the tables. Every method is told after
-/// the change, names a form by its number, and does nothing unless overridden. The logic never
-/// asks a view for anything.
+/// The one narrow observer through which windows follow the tables. Every method is called
+/// after the change, names a form by its number, and does nothing unless overridden. The logic
+/// never reads anything from a view.
 class ProjectObserver {
  public:
   ProjectObserver() = default;
@@ -13,15 +13,15 @@ class ProjectObserver {
   ProjectObserver& operator=(const ProjectObserver&) = delete;
   virtual ~ProjectObserver() = default;
 
-  /// A design window came into being, from a command or a file.
+  /// A design window was made, by a command or from a file.
   virtual void FormOpened(int /*form*/) {}
   /// A form's design window is about to go; its controls are still there.
   virtual void FormClosing(int /*form*/) {}
   /// Caption, colour, size, frame, picture or icon of the window itself changed.
   virtual void FormChanged(int /*form*/) {}
-  /// Controls came, went, moved or look different: the surface wants painting.
+  /// Controls were added, removed, moved or changed: the surface must be painted.
   virtual void ControlsChanged(int /*form*/) {}
-  /// The selection, or the place or visibility of the handles, changed.
+  /// The selection, or the position or visibility of the handles, changed.
   virtual void SelectionChanged(int /*form*/) {}
   /// `CurrentForm` is another form now.
   virtual void CurrentFormChanged() {}

@@ -54,7 +54,7 @@ struct MenuItemRec {
   std::string Name;
 };
 
-/// The events bar of a form: which objects have code, in the order in which they were told.
+/// The events bar of a form: the objects that have code, in the order in which it was added.
 struct FrmBarra {
   struct Entry {
     std::string Name;   ///< as in event keys: kind word and index, "Form", or a menu item's name
@@ -67,7 +67,7 @@ struct FrmBarra {
   std::vector<Entry> Entries;
 };
 
-/// Process-wide state of the open project. The shell owns the one instance and hands it on by
+/// Process-wide state of the open project. The shell owns the one instance and passes it by
 /// reference; no unit keeps a second copy of anything in it.
 struct ProjectTables {
   std::int16_t FormsCount = 0;
@@ -115,7 +115,7 @@ struct ProjectTables {
   [[nodiscard]] std::string ProjectFolder() const;
 };
 
-/// The path of a file named in a record: as it stands when its first three characters equal those
+/// The path of a file named in a record: unchanged when its first three characters equal those
 /// of the program folder, otherwise relative to the project.
 [[nodiscard]] std::string ResolveProjectPath(const ProjectTables& tables, std::string_view path,
                                              bool ignore_case);

@@ -1,4 +1,4 @@
-// The closed vocabulary of events. Every word stands here once.
+// The closed vocabulary of events. Every word is written here once.
 #pragma once
 
 #include <algorithm>
@@ -13,7 +13,7 @@
 
 namespace tarnwick {
 
-/// Events, in the order in which generator and member list walk them; OnPopUp stands apart.
+/// Events, in the order in which generator and member list walk them; OnPopUp is not among them.
 enum class Event : std::uint8_t {
   OnTimer,
   OnClick,
@@ -211,7 +211,7 @@ inline constexpr std::string_view kShortObjectEventNames =
 /// The events whose entries a new form gets, in the order of adding. OnTimer is among them though
 /// no form ever raises it.
 [[nodiscard]] std::span<const Event> NewFormEvents() noexcept;
-/// The events whose entries a new object gets, whatever its kind.
+/// The events whose entries a new object of any kind gets.
 [[nodiscard]] std::span<const Event> NewObjectEvents() noexcept;
 
 }  // namespace tarnwick
