@@ -89,11 +89,11 @@ class FormReader {
   int form_ = 0;  ///< the form that objects go to: the one with the highest number
   int last_form_ = 0;
   bool menu_met_ = false;
-  /// Takes the objects that stand ahead of the first form of a project; slot 0 is their record.
+  /// Takes the objects before the first form of a project; slot 0 is their record.
   std::unique_ptr<DesignForm> nowhere_;
   DesignForm* window_ = nullptr;
   FormRec* record_ = nullptr;
-  // What the keys of its code begin with.
+  // The start of the keys of its code.
   std::string form_key_;
   int window_number_ = 0;
 };

@@ -1,4 +1,4 @@
-// The records as they stand in a form file.
+// The text of the records in a form file.
 #pragma once
 
 #include <array>

@@ -8,9 +8,9 @@
 
 namespace tarnwick {
 
-/// Appends the menu records of a form, from its own menu controls; nothing without a menu bar.
+/// Appends the menu records of a form, from its own menu controls; none without a menu bar.
 void AppendMenuRecords(std::string& out, const ProjectTables& tables, const DesignForm& window);
-/// Appends the stored OnClick code of a menu or popup item; nothing when it has none.
+/// Appends the stored OnClick code of a menu or popup item, if it has any.
 void AppendItemCode(std::string& out, const ProjectTables& tables, std::string_view form_key,
                     std::string_view name);
 /// Appends the rows of a popup menu as one text.

@@ -17,7 +17,7 @@ constexpr std::string_view kItemPrefix = "Item(";
 struct HeadRule {
   std::string_view Kind;
   bool Numbered;
-  bool ItemName;          ///< the name stands behind "Item("
+  bool ItemName;          ///< "Item(" precedes the name
   std::string_view Word;  ///< other kind word, "" to keep the old one
 };
 

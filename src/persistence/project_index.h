@@ -12,9 +12,9 @@ namespace tarnwick {
 
 /// What an index names. The texts are views of the index.
 struct ProjectIndex {
-  /// The form files in the order of their lines, as they stand there: bare names or paths.
+  /// The form files in the order of their lines, as written there: bare names or paths.
   std::vector<std::string_view> FormFiles;
-  /// The text behind the last main form mark; nothing without one.
+  /// The text behind the last main form mark; null without one.
   std::optional<std::string_view> MainForm;
 };
 

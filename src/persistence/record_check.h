@@ -1,4 +1,4 @@
-// What in a form file cannot be read.
+// The faults of a form file: what cannot be read in it.
 #pragma once
 
 #include <cstddef>
@@ -16,7 +16,7 @@ enum class FaultSort : std::uint8_t {
   Value,     ///< a value does not fit
 };
 
-/// A line of a form file that the reader passes over, in whole or in part.
+/// A line of a form file that the reader skips, in whole or in part.
 struct RecordFault {
   FaultSort Sort = FaultSort::NoRecord;
   std::size_t Line = 0;  ///< from 1

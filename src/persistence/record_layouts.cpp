@@ -73,7 +73,7 @@ constexpr std::array kLabelBorder{InheritedMember{Member::BorderStyle, Tag::Bord
 constexpr std::array kComboInk{InheritedMember{Member::ForeColor, Tag::FontClr}};
 constexpr std::array kRichWrap{InheritedMember{Member::WordWrap, Tag::Icon}};
 constexpr std::array kHtmlText{InheritedMember{Member::Text, Tag::String}};
-// The tags of a frame's place go to the form's record; the control stands where they say, too.
+// The tags of a frame's position and size go to the form's record, and to the control as well.
 constexpr std::array kFramePlace{
     InheritedMember{Member::Left, Tag::Left}, InheritedMember{Member::Top, Tag::Top},
     InheritedMember{Member::Width, Tag::Width}, InheritedMember{Member::Height, Tag::Height}};

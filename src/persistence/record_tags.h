@@ -64,9 +64,9 @@ enum class Tag : std::uint8_t {
 };
 inline constexpr std::size_t kTagCount = static_cast<std::size_t>(Tag::None);
 
-/// How a value comes out of its stored form.
+/// How a stored value is restored.
 enum class Restore : std::uint8_t {
-  Plain,   ///< as it stands
+  Plain,   ///< unchanged
   Lines,   ///< commas and line ends
   Commas,  ///< commas
   Items,   ///< list commas

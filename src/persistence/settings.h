@@ -25,7 +25,7 @@ class Settings {
  public:
   Settings(ProfilePort& profiles, const std::string& program_folder);
 
-  /// A setting without blanks at its ends; at most 285 characters come back.
+  /// A setting without blanks at its ends; returns at most 285 characters.
   [[nodiscard]] std::string Read(std::string_view section, std::string_view key) const;
   [[nodiscard]] std::string Read(const SettingKey& key) const;
   /// False when the file cannot be written.

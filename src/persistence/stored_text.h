@@ -1,4 +1,5 @@
-// The stored form of texts in record lines: commas and line ends stand under bytes of their own.
+// The stored form of texts in record lines: commas and line ends are replaced by bytes of their
+// own.
 #pragma once
 
 #include <string>

@@ -10,7 +10,7 @@
 namespace tarnwick {
 
 /// Reads "\Add001.tn" to "\Add004.tn" of the program folder. A file that is missing leaves its
-/// tables empty, a line that lacks what it should carry is passed over; nothing is reported.
+/// tables empty, an incomplete line is skipped; nothing is reported.
 [[nodiscard]] language::SupportTables ReadSupportTables(FilePort& files,
                                                         const std::string& program_folder);
 
