@@ -11,7 +11,8 @@ namespace tarnwick {
 /// The entries of `EventTable` that the generator writes out. Valid until the table changes.
 class EmittedCode {
  public:
-  /// True for a text of the table, the very one, that becomes a Sub.
+  /// True for a text of the table that becomes a Sub. Compares addresses: a copy of it is no such
+  /// text.
   [[nodiscard]] bool Holds(const std::string& code) const { return texts_.contains(code.data()); }
 
  private:

@@ -39,7 +39,7 @@ void ForEachPopUpItem(const Generation& gen, int p, std::size_t first, Write wri
   }
 }
 
-/// Calls `write(name, n)` with the name and place of each item of the menu bar that has a name.
+/// Calls `write(name, n)` with the name and index of each item of the menu bar that has a name.
 template <class Write>
 void ForEachMenuItem(const Generation& gen, Write write) {
   if (!gen.MenuBarVisible()) return;
@@ -96,7 +96,7 @@ void WriteFormBodies(Generation& gen) {
 
 void WriteSubDeclares(Generation& gen) {
   gen.Code.OfForm().ForEach(kFormSubEvents, [&](Event event, std::string_view) {
-    // The bare event name: the parameters stand in the Sub line alone.
+    // The bare event name: only the Sub line has the parameters.
     gen.Out.Line("Declare Sub ", gen.Record().Name, "_", InfoOf(event).Name);
   });
   gen.Out.Blank();

@@ -61,8 +61,8 @@ void WriteFormInit(Generation& gen) {
   gen.Out.Blank();
 
   KindCounters& counters = gen.State.KindCounters;
-  // The kind's template counts as the first popup met and writes nothing, so that the counter
-  // stands at 1 when the first real popup comes.
+  // The kind's template counts as the first popup and writes nothing, so that the counter is 1 at
+  // the first real popup.
   counters.Set(Kind::PopUpMenu, 1);
   std::int16_t button_count = 0;
   bool menu_bar_done = false;

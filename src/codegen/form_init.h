@@ -8,7 +8,7 @@ namespace tarnwick {
 /// Writes the form's lines and hooks, then its objects in the order of its collection.
 void WriteFormInit(Generation& gen);
 
-/// Writes where the form stands in the generated program: its place, or that it is centred.
+/// Writes the position of the form in the generated program, or that it is centred.
 void WriteFormPlace(Generation& gen);
 
 }  // namespace tarnwick

@@ -23,7 +23,7 @@ class Generation {
   Generation(ProjectTables& tables, GeneratorState& state)
       : Tables(tables), State(state), Code(tables.EventTable) {}
 
-  /// Turns to a form of the project; everything below then speaks of it.
+  /// Selects a form of the project; the members below are then about that form.
   void SelectForm(int form);
 
   [[nodiscard]] const FormRec& Record() const noexcept { return *record_; }
@@ -39,7 +39,7 @@ class Generation {
   GeneratorState& State;
   SourceText Out;
   EventLookup Code;
-  /// Where the code that becomes a Sub is noted down, by the place of its text; null for nowhere.
+  /// Collects the addresses of the code texts that become a Sub; null to collect none.
   std::unordered_set<const char*>* Bodies = nullptr;
 
  private:
@@ -53,7 +53,7 @@ class Generation {
   std::string_view numero_;
   bool menu_bar_visible_ = false;
   FormImages* images_ = nullptr;
-  // By form: more than one section asks them, and no record changes meanwhile.
+  // By form: several sections read them, and no record changes meanwhile.
   std::unordered_map<int, FormImages> images_of_;
 };
 

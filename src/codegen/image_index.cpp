@@ -7,7 +7,7 @@ int ImageIndex::FindFirstImage(std::string_view path) {
     first_.emplace();
     for (int j = 1; j <= records_.UBound(); ++j) {
       const std::string& held = RecordOrEmpty(records_, j).ImageFile;
-      // A "(none)" in other letters counts as a path, and meets the "(None)" of another object.
+      // A "(none)" in other letters counts as a path, and equals the "(None)" of another object.
       if (!held.empty()) first_->emplace(held, j);
     }
   }

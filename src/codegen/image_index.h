@@ -12,10 +12,10 @@
 namespace tarnwick {
 
 /// The first holder of each picture among the records of one kind on one form. Paths compare
-/// without regard to case. The index is made at the first question, in one pass.
+/// without regard to case. The index is built at the first look-up, in one pass.
 class ImageIndex {
  public:
-  /// The records must stay as they are while questions are asked.
+  /// The records must not change while the index is in use.
   explicit ImageIndex(const RecordArray<ObjectRec>& records) noexcept : records_(records) {}
   /// The number of the first record with the path; 0 when none has it.
   [[nodiscard]] int FindFirstImage(std::string_view path);

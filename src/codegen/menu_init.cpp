@@ -19,30 +19,30 @@ std::string TitleList(const std::vector<MenuBarRec>& titles) {
   return list;
 }
 
-/// The places of the items under each title, in order, so that titles and items are walked once.
+/// The indexes of the items under each title, in order, so that titles and items are walked once.
 std::vector<std::vector<std::size_t>> ItemsByTitle(const std::vector<MenuItemRec>& items,
                                                    std::size_t title_count) {
-  std::vector<std::vector<std::size_t>> places(title_count);
+  std::vector<std::vector<std::size_t>> indexes(title_count);
   for (std::size_t q = 0; q < items.size(); ++q) {
     const std::int16_t title = items[q].Parent;
     if (title >= 0 && static_cast<std::size_t>(title) < title_count && !items[q].Name.empty()) {
-      places[static_cast<std::size_t>(title)].push_back(q);
+      indexes[static_cast<std::size_t>(title)].push_back(q);
     }
   }
-  return places;
+  return indexes;
 }
 
-/// The menu has two levels whatever the designer showed: one depth prefix is taken off and the
+/// The menu has two levels even if the designer showed more: one depth prefix is taken off and the
 /// item hangs under its title.
 void WriteMenuItem(Generation& gen, std::string_view title, const MenuItemRec& item,
-                   std::size_t place) {
+                   std::size_t index) {
   gen.Out.Line(title, ".AddItems ", item.Name);
   gen.Out.Line(item.Name, ".Caption = ", Quoted{WithoutMenuDepth(item.Caption)});
   if (gen.Code.OnClickOf(item.Name).empty()) return;
-  gen.Out.Line(item.Name, ".OnClick = ", SubNameOf(item.Name, static_cast<int>(place)), "_OnClick");
+  gen.Out.Line(item.Name, ".OnClick = ", SubNameOf(item.Name, static_cast<int>(index)), "_OnClick");
 }
 
-/// An item or sub-item of a popup under `parent`. Names in array form stand as they are.
+/// An item or sub-item of a popup under `parent`. Names in array form are written unchanged.
 void WritePopUpItem(Generation& gen, std::string_view parent, std::string_view name,
                     std::string_view caption) {
   gen.Out.Line(parent, ".AddItems ", name);
@@ -59,12 +59,12 @@ void WriteMenuBarInit(Generation& gen) {
   gen.Out.Line("MenuBar.Parent = ", gen.Record().Name);
   gen.Out.Line("MenuBar.AddItems  ", TitleList(titles));
   gen.Out.Blank();
-  const auto places = ItemsByTitle(items, titles.size());
+  const auto indexes = ItemsByTitle(items, titles.size());
   for (std::size_t n = 1; n < titles.size(); ++n) {
     const std::string& title = titles[n].Name;
     if (title.empty()) continue;
     gen.Out.Line(title, ".Caption = ", Quoted{titles[n].Caption});
-    for (const std::size_t q : places[n]) WriteMenuItem(gen, title, items[q], q);
+    for (const std::size_t q : indexes[n]) WriteMenuItem(gen, title, items[q], q);
     gen.Out.Blank();
   }
 }

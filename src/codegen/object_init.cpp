@@ -96,8 +96,8 @@ std::span<const RecordLine> LinesOf(Kind kind) noexcept {
   return {};
 }
 
-/// The name of a picture's resource. Should no record name the picture, the object's own number
-/// stands in.
+/// The name of a picture's resource. When no record names the picture, the object's own number
+/// is used.
 void WritePicture(Generation& gen, std::string_view name, std::string_view member, Kind kind,
                   std::string_view file, ImageIndex& images) {
   const int first = images.FindFirstImage(file);

@@ -13,7 +13,7 @@ void WriteObjectInit(Generation& gen, const DesignControl& control);
 /// first row is the object's name, which is how a list fresh from the tool box looks.
 [[nodiscard]] bool HasListLines(const DesignControl& control) noexcept;
 
-/// Writes the lines that hand the object's events to their Subs. Code of blanks only has no hook.
+/// Writes the lines that bind the object's events to their Subs. Code of blanks only has no hook.
 void WriteObjectHooks(Generation& gen, const DesignControl& control);
 
 }  // namespace tarnwick

@@ -9,8 +9,8 @@
 namespace tarnwick {
 
 /// The generated program as one text, its calls of Show rewritten, as the source file holds it.
-/// Reads the tables; nothing in them changes but design windows that come into being on first
-/// touch. `state` goes on from one compilation to the next.
+/// Reads the tables; only missing design windows are added to them on first
+/// access. `state` goes on from one compilation to the next.
 [[nodiscard]] std::string GenerateSource(ProjectTables& tables, GeneratorState& state);
 
 }  // namespace tarnwick

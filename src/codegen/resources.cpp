@@ -23,7 +23,7 @@ void WriteIcon(Generation& gen) {
 }
 
 /// The pictures of one kind. The walk goes over the records: the object a record belongs to may
-/// stand at another place of its array by now.
+/// be at another index of its array by now.
 void WritePictures(Generation& gen, Kind kind, ImageIndex& images) {
   const RecordArray<ObjectRec>& records = *gen.Record().Objects(kind);
   const int highest = gen.User().UBound(kind);

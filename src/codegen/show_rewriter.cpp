@@ -14,7 +14,7 @@ constexpr std::string_view kModal = ".showmodal";
 constexpr std::size_t kModalRest = 5;
 
 /// The text under work in three parts: what the search has left behind, a short run of bytes that
-/// a hit put in front of it, and the given text from some place on. Bytes are taken from the front
+/// a hit put in front of it, and the given text from some offset on. Bytes are taken from the front
 /// of the last two and put back there; nothing is ever moved within a long text.
 class WorkingText {
  public:
@@ -22,7 +22,7 @@ class WorkingText {
     done_.reserve(text.size());
   }
 
-  /// Goes on to the next place where the lower-case pattern stands; false when there is none.
+  /// Goes on to the next occurrence of the lower-case pattern; false when there is none.
   bool Find(std::string_view pattern) {
     while (!pending_.empty()) {
       if (StartsWith(pattern)) return true;
@@ -43,7 +43,7 @@ class WorkingText {
   /// The byte `offset` bytes from here; 0 behind the end.
   [[nodiscard]] char At(std::size_t offset) const noexcept { return From(text_, offset); }
 
-  /// Leaves the byte here behind; nothing happens at the end.
+  /// Skips one byte; does nothing at the end.
   void Step() {
     if (!AtEnd()) done_ += Take();
   }
@@ -64,8 +64,8 @@ class WorkingText {
   [[nodiscard]] bool AtEnd() const noexcept { return pending_.empty() && at_ == text_.size(); }
   [[nodiscard]] char From(std::string_view source, std::size_t offset) const noexcept {
     if (offset < pending_.size()) return pending_[pending_.size() - 1 - offset];
-    const std::size_t place = at_ + (offset - pending_.size());
-    return place < source.size() ? source[place] : '\0';
+    const std::size_t position = at_ + (offset - pending_.size());
+    return position < source.size() ? source[position] : '\0';
   }
   [[nodiscard]] bool StartsWith(std::string_view lower) const noexcept {
     if (pending_.size() + (text_.size() - at_) < lower.size()) return false;
@@ -83,8 +83,8 @@ class WorkingText {
 
   std::string_view text_;
   std::string lower_;    ///< the given text in lower case, for the search
-  std::size_t at_ = 0;   ///< place in it
-  std::string pending_;  ///< bytes in front of that place, last one first
+  std::size_t at_ = 0;   ///< offset in it
+  std::string pending_;  ///< bytes in front of that offset, last one first
   std::string done_;
 };
 

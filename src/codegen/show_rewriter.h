@@ -8,9 +8,9 @@ namespace tarnwick {
 
 /// Replaces each `pattern` found in the text, without regard to case, by `replacement`, and drops
 /// the byte behind it; a hit followed by "1" keeps the pattern and loses the "1" instead. The
-/// search goes on one byte behind the start of the hit, in the text as it is by then, so that a
-/// replacement can hold or complete the pattern anew. It ends after one hit more than the given
-/// text has bytes. An empty pattern is found nowhere. Cost is linear in text and result.
+/// search goes on one byte behind the start of the hit, in the changed text, so that a replacement
+/// can contain or complete the pattern again. It ends after one hit more than the given text has
+/// bytes. An empty pattern is never found. Cost is linear in text and result.
 [[nodiscard]] std::string RewriteShowCalls(std::string_view text, std::string_view pattern,
                                            std::string_view replacement);
 
