@@ -26,7 +26,8 @@ int Fail(std::FILE* err, const std::string& what, const std::string& path) {
   return 1;
 }
 
-/// 0 when every form that the index names was read. What was read is generated all the same.
+/// 0 when every form that the index names was read. The forms that were read are generated in any
+/// case.
 int TellUnread(LoadedProject& loaded, std::FILE* err) {
   const std::vector<std::string> unread = project::UnreadForms(loaded.Tables, loaded.Files);
   for (const std::string& path : unread) Fail(err, "no form was read from", CodePageToUtf8(path));
@@ -57,7 +58,7 @@ int Resave(LoadedProject& project, const Arguments& arguments, std::FILE* err) {
   bool all_named = true;
   for (int form = 1; form <= tables.FormsCount; ++form) {
     std::string& name = tables.Form(form)->FileName;
-    // A form that never had a file stays without one: there is no name to give it.
+    // A form without a file stays without one: it has no file name.
     all_named = all_named && !name.empty();
     if (!name.empty()) name = std::string(folder).append(BareName(name));
   }
@@ -96,7 +97,7 @@ int RunCommand(const Arguments& arguments, std::FILE* out, std::FILE* err) {
   if (arguments.What == Command::Run) {
     return static_cast<int>(RunProgram(arguments.Run, stdin, out, err));
   }
-  // What `check` has to say of missing files stands among its findings.
+  // `check` lists missing files among its findings.
   const bool quiet = arguments.What == Command::Check;
   LoadedProject project(arguments.ProgramFolder, err, quiet);
   if (!project.Load(arguments.Input)) return Fail(err, "cannot read", arguments.Input);

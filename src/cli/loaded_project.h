@@ -29,7 +29,7 @@ class ToolMessages final : public MessagePort {
   bool quiet_;
 };
 
-/// The tables of one project and all that reading and saving it asks for.
+/// The tables of one project and the ports that reading and saving need.
 class LoadedProject {
  public:
   /// Without a program folder the real one is used. Messages go to `err`.
