@@ -34,7 +34,7 @@ std::string CompilerCommandLine(const ProjectTables& tables, FilePort& files,
                                 const std::string& source_file) {
   static const FormRec empty{};
   const FormRec* first = tables.Form(1);
-  // The icon is that of form 1 whatever the main form is.
+  // The icon is that of form 1, not of the main form.
   const std::string& icon_file = (first == nullptr ? empty : *first).IconFile;
   const std::string icon = files.ShortPathOf(
       icon_file != kDefaultFile ? icon_file : tables.ProgramFolder + "\\IconApp.ico");

@@ -31,13 +31,13 @@ class CompileHost {
   virtual void HideContainer() = 0;
   /// Moves the form container; pixels from the top of the screen.
   virtual void MoveContainer(int top) = 0;
-  /// A design form is to be seen or not; its own `Visible` says the same already.
+  /// Shows or hides a design form; its own `Visible` has been set already.
   virtual void ShowDesignForm(DesignForm& form, bool visible) = 0;
 };
 
 /// "Compile and Run": checks the main form, saves, writes the generated program to `source_file`
-/// and starts the compiler on it, hidden, without waiting. Every step goes on whatever became of
-/// the one before; nothing is reported. The forms end hidden but for the current one.
+/// and starts the compiler on it, hidden, without waiting. Every step runs even if the one
+/// before failed; nothing is reported. The forms end hidden but for the current one.
 void GenerateProgram(ProjectTables& tables, GeneratorState& state, CompileHost& host,
                      const Ports& ports, const std::string& source_file);
 

@@ -95,7 +95,7 @@ bool LoadProject(ProjectContext& context, const std::string& path) {
     if (index.MainForm) tables.MainFormName = std::move(named);
     TellRead(context, 1);
   }
-  // The main form is named behind the forms, which the list has shown by now.
+  // The index names the main form after the forms, which the list shows already.
   if (index.MainForm) context.Observer.FormListChanged();
   tables.CurrentForm = tables.User(1);
   context.Container.ActivateForm(1);

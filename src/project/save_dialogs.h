@@ -9,7 +9,7 @@
 namespace tarnwick::project {
 
 /// Asks for the file of the project. An existing one is asked about first. The path as it was
-/// chosen; nothing when the dialog is cancelled.
+/// chosen; null when the dialog is cancelled.
 [[nodiscard]] std::optional<std::string> SaveProjectDialog(ProjectContext& context);
 /// Asks for the file of a form and stores it in `FileName`, ".ftn" added where it lacks it. An
 /// existing file is asked about first. False when the dialog is cancelled: nothing changed.
