@@ -16,7 +16,7 @@ using HelpLines = std::vector<std::string>;
 /// Component, description and example of a kind.
 [[nodiscard]] HelpLines HelpOf(const KindEntry& kind);
 /// The help under one key: all members that share it, those that differ in nothing but their kind
-/// told once. The members keep their order.
+/// listed once. The members keep their order.
 [[nodiscard]] HelpLines HelpOf(std::span<const MemberEntry* const> members);
 
 }  // namespace tarnwick::support

@@ -30,7 +30,7 @@ void DropEmptyEnd(std::vector<std::string>& lines) {
   while (!lines.empty() && lines.back().empty()) lines.pop_back();
 }
 
-/// Reads one file of blocks line by line; `part` tells what the next line may be.
+/// Reads one file of blocks line by line; `part` is what the next line may be.
 class BlockReader {
  public:
   BlockReader(const std::vector<std::string>& fields, Faults& faults)

@@ -1,5 +1,5 @@
 // The byte form of the support files: Windows-1252, CR LF line ends, and the marks between values.
-// Whatever would break the form is refused as a fault.
+// Anything that would break the format is refused as a fault.
 #pragma once
 
 #include <optional>
