@@ -10,6 +10,7 @@
 #include "persistence/menu_text.h"
 #include "persistence/stored_text.h"
 #include "text/code_page.h"
+#include "text/line_cursor.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
@@ -40,11 +41,10 @@ FormReader::FormReader(ProjectTables& tables, std::string file_name, int target)
 FormReadResult FormReader::Read(std::string_view text) {
   const auto loading = std::exchange(tables_.LoadingProject, std::int16_t{1});
   bool refused = false;
-  for (const std::string_view line : Split(text, kLineEnd)) {
-    if (line.empty()) continue;
-    scanner_.Scan(line);
-    refused = !ReadRecord(line);
-    if (refused) break;
+  for (LineCursor lines(text); !refused && lines.Next();) {
+    if (lines.Line().empty()) continue;
+    scanner_.Scan(lines.Line());
+    refused = !ReadRecord(lines.Line());
   }
   tables_.LoadingProject = loading;
   if (refused) return FormReadResult::Refused;

@@ -7,6 +7,7 @@
 #include "persistence/record_layouts.h"
 #include "persistence/tag_scanner.h"
 #include "text/code_page.h"
+#include "text/line_cursor.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
@@ -42,11 +43,11 @@ bool Fits(const Source& source, std::string_view text) {
 class FormChecker {
  public:
   std::vector<RecordFault> Check(std::string_view text) {
-    for (const std::string_view line : Split(text, kLineEnd)) {
+    for (LineCursor lines(text); lines.Next();) {
       ++line_;
-      if (line.empty()) continue;
-      scanner_.Scan(line);
-      CheckLine(line);
+      if (lines.Line().empty()) continue;
+      scanner_.Scan(lines.Line());
+      CheckLine(lines.Line());
     }
     if (!form_met_)
       faults_.insert(faults_.begin(),
