@@ -73,7 +73,8 @@ class RowCheck {
 
  private:
   std::string NameFault(const std::string& name) {
-    if (const auto fault = project::FaultOfName(name, false)) {
+    if (const auto fault =
+            project::FaultOfName(name, design_.HasBar ? Kind::MenuItem : Kind::PopUpMenu)) {
       std::string text = project::TextOfNameFault(*fault, name) + ".";
       text.front() = 'T';
       return text;
