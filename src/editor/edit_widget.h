@@ -29,6 +29,8 @@ class EditWidget {
   [[nodiscard]] virtual std::string Text() const = 0;
   /// Replaces the whole text; the caret goes to its start and the undo history becomes empty.
   virtual void SetText(std::string_view text) = 0;
+  /// The number of lines; an empty text has one.
+  [[nodiscard]] virtual int LineCount() const = 0;
   /// A line without its line end; "" for a number that no line has.
   [[nodiscard]] virtual std::string GetLine(int line) const = 0;
   /// The selection with its start before its end; without one both are the caret.

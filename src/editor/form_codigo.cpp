@@ -121,12 +121,16 @@ std::string FormCodigo::ShownKey() const {
 void FormCodigo::ShowTextOf(const std::string& key) {
   const std::string* code = key.empty() ? nullptr : project_.EventTable.Find(key);
   // An entry that is not there and an empty one show the same page.
-  editor_.SetText(code == nullptr ? std::string_view() : std::string_view(*code));
+  shown_text_ = code == nullptr ? std::string() : *code;
+  editor_.SetText(shown_text_);
 }
 
 void FormCodigo::StoreText(const std::string& text) {
   const std::string key = ShownKey();
   if (key.empty()) return;
+  // A new text takes the place of one that was lost; what was only looked at does not.
+  if (text != shown_text_) drafts_.Drop(key);
+  shown_text_ = text;
   if (target_.What == CodeTarget::Sort::NamedItem && text.empty()) {
     // An item that was opened by its name has no entry while it has no code.
     project_.EventTable.Remove(key);
@@ -174,7 +178,40 @@ void FormCodigo::Accept() {
 }
 
 void FormCodigo::Cancel() {
-  if (IsOpen()) Close();
+  if (!IsOpen()) return;
+  if (std::string text = editor_.Text(); text != shown_text_ && event_row_ >= 0) {
+    drafts_.Keep(ShownKey(), std::move(text));
+  }
+  Close();
+}
+
+const std::string* FormCodigo::Lost() const {
+  return IsOpen() ? drafts_.Find(ShownKey()) : nullptr;
+}
+
+void FormCodigo::RestoreLost() {
+  const std::string* lost = Lost();
+  if (lost == nullptr) return;
+  // As if it were typed: undo brings the stored text back.
+  const std::string text = *lost;
+  const int last = editor_.LineCount() - 1;
+  editor_.SetSel({0, 0, last, static_cast<int>(editor_.GetLine(last).size())});
+  editor_.SetSelText(text);
+  DiscardLost();
+}
+
+void FormCodigo::DiscardLost() {
+  if (IsOpen()) drafts_.Drop(ShownKey());
+}
+
+void FormCodigo::NameChanged(int form, std::string_view old_name, std::string_view new_name) {
+  if (!IsOpen() || target_.Form != form || caption_ != old_name) return;
+  if (target_.What != CodeTarget::Sort::Form && target_.What != CodeTarget::Sort::Object) return;
+  caption_ = new_name;
+  const bool is_form = target_.What == CodeTarget::Sort::Form;
+  events_ = events_.empty()
+                ? events_
+                : EventRowsOf(is_form ? kFormWord : std::string_view(target_.KindWord), caption_);
 }
 
 void FormCodigo::Close() {

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "editor/code_drafts.h"
 #include "editor/code_host.h"
 #include "editor/code_target.h"
 #include "editor/edit_widget.h"
@@ -58,6 +59,16 @@ class FormCodigo {
   /// `BtnFrm(1)`, and every other way out: what was typed since the last change of event goes.
   void Cancel();
 
+  /// The object or form was renamed: caption and rows follow when it is the one that is open.
+  void NameChanged(int form, std::string_view old_name, std::string_view new_name);
+
+  /// What was typed on the shown event and lost by a Cancel; null when there is none.
+  [[nodiscard]] const std::string* Lost() const;
+  /// Puts what was lost into the editor, as one step that can be undone.
+  void RestoreLost();
+  void DiscardLost();
+  [[nodiscard]] CodeDrafts& Drafts() noexcept { return drafts_; }
+
   /// `WndFunc`, the function panel.
   [[nodiscard]] FunctionPanel& Functions() noexcept { return functions_; }
   [[nodiscard]] bool WndFuncVisible() const noexcept { return functions_visible_; }
@@ -83,6 +94,8 @@ class FormCodigo {
   CodeHost& host_;
   FunctionPanel functions_;
 
+  CodeDrafts drafts_;
+  std::string shown_text_;  ///< of the entry, as it was shown
   CodeTarget target_;
   std::string caption_;
   std::vector<EventRow> events_;

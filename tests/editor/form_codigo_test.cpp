@@ -342,6 +342,53 @@ TEST_F(FormCodigoTest, TheRowOfTheSearchIsRememberedAndABadOneIsTheFirst) {
   EXPECT_EQ(codigo_.ComboSearch(), 0);
 }
 
+TEST_F(FormCodigoTest, WhatACancelLostIsOfferedOnTheSameEventAndCanBeHadBack) {
+  Select(Kind::Button, 1);
+  SetCode("Form1.Button1.OnClick", "kept");
+  codigo_.Open();
+  EXPECT_EQ(codigo_.Lost(), nullptr);
+  editor_.SetSelText("line 1\r\nline 2\r\n");
+  codigo_.Cancel();
+  codigo_.Open();
+  EXPECT_EQ(editor_.Text(), "kept");
+  ASSERT_NE(codigo_.Lost(), nullptr);
+  codigo_.Events_Click(1);
+  EXPECT_EQ(codigo_.Lost(), nullptr);
+  codigo_.Events_Click(0);
+  codigo_.RestoreLost();
+  EXPECT_EQ(editor_.Text(), "line 1\r\nline 2\r\nkept");
+  EXPECT_EQ(codigo_.Lost(), nullptr);
+}
+
+TEST_F(FormCodigoTest, ACancelWithoutAChangeLosesNothing) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  codigo_.Cancel();
+  codigo_.Open();
+  EXPECT_EQ(codigo_.Lost(), nullptr);
+}
+
+TEST_F(FormCodigoTest, WhatWasLostCanBeDiscarded) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  editor_.SetSelText("x");
+  codigo_.Cancel();
+  codigo_.Open();
+  codigo_.DiscardLost();
+  EXPECT_EQ(codigo_.Lost(), nullptr);
+  EXPECT_TRUE(codigo_.Drafts().All().empty());
+}
+
+TEST_F(FormCodigoTest, ARenameShowsInTheOpenWindow) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  codigo_.NameChanged(1, "Ok", "Fine");
+  EXPECT_EQ(codigo_.Caption(), "Fine");
+  EXPECT_EQ(EventTexts().front(), "Sub Fine_OnClick");
+  codigo_.NameChanged(2, "Fine", "Other");
+  EXPECT_EQ(codigo_.Caption(), "Fine");
+}
+
 TEST_F(FormCodigoTest, NothingOpensWithoutAForm) {
   project_.Tables.CurrentForm = nullptr;
   codigo_.Open();

@@ -51,7 +51,7 @@ struct IntellisenseCase {
       {"EnterWithNothingToAddIsALineEnd", "Ok.click\r", "", "", "Ok.click/|"},
       {"EnterWithNoRowIsALineEnd", "Ok.xy\r", "", "", "Ok.xy/|"},
       {"ABlankTakesTheRowAndIsTyped", "Ok.co ", "", "", "Ok.color |"},
-      {"UpHidesTheList", "Ok.\x02", "", "", "Ok.|"},
+      {"UpHidesTheListAndMovesTheCaret", "Ok.\x02", "", "", "|Ok."},
       {"EscHidesTheList", "Ok.\x1B", "", "", "Ok.|"},
       {"DownMovesTheSelectionAndTheCaretStays", "Ok.\x01", "Caption,Color,Click", "Color", "Ok.|"},
       {"DownStaysOnTheLastRow", "Ok.\x01\x01\x01\x01", "Caption,Color,Click", "Click", "Ok.|"},

@@ -68,6 +68,9 @@ class Typist {
         return;
       case '\x02':
         if (List.KeyDown(key::kUp)) ADD_FAILURE() << "Up was used up";
+        // On the first line the caret goes to its start.
+        Editor.SetCaretPos(0, 0);
+        List.CaretMoved();
         return;
       default:
         if (List.KeyDown(c >= 'a' && c <= 'z' ? c - 32 : c)) return;

@@ -22,6 +22,7 @@ class FakeEditWidget final : public editor::EditWidget {
     sel_ = {};
     ++Histories;
   }
+  [[nodiscard]] int LineCount() const override { return static_cast<int>(lines_.size()); }
   [[nodiscard]] std::string GetLine(int line) const override {
     return line >= 0 && line < static_cast<int>(lines_.size())
                ? lines_[static_cast<std::size_t>(line)]

@@ -93,6 +93,24 @@ class RandomUser {
         &RandomUser::ObjectList, &RandomUser::PopUp,         &RandomUser::Frame,
         &RandomUser::Forms,      &RandomUser::ProjectCommand};
     (this->*kActions[static_cast<std::size_t>(Below(static_cast<int>(kActions.size())))])();
+    WriteCode();
+  }
+
+  /// A code window that was opened gets some text, which is kept or not.
+  void WriteCode() {
+    for (const char* name : {"FormCodigo", "FormViewCodes"}) {
+      auto* window = program_.Window().findChild<QWidget*>(QString::fromLatin1(name));
+      if (window == nullptr || !window->isVisible()) continue;
+      note_ += ", code";
+      program_.Type(QStringLiteral("x = 1 "));
+      if (Below(2) == 0) {
+        program_.Key(Qt::Key_Return, Qt::ControlModifier);
+      } else {
+        program_.Key(Qt::Key_Escape);
+      }
+      if (window->isVisible()) window->close();
+      Program::Settle();
+    }
   }
 
   void Place() {

@@ -45,7 +45,7 @@ MainView::MainView(MainWindow& window, MDIForm1& shell)
     : window_(window),
       shell_(shell),
       forms_(window, shell),
-      code_(*this),
+      code_(shell, window),
       menus_(*this),
       no_gestures_(std::make_unique<NoGestures>()) {
   shell.AddObserver(*this);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "model/project_observer.h"
+#include "qt/editor/code_windows_view.h"
 #include "qt/frame/design_windows_view.h"
 #include "qt/frame/missing_windows.h"
 #include "shell/shell_view.h"
@@ -74,7 +75,7 @@ class MainView final : public ShellView, public ProjectObserver {
   MainWindow& window_;
   MDIForm1& shell_;
   DesignWindowsView forms_;
-  MissingCodeWindows code_;
+  CodeWindowsView code_;
   MissingMenuWindows menus_;
   std::string start_project_;
   QTimer time_;

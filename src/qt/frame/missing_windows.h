@@ -1,4 +1,4 @@
-// Code editor and menu designers of a version that does not have them.
+// Menu designers of a version that does not have them.
 #pragma once
 
 #include "shell/shell_view.h"
@@ -6,28 +6,7 @@
 
 namespace tarnwick {
 
-/// Says in the status bar that the code editor is missing, so that no command ends in silence.
-class MissingCodeWindows final : public CodeWindows {
- public:
-  explicit MissingCodeWindows(ShellView& view) : view_(view) {}
-
-  void LoadCodeWindows() override {}
-  void OpenCode() override { view_.SetStatus("The code editor is not part of this version."); }
-  [[nodiscard]] bool IsCodeOpen() override { return false; }
-  void BringCodeToFront() override {}
-  void StoreShownCode() override {}
-  void CloseCode() override {}
-  void OpenPublicDeclarations() override {
-    view_.SetStatus("The editor of public declarations is not part of this version.");
-  }
-  void NameChanged(int /*form*/, std::string_view /*old_name*/,
-                   std::string_view /*new_name*/) override {}
-
- private:
-  ShellView& view_;
-};
-
-/// The same for the menu designers.
+/// Says in the status bar that the menu designers are missing, so that no command ends in silence.
 class MissingMenuWindows final : public MenuWindows {
  public:
   explicit MissingMenuWindows(ShellView& view) : view_(view) {}

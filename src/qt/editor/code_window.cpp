@@ -1,0 +1,325 @@
+#include "qt/editor/code_window.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+
+#include "qt/editor/find_dialog.h"
+#include "qt/editor/function_panel_view.h"
+#include "qt/kit/icon_set.h"
+#include "qt/kit/text_bridge.h"
+#include "qt/kit/theme.h"
+#include "shell/command_center.h"
+
+namespace tarnwick {
+
+namespace {
+
+/// `BtnMenu` by index, each with its row of the context menu `mnu`.
+constexpr std::array<CodeTool, 11> kTools{{
+    {"Open Code", "open", "Ctrl+O", "", -1},
+    {"Save Code", "save", "Ctrl+Shift+S", "", -1},
+    {"Cut", "cut", "", "Cut", 4},
+    {"Copy", "copy", "", "Copy", 3},
+    {"Paste", "paste", "", "Paste", 5},
+    {"UnDo", "undo", "", "UnDo", 0},
+    {"ReDo", "redo", "", "ReDo", 1},
+    {"Search", "search", "Ctrl+F", "Search", 7},
+    {"Public Declarations", "declarations", "Ctrl+D", "Public Declarations", 9},
+    {"Functions", "functions", "", "Functions and Examples", 10},
+    {"Objects Examiner", "examiner", "Ctrl+F1", "Objets Properties", 11},
+}};
+enum Tool {
+  kOpenCode,
+  kSaveCode,
+  kCut,
+  kCopy,
+  kPaste,
+  kUndo,
+  kRedo,
+  kSearch,
+  kDeclare,
+  kFunctions,
+  kExaminer
+};
+constexpr int kMenuRows = 14;
+constexpr int kHelpRow = 13;
+
+constexpr std::string_view kWindowSection = "Window";
+constexpr std::string_view kPlaceKey = "FormCodigo";
+constexpr QSize kStartSize(940, 600);
+
+}  // namespace
+
+CodeWindow::CodeWindow(editor::FormCodigo& logic, CodeEdit& code, const CodeWindowPorts& ports,
+                       QWidget* parent)
+    : QWidget(parent, Qt::Window),
+      logic_(logic),
+      code_(code),
+      ports_(ports),
+      events_(new QComboBox),
+      lost_(new QFrame),
+      parts_(new QSplitter(Qt::Horizontal)),
+      functions_(new FunctionPanelView(logic.Functions(), nullptr)),
+      find_(new FindDialog(code, this)),
+      bar_(new QToolBar) {
+  setObjectName(QStringLiteral("FormCodigo"));
+  setWindowIcon(IconOf(QStringLiteral("code")));
+  BuildTools();
+  BuildLayout();
+  TakePlace();
+  connect(events_, &QComboBox::activated, this, [this](int row) {
+    logic_.Events_Click(row);
+    Refresh();
+    code_.SetFocus();
+  });
+  connect(functions_, &FunctionPanelView::CloseWanted, this, [this] {
+    ShowFunctions(false);
+    code_.SetFocus();
+  });
+  connect(functions_, &FunctionPanelView::SearchRowChosen, this,
+          [this](int row) { logic_.SetComboSearch(row); });
+  connect(&code_, &CodeEdit::HelpWanted, this, [this](const QString& word) { ShowHelpOf(word); });
+  code_.setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(&code_, &QWidget::customContextMenuRequested, this,
+          [this](const QPoint& place) { ShowMenu(code_.mapToGlobal(place)); });
+}
+
+CodeWindow::~CodeWindow() = default;
+
+void CodeWindow::BuildTools() {
+  bar_->setObjectName(QStringLiteral("Barra"));
+  bar_->setIconSize({18, 18});
+  tools_ = std::make_unique<CodeTools>(kTools, *bar_, *this);
+  tools_->Run(kOpenCode, [this] { OpenFile(); });
+  tools_->Run(kSaveCode, [this] { SaveFile(); });
+  tools_->RunEdit(code_, kCut);
+  tools_->Run(kSearch, [this] { find_->Open(); });
+  tools_->Run(kDeclare, [this] { ports_.Commands.Run(Command::PublicDeclarations); });
+  const auto functions = [this] {
+    ShowFunctions(true);
+    functions_->FocusSearch();
+  };
+  tools_->Run(kFunctions, functions);
+  tools_->Run(kExaminer, [this] { ports_.Commands.Run(Command::Examiner); });
+  const auto key = [this](const QKeySequence& keys, auto run) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, run);
+  };
+  // The button is off while the panel is open; its key leads there all the same.
+  key(QKeySequence(Qt::Key_F2), functions);
+  tools_->Action(kFunctions).setToolTip(QStringLiteral("Functions (F2)"));
+  key(QKeySequence(Qt::Key_F3), [this] { find_->Find(true); });
+  key(QKeySequence(Qt::SHIFT | Qt::Key_F3), [this] { find_->Find(false); });
+  key(QKeySequence(Qt::CTRL | Qt::Key_S), [this] { ports_.Commands.Run(Command::Save); });
+  key(QKeySequence(Qt::Key_F5), [this] { ports_.Commands.Run(Command::Compile); });
+  key(QKeySequence(Qt::CTRL | Qt::Key_Return), [this] { logic_.Accept(); });
+  key(QKeySequence(Qt::CTRL | Qt::Key_Enter), [this] { logic_.Accept(); });
+}
+
+void CodeWindow::BuildLayout() {
+  events_->setObjectName(QStringLiteral("Events"));
+  events_->setAccessibleName(QStringLiteral("Events"));
+  events_->setToolTip(QStringLiteral("Events of this object"));
+  events_->setMaxVisibleItems(20);
+
+  lost_->setObjectName(QStringLiteral("LostCode"));
+  lost_->setProperty("panel", true);
+  auto* lost_text = new QLabel(QStringLiteral("Unsaved code was found."));
+  auto* restore = new QPushButton(QStringLiteral("&Restore"));
+  auto* discard = new QPushButton(QStringLiteral("&Discard"));
+  restore->setObjectName(QStringLiteral("RestoreCode"));
+  discard->setObjectName(QStringLiteral("DiscardCode"));
+  restore->setToolTip(QStringLiteral("Puts the lost text into the editor"));
+  discard->setToolTip(QStringLiteral("Forgets the lost text"));
+  connect(restore, &QPushButton::clicked, this, [this] {
+    logic_.RestoreLost();
+    Refresh();
+    code_.SetFocus();
+  });
+  connect(discard, &QPushButton::clicked, this, [this] {
+    logic_.DiscardLost();
+    Refresh();
+    code_.SetFocus();
+  });
+  auto* lost_line = new QHBoxLayout(lost_);
+  lost_line->setContentsMargins(kRoom, kGap, kGap, kGap);
+  lost_line->addWidget(lost_text, 1);
+  lost_line->addWidget(restore);
+  lost_line->addWidget(discard);
+
+  parts_->setObjectName(QStringLiteral("WndEdit"));
+  parts_->setChildrenCollapsible(false);
+  parts_->addWidget(&code_);
+  parts_->addWidget(functions_);
+  parts_->setStretchFactor(0, 1);
+  parts_->setSizes({540, 340});
+  code_.setFrameShape(QFrame::NoFrame);
+
+  auto* ok = new QPushButton(QStringLiteral("Ok"));
+  auto* cancel = new QPushButton(QStringLiteral("Cancel"));
+  ok->setObjectName(QStringLiteral("BtnFrm_0"));
+  cancel->setObjectName(QStringLiteral("BtnFrm_1"));
+  ok->setToolTip(QStringLiteral("Keep the code and close (Ctrl+Enter)"));
+  cancel->setToolTip(QStringLiteral("Close without keeping the code (Esc)"));
+  connect(ok, &QPushButton::clicked, this, [this] { logic_.Accept(); });
+  connect(cancel, &QPushButton::clicked, this, [this] { logic_.Cancel(); });
+  auto* buttons = new QHBoxLayout;
+  buttons->setContentsMargins(kRoom, 0, kRoom, kRoom);
+  buttons->addStretch(1);
+  buttons->addWidget(ok);
+  buttons->addWidget(cancel);
+  auto* head = new QVBoxLayout;
+  head->setContentsMargins(kRoom, 0, kRoom, 0);
+  head->setSpacing(kGap);
+  head->addWidget(events_);
+  head->addWidget(lost_);
+
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->setSpacing(kRoom);
+  whole->addWidget(bar_);
+  whole->addLayout(head);
+  whole->addWidget(parts_, 1);
+  whole->addLayout(buttons);
+  setTabOrder(&code_, events_);
+}
+
+void CodeWindow::Refresh() {
+  setWindowTitle(ToQString(logic_.Caption()));
+  const QSignalBlocker quiet(events_);
+  events_->clear();
+  for (const editor::EventRow& row : logic_.Events()) events_->addItem(ToQString(row.Text));
+  events_->setCurrentIndex(logic_.EventRowNo());
+  events_->setEnabled(logic_.EventsEnabled());
+  lost_->setVisible(logic_.Lost() != nullptr);
+}
+
+void CodeWindow::ShowOpened() {
+  Refresh();
+  functions_->Refresh(logic_.ComboSearch());
+  ShowFunctions(logic_.WndFuncVisible());
+  BringToFront();
+  code_.SetFocus();
+}
+
+void CodeWindow::BringToFront() {
+  if (isMinimized()) showNormal();
+  show();
+  raise();
+  activateWindow();
+}
+
+void CodeWindow::ShowFunctions(bool shown) {
+  logic_.ShowWndFunc(shown);
+  functions_->setVisible(shown);
+  tools_->Action(kFunctions).setEnabled(!shown);
+}
+
+void CodeWindow::ShowHelpOf(const QString& word) {
+  std::string name = FromQString(word);
+  while (name.ends_with('.')) name.pop_back();
+  // The word at the caret comes without its type suffix.
+  if (!logic_.Functions().ShowHelpOf(name) && !logic_.Functions().ShowHelpOf(name + "$")) return;
+  ShowFunctions(true);
+  functions_->ShowHelp();
+}
+
+void CodeWindow::ShowMenu(const QPoint& place) {
+  QMenu menu(this);
+  menu.setObjectName(QStringLiteral("mnu"));
+  for (int row = 0; row < kMenuRows; ++row) {
+    if (row == kHelpRow) {
+      // The row is there and has no command.
+      menu.addAction(QStringLiteral("Help"));
+      continue;
+    }
+    const auto tool = std::find_if(kTools.begin(), kTools.end(),
+                                   [row](const CodeTool& of) { return of.MenuRow == row; });
+    if (tool == kTools.end()) {
+      menu.addSeparator();
+    } else {
+      menu.addAction(&tools_->Action(static_cast<int>(tool - kTools.begin())));
+    }
+  }
+  menu.exec(place);
+}
+
+void CodeWindow::OpenFile() {
+  const auto path = ports_.Dialogs.OpenFile({"OPEN FILE - Tarnwick -", "All Files|*.*", "", ""});
+  if (path && !path->empty()) {
+    if (const auto text = ports_.Files.Read(*path)) {
+      const int last = code_.LineCount() - 1;
+      code_.SetSel({0, 0, last, static_cast<int>(code_.GetLine(last).size())});
+      code_.SetSelText(*text);
+      code_.SetCaretPos(0, 0);
+    }
+  }
+  code_.SetFocus();
+}
+
+void CodeWindow::SaveFile() {
+  const auto path = ports_.Dialogs.SaveFile({"SAVE FILE - Tarnwick -", "All Files|*.*", "", ""});
+  if (path && !path->empty()) ports_.Files.Replace(*path, code_.Text());
+  code_.SetFocus();
+}
+
+bool CodeWindow::event(QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() == Qt::Key_Escape && key->modifiers() == Qt::NoModifier) {
+      logic_.Cancel();
+      return true;
+    }
+  }
+  if (event->type() == QEvent::Hide) KeepPlace();
+  return QWidget::event(event);
+}
+
+void CodeWindow::closeEvent(QCloseEvent* event) {
+  // Every other way out is a Cancel; the window itself stays for the next opening.
+  event->ignore();
+  logic_.Cancel();
+}
+
+void CodeWindow::KeepPlace() {
+  const QRect place = geometry();
+  ports_.SettingsFile.Write(kWindowSection, kPlaceKey,
+                            QStringLiteral("%1,%2,%3,%4")
+                                .arg(place.x())
+                                .arg(place.y())
+                                .arg(place.width())
+                                .arg(place.height())
+                                .toStdString());
+}
+
+void CodeWindow::TakePlace() {
+  resize(kStartSize);
+  const QString kept = QString::fromStdString(ports_.SettingsFile.Read(kWindowSection, kPlaceKey));
+  const QStringList numbers = kept.split(u',');
+  if (numbers.size() != 4) {
+    // The first time it stands over the middle of the program.
+    move(parentWidget()->geometry().center() - rect().center());
+    return;
+  }
+  QRect place(numbers[0].toInt(), numbers[1].toInt(), numbers[2].toInt(), numbers[3].toInt());
+  const QRect free = screen()->availableGeometry();
+  place.setSize(place.size().boundedTo(free.size()).expandedTo({320, 240}));
+  place.moveLeft(
+      std::clamp(place.left(), free.left(), std::max(free.left(), free.right() - place.width())));
+  place.moveTop(
+      std::clamp(place.top(), free.top(), std::max(free.top(), free.bottom() - place.height())));
+  setGeometry(place);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,74 @@
+// `FormCodigo`: the window of the code editor.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "editor/form_codigo.h"
+#include "qt/editor/code_edit.h"
+#include "qt/editor/code_tools.h"
+
+class QComboBox;
+class QFrame;
+class QSplitter;
+class QToolBar;
+
+namespace tarnwick {
+
+class CommandCenter;
+class FindDialog;
+class FunctionPanelView;
+
+/// What the window asks of the program around it, besides its own logic.
+struct CodeWindowPorts {
+  FilePort& Files;
+  DialogPort& Dialogs;
+  Settings& SettingsFile;
+  CommandCenter& Commands;
+};
+
+/// Shows one event's code with its list of events, the function panel, and the commands of a text.
+/// It stands beside the design forms and is never modal.
+class CodeWindow final : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// Takes `code`, which `logic` works on, as the child that shows the text.
+  CodeWindow(editor::FormCodigo& logic, CodeEdit& code, const CodeWindowPorts& ports,
+             QWidget* parent);
+  ~CodeWindow() override;
+
+  /// Shows what the logic has opened.
+  void ShowOpened();
+  /// Caption, events and the offer of lost code again.
+  void Refresh();
+  void BringToFront();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  void BuildTools();
+  void BuildLayout();
+  void OpenFile();
+  void SaveFile();
+  void ShowFunctions(bool shown);
+  void ShowHelpOf(const QString& word);
+  void ShowMenu(const QPoint& place);
+  void KeepPlace();
+  void TakePlace();
+
+  editor::FormCodigo& logic_;
+  CodeEdit& code_;
+  CodeWindowPorts ports_;
+  QComboBox* events_;
+  QFrame* lost_;
+  QSplitter* parts_;
+  FunctionPanelView* functions_;
+  FindDialog* find_;
+  QToolBar* bar_;
+  std::unique_ptr<CodeTools> tools_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,110 @@
+#include "qt/editor/declarations_window.h"
+
+#include <QCloseEvent>
+#include <QMenu>
+#include <QPushButton>
+#include <QShortcut>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <array>
+
+#include "qt/editor/find_dialog.h"
+#include "qt/kit/icon_set.h"
+#include "qt/kit/text_bridge.h"
+#include "qt/kit/theme.h"
+#include "shell/command_center.h"
+
+namespace tarnwick {
+
+namespace {
+
+/// `BtnMenu` by index; the first five are the rows of `popItem` too.
+constexpr std::array<CodeTool, 6> kTools{{
+    {"Cut", "cut", "", "Cut", 0},
+    {"Copy", "copy", "", "Copy", 1},
+    {"Paste", "paste", "", "Paste", 2},
+    {"UnDo", "undo", "", "UnDo", 3},
+    {"ReDo", "redo", "", "ReDo", 4},
+    {"Search", "search", "Ctrl+F", "", -1},
+}};
+constexpr int kSearch = 5;
+constexpr int kPopItems = 5;
+constexpr QSize kStartSize(700, 460);
+
+}  // namespace
+
+DeclarationsWindow::DeclarationsWindow(editor::FormViewCodes& logic, CodeEdit& code,
+                                       CommandCenter& commands, QWidget* parent)
+    : QWidget(parent, Qt::Window),
+      logic_(logic),
+      code_(code),
+      find_(new FindDialog(code, this)),
+      bar_(new QToolBar) {
+  setObjectName(QStringLiteral("FormViewCodes"));
+  setWindowIcon(IconOf(QStringLiteral("declarations")));
+  resize(kStartSize);
+  bar_->setIconSize({18, 18});
+  tools_ = std::make_unique<CodeTools>(kTools, *bar_, *this);
+  tools_->RunEdit(code_, 0);
+  tools_->Run(kSearch, [this] { find_->Open(); });
+  const auto key = [this](const QKeySequence& keys, auto run) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, run);
+  };
+  key(QKeySequence(Qt::Key_F3), [this] { find_->Find(true); });
+  key(QKeySequence(Qt::SHIFT | Qt::Key_F3), [this] { find_->Find(false); });
+  key(QKeySequence(Qt::Key_F5), [&commands] { commands.Run(Command::Compile); });
+  key(QKeySequence(Qt::CTRL | Qt::Key_Return), [this] { logic_.Accept(); });
+  key(QKeySequence(Qt::CTRL | Qt::Key_Enter), [this] { logic_.Accept(); });
+
+  auto* ok = new QPushButton(QStringLiteral("Ok"));
+  ok->setObjectName(QStringLiteral("Command1"));
+  ok->setToolTip(QStringLiteral("Keep the text and close (Ctrl+Enter)"));
+  connect(ok, &QPushButton::clicked, this, [this] { logic_.Accept(); });
+  auto* buttons = new QHBoxLayout;
+  buttons->setContentsMargins(kRoom, 0, kRoom, kRoom);
+  buttons->addStretch(1);
+  buttons->addWidget(ok);
+  code_.setFrameShape(QFrame::NoFrame);
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->setSpacing(kRoom);
+  whole->addWidget(bar_);
+  whole->addWidget(&code_, 1);
+  whole->addLayout(buttons);
+  code_.setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(&code_, &QWidget::customContextMenuRequested, this, [this](const QPoint& place) {
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("popItem"));
+    for (int row = 0; row < kPopItems; ++row) menu.addAction(&tools_->Action(row));
+    menu.exec(code_.mapToGlobal(place));
+  });
+}
+
+DeclarationsWindow::~DeclarationsWindow() = default;
+
+void DeclarationsWindow::ShowOpened() {
+  setWindowTitle(ToQString(logic_.Caption()));
+  if (isMinimized()) showNormal();
+  show();
+  raise();
+  activateWindow();
+  code_.SetFocus();
+}
+
+bool DeclarationsWindow::event(QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() == Qt::Key_Escape && key->modifiers() == Qt::NoModifier) {
+      logic_.Cancel();
+      return true;
+    }
+  }
+  return QWidget::event(event);
+}
+
+void DeclarationsWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  logic_.Cancel();
+}
+
+}  // namespace tarnwick

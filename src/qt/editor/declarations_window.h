@@ -1,0 +1,42 @@
+// `FormViewCodes`: the window of a form's Public Declarations.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "editor/form_view_codes.h"
+#include "qt/editor/code_edit.h"
+#include "qt/editor/code_tools.h"
+
+class QToolBar;
+
+namespace tarnwick {
+
+class CommandCenter;
+class FindDialog;
+
+/// An editor, a toolbar and an Ok; it stands beside the other windows.
+class DeclarationsWindow final : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// Takes `code`, which `logic` works on, as the child that shows the text.
+  DeclarationsWindow(editor::FormViewCodes& logic, CodeEdit& code, CommandCenter& commands,
+                     QWidget* parent);
+  ~DeclarationsWindow() override;
+
+  void ShowOpened();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  editor::FormViewCodes& logic_;
+  CodeEdit& code_;
+  FindDialog* find_;
+  QToolBar* bar_;
+  std::unique_ptr<CodeTools> tools_;
+};
+
+}  // namespace tarnwick

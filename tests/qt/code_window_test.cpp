@@ -1,0 +1,375 @@
+#include "qt/editor/code_window.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+#include <QToolBar>
+#include <QToolButton>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "codegen/program_source.h"
+#include "editor/editor_project.h"
+#include "editor/intellisense_cases.h"
+#include "qt/editor/code_edit.h"
+#include "qt/kit/text_bridge.h"
+#include "qt/program.h"
+#include "text/strings.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kButtonTool = 0;
+constexpr int kLabelTool = 3;
+
+class CodeWindowTest : public testing::Test {
+ protected:
+  CodeWindow& Window() { return program.Find<CodeWindow>(QStringLiteral("FormCodigo")); }
+  CodeEdit& Editor() { return program.Find<CodeEdit>(QStringLiteral("Editor")); }
+  QToolButton& Tool(int index) {
+    auto* tool = Window().findChild<QToolButton*>(QStringLiteral("BtnMenu_%1").arg(index));
+    EXPECT_NE(tool, nullptr) << index;
+    return *tool;
+  }
+  QComboBox& Events() { return program.Find<QComboBox>(QStringLiteral("Events")); }
+  std::string Code(std::string_view key) {
+    const std::string* code = program.Tables().EventTable.Find(key);
+    return code == nullptr ? "(none)" : *code;
+  }
+  void OpenCodeOfNewButton() {
+    program.Place(kButtonTool, {40, 60});
+    program.Key(Qt::Key_F7);
+    Program::Settle();
+    ASSERT_TRUE(Window().isVisible());
+  }
+  void TypeCode(const QString& text) { QTest::keyClicks(Editor().viewport(), text); }
+  void KeyInCode(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {
+    QTest::keyClick(&Editor(), key, held);
+  }
+  void ChooseEvent(int row) {
+    Events().setCurrentIndex(row);
+    Q_EMIT Events().activated(row);
+  }
+
+  Program program;
+};
+
+TEST_F(CodeWindowTest, F7OpensTheCodeOfTheSelection) {
+  OpenCodeOfNewButton();
+  EXPECT_EQ(Window().windowTitle(), QStringLiteral("Form1Btn1"));
+  EXPECT_EQ(Events().currentText(), QStringLiteral("Sub Form1Btn1_OnClick"));
+  EXPECT_EQ(Events().count(), 7);
+  EXPECT_FALSE(Window().isModal());
+  EXPECT_EQ(QApplication::focusWidget(), &Editor());
+}
+
+TEST_F(CodeWindowTest, WhatIsTypedAndAcceptedReachesTheGeneratedSourceAndTheEventsBar) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("Beep"));
+  program.Find<QPushButton>(QStringLiteral("BtnFrm_0")).click();
+  Program::Settle();
+  EXPECT_FALSE(Window().isVisible());
+  EXPECT_EQ(Code("Form1.Button1.OnClick"), "Beep");
+  GeneratorState state;
+  EXPECT_TRUE(Contains(GenerateSource(program.Tables(), state), "Sub Form1Btn1_OnClick\r\nBeep"));
+  EXPECT_EQ(program.Shell().Tables().FormsBar.at(1)->Entries.size(), 1U);
+}
+
+TEST_F(CodeWindowTest, AChangeOfEventKeepsTheTextOfTheOneBefore) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("one"));
+  ChooseEvent(1);
+  EXPECT_EQ(Editor().Text(), "");
+  TypeCode(QStringLiteral("two"));
+  ChooseEvent(0);
+  EXPECT_EQ(Editor().Text(), "one");
+  EXPECT_FALSE(Editor().isUndoAvailable());
+  EXPECT_EQ(Code("Form1.Button1.OnKeyDown"), "two");
+}
+
+TEST_F(CodeWindowTest, EscClosesWithoutKeepingAndTheLostTextIsOffered) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("lost"));
+  QTest::keyClick(&Window(), Qt::Key_Escape);
+  EXPECT_FALSE(Window().isVisible());
+  EXPECT_EQ(Code("Form1.Button1.OnClick"), "(none)");
+  program.Key(Qt::Key_F7);
+  Program::Settle();
+  EXPECT_EQ(Editor().Text(), "");
+  auto& restore = program.Find<QPushButton>(QStringLiteral("RestoreCode"));
+  ASSERT_TRUE(restore.isVisible());
+  restore.click();
+  EXPECT_EQ(Editor().Text(), "lost");
+  EXPECT_FALSE(restore.isVisible());
+  Editor().undo();
+  EXPECT_EQ(Editor().Text(), "");
+}
+
+TEST_F(CodeWindowTest, ClosingTheWindowIsACancel) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("lost"));
+  Window().close();
+  EXPECT_FALSE(Window().isVisible());
+  EXPECT_EQ(Code("Form1.Button1.OnClick"), "(none)");
+}
+
+TEST_F(CodeWindowTest, CtrlEnterAccepts) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("x"));
+  program.Key(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(Code("Form1.Button1.OnClick"), "x");
+  EXPECT_FALSE(Window().isVisible());
+}
+
+TEST_F(CodeWindowTest, TheCodeOfADeletedNeighbourGoesAndItsOwnStays) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("mine"));
+  program.Key(Qt::Key_Return, Qt::ControlModifier);
+  program.Place(kLabelTool, {150, 100});
+  program.Shell().Commands().Run(Command::Delete);
+  EXPECT_EQ(Code("Form1.Button1.OnClick"), "mine");
+}
+
+TEST_F(CodeWindowTest, MenuBarToolbarAndContextMenuHaveTheirRows) {
+  OpenCodeOfNewButton();
+  const QStringList tips{QStringLiteral("Open Code"),
+                         QStringLiteral("Save Code"),
+                         QStringLiteral("Cut"),
+                         QStringLiteral("Copy"),
+                         QStringLiteral("Paste"),
+                         QStringLiteral("UnDo"),
+                         QStringLiteral("ReDo"),
+                         QStringLiteral("Search"),
+                         QStringLiteral("Public Declarations"),
+                         QStringLiteral("Functions"),
+                         QStringLiteral("Objects Examiner")};
+  auto& bar = program.Find<QToolBar>(QStringLiteral("Barra"));
+  for (int i = 0; i < tips.size(); ++i) {
+    auto* button = bar.findChild<QToolButton*>(QStringLiteral("BtnMenu_%1").arg(i));
+    ASSERT_NE(button, nullptr) << i;
+    EXPECT_EQ(button->accessibleName(), tips[i]);
+    EXPECT_TRUE(button->toolTip().startsWith(tips[i])) << i;
+  }
+}
+
+TEST_F(CodeWindowTest, UndoIsOffAtTheStartOfTheHistory) {
+  OpenCodeOfNewButton();
+  auto& undo = Tool(5);
+  EXPECT_FALSE(undo.isEnabled());
+  TypeCode(QStringLiteral("x"));
+  EXPECT_TRUE(undo.isEnabled());
+  undo.click();
+  EXPECT_EQ(Editor().Text(), "");
+  EXPECT_FALSE(undo.isEnabled());
+}
+
+TEST_F(CodeWindowTest, OpenCodeReplacesTheTextAndACancelledDialogLeavesIt) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("old"));
+  Tool(0).click();
+  EXPECT_EQ(Editor().Text(), "old");
+  EXPECT_EQ(program.Dialogs.LastRequest.Title, "OPEN FILE - Tarnwick -");
+  program.Projects.Write("code.txt", "line 1\r\nline 2");
+  program.Dialogs.OpenAnswers.push_back(program.Projects.Path("code.txt"));
+  Tool(0).click();
+  EXPECT_EQ(Editor().Text(), "line 1\r\nline 2");
+  program.Dialogs.SaveAnswers.push_back(program.Projects.Path("out.txt"));
+  Tool(1).click();
+  EXPECT_EQ(program.Projects.Read("out.txt"), "line 1\r\nline 2");
+}
+
+TEST_F(CodeWindowTest, AnEnterKeepsTheIndentOfTheLine) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("    a"));
+  KeyInCode(Qt::Key_Return);
+  TypeCode(QStringLiteral("b"));
+  EXPECT_EQ(Editor().Text(), "    a\r\n    b");
+}
+
+TEST_F(CodeWindowTest, CtrlSlashCommentsTheSelectedLinesAndTakesItBack) {
+  OpenCodeOfNewButton();
+  Editor().SetText("a\r\nb\r\nc");
+  Editor().SetSel({0, 0, 1, 1});
+  KeyInCode(Qt::Key_Slash, Qt::ControlModifier);
+  EXPECT_EQ(Editor().Text(), "'a\r\n'b\r\nc");
+  Editor().SetSel({0, 0, 1, 2});
+  KeyInCode(Qt::Key_Slash, Qt::ControlModifier);
+  EXPECT_EQ(Editor().Text(), "a\r\nb\r\nc");
+}
+
+TEST_F(CodeWindowTest, ACharacterThatTheCodePageLacksBecomesAQuestionMarkAtOnce) {
+  OpenCodeOfNewButton();
+  QApplication::clipboard()->setText(QStringLiteral("a\u4e2db\u20ac"));
+  Editor().paste();
+  EXPECT_EQ(Editor().text(), QStringLiteral("a?b\u20ac"));
+  QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QStringLiteral("\u4e2d"));
+  QApplication::sendEvent(&Editor(), &key);
+  EXPECT_EQ(Editor().text(), QStringLiteral("a?b\u20ac?"));
+  QInputMethodEvent typed;
+  typed.setCommitString(QStringLiteral("\u4e2d\u20ac"));
+  QApplication::sendEvent(&Editor(), &typed);
+  EXPECT_EQ(Editor().text(), QStringLiteral("a?b\u20ac??\u20ac"));
+}
+
+TEST_F(CodeWindowTest, FindAndReplaceAllTellTheCount) {
+  OpenCodeOfNewButton();
+  Editor().SetText("one two one");
+  program.Key(Qt::Key_F, Qt::ControlModifier);
+  Program::Settle();
+  program.Find<QLineEdit>(QStringLiteral("FindText")).setText(QStringLiteral("ONE"));
+  program.Find<QLineEdit>(QStringLiteral("ReplaceText")).setText(QStringLiteral("three"));
+  program.Find<QPushButton>(QStringLiteral("FindNext")).click();
+  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 0, 0, 3}));
+  program.Find<QPushButton>(QStringLiteral("FindNext")).click();
+  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 8, 0, 11}));
+  program.Find<QPushButton>(QStringLiteral("FindPrevious")).click();
+  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 0, 0, 3}));
+  program.Find<QPushButton>(QStringLiteral("ReplaceAll")).click();
+  EXPECT_EQ(Editor().Text(), "three two three");
+  EXPECT_EQ(program.Find<QLabel>(QStringLiteral("FindResult")).text(),
+            QStringLiteral("2 replaced."));
+  program.Find<QPushButton>(QStringLiteral("ReplaceAll")).click();
+  EXPECT_EQ(program.Find<QLabel>(QStringLiteral("FindResult")).text(),
+            QStringLiteral("Nothing was found."));
+  Editor().undo();
+  EXPECT_EQ(Editor().Text(), "one two one");
+}
+
+TEST_F(CodeWindowTest, F1ShowsTheHelpOfTheWord) {
+  OpenCodeOfNewButton();
+  Editor().SetText("x = Mid$(a, 1)");
+  Editor().SetCaretPos(0, 6);
+  KeyInCode(Qt::Key_F1);
+  EXPECT_TRUE(program.Find<QPlainTextEdit>(QStringLiteral("EditHelp"))
+                  .toPlainText()
+                  .startsWith(QStringLiteral("MID$")));
+}
+
+TEST_F(CodeWindowTest, TheFunctionPanelFindsInsertsAndCloses) {
+  OpenCodeOfNewButton();
+  auto& panel = program.Find<QWidget>(QStringLiteral("WndFunc"));
+  ASSERT_TRUE(panel.isVisible());
+  EXPECT_FALSE(Tool(9).isEnabled());
+  program.Key(Qt::Key_F2);
+  auto& field = program.Find<QLineEdit>(QStringLiteral("EditSearch_1"));
+  EXPECT_EQ(QApplication::focusWidget(), &field);
+  QTest::keyClicks(&field, QStringLiteral("left"));
+  auto& list = program.Find<QListWidget>(QStringLiteral("ListFunc_1"));
+  EXPECT_TRUE(list.currentItem()->text().startsWith(QStringLiteral("LEFT"), Qt::CaseInsensitive));
+  QTest::keyClick(&field, Qt::Key_Return);
+  EXPECT_EQ(Editor().text(), list.currentItem()->text());
+  panel.findChild<QToolButton*>(QStringLiteral("btnClose"))->click();
+  EXPECT_FALSE(panel.isVisible());
+  EXPECT_TRUE(Tool(9).isEnabled());
+}
+
+TEST_F(CodeWindowTest, ARenameShowsInTheOpenWindowAndTheCodeStays) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("kept"));
+  program.Key(Qt::Key_Return, Qt::ControlModifier);
+  program.Selected()->Tag = "Renamed";
+  program.Key(Qt::Key_F7);
+  Program::Settle();
+  EXPECT_EQ(Window().windowTitle(), QStringLiteral("Renamed"));
+  EXPECT_EQ(Editor().Text(), "kept");
+}
+
+TEST_F(CodeWindowTest, PublicDeclarationsAreKeptByTheirOkAlone) {
+  program.Key(Qt::Key_D, Qt::ControlModifier);
+  Program::Settle();
+  auto& window = program.Find<QWidget>(QStringLiteral("FormViewCodes"));
+  ASSERT_TRUE(window.isVisible());
+  EXPECT_EQ(window.windowTitle(), QStringLiteral("Form: Form1  (Public Declarations)"));
+  auto& text = program.Find<CodeEdit>(QStringLiteral("EditorPublic"));
+  QTest::keyClicks(text.viewport(), QStringLiteral("Dim a"));
+  QTest::keyClick(&window, Qt::Key_Escape);
+  EXPECT_EQ(program.Record().DeclarePbl, "");
+  program.Key(Qt::Key_D, Qt::ControlModifier);
+  Program::Settle();
+  QTest::keyClicks(text.viewport(), QStringLiteral("Dim b"));
+  program.Find<QPushButton>(QStringLiteral("Command1")).click();
+  EXPECT_EQ(program.Record().DeclarePbl, "Dim b");
+}
+
+TEST_F(CodeWindowTest, ALongTextIsColouredAsFarAsItIsSeenAndTypingGoesOn) {
+  OpenCodeOfNewButton();
+  std::string text;
+  for (int line = 0; line < 50000; ++line) text += "x = x + 1 ' line\r\n";
+  Editor().SetText(text);
+  Editor().SetCaretPos(49999, 0);
+  TypeCode(QStringLiteral("y"));
+  EXPECT_TRUE(Editor().GetLine(49999).starts_with("yx"));
+}
+
+/// The table of the member list on the real widget, with real keys.
+class RealMemberList : public testing::TestWithParam<test::IntellisenseCase> {};
+
+TEST_P(RealMemberList, TypedKeysGiveTheList) {
+  const test::EditorProject project;
+  const editor::MemberLookup lookup(project.Tables, project.Language, editor::kFixedWordsOfCode);
+  QWidget window;
+  window.resize(700, 500);
+  CodeEdit code(QStringLiteral("Editor"), {}, lookup, "Courier New", &window);
+  code.setGeometry(0, 0, 700, 500);
+  code.setAutoIndent(false);
+  window.show();
+  window.activateWindow();
+  code.setFocus();
+  QTest::qWait(1);
+  for (const char c : GetParam().Typed) {
+    switch (c) {
+      case '\b':
+        QTest::keyClick(&code, Qt::Key_Backspace);
+        break;
+      case '\r':
+        QTest::keyClick(&code, Qt::Key_Return);
+        break;
+      case '\x1B':
+        QTest::keyClick(&code, Qt::Key_Escape);
+        break;
+      case '\x01':
+        QTest::keyClick(&code, Qt::Key_Down);
+        break;
+      case '\x02':
+        QTest::keyClick(&code, Qt::Key_Up);
+        break;
+      default:
+        QTest::keyClick(&code, c);
+    }
+  }
+  const auto* list = code.findChild<QListWidget*>(QStringLiteral("lstIntellisense"));
+  ASSERT_NE(list, nullptr);
+  std::string rows;
+  std::string selected;
+  if (list->isVisible()) {
+    for (int row = 0; row < list->count(); ++row) {
+      rows += (row == 0 ? "" : ",") + list->item(row)->text().toStdString();
+    }
+    if (!list->selectedItems().isEmpty()) selected = list->selectedItems()[0]->text().toStdString();
+  }
+  const editor::EditRange caret = code.GetSel();
+  std::string text;
+  for (int line = 0; line < caret.EndLineNo; ++line) text += code.GetLine(line) + "/";
+  std::string last = code.GetLine(caret.EndLineNo);
+  last.insert(static_cast<std::size_t>(caret.EndColNo), "|");
+  EXPECT_EQ(rows, GetParam().Rows);
+  EXPECT_EQ(selected, GetParam().Selected);
+  EXPECT_EQ(text + last, GetParam().Text);
+  EXPECT_EQ(QApplication::focusWidget(), &code);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, RealMemberList, testing::ValuesIn(test::IntellisenseCases()),
+                         [](const auto& tested) { return std::string(tested.param.Name); });
+
+}  // namespace
+}  // namespace tarnwick
