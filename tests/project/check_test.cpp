@@ -97,6 +97,11 @@ TEST_F(CheckTest, AnEmptyNameIsFoundByKindAndIndex) {
   EXPECT_EQ(finding.Row, "Name");
 }
 
+TEST_F(CheckTest, NamelessThingsDoNotShareAName) {
+  EXPECT_EQ(Found("[Label] (1) {}\r\n[Label] (2) {}\r\n"),
+            (Ids{FindingId::NameEmpty, FindingId::NameEmpty}));
+}
+
 TEST_F(CheckTest, NamesShareOneSpaceOverFormsAndItemsInAnyCase) {
   const Finding two = Only("[Label] (1) {Same}\r\n[TextBox] (1) {same}\r\n");
   EXPECT_EQ(two.Id, FindingId::NameDoubled);
@@ -179,6 +184,15 @@ TEST_F(CheckTest, PopUpsTheirItemsAndSocketsFormNoArrays) {
             Ids{});
 }
 
+TEST_F(CheckTest, SubItemsOfAPopUpAreLookedAtToo) {
+  const Finding finding = Only(
+      "[PopUpMenu] (1) {P} Width<Form1>Width Items<Cut\x8D"
+      "mnuCut\x8FOf\x8D"
+      "End\x8E>Items\r\n");
+  EXPECT_EQ(finding.Id, FindingId::NameReserved);
+  EXPECT_EQ(finding.Row, "AddItems");
+}
+
 TEST_F(CheckTest, ASecondArrayOfAKindIsNotDeclared) {
   const Finding finding =
       Only("[Label] (1) {A(1)}\r\n[Label] (2) {A(2)}\r\n[Label] (3) {B(1)}\r\n");
@@ -192,6 +206,8 @@ TEST_F(CheckTest, ASecondArrayOfAKindIsNotDeclared) {
 TEST_F(CheckTest, AnArrayThatSharesItsNameIsDoubled) {
   EXPECT_EQ(Only("[Label] (1) {A(1)}\r\n[CheckBox] (1) {A(2)}\r\n").Id, FindingId::NameDoubled);
   EXPECT_EQ(Only("[TextBox] (1) {A}\r\n[Label] (1) {A(1)}\r\n").Id, FindingId::NameDoubled);
+  LoadTwo("[Label] (1) {A(1)}\r\n", "[Label] (1) {A(2)}\r\n");
+  EXPECT_EQ(Only().Place, "Form2.A(2)") << "each form declares its own";
   // Each image has a declaration of its own.
   EXPECT_EQ(Only("[Image] (1) {A(1)} Image<(None)>Image\r\n[Image] (2) {A(2)} "
                  "Image<(None)>Image\r\n")
@@ -217,6 +233,9 @@ TEST_F(CheckTest, ListsAreUndeclaredWhileTheCurrentFormHasNone) {
   EXPECT_EQ(Check().front().Text, "it is not declared: the current form, Form1, has no ListBox");
   project_.Tables.CurrentForm = project_.Tables.User(2);
   EXPECT_EQ(Found(), Ids{});
+  LoadTwo("[ListBox] (1) {L}\r\n", "[ListBox] (1) {M}\r\n");
+  project_.Tables.CurrentForm = nullptr;
+  EXPECT_EQ(Found(), (Ids{FindingId::NotDeclared, FindingId::NotDeclared})) << "once for each form";
 }
 
 TEST_F(CheckTest, OnlyTheFirstTransparentFrameIsDeclared) {
@@ -256,6 +275,8 @@ TEST_F(CheckTest, EveryTextThatStandsBetweenQuotesIsLookedAt) {
   }
   Load("", "[Form](1) {Form1}  Image<(Default)>Image Icon<(Default)>Icon String<a\"b>String\r\n");
   EXPECT_EQ(Only().Row, "Caption");
+  Load("", "[Form](1) {Form1}  Image<(Default)>Image Icon<(Default)>Icon Tip<a\"b>Tip\r\n");
+  EXPECT_EQ(Only().Row, "Hint");
 }
 
 TEST_F(CheckTest, TextsThatTheProgramLeavesOutAreNotLookedAt) {
@@ -287,6 +308,17 @@ TEST_F(CheckTest, AnEmptyValueOfASocketIsFoundByItsRow) {
   EXPECT_EQ(finding.Row, "Type");
 }
 
+TEST_F(CheckTest, ALineBreakInAValueOfASocketIsFound) {
+  Load(
+      "[Time] (1) {T} Enabled<1>Enabled Tip<70>Tip\r\n[WinSock] {S} Tip<a>Tip Cursor<b>Cursor "
+      "String<c>String Items<0>Items\r\n");
+  EXPECT_EQ(Found(), Ids{});
+  project_.Form().WinSocks.At(1)->Protocol = "a\nb";
+  const Finding finding = Only();
+  EXPECT_EQ(finding.Id, FindingId::TextLineBreak);
+  EXPECT_EQ(finding.Row, "Protocol");
+}
+
 TEST_F(CheckTest, ASocketOnASecondFormIsCountedOnAndLosesItsValues) {
   const std::string socket =
       " Enabled<1>Enabled Tip<70>Tip\r\n[WinSock] {S%} Tip<a>Tip Cursor<b>Cursor String<c>String "
@@ -312,6 +344,11 @@ TEST_F(CheckTest, APopUpHangsOnAFormOrAnObjectThatIsThere) {
   EXPECT_EQ(Only("[PopUpMenu] (1) {P} Width<>Width\r\n").Id, FindingId::PopUpParentGone);
 }
 
+TEST_F(CheckTest, EachFormCountsItsPopUps) {
+  LoadTwo("[PopUpMenu] (1) {P} Width<Form1>Width\r\n", "[PopUpMenu] (1) {Q} Width<Form2>Width\r\n");
+  EXPECT_EQ(Found(), Ids{});
+}
+
 // ---- strict type checking
 
 TEST_F(CheckTest, StrictTypeCheckingDoesNotGoWithATransparentFrame) {
@@ -325,6 +362,17 @@ TEST_F(CheckTest, StrictTypeCheckingDoesNotGoWithATransparentFrame) {
   EXPECT_EQ(Found("[DeclarePbl] String<$TYPECHECK ON>String\r\n"), Ids{});
 }
 
+TEST_F(CheckTest, StrictTypeCheckingCountsWhereverItIsWritten) {
+  EXPECT_EQ(Only("[TransparentFrame] {T}\r\n[Button] (1) {A} Image<(None)>Image "
+                 "Click<x = 1\x95$TYPECHECK ON>Click\r\n")
+                .Id,
+            FindingId::StrictWithFrame);
+  LoadTwo("[TransparentFrame] {T}\r\n", "[DeclarePbl] String<$TYPECHECK ON>String\r\n");
+  EXPECT_EQ(Found(), Ids{FindingId::StrictWithFrame});
+  project_.Form(2).Removed = 1;
+  EXPECT_EQ(Found(), Ids{}) << "a removed form is not generated";
+}
+
 // ---- pictures
 
 TEST_F(CheckTest, PicturesPagesAndIconsThatAreMissingAreFound) {
@@ -334,6 +382,10 @@ TEST_F(CheckTest, PicturesPagesAndIconsThatAreMissingAreFound) {
   EXPECT_EQ(Only("[HtmlViewer] (1) {H} String<a.htm>String \r\n").Row, "Navigate");
   Load("", "[Form](1) {Form1} Image<w.ico>Image Icon<a.ico>Icon\r\n");
   EXPECT_EQ(Found(), (Ids{FindingId::PictureMissing, FindingId::PictureMissing}));
+  LoadTwo("", "");
+  project_.Form(2).IconFile = "C:\\gone.ico";
+  EXPECT_EQ(Found(), Ids{}) << "the first form alone gives the program its icon";
+  Load("", "[Form](1) {Form1} Image<w.ico>Image Icon<a.ico>Icon\r\n");
   for (const char* name : {"logo.bmp", "a.htm", "w.ico", "a.ico"}) {
     project_.Ports.Files.Put(std::string("C:\\Work\\") + name, "BM");
   }
