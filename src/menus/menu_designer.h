@@ -38,8 +38,9 @@ class MenuDesigner {
   [[nodiscard]] std::vector<std::string> Faults() const {
     return FaultsOfRows(design_, list_.ListMenu(), other_names_);
   }
+  /// The menu that the rows make, with the texts that are being typed.
   [[nodiscard]] std::vector<PreviewMenu> Preview() const {
-    return PreviewOf(design_, list_.ListMenu());
+    return PreviewOf(design_, list_.RowsWithTexts());
   }
 
   /// Takes the rows; texts that were typed and not added yet go into the selected row first. False

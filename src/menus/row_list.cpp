@@ -39,6 +39,14 @@ bool RowList::HasPendingText() const {
   return texts_.Caption != row.Caption || texts_.Name != row.Name;
 }
 
+Rows RowList::RowsWithTexts() const {
+  Rows rows = rows_;
+  if (selected_ >= 0 && HasPendingText()) {
+    rows[static_cast<std::size_t>(selected_)] = MenuRowText(Depth(), texts_.Caption, texts_.Name);
+  }
+  return rows;
+}
+
 int RowList::Depth() const {
   if (selected_ < 0) return 0;
   if (!Row().empty()) return MenuDepthOf(Row());

@@ -37,6 +37,8 @@ class RowList {
   [[nodiscard]] const RowTexts& Texts() const noexcept { return texts_; }
   /// The text boxes were edited.
   void SetTexts(RowTexts texts) { texts_ = std::move(texts); }
+  /// The rows as they would be with the typed texts in the selected one.
+  [[nodiscard]] Rows RowsWithTexts() const;
   /// True while the text boxes say something else than the selected row.
   [[nodiscard]] bool HasPendingText() const;
   /// How deep the selected row is, or will be once it is filled.

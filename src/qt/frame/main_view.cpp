@@ -46,7 +46,7 @@ MainView::MainView(MainWindow& window, MDIForm1& shell)
       shell_(shell),
       forms_(window, shell),
       code_(shell, window),
-      menus_(*this),
+      menus_(shell, window, code_),
       no_gestures_(std::make_unique<NoGestures>()) {
   shell.AddObserver(*this);
   shell.AddObserver(forms_);

@@ -9,7 +9,7 @@
 #include "model/project_observer.h"
 #include "qt/editor/code_windows_view.h"
 #include "qt/frame/design_windows_view.h"
-#include "qt/frame/missing_windows.h"
+#include "qt/menus/menu_windows_view.h"
 #include "shell/shell_view.h"
 
 namespace tarnwick {
@@ -76,7 +76,7 @@ class MainView final : public ShellView, public ProjectObserver {
   MDIForm1& shell_;
   DesignWindowsView forms_;
   CodeWindowsView code_;
-  MissingMenuWindows menus_;
+  MenuWindowsView menus_;
   std::string start_project_;
   QTimer time_;
   QTimer refresh_;

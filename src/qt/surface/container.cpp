@@ -1,6 +1,7 @@
 #include "qt/surface/container.h"
 
 #include <QEvent>
+#include <optional>
 
 #include "qt/kit/theme.h"
 
@@ -29,10 +30,19 @@ Container::Container(looks::PictureCache& pictures, TextCache& texts, QWidget* p
 Container::~Container() = default;
 
 DesignWindow& Container::Open(int form, DesignForm& design, DesignWindowDoors doors) {
+  // A form that was read back stands where it stood.
+  const DesignWindow* const before = Window(form);
+  const std::optional<QPoint> stood = before == nullptr || before->State() == WindowState::Maximised
+                                          ? std::nullopt
+                                          : std::optional(before->pos());
   Close(form);
   auto* window = new DesignWindow(design, pictures_, texts_, std::move(doors), canvas_);
-  const int place = kFirstPlace + (opened_++ % kSteps) * kStep;
-  window->move(place, place);
+  if (stood) {
+    window->move(*stood);
+  } else {
+    const int place = kFirstPlace + (opened_++ % kSteps) * kStep;
+    window->move(place, place);
+  }
   window->installEventFilter(this);
   windows_[form] = window;
   return *window;

@@ -44,6 +44,7 @@ DesignWindow::DesignWindow(DesignForm& form, looks::PictureCache& pictures, Text
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
   surface_->setCursor(Qt::ArrowCursor);
+  surface_->installEventFilter(menu_);
   SyncMenuBar();
   SyncWithForm();
 }

@@ -1,12 +1,13 @@
 #include "qt/surface/form_menu_strip.h"
 
+#include <QAbstractButton>
+#include <QKeyEvent>
 #include <QMenu>
-#include <QMouseEvent>
 #include <QPainter>
-#include <string_view>
+#include <algorithm>
 
 #include "looks/classic_look.h"
-#include "model/menu_bar.h"
+#include "model/menu_row.h"
 #include "qt/kit/text_bridge.h"
 
 namespace tarnwick {
@@ -14,124 +15,164 @@ namespace tarnwick {
 namespace {
 
 constexpr int kTitleRoom = 7;
-constexpr std::string_view kSeparatorCaption = "-";
+constexpr int kFontPixels = 11;
 
-/// Strips the depth prefixes; answers how many there were.
-int TakeDepth(std::string_view& caption) {
-  int depth = 0;
-  while (caption.starts_with(kMenuDepth)) {
-    caption.remove_prefix(kMenuDepth.size());
-    ++depth;
+/// The menus of a design form keep the colours of the program that is being made.
+constexpr auto kMenuSheet =
+    "QMenu { background: #C0C0C0; color: black; border: 1px solid #808080; padding: 2px; "
+    "font-size: 11px; }"
+    "QMenu::item { padding: 3px 24px 3px 20px; border-radius: 0; }"
+    "QMenu::item:selected:enabled { background: #000080; color: white; }"
+    "QMenu::item:disabled { color: #808080; }"
+    "QMenu::separator { height: 1px; background: #808080; margin: 3px 1px; }";
+
+/// The caption as it is read out, without the marks of access keys.
+QString Spoken(const QString& caption) {
+  QString spoken;
+  for (qsizetype i = 0; i < caption.size(); ++i) {
+    if (caption[i] == u'&' && i + 1 < caption.size()) ++i;
+    spoken += caption[i];
   }
-  return depth;
+  return spoken;
 }
 
 }  // namespace
 
+/// A title. Its access key is drawn only: the keys belong to the program's own menu bar.
+class FormMenuTitle final : public QAbstractButton {
+ public:
+  FormMenuTitle(QString caption, QWidget* parent)
+      : QAbstractButton(parent), caption_(std::move(caption)) {
+    setFocusPolicy(Qt::NoFocus);
+    setAccessibleName(Spoken(caption_));
+    resize(fontMetrics().size(Qt::TextShowMnemonic, caption_).width() + 2 * kTitleRoom,
+           FormMenuStrip::HeightPixels() - 1);
+    setAttribute(Qt::WA_Hover);
+    show();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    if (isDown()) {
+      looks::DrawFrame(painter, rect(), looks::kShadow, looks::kLight);
+    } else if (underMouse()) {
+      looks::DrawFrame(painter, rect(), looks::kLight, looks::kShadow);
+    }
+    painter.setPen(Qt::black);
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, caption_);
+  }
+
+ private:
+  QString caption_;
+};
+
 FormMenuStrip::FormMenuStrip(std::function<void(const ControlRef&)> chosen, QWidget* parent)
     : QWidget(parent), chosen_(std::move(chosen)) {
   setObjectName(QStringLiteral("mnuBar"));
+  setAccessibleName(QStringLiteral("Menu bar"));
   setFixedHeight(HeightPixels());
-  setMouseTracking(true);
   QFont shown = font();
-  shown.setPixelSize(11);
+  shown.setPixelSize(kFontPixels);
   setFont(shown);
 }
 
 void FormMenuStrip::Rebuild(const DesignForm& form) {
-  for (const Title& title : titles_) delete title.Items;
+  for (const Title& title : titles_) {
+    // A menu may be on its way to tell which of its items was chosen.
+    title.Button->hide();
+    title.Button->deleteLater();
+    title.Items->deleteLater();
+  }
   titles_.clear();
-  hovered_ = -1;
   int left = 0;
-  std::vector<int> places(static_cast<std::size_t>(form.UBound(Kind::Menu)) + 1, -1);
+  std::vector<QMenu*> menus(static_cast<std::size_t>(form.UBound(Kind::Menu)) + 1, nullptr);
   for (int i = 1; i <= form.UBound(Kind::Menu); ++i) {
     const ControlRef control = form.Element(Kind::Menu, i);
     if (!control || !control->Visible) continue;
     Title title;
-    title.Caption = ToQString(control->Caption);
-    title.Control = control;
-    const int width =
-        fontMetrics().size(Qt::TextShowMnemonic, title.Caption).width() + 2 * kTitleRoom;
-    title.Place = QRect(left, 0, width, HeightPixels());
+    title.Button = new FormMenuTitle(ToQString(ShownMenuCaption(control->Caption)), this);
+    title.Button->setObjectName(QStringLiteral("mnuBar_%1").arg(i));
+    title.Button->move(left, 0);
+    left += title.Button->width();
     title.Items = new QMenu(this);
-    places[static_cast<std::size_t>(i)] = static_cast<int>(titles_.size());
-    left += width;
-    titles_.push_back(std::move(title));
+    title.Items->setAccessibleName(title.Button->accessibleName());
+    title.Items->setStyleSheet(QString::fromLatin1(kMenuSheet));
+    title.Items->installEventFilter(this);
+    menus[static_cast<std::size_t>(i)] = title.Items;
+    const int place = static_cast<int>(titles_.size());
+    connect(title.Button, &QAbstractButton::pressed, this, [this, place] { Open(place); });
+    connect(title.Items, &QMenu::aboutToHide, title.Button,
+            [button = title.Button] { button->setDown(false); });
+    titles_.push_back(title);
   }
-  QMenu* nested = nullptr;
-  const QMenu* nested_under = nullptr;
   for (int i = 1; i <= form.UBound(Kind::MenuItem); ++i) {
     const ControlRef item = form.Element(Kind::MenuItem, i);
-    const auto parent = item ? static_cast<std::size_t>(qMax<int>(0, item->MenuParent)) : 0;
-    if (!item || !item->Visible || parent >= places.size() || places[parent] < 0) continue;
-    QMenu* menu = titles_[static_cast<std::size_t>(places[parent])].Items;
-    std::string_view caption = item->Caption;
-    if (TakeDepth(caption) > 0 && !menu->actions().isEmpty()) {
-      if (nested == nullptr || nested_under != menu) {
-        QAction* above = menu->actions().constLast();
-        nested = new QMenu(menu);
-        above->setMenu(nested);
-        nested_under = menu;
-      }
-      menu = nested;
-    } else {
-      nested = nullptr;
-    }
-    if (caption == kSeparatorCaption) {
-      menu->addSeparator();
-      continue;
-    }
-    connect(menu->addAction(ToQString(caption)), &QAction::triggered, this,
-            [this, item] { chosen_(item); });
+    const auto parent = item ? static_cast<std::size_t>(std::max<int>(0, item->MenuParent)) : 0;
+    if (!item || !item->Visible || parent >= menus.size() || menus[parent] == nullptr) continue;
+    AddItem(*menus[parent], item);
   }
-  update();
+  // The entry that stands by where there is no item.
+  for (const Title& title : titles_) {
+    if (title.Items->isEmpty())
+      title.Items->addAction(QStringLiteral("(no items)"))->setEnabled(false);
+  }
 }
 
-int FormMenuStrip::TitleAt(const QPoint& place) const {
-  for (std::size_t i = 0; i < titles_.size(); ++i) {
-    if (titles_[i].Place.contains(place)) return static_cast<int>(i);
+void FormMenuStrip::AddItem(QMenu& menu, const ControlRef& item) {
+  // Of a deeper item every depth prefix goes: it hangs under the title like the others.
+  const std::string caption = ShownMenuCaption(item->Caption);
+  if (caption == kMenuSeparator) {
+    menu.addSeparator();
+    return;
   }
-  return -1;
+  QAction* action = menu.addAction(ToQString(caption));
+  action->setObjectName(ToQString(item->Tag));
+  connect(action, &QAction::triggered, this, [this, item] { chosen_(item); });
 }
 
-void FormMenuStrip::Hover(int title) {
-  if (title == hovered_) return;
-  hovered_ = title;
-  update();
+void FormMenuStrip::Open(int title) {
+  if (title < 0 || title >= static_cast<int>(titles_.size())) return;
+  const Title& opened = titles_[static_cast<std::size_t>(title)];
+  opened.Button->setDown(true);
+  opened.Items->popup(opened.Button->mapToGlobal(opened.Button->rect().bottomLeft()));
+}
+
+void FormMenuStrip::OpenByKey(int title) {
+  Open(title);
+  QMenu& items = *titles_[static_cast<std::size_t>(title)].Items;
+  items.setActiveAction(items.actions().constFirst());
+}
+
+bool FormMenuStrip::PressInMenu(const QObject* menu, int key) {
+  if (key != Qt::Key_Left && key != Qt::Key_Right) return false;
+  const int count = static_cast<int>(titles_.size());
+  const auto found = std::find_if(titles_.begin(), titles_.end(),
+                                  [menu](const Title& title) { return title.Items == menu; });
+  if (found == titles_.end() || count < 2) return false;
+  const int place = static_cast<int>(found - titles_.begin());
+  found->Items->hide();
+  OpenByKey((place + (key == Qt::Key_Right ? 1 : count - 1)) % count);
+  return true;
+}
+
+bool FormMenuStrip::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    if (PressInMenu(object, key.key())) return true;
+    const bool opens = key.key() == Qt::Key_F10 && key.modifiers() == Qt::NoModifier;
+    if (opens && qobject_cast<QMenu*>(object) == nullptr && !titles_.empty()) {
+      OpenByKey(0);
+      return true;
+    }
+  }
+  return QWidget::eventFilter(object, event);
 }
 
 void FormMenuStrip::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.fillRect(rect(), looks::kFace);
   painter.fillRect(0, height() - 1, width(), 1, looks::kShadow);
-  painter.setPen(Qt::black);
-  for (std::size_t i = 0; i < titles_.size(); ++i) {
-    if (static_cast<int>(i) == hovered_) {
-      looks::DrawFrame(painter, titles_[i].Place.adjusted(0, 1, 0, -2), looks::kLight,
-                       looks::kShadow);
-    }
-    painter.drawText(titles_[i].Place, Qt::AlignCenter | Qt::TextShowMnemonic, titles_[i].Caption);
-  }
-}
-
-void FormMenuStrip::mousePressEvent(QMouseEvent* event) {
-  const int title = TitleAt(event->position().toPoint());
-  if (title < 0) return;
-  const Title& chosen = titles_[static_cast<std::size_t>(title)];
-  if (chosen.Items->isEmpty()) {
-    chosen_(chosen.Control);
-  } else {
-    chosen.Items->popup(mapToGlobal(chosen.Place.bottomLeft()));
-  }
-}
-
-void FormMenuStrip::mouseMoveEvent(QMouseEvent* event) {
-  Hover(TitleAt(event->position().toPoint()));
-}
-
-void FormMenuStrip::leaveEvent(QEvent* event) {
-  QWidget::leaveEvent(event);
-  Hover(-1);
 }
 
 }  // namespace tarnwick

@@ -11,37 +11,38 @@ class QMenu;
 
 namespace tarnwick {
 
-/// Shows a form's own menu controls as the generated program's menu bar does. A press on a title
-/// opens its items; a chosen item goes to the callback.
+class FormMenuTitle;
+
+/// Shows a form's own menu controls as the form's menu bar: titles, and under each of them its
+/// items in one level. A press on a title opens its items; a chosen item goes to the callback.
+/// F10 on the watched widget opens the first title; Left and Right go from one to the next.
 class FormMenuStrip final : public QWidget {
   Q_OBJECT
 
  public:
   FormMenuStrip(std::function<void(const ControlRef&)> chosen, QWidget* parent);
 
-  /// Reads titles and items anew from the form.
+  /// Reads titles and items again from the form.
   void Rebuild(const DesignForm& form);
+  /// Opens a title's items by its place from the left; nothing for one that is not there.
+  void Open(int title);
   [[nodiscard]] static int HeightPixels() { return 20; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
-  void leaveEvent(QEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   struct Title {
-    QString Caption;
-    QRect Place;
+    FormMenuTitle* Button = nullptr;
     QMenu* Items = nullptr;
-    ControlRef Control;
   };
-  [[nodiscard]] int TitleAt(const QPoint& place) const;
-  void Hover(int title);
+  void OpenByKey(int title);
+  void AddItem(QMenu& menu, const ControlRef& item);
+  [[nodiscard]] bool PressInMenu(const QObject* menu, int key);
 
   std::function<void(const ControlRef&)> chosen_;
   std::vector<Title> titles_;
-  int hovered_ = -1;
 };
 
 }  // namespace tarnwick
