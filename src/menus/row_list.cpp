@@ -76,8 +76,10 @@ void RowList::Enter() {
 
 void RowList::Outdent() {
   if (selected_ < 0) return;
-  if (Row().empty()) {
+  if (IsEmptyMenuRow(Row())) {
+    // Without a prefix the row would take the depth of the row above it again.
     wanted_depth_ = std::max(0, Depth() - 1);
+    Row().clear();
   } else if (MenuDepthOf(Row()) > 0) {
     Row().erase(0, kMenuDepth.size());
   }
@@ -85,11 +87,9 @@ void RowList::Outdent() {
 
 void RowList::Indent() {
   if (selected_ < 0 || Depth() >= kMostMenuDepth) return;
-  if (wanted_depth_) {
-    ++*wanted_depth_;
-  } else {
-    Row().insert(0, kMenuDepth);
-  }
+  // An empty row counts as deep as it would be once it is filled.
+  const int missing = Row().empty() ? Depth() + 1 : 1;
+  for (int level = 0; level < missing; ++level) Row().insert(0, kMenuDepth);
 }
 
 void RowList::Up() {

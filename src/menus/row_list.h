@@ -55,7 +55,8 @@ class RowList {
   /// Takes a depth prefix off the row. An empty row that would take the depth of the row above it
   /// will be one level less deep.
   void Outdent();
-  /// Adds a depth prefix, up to `kMostMenuDepth`.
+  /// Adds a depth prefix, up to `kMostMenuDepth`. An empty row becomes one level deeper than it
+  /// would have been.
   void Indent();
   /// Swaps the row with its neighbour; the selection moves with it.
   void Up();

@@ -133,6 +133,19 @@ TEST(RowList, AnEmptyRowCanBeToldToTakeLessDepthThanTheRowAbove) {
   EXPECT_EQ(list.Depth(), 1);
 }
 
+TEST(RowList, AnEmptyRowGoesOneLevelDeeperThanItWouldHaveBeen) {
+  RowList list = BarList({"A    (a)", "...B    (b)"});
+  list.Select(2);
+  list.Indent();
+  EXPECT_EQ(list.ListMenu().at(2), "......");
+  list.Outdent();
+  EXPECT_EQ(list.Depth(), 1);
+  list.Outdent();
+  EXPECT_EQ(list.Depth(), 0);
+  list.Indent();
+  EXPECT_EQ(list.ListMenu().at(2), "...");
+}
+
 TEST(RowList, UpAndDownSwapWithTheNeighbourAndTheSelectionMovesAlong) {
   RowList list = BarList({"A    (a)", "...B    (b)", "C    (c)"});
   list.Down();
