@@ -22,8 +22,6 @@ FontChoice FontOf(const DesignControl& control) {
   GetMember(control, Member::FontSize, font.Size);
   GetMember(control, Member::FontBold, font.Bold);
   GetMember(control, Member::FontItalic, font.Italic);
-  GetMember(control, Member::FontUnderline, font.Underline);
-  GetMember(control, Member::FontStrikethru, font.Strikethru);
   return font;
 }
 

@@ -18,10 +18,16 @@ FormAddItems::FormAddItems(ProjectTables& tables, ProjectObserver& observer, Des
   for (const std::string& row : ItemRows(record->Items)) text_.append(row).append(kLineEnd);
 }
 
+std::string FormAddItems::Storable(std::string_view text) {
+  std::string storable{text};
+  for (const char mark : {kStoredLineBreak, kStoredListComma}) ReplaceByte(storable, mark, '?');
+  return storable;
+}
+
 bool FormAddItems::Ok(std::string_view text) {
   ObjectRec* record = Record();
   if (record == nullptr) return false;
-  std::string lines{text};
+  std::string lines = Storable(text);
   if (!lines.empty() && !lines.ends_with('\n')) lines.append(kLineEnd);
   record->Items =
       ReplaceAll(ReplaceAll(lines, kLineEnd, "\n"), "\n", std::string_view{&kStoredLineBreak, 1});

@@ -19,6 +19,8 @@ class FormAddItems {
 
   /// The items as the dialog opens, a line each, CR LF between them and after the last.
   [[nodiscard]] const std::string& TextAdd() const noexcept { return text_; }
+  /// The text with "?" for the bytes that end an item, or stand for a comma, in the stored list.
+  [[nodiscard]] static std::string Storable(std::string_view text);
   /// Stores the lines in the object's record and in its own list, so that the form shows them.
   /// False when the object is gone.
   bool Ok(std::string_view text);

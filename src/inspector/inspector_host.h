@@ -25,6 +25,8 @@ class InspectorHost {
   /// The window has another background: its dot grid is drawn again, it is refreshed and takes
   /// the focus.
   virtual void FormRecolored(DesignForm& form) = 0;
+  /// Place or size of the form's selected object changed: its handles follow.
+  virtual void PlaceChanged(DesignForm& form) = 0;
   /// True when the file is a picture or an icon that can be shown.
   [[nodiscard]] virtual bool PictureLoads(const std::string& path) = 0;
   /// Names shown by code editor and events bar follow: what read `old_name` takes the new one.
@@ -44,9 +46,11 @@ class PropertySheetView {
   PropertySheetView& operator=(const PropertySheetView&) = delete;
   virtual ~PropertySheetView() = default;
 
+  /// The rows stand for another object or form now. RowsChanged follows.
+  virtual void SubjectChanged() {}
   /// The rows are others now, or other rows are shown.
   virtual void RowsChanged() {}
-  /// The value of one row changed.
+  /// The value of one row changed, or what is shown beside it.
   virtual void RowTextChanged(int /*row*/) {}
   /// Another row is selected, or none; buttons, list and colours go with it.
   virtual void RowSelected() {}

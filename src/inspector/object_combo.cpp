@@ -49,42 +49,39 @@ void ObjectCombo::Fill(const DesignForm& form, std::string_view form_name) {
 
 bool ObjectCombo::Bring(const DesignControl* object, std::string_view name,
                         std::string_view suffix) {
-  selected_ = PositionOf(object, name);
+  selected_ = PositionOf(object);
   if (selected_ >= 0) return false;
   selected_ = static_cast<int>(rows_.size());
   rows_.push_back({std::string{name}.append(suffix), object});
   return true;
 }
 
-int ObjectCombo::Rename(const DesignControl* object, std::string_view old_name, std::string text) {
-  const int place = PositionOf(object, old_name);
+int ObjectCombo::Rename(const DesignControl* object, std::string text) {
+  const int place = PositionOf(object);
   if (place >= 0) rows_[static_cast<std::size_t>(place)].Text = std::move(text);
   return place;
 }
 
-bool ObjectCombo::Remove(std::string_view name) {
-  const int place = PlaceToRemove(Trim(name));
-  if (place < 0) return false;
-  rows_.erase(rows_.begin() + place);
-  if (selected_ == place) {
+bool ObjectCombo::Remove(const DesignControl& object) {
+  const int row = PositionOf(&object);
+  if (row < 0) return false;
+  rows_.erase(rows_.begin() + row);
+  if (selected_ == row) {
     selected_ = -1;
-  } else if (selected_ > place) {
+  } else if (selected_ > row) {
     --selected_;
   }
   return true;
 }
 
-int ObjectCombo::PlaceToRemove(std::string_view name) const noexcept {
-  int exact = -1;
-  int folded = -1;
+int ObjectCombo::Search(std::string_view text) const noexcept {
+  int holding = -1;
   for (std::size_t i = 0; i < rows_.size(); ++i) {
-    const int place = static_cast<int>(i);
-    const std::string_view row_name = ComboRowName(rows_[i].Text);
-    if (rows_[i].Object == nullptr || !EqualsFolded(row_name, name)) continue;
-    if (row_name == name && (exact < 0 || place == selected_)) exact = place;
-    if (folded < 0) folded = place;
+    const std::size_t at = FindFolded(ComboRowName(rows_[i].Text), text);
+    if (at == 0) return static_cast<int>(i);
+    if (at != std::string_view::npos && holding < 0) holding = static_cast<int>(i);
   }
-  return exact >= 0 ? exact : folded;
+  return holding;
 }
 
 std::vector<std::string> ObjectCombo::ParentNames() const {
@@ -98,18 +95,10 @@ std::vector<std::string> ObjectCombo::ParentNames() const {
   return names;
 }
 
-int ObjectCombo::PositionOf(const DesignControl* object, std::string_view name) const noexcept {
-  const std::string_view wanted = Trim(name);
-  int place = -1;
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    const Row& row = rows_[i];
-    if ((row.Object == nullptr) != (object == nullptr) || ComboRowName(row.Text) != wanted) {
-      continue;
-    }
-    if (row.Object == object) return static_cast<int>(i);
-    if (place < 0) place = static_cast<int>(i);
-  }
-  return place;
+int ObjectCombo::PositionOf(const DesignControl* object) const noexcept {
+  const auto found = std::find_if(rows_.begin(), rows_.end(),
+                                  [object](const Row& row) { return row.Object == object; });
+  return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
 }
 
 }  // namespace tarnwick

@@ -15,15 +15,14 @@ namespace tarnwick {
 /// What stands between the last pair of brackets; "" without one.
 [[nodiscard]] std::string_view ComboRowKind(std::string_view row) noexcept;
 
-/// The rows and which of them is selected. Editing a row never builds the others anew. Where a
-/// method takes an object, null means the form. A row is found by its name, compared whole; of
-/// several objects with one name the row made for the very object is preferred, and the form's
-/// row never stands for an object's.
+/// The rows and which of them is selected. Editing a row leaves the others as they are. Where a
+/// method takes an object, null means the form. A row belongs to its object, whatever the names
+/// are: two objects may have the same.
 class ObjectCombo {
  public:
   struct Row {
     std::string Text;
-    const DesignControl* Object = nullptr;  ///< tells rows apart; never followed
+    const DesignControl* Object = nullptr;  ///< whose row it is, null for the form; never followed
   };
 
   [[nodiscard]] const std::vector<Row>& Rows() const noexcept { return rows_; }
@@ -33,20 +32,21 @@ class ObjectCombo {
   void Clear() noexcept;
   /// The form's row, then a row for each object in the order of the form's controls.
   void Fill(const DesignForm& form, std::string_view form_name);
-  /// Selects the row of a name, and adds it with the suffix where there is none; true when it was
-  /// added.
+  /// Selects an object's row, and adds one of the name with the suffix where it has none; true when
+  /// it was added.
   bool Bring(const DesignControl* object, std::string_view name, std::string_view suffix);
-  /// Gives the row of the old name another text, and answers its place; -1 when there is none.
-  int Rename(const DesignControl* object, std::string_view old_name, std::string text);
-  /// Takes an object's row out: the selected one if it has the name, else the first that has; the
-  /// name counts in either case when none fits exactly.
-  bool Remove(std::string_view name);
+  /// Gives an object's row another text, and returns its place; -1 when it has none.
+  int Rename(const DesignControl* object, std::string text);
+  /// Takes an object's row out; false when it has none.
+  bool Remove(const DesignControl& object);
+  /// The first row whose name begins with a text, in any case; else the first that holds it, so
+  /// that the part behind a form's name finds an object too. -1 for none.
+  [[nodiscard]] int Search(std::string_view text) const noexcept;
   /// The rows a popup menu can hang on: the names of all but the kinds without a surface.
   [[nodiscard]] std::vector<std::string> ParentNames() const;
 
  private:
-  [[nodiscard]] int PositionOf(const DesignControl* object, std::string_view name) const noexcept;
-  [[nodiscard]] int PlaceToRemove(std::string_view name) const noexcept;
+  [[nodiscard]] int PositionOf(const DesignControl* object) const noexcept;
 
   std::vector<Row> rows_;
   int selected_ = -1;

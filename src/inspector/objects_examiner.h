@@ -9,16 +9,21 @@
 
 namespace tarnwick {
 
+class PropertySheet;
+
 /// What the window shows. A view fills its lists from here and forwards what is chosen; places
 /// count from 0.
 class FormViewObjects {
  public:
-  explicit FormViewObjects(const language::SupportTables& tables) : tables_(tables) {}
+  FormViewObjects(const language::SupportTables& tables, const PropertySheet& sheet)
+      : tables_(tables), sheet_(sheet) {}
 
-  /// The row that the next opening selects; other windows may set it beforehand.
+  /// The row that the next opening selects; other windows may set it beforehand. 0: the kind that
+  /// is selected on the current form.
   int WantedRow = 0;
 
-  /// Fills `Lista`, selects the wanted row and forgets it.
+  /// Fills `Lista`, selects the wanted row and forgets it. With the kind of the selection, the
+  /// member of the grid's selected row is selected too.
   void Open();
   /// A row of `Lista` was chosen: its members are listed and its own description shows.
   void SelectKind(int row);
@@ -37,8 +42,10 @@ class FormViewObjects {
 
  private:
   void ShowHelp(const std::string* help);
+  void SelectPresent();
 
   const language::SupportTables& tables_;
+  const PropertySheet& sheet_;
   std::vector<std::string> kinds_;
   std::vector<std::string> members_;
   std::string text_;

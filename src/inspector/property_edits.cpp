@@ -1,41 +1,26 @@
-// Edits of the property sheet: what a typed text or a picked row does.
-#include <algorithm>
-#include <array>
+// Edits of the property sheet: what a typed text, a picked value or a dialog does.
 #include <utility>
 
+#include "inspector/control_font.h"
 #include "inspector/property_sheet.h"
-#include "text/code_page.h"
+#include "inspector/row_store.h"
+#include "inspector/typed_value.h"
 #include "text/numbers.h"
-#include "text/strings.h"
+#include "text/one_line.h"
 
 namespace tarnwick {
 
-namespace {
-
-/// Rows whose value goes through `RowChoice` into the record of the kind.
-bool GoesThroughRowChoice(std::string_view row) noexcept {
-  constexpr std::array<std::string_view, 4> kRows{"cursor", "enabled", "taborder", "visible"};
-  return std::any_of(kRows.begin(), kRows.end(),
-                     [row](std::string_view known) { return EqualsFolded(known, row); });
-}
-
-bool IsHeldAsText(RowShape shape) noexcept {
-  return shape == RowShape::Choice || shape == RowShape::Parent;
-}
-
-}  // namespace
-
 bool PropertySheet::IsEditable() const noexcept {
-  return GridBusy_ == 0 && is_row_live_ && CellAt(RowIndex_) != nullptr;
+  return !is_filling_ && is_row_live_ && rows_.At(RowIndex_) != nullptr;
 }
 
 bool PropertySheet::ApplyText(std::string_view text) {
   if (!IsEditable() || Text(RowIndex_) == text) return false;
-  return ApplyToRow(std::string{text});
+  return ApplyToRow(OneLineText(text));
 }
 
-/// Takes a text into the selected row and applies it; the row keeps it even where it is refused.
-bool PropertySheet::ApplyToRow(const std::string& text) {
+/// Takes a text into the selected row and applies it; the row shows it even where it is refused.
+bool PropertySheet::ApplyToRow(std::string text) {
   const int row = RowIndex_;
   const std::optional<RowTarget> target = Target();
   SetText(row, text);
@@ -44,25 +29,54 @@ bool PropertySheet::ApplyToRow(const std::string& text) {
     Rename(*target, text);
     return true;
   }
-  const Cell& cell = *CellAt(row);
-  if (cell.Binding == nullptr || !ApplyTyped(cell, *target, text)) return false;
+  const RowBinding* binding = BindingAt(row);
+  if (binding == nullptr || !ApplyTyped(*binding, *target, text)) return false;
+  faults_.reset();
   RereadRowsBut(row);
   return true;
 }
 
-bool PropertySheet::ApplyTyped(const Cell& cell, const RowTarget& target, const std::string& text) {
-  const RowBinding& binding = *cell.Binding;
+bool PropertySheet::ApplyTyped(const RowBinding& binding, const RowTarget& target,
+                               const std::string& text) {
   // In a row of a list a typed text counts once it names a value.
-  if (WidgetsOf(cell.Row.Mark).List) {
-    const int place = PlaceInList(text);
+  if (WidgetsOf(RowMark(RowIndex_)).List) {
+    const int place = list_.PlaceOf(text);
     if (place < 0) return false;
-    return StoreChoice(binding, target, list_rows_[static_cast<std::size_t>(place)], place);
+    const std::string value = list_.Values()[static_cast<std::size_t>(place)];
+    return edits_.Choice(binding, target, value, place);
   }
-  if (GoesThroughRowChoice(binding.Row) && binding.Shape == RowShape::Number) {
-    return StoreRowChoice(binding, target, Val(text));
+  if (IsTypedNumber(binding.Shape)) return ApplyNumber(binding, target, text);
+  switch (binding.Shape) {
+    case RowShape::Text:
+      return edits_.Text(binding, target, text);
+    case RowShape::File:
+      return edits_.Text(binding, target, FileRowText(text));
+    default:
+      return false;
   }
-  if (!StoreText(binding, target, text)) return false;
-  Finish(binding, target);
+}
+
+/// A number of many digits is stored digit by digit. One that turns out too large must not leave
+/// its beginning behind: the row goes back to the value before it was typed in.
+bool PropertySheet::ApplyNumber(const RowBinding& binding, const RowTarget& target,
+                                const std::string& text) {
+  const TypedNumber typed = ReadTypedNumber(binding.Shape, text);
+  if (typed.Is == TypedNumber::State::Unfinished) return false;
+  if (typed.Is == TypedNumber::State::Number && edits_.Number(binding, target, typed.Value)) {
+    return true;
+  }
+  if (number_at_entry_ && StoredNumber(binding, target) != number_at_entry_) {
+    edits_.Number(binding, target, *number_at_entry_);
+  }
+  return false;
+}
+
+bool PropertySheet::Revert() {
+  if (!IsEditable()) return false;
+  const std::string shown = Text(RowIndex_);
+  RereadRow(RowIndex_);
+  if (shown == text_at_entry_ && Text(RowIndex_) == text_at_entry_) return false;
+  if (Text(RowIndex_) != text_at_entry_) ApplyToRow(text_at_entry_);
   return true;
 }
 
@@ -73,156 +87,120 @@ bool PropertySheet::ApplyChoice(std::string_view text, int index) {
   CloseList();
   SetText(row, value);
   const std::optional<RowTarget> target = Target();
-  const RowBinding* binding = CellAt(row)->Binding;
-  if (!target || binding == nullptr || !StoreChoice(*binding, *target, value, index)) return false;
+  const RowBinding* binding = BindingAt(row);
+  if (!target || binding == nullptr || !edits_.Choice(*binding, *target, value, index)) {
+    return false;
+  }
+  faults_.reset();
   RereadRowsBut(row);
+  TellRow(row);
   return true;
-}
-
-bool PropertySheet::StoreChoice(const RowBinding& binding, const RowTarget& target,
-                                const std::string& value, int place) {
-  if (GoesThroughRowChoice(binding.Row)) return StoreRowChoice(binding, target, place);
-  const bool is_stored = IsHeldAsText(binding.Shape) ? StoreText(binding, target, value)
-                                                     : StoreNumber(binding, target, place);
-  if (is_stored) Finish(binding, target);
-  return is_stored;
-}
-
-bool PropertySheet::StoreRowChoice(const RowBinding& binding, const RowTarget& target,
-                                   double value) {
-  const std::optional<std::int16_t> choice = ToInt16(value);
-  if (!choice) return false;
-  RowChoice_ = *choice;
-  return Sync(binding, target);
 }
 
 void PropertySheet::SyncRow(std::string_view name_objet, std::string_view row_name) {
-  if (tables_.CurrentForm != nullptr) SyncRow(*tables_.CurrentForm, name_objet, row_name);
-}
-
-void PropertySheet::SyncRow(DesignForm& form, std::string_view name_objet,
-                            std::string_view row_name) {
-  const Subject subject = SubjectOf(&form, KindWordOf(name_objet));
-  const std::optional<RowTarget> target = TargetOf(subject);
+  const RowSubject subject{tables_.CurrentForm, KindWordOf(name_objet)};
+  const std::optional<RowTarget> target = subject.In(tables_);
   const RowBinding* binding = target ? BindingOf(row_name, target->Id) : nullptr;
-  if (binding == nullptr || !Sync(*binding, *target)) return;
-  if (subject.Window != subject_.Window || subject.Control.lock() != subject_.Control.lock()) {
-    return;
-  }
-  for (int i = 1; i < RowCount(); ++i) {
-    if (CellAt(i)->Binding == binding) SetText(i, ValueText(*binding, *target));
-  }
-}
-
-bool PropertySheet::Sync(const RowBinding& binding, const RowTarget& target) {
-  if (!GoesThroughRowChoice(binding.Row)) return SyncRecord(binding, target);
-  if (!StoreNumber(binding, target, RowChoice_)) return false;
-  Finish(binding, target);
-  return true;
+  if (binding == nullptr || !edits_.Sync(*binding, *target) || !subject.IsSame(subject_)) return;
+  RereadRow(rows_.RowOf(row_name));
 }
 
 void PropertySheet::Rename(const RowTarget& target, const std::string& name) {
-  const std::string old_name = target.Id == Kind::Form ? target.Record.Name : target.Control->Tag;
   SelName_ = name;
-  if (target.Id == Kind::Form) {
-    RenameForm(target, old_name, name);
+  head_.Rename(target.Control, name, SelKind_);
+  edits_.Rename(target, name);
+  faults_.reset();
+  TellRow(0);
+}
+
+void PropertySheet::PickValue() {
+  if (!IsEditable()) return;
+  const std::optional<RowTarget> target = Target();
+  if (!target) return;
+  const int mark = RowMark(RowIndex_);
+  switch (mark) {
+    case row_mark::kYesNo:
+    case row_mark::kList:
+      OpenList();
+      break;
+    case row_mark::kPicture:
+    case row_mark::kIcon:
+    case row_mark::kAnyFile:
+    case row_mark::kHtmlFile:
+      Picked(pickers_.File(mark, target->Id));
+      break;
+    case row_mark::kFont:
+      PickFont(*target);
+      break;
+    case row_mark::kColor:
+    case row_mark::kColorToo:
+      PickColor();
+      break;
+    case row_mark::kFolder:
+      Picked(pickers_.Folder(Text(RowIndex_)));
+      break;
+    case row_mark::kItems:
+      OpenDesigner(*target);
+      break;
+    default:
+      break;
+  }
+}
+
+/// Opens the list with the present value marked; a second press of the button closes it.
+void PropertySheet::OpenList() {
+  if (list_.IsOpen()) {
+    CloseList();
+    return;
+  }
+  list_.Open(Text(RowIndex_));
+  if (view_ != nullptr) view_->ListOpened(true);
+}
+
+void PropertySheet::PickFont(const RowTarget& target) {
+  if (target.Control == nullptr) return;
+  const RowBinding* color = BindingOf("fontcolor", target.Id);
+  FontChoice start = FontOf(*target.Control);
+  if (color != nullptr) {
+    start.Color = ToInt32(StoredNumber(*color, target).value_or(0)).value_or(0);
+  }
+  const std::optional<FontChoice> font = pickers_.Font(start);
+  // The dialog ran a loop of its own: look again whether the object is still there.
+  const std::optional<RowTarget> now = Target();
+  if (!font || !now || now->Control != target.Control) return;
+  edits_.Font(*now, *font);
+  RereadRowsBut(0);
+  // Size and style are shown beside the name, which may be the same.
+  for (int row = 1; row < RowCount(); ++row) {
+    if (RowMark(row) == row_mark::kFont) TellRow(row);
+  }
+}
+
+void PropertySheet::PickColor() {
+  const std::int32_t start = RowColor(RowIndex_).value_or(0);
+  if (const auto color = pickers_.Color(start)) Picked(NumberText(std::int64_t{*color}));
+}
+
+void PropertySheet::OpenDesigner(const RowTarget& target) {
+  if (target.Id == Kind::PopUpMenu) {
+    host_.OpenFormPopUp(target.Window, target.Index);
   } else {
-    target.Control->Tag = name;
-  }
-  // The list of objects is edited under its guard: its own change must select nothing.
-  combo_busy_ = true;
-  const int row = combo_.Rename(target.Control, old_name, name + "   (" + SelKind_ + ")");
-  if (row >= 0 && view_ != nullptr) view_->ComboRowTextChanged(row);
-  combo_busy_ = false;
-  const int form = target.Window.Number();
-  const Kind kind = target.Id;
-  host_.NameChanged(target.Window, old_name, name);
-  observer_.EventsBarChanged(form);
-  TellChanged(form, kind);
-}
-
-void PropertySheet::RenameForm(const RowTarget& target, const std::string& old_name,
-                               const std::string& name) {
-  const int form = target.Window.Number();
-  target.Record.Name = name;
-  // The main form is kept by its whole list text, so this holds only for one typed without a file.
-  if (tables_.MainFormName == old_name) tables_.MainFormName = name;
-  tables_.ListaFrms.SetText(form, FormListText(name, target.Record.FileName));
-  if (FrmBarra* bar = tables_.Bar(form)) bar->Caption = name + "  Procedures";
-  observer_.FormListChanged();
-}
-
-/// What an edit does besides storing its value, and the word to the views. Painting a window
-/// anew lets other windows run, so nothing is read from the target afterwards.
-void PropertySheet::Finish(const RowBinding& binding, const RowTarget& target) {
-  const int form = target.Window.Number();
-  const Kind kind = target.Id;
-  switch (binding.Effect) {
-    case RowEffect::None:
-      break;
-    case RowEffect::Recolor:
-      host_.FormRecolored(target.Window);
-      break;
-    case RowEffect::WindowIcon:
-      LoadWindowIcon(target);
-      break;
-    case RowEffect::Picture:
-      LoadPicture(target, StoredText(binding, target).value_or(""));
-      break;
-    case RowEffect::Resource: {
-      const std::string file = StoredText(binding, target).value_or("");
-      LoadPicture(target, file);
-      ObjectRec* record = target.Record.Objects(target.Id)->At(target.Index);
-      record->Title = HasPicturePath(file)
-                          ? PictureResourceName(target.Window.Number(), target.Id, target.Index)
-                          : std::string{kNoPicture};
-      break;
-    }
-    case RowEffect::Frame:
-      host_.borderstylea(target.Window, target.Record.BorderStyle);
-      break;
-  }
-  TellChanged(form, kind);
-}
-
-void PropertySheet::LoadWindowIcon(const RowTarget& target) {
-  const std::string& file = target.Record.ImageFile;
-  const std::string path = file == kDefaultFile ? tables_.ProgramFolder + "\\iconapp.ico" : file;
-  if (const auto loadable = LoadablePath(path)) target.Window.WindowIcon = *loadable;
-}
-
-void PropertySheet::LoadPicture(const RowTarget& target, const std::string& path) {
-  if (!HasPicturePath(path)) {
-    target.Control->Set(Member::Picture, std::string{});
-  } else if (const auto loadable = LoadablePath(path)) {
-    target.Control->Set(Member::Picture, *loadable);
+    host_.OpenFormAddItems(target.Window);
   }
 }
 
-/// The path as it stands, or within the project; nothing when neither is a picture, and what was
-/// shown before stays.
-std::optional<std::string> PropertySheet::LoadablePath(const std::string& path) {
-  if (path.empty()) return std::nullopt;
-  if (host_.PictureLoads(path)) return path;
-  std::string resolved = ResolveProjectPath(tables_, path, true);
-  if (resolved != path && host_.PictureLoads(resolved)) return resolved;
-  return std::nullopt;
+/// A picker filled the row. Even the text that stood there is applied again: the file behind it
+/// may be another now.
+void PropertySheet::Picked(const std::optional<std::string>& text) {
+  if (text && IsEditable()) ApplyToRow(*text);
 }
 
-void PropertySheet::TellChanged(int form, Kind kind) {
-  if (kind == Kind::Form) {
-    observer_.FormChanged(form);
-  } else {
-    observer_.ControlsChanged(form);
-  }
-}
-
-/// Place of a text among the rows of the selected row's list, blanks and case aside.
-int PropertySheet::PlaceInList(std::string_view text) const noexcept {
-  for (std::size_t i = 0; i < list_rows_.size(); ++i) {
-    if (EqualsFolded(Trim(list_rows_[i]), Trim(text))) return static_cast<int>(i);
-  }
-  return -1;
+void PropertySheet::ResetValue() {
+  const RowBinding* binding = BindingAt(RowIndex_);
+  if (!IsEditable() || binding == nullptr || !binding->HasReset) return;
+  Picked(std::string{subject_.Id() == Kind::Form ? kDefaultFile : kNoPicture});
+  const std::optional<RowTarget> target = Target();
+  if (target && target->Control != nullptr) edits_.RemovePicture(*target);
 }
 
 }  // namespace tarnwick

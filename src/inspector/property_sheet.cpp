@@ -1,60 +1,44 @@
 #include "inspector/property_sheet.h"
 
-#include <algorithm>
-#include <cstddef>
 #include <utility>
 
 #include "inspector/control_font.h"
 #include "inspector/row_help.h"
+#include "inspector/row_store.h"
+#include "inspector/typed_value.h"
+#include "project/check.h"
 #include "text/code_page.h"
 #include "text/numbers.h"
-#include "text/strings.h"
 
 namespace tarnwick {
 
-namespace {
-
-constexpr std::string_view kNameRow = "Name";
-constexpr int kListDefaultHeight = 500;
-constexpr int kListRowHeight = 250;
-// A list with many values shows part of them and scrolls.
-constexpr int kLongListRowHeight = 70;
-constexpr std::size_t kLongListFrom = 8;
-
-}  // namespace
-
 PropertySheet::PropertySheet(ProjectTables& tables, const language::SupportTables& support,
                              Ports& ports, ProjectObserver& observer, InspectorHost& host)
-    : tables_(tables), support_(support), ports_(ports), observer_(observer), host_(host) {}
+    : tables_(tables),
+      support_(support),
+      ports_(ports),
+      host_(host),
+      edits_(tables, observer, host),
+      pickers_(tables, ports),
+      head_(tables, host) {}
+
+void PropertySheet::SetView(PropertySheetView* view) noexcept {
+  view_ = view;
+  head_.SetView(view);
+}
 
 void PropertySheet::ShowProperties(std::string_view kind_or_name, std::string_view object_name) {
   if (!is_visible_) return;
   SelKind_ = KindWordOf(kind_or_name);
   SelName_ = object_name;
-  GridBusy_ = 1;
-  GridFilling_ = 1;
+  is_filling_ = true;
   ClearPanel();
   TakeSubject();
   if (const std::optional<RowTarget> target = Target()) {
-    BringComboRow(*target);
+    head_.Bring(target->Control, SelName_, target->Id);
   }
-  BuildCells();
-  ShowRows();
-  GridFilling_ = 0;
-  GridBusy_ = 0;
-}
-
-/// Brings the head list to the subject's row, under its guard: that alone must select nothing.
-void PropertySheet::BringComboRow(const RowTarget& target) {
-  combo_busy_ = true;
-  const int before = combo_.Selected();
-  const bool is_new = combo_.Bring(target.Control, SelName_, InfoOf(target.Id).ComboText);
-  if (view_ != nullptr && is_new) {
-    view_->ComboChanged();
-  } else if (view_ != nullptr && combo_.Selected() != before) {
-    view_->ComboRowSelected(combo_.Selected());
-  }
-  combo_busy_ = false;
+  BuildRows();
+  is_filling_ = false;
 }
 
 void PropertySheet::ShowSelection() {
@@ -78,154 +62,122 @@ void PropertySheet::ClearPanelAndCombo() {
   ClearPanel();
   subject_ = {};
   is_row_live_ = false;
-  combo_.Clear();
-  if (!cells_.empty()) SetText(0, "");
-  if (view_ != nullptr) view_->ComboChanged();
+  SelName_.clear();
+  head_.Clear();
+  rows_.Build({}, nullptr);
+  faults_.reset();
+  if (view_ != nullptr) view_->RowsChanged();
 }
 
 void PropertySheet::SetPanelVisible(bool is_visible) {
   if (is_visible == is_visible_) return;
   is_visible_ = is_visible;
-  if (is_visible) ShowSelection();
-}
-
-/// What a kind word means on a form: the form itself, or its selected object if it is of the kind.
-PropertySheet::Subject PropertySheet::SubjectOf(const DesignForm* window,
-                                                std::string_view kind_word) const {
-  const std::optional<Kind> kind = KindOfTag(Lower(kind_word));
-  if (!kind || window == nullptr) return {};
-  if (*kind == Kind::Form) return {window->Number(), window, {}, Kind::Form, 0};
-  const ControlRef& selected = window->ControlSel;
-  if (!selected || selected->Id != *kind) return {};
-  return {window->Number(), window, selected, *kind, selected->Index};
+  if (!is_visible) return;
+  head_.Fill();
+  ShowSelection();
 }
 
 /// Notes for whom the rows are built. The selected row stays in use only while its subject does:
 /// a late text of a row must not reach the next object.
 void PropertySheet::TakeSubject() {
-  Subject subject = SubjectOf(tables_.CurrentForm, SelKind_);
-  if (subject.Window != subject_.Window || subject.Id != subject_.Id ||
-      subject.Control.lock() != subject_.Control.lock()) {
-    is_row_live_ = false;
-  }
+  RowSubject subject{tables_.CurrentForm, SelKind_};
+  if (subject.IsSame(subject_)) return;
+  is_row_live_ = false;
   subject_ = std::move(subject);
+  if (view_ != nullptr) view_->SubjectChanged();
 }
 
-std::optional<RowTarget> PropertySheet::Target() const {
-  return TargetOf(subject_);
-}
-
-std::optional<RowTarget> PropertySheet::TargetOf(const Subject& subject) const {
-  const int form = subject.FormNumber;
-  if (subject.Window == nullptr || tables_.UserIfAny(form) != subject.Window ||
-      !tables_.IsLive(form)) {
-    return std::nullopt;
+/// Fills the rows one after the other and lets the screen follow. Whatever runs meanwhile may take
+/// the object away, or show another.
+void PropertySheet::BuildRows() {
+  const RowSubject subject = subject_;
+  {
+    const std::optional<RowTarget> target = Target();
+    rows_.Build(PropertyRowsOf(support_, SelKind_), target ? &*target : nullptr);
   }
-  DesignForm& window = *tables_.User(form);
-  FormRec& record = *tables_.Form(form);
-  if (subject.Id == Kind::Form) return RowTarget{window, record, nullptr, Kind::Form, 0};
-  const ControlRef control = subject.Control.lock();
-  // A control that was unloaded may live on in someone's hand; it is no object any more.
-  if (!control || window.Element(control->Id, control->Index) != control) return std::nullopt;
-  return RowTarget{window, record, control.get(), subject.Id, subject.Index};
-}
-
-void PropertySheet::BuildCells() {
-  const std::span<const PropertyRow> rows = PropertyRowsOf(support_, SelKind_);
-  cells_.assign(rows.size() + 1, {});
-  cells_[0].Row.Name = kNameRow;
-  cells_[0].Text = SelName_;
-  const std::optional<RowTarget> target = Target();
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    Cell& cell = cells_[i + 1];
-    cell.Row = rows[i];
-    if (!target) continue;
-    cell.Binding = BindingOf(cell.Row.Name, target->Id);
-    if (cell.Binding != nullptr) cell.Text = ValueText(*cell.Binding, *target);
+  rows_.SetText(0, SelName_);
+  for (int row = 1; row < RowCount(); ++row) {
+    const std::optional<RowTarget> target = Target();
+    if (!target) break;
+    if (const RowBinding* binding = BindingAt(row)) {
+      rows_.SetText(row, ValueText(*binding, *target));
+    }
+    ports_.Screen.Yield();
+    if (!subject.IsSame(subject_)) return;
   }
+  faults_.reset();
+  if (view_ != nullptr) view_->RowsChanged();
 }
 
 std::string PropertySheet::ValueText(const RowBinding& binding, const RowTarget& target) const {
   if (binding.Shape != RowShape::Place) return StoredText(binding, target).value_or("");
   const std::optional<double> place = StoredNumber(binding, target);
-  return place ? EnumText(SelKind_, binding.Row, static_cast<int>(*place)) : "";
+  return place ? EnumText(support_, SelKind_, binding.Row, static_cast<int>(*place)) : "";
 }
 
-void PropertySheet::RowValue(std::string_view row_name, int row) {
+void PropertySheet::RereadRow(int row) {
   const std::optional<RowTarget> target = Target();
-  if (CellAt(row) == nullptr || !target) return;
-  if (EqualsFolded(row_name, kNameRow)) {
-    SetText(row, SelName_);
-    return;
-  }
-  const RowBinding* binding = BindingOf(row_name, target->Id);
-  SetText(row, binding != nullptr ? ValueText(*binding, *target) : "");
-}
-
-std::string PropertySheet::EnumText(std::string_view kind, std::string_view row_name,
-                                    int value) const {
-  return tarnwick::EnumText(support_, kind, row_name, value);
+  if (!target || row < 0) return;
+  if (row == 0) return SetText(0, SelName_);
+  if (const RowBinding* binding = BindingAt(row)) SetText(row, ValueText(*binding, *target));
 }
 
 /// Other rows may read what an edit wrote besides: both icon rows of a form, the colour that came
 /// with a font.
 void PropertySheet::RereadRowsBut(int row) {
-  const std::optional<RowTarget> target = Target();
-  if (!target) return;
   for (int i = 1; i < RowCount(); ++i) {
-    const RowBinding* binding = CellAt(i)->Binding;
-    if (i != row && binding != nullptr) SetText(i, ValueText(*binding, *target));
+    if (i != row) RereadRow(i);
   }
 }
 
 void PropertySheet::SetText(int row, std::string text) {
-  Cell* cell = CellAt(row);
-  if (cell == nullptr || cell->Text == text) return;
-  cell->Text = std::move(text);
+  if (rows_.SetText(row, std::move(text))) TellRow(row);
+}
+
+void PropertySheet::TellRow(int row) {
   if (view_ != nullptr) view_->RowTextChanged(row);
 }
 
-const PropertySheet::Cell* PropertySheet::CellAt(int row) const noexcept {
-  if (row < 0 || row >= RowCount()) return nullptr;
-  return &cells_[static_cast<std::size_t>(row)];
-}
-
-PropertySheet::Cell* PropertySheet::CellAt(int row) noexcept {
-  return const_cast<Cell*>(std::as_const(*this).CellAt(row));
+const RowBinding* PropertySheet::BindingAt(int row) const noexcept {
+  const GridRows::Cell* cell = rows_.At(row);
+  return cell != nullptr ? cell->Binding : nullptr;
 }
 
 std::string_view PropertySheet::Label(int row) const noexcept {
-  const Cell* cell = CellAt(row);
-  return cell != nullptr ? cell->Row.Name : std::string_view{};
+  const GridRows::Cell* cell = rows_.At(row);
+  return cell != nullptr ? std::string_view{cell->Row.Name} : std::string_view{};
 }
 
 const std::string& PropertySheet::Text(int row) const noexcept {
   static const std::string empty;
-  const Cell* cell = CellAt(row);
+  const GridRows::Cell* cell = rows_.At(row);
   return cell != nullptr ? cell->Text : empty;
 }
 
-bool PropertySheet::TakesTyping(int row) const noexcept {
-  const Cell* cell = CellAt(row);
-  if (cell == nullptr) return false;
-  if (row == 0) return true;
-  return cell->Binding != nullptr && cell->Binding->Shape != RowShape::Font &&
-         cell->Binding->Shape != RowShape::Items;
-}
-
-int PropertySheet::RowNameLength(int row) const noexcept {
-  return static_cast<int>(Label(row).size());
-}
-
 int PropertySheet::RowMark(int row) const noexcept {
-  const Cell* cell = CellAt(row);
+  const GridRows::Cell* cell = rows_.At(row);
   return cell != nullptr ? cell->Row.Mark : row_mark::kText;
+}
+
+bool PropertySheet::TakesTyping(int row) const noexcept {
+  if (row == 0) return RowCount() > 0;
+  const RowBinding* binding = BindingAt(row);
+  return binding != nullptr && binding->Shape != RowShape::Font &&
+         binding->Shape != RowShape::Items;
 }
 
 std::optional<FontChoice> PropertySheet::RowFont(int row) const {
   const std::optional<RowTarget> target = Target();
   if (RowMark(row) != row_mark::kFont || !target || target->Control == nullptr) return std::nullopt;
   return FontOf(*target->Control);
+}
+
+std::optional<std::int32_t> PropertySheet::RowColor(int row) const {
+  const RowBinding* binding = BindingAt(row);
+  const std::optional<RowTarget> target = Target();
+  if (binding == nullptr || binding->Shape != RowShape::Color || !target) return std::nullopt;
+  const std::optional<double> number = StoredNumber(*binding, *target);
+  return number ? ToInt32(*number) : std::nullopt;
 }
 
 std::vector<std::string> PropertySheet::RowPictures(int row) const {
@@ -236,65 +188,82 @@ std::vector<std::string> PropertySheet::RowPictures(int row) const {
   return {text, ResolveProjectPath(tables_, text, true)};
 }
 
+bool PropertySheet::IsPath(int row) const noexcept {
+  switch (RowMark(row)) {
+    case row_mark::kPicture:
+    case row_mark::kIcon:
+    case row_mark::kFolder:
+    case row_mark::kAnyFile:
+    case row_mark::kHtmlFile:
+      return true;
+    default:
+      return false;
+  }
+}
+
+std::string PropertySheet::RowFault(int row) const {
+  for (const project::Finding& fault : Faults()) {
+    if (!EqualsFolded(fault.Row, Label(row))) continue;
+    std::string text = fault.Text;
+    if (!text.empty()) text.front() = UpperByte(text.front());
+    return text.append(": ").append(fault.ToDo()).append(".");
+  }
+  return {};
+}
+
+/// The findings of the project's check that are about a row of the subject.
+const std::vector<project::Finding>& PropertySheet::Faults() const {
+  if (faults_) return *faults_;
+  faults_.emplace();
+  const std::optional<RowTarget> target = Target();
+  if (!target) return *faults_;
+  const int form = target->Window.Number();
+  for (project::Finding& finding : project::CheckProject(tables_, ports_.Files)) {
+    const bool is_meant = finding.Form == form && finding.Of == target->Id &&
+                          finding.Index == target->Index && !finding.Row.empty();
+    if (is_meant) faults_->push_back(std::move(finding));
+  }
+  return *faults_;
+}
+
 std::string PropertySheet::Help() const {
   if (!is_row_selected_) return {};
   return RowHelp(support_, SelKind_, Label(RowIndex_));
 }
 
-std::int32_t PropertySheet::RowBackColor(int row) const noexcept {
-  return is_row_selected_ && row == RowIndex_ ? kSelectedBack : kNormalBack;
-}
-
-std::int32_t PropertySheet::RowTextColor(int row) const noexcept {
-  return is_row_selected_ && row == RowIndex_ ? kSelectedText : kNormalText;
-}
-
 void PropertySheet::SetFilter(std::string_view text) {
-  if (filter_ == text) return;
-  filter_ = text;
-  ShowRows();
-}
-
-void PropertySheet::ShowRows() {
-  shown_rows_.clear();
-  for (int i = 0; i < RowCount(); ++i) {
-    const bool is_shown =
-        i == 0 || filter_.empty() || FindFolded(Label(i), filter_) != std::string_view::npos;
-    if (is_shown) shown_rows_.push_back(i);
-  }
+  if (rows_.Filter() == text) return;
+  rows_.SetFilter(text);
   if (view_ != nullptr) view_->RowsChanged();
 }
 
-int PropertySheet::RowTop(int row) const noexcept {
-  const auto found = std::lower_bound(shown_rows_.begin(), shown_rows_.end(), row);
-  if (found == shown_rows_.end() || *found != row) return -1;
-  return static_cast<int>(found - shown_rows_.begin()) * kRowHeight;
-}
-
 void PropertySheet::SelectRow(int row) {
-  const Cell* cell = CellAt(row);
+  const GridRows::Cell* cell = rows_.At(row);
   if (cell == nullptr) return;
   CloseList();
+  if (is_row_live_ && row != RowIndex_) LeaveRow();
   RowIndex_ = row;
   is_row_selected_ = true;
   is_row_live_ = true;
-  FillList(*cell);
+  last_row_ = cell->Row.Name;
+  text_at_entry_ = cell->Text;
+  const std::optional<RowTarget> target = Target();
+  number_at_entry_ = target && cell->Binding != nullptr && IsTypedNumber(cell->Binding->Shape)
+                         ? StoredNumber(*cell->Binding, *target)
+                         : std::nullopt;
+  const bool is_parent = cell->Binding != nullptr && cell->Binding->Shape == RowShape::Parent;
+  list_.Fill(is_parent ? head_.Rows().ParentNames() : cell->Row.Values);
   if (view_ != nullptr) view_->RowSelected();
 }
 
-void PropertySheet::FillList(const Cell& cell) {
-  list_rows_.clear();
-  list_height_ = kListDefaultHeight;
-  if (!WidgetsOf(cell.Row.Mark).List) return;
-  if (cell.Binding != nullptr && cell.Binding->Shape == RowShape::Parent) {
-    list_rows_ = combo_.ParentNames();
-  } else {
-    list_rows_ = cell.Row.Values;
-  }
-  if (cell.Row.Mark != row_mark::kList) return;
-  const bool is_long = cell.Row.Values.size() >= kLongListFrom;
-  list_height_ =
-      static_cast<int>(list_rows_.size()) * (is_long ? kLongListRowHeight : kListRowHeight);
+int PropertySheet::RowToEnter() const noexcept {
+  const int row = rows_.RowOf(last_row_);
+  return row > 0 ? row : 0;
+}
+
+void PropertySheet::LeaveRow() {
+  if (is_filling_ || !is_row_live_) return;
+  RereadRow(RowIndex_);
 }
 
 bool PropertySheet::Boton1Shown() const noexcept {
@@ -306,8 +275,8 @@ bool PropertySheet::Boton2Shown() const noexcept {
 }
 
 bool PropertySheet::Boton3Shown() const noexcept {
-  const Cell* cell = CellAt(RowIndex_);
-  return Boton1Shown() && cell->Binding != nullptr && cell->Binding->HasReset;
+  const RowBinding* binding = BindingAt(RowIndex_);
+  return Boton1Shown() && binding != nullptr && binding->HasReset;
 }
 
 bool PropertySheet::ButtonTakesFocus() const noexcept {
@@ -315,51 +284,17 @@ bool PropertySheet::ButtonTakesFocus() const noexcept {
 }
 
 void PropertySheet::CloseList() {
-  if (!is_list_open_) return;
-  is_list_open_ = false;
-  list_marked_ = -1;
-  if (view_ != nullptr) view_->ListOpened(false);
+  if (list_.Close() && view_ != nullptr) view_->ListOpened(false);
 }
 
-void PropertySheet::FillCombo() {
+std::string_view PropertySheet::SelectedKind() const noexcept {
   const DesignForm* form = tables_.CurrentForm;
-  const FormRec* record = form != nullptr ? tables_.RecordOf(*form) : nullptr;
-  combo_busy_ = true;
-  combo_.Clear();
-  if (record != nullptr) {
-    combo_.Fill(*form, record->Name);
-    const DesignControl* selected = form->ControlSel.get();
-    const Kind kind = selected != nullptr ? selected->Id : Kind::Form;
-    combo_.Bring(selected, selected != nullptr ? selected->Tag : record->Name,
-                 InfoOf(kind).ComboText);
-  }
-  if (view_ != nullptr) view_->ComboChanged();
-  combo_busy_ = false;
+  if (form == nullptr) return {};
+  return InfoOf(form->ControlSel ? form->ControlSel->Id : Kind::Form).Name;
 }
 
 void PropertySheet::ChooseComboRow(int place) {
-  DesignForm* form = tables_.CurrentForm;
-  const FormRec* record = form != nullptr ? tables_.RecordOf(*form) : nullptr;
-  const auto& rows = combo_.Rows();
-  if (combo_busy_ || record == nullptr || place < 0 ||
-      static_cast<std::size_t>(place) >= rows.size()) {
-    return;
-  }
-  const std::string text = rows[static_cast<std::size_t>(place)].Text;
-  if (!Contains(text, "(")) return;
-  if (ComboRowKind(text) == InfoOf(Kind::Form).Name) {
-    host_.SelectObject(*form, nullptr);
-    ShowSelection();
-    return;
-  }
-  const ControlRef control = form->FindByTag(ComboRowName(text));
-  if (!control) return;
-  host_.SelectObject(*form, control);
-  ShowSelection();
-}
-
-void PropertySheet::RemoveComboRow(std::string_view name) {
-  if (combo_.Remove(name) && view_ != nullptr) view_->ComboChanged();
+  if (head_.Choose(place)) ShowSelection();
 }
 
 }  // namespace tarnwick

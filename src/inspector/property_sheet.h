@@ -2,21 +2,23 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "inspector/grid_rows.h"
+#include "inspector/head_list.h"
 #include "inspector/inspector_host.h"
-#include "inspector/object_combo.h"
-#include "inspector/property_rows.h"
-#include "inspector/row_bindings.h"
+#include "inspector/row_edits.h"
+#include "inspector/row_subject.h"
+#include "inspector/value_list.h"
+#include "inspector/value_pickers.h"
 #include "language/support_tables.h"
 #include "model/project_observer.h"
 #include "model/project_records.h"
-#include "persistence/settings.h"
 #include "platform/ports.h"
+#include "project/finding.h"
 
 namespace tarnwick {
 
@@ -25,23 +27,18 @@ namespace tarnwick {
 ///   sheet.ShowProperties("Button3", "Form1Btn3");  // at the end of a press
 ///   sheet.SelectRow(6);                            // a click on a row
 ///   sheet.ApplyText("120");                        // each keystroke in the row
+///   sheet.LeaveRow();                              // the focus goes elsewhere
 ///   sheet.PickValue();                             // Boton1 or Boton2
 ///
 /// An edit goes to the object for which the rows were built, also when the selection has moved
-/// on meanwhile; once that object is gone it goes nowhere. Places and sizes of the panel's
-/// widgets are twips.
+/// on meanwhile; once that object is gone it goes nowhere. While a row is being typed in it shows
+/// what was typed; a row that is left shows what is stored.
 class PropertySheet {
  public:
-  static constexpr int kRowHeight = 315;
-  static constexpr std::int32_t kSelectedBack = 8388608;
-  static constexpr std::int32_t kSelectedText = 16777215;
-  static constexpr std::int32_t kNormalBack = 16777215;
-  static constexpr std::int32_t kNormalText = 0;
-
   PropertySheet(ProjectTables& tables, const language::SupportTables& support, Ports& ports,
                 ProjectObserver& observer, InspectorHost& host);
   /// The view that hears of changes; null for none.
-  void SetView(PropertySheetView* view) noexcept { view_ = view; }
+  void SetView(PropertySheetView* view) noexcept;
 
   // --- Filling ---
 
@@ -53,45 +50,44 @@ class PropertySheet {
   /// Hides buttons and list and takes the selection's colours off the rows: every press on a
   /// form does this.
   void ClearPanel();
-  /// The same, and empties head list and first row; edits go nowhere until the grid is built anew.
+  /// The same, and empties head list and grid; edits go nowhere until the next selection.
   void ClearPanelAndCombo();
+  /// A panel that is shown again has the list and rows of the present form and selection.
   void SetPanelVisible(bool is_visible);
   [[nodiscard]] bool PanelVisible() const noexcept { return is_visible_; }
 
   // --- Rows: row 0 is "Name", row i the kind's row i - 1 ---
 
-  [[nodiscard]] int RowCount() const noexcept { return static_cast<int>(cells_.size()); }
-  /// Name and value of a row; "" for a row that is not there.
+  [[nodiscard]] int RowCount() const noexcept { return rows_.Count(); }
+  /// Name, value and mark of a row; "" and no mark for a row that is not there.
   [[nodiscard]] std::string_view Label(int row) const noexcept;
   [[nodiscard]] const std::string& Text(int row) const noexcept;
+  [[nodiscard]] int RowMark(int row) const noexcept;
   /// False for rows that only a dialog fills.
   [[nodiscard]] bool TakesTyping(int row) const noexcept;
-  /// Position of the mark in the row as the support file has it, and the mark's code.
-  [[nodiscard]] int RowNameLength(int row) const noexcept;
-  [[nodiscard]] int RowMark(int row) const noexcept;
-  /// Writes the stored value of a row into its text; a member that is lacking leaves it empty.
-  void RowValue(std::string_view row_name, int row);
-  [[nodiscard]] std::string EnumText(std::string_view kind, std::string_view row_name,
-                                     int value) const;
   /// The font of a font row, its colour left out; nothing for another row.
   [[nodiscard]] std::optional<FontChoice> RowFont(int row) const;
+  /// The colour of a colour row; nothing for another row.
+  [[nodiscard]] std::optional<std::int32_t> RowColor(int row) const;
   /// The files, the first that loads counting, that a picture or icon row shows; none for another
   /// row and for one without a picture.
   [[nodiscard]] std::vector<std::string> RowPictures(int row) const;
+  /// True for a row that holds a path.
+  [[nodiscard]] bool IsPath(int row) const noexcept;
+  /// What is wrong with the value of a row and what to do, as a sentence; "" for nothing.
+  [[nodiscard]] std::string RowFault(int row) const;
   /// What the selected row is for; lines end in CR LF, "" when nothing is known or none is
   /// selected.
   [[nodiscard]] std::string Help() const;
-  [[nodiscard]] std::int32_t RowBackColor(int row) const noexcept;
-  [[nodiscard]] std::int32_t RowTextColor(int row) const noexcept;
 
   /// Shows only rows whose name holds the text, in any case; "" shows all. Row 0 always shows and
   /// rows keep their numbers.
   void SetFilter(std::string_view text);
-  [[nodiscard]] const std::string& Filter() const noexcept { return filter_; }
+  [[nodiscard]] const std::string& Filter() const noexcept { return rows_.Filter(); }
   /// The numbers of the shown rows from the top.
-  [[nodiscard]] const std::vector<int>& ShownRows() const noexcept { return shown_rows_; }
-  /// Top of a row; -1 for a row that is not shown.
-  [[nodiscard]] int RowTop(int row) const noexcept;
+  [[nodiscard]] const std::vector<int>& ShownRows() const noexcept { return rows_.Shown(); }
+  /// Top of a row, twips; -1 for a row that is not shown.
+  [[nodiscard]] int RowTop(int row) const noexcept { return rows_.TopOf(row); }
 
   // --- Selected row ---
 
@@ -100,35 +96,33 @@ class PropertySheet {
   [[nodiscard]] int RowIndex() const noexcept { return RowIndex_; }
   /// True while the selected row shows as such.
   [[nodiscard]] bool HasSelectedRow() const noexcept { return is_row_selected_; }
+  /// The row at which a user starts who goes to the grid: that of the name last selected, else row
+  /// 0.
+  [[nodiscard]] int RowToEnter() const noexcept;
+  /// The selected row is left: it shows what is stored.
+  void LeaveRow();
+  /// Puts back the value that the selected row had when it was selected. False when it has it.
+  bool Revert();
   [[nodiscard]] bool Boton1Shown() const noexcept;
   [[nodiscard]] bool Boton2Shown() const noexcept;
   [[nodiscard]] bool Boton3Shown() const noexcept;
   /// True when the shown button, and not the row's text, has the focus after the selection.
   [[nodiscard]] bool ButtonTakesFocus() const noexcept;
-  /// Top of the buttons, and of the list beneath the row's text.
-  [[nodiscard]] int ButtonTop() const noexcept { return RowTop(RowIndex_); }
-  [[nodiscard]] int ListTop() const noexcept { return RowTop(RowIndex_) + kRowHeight; }
-  [[nodiscard]] const std::vector<std::string>& ListRows() const noexcept { return list_rows_; }
-  [[nodiscard]] int ListHeight() const noexcept { return list_height_; }
-  [[nodiscard]] bool ListOpen() const noexcept { return is_list_open_; }
-  /// Place of the row's present value in the open list; -1 for none.
-  [[nodiscard]] int ListMarked() const noexcept { return list_marked_; }
+  [[nodiscard]] const ValueList& List() const noexcept { return list_; }
   void CloseList();
 
   // --- Edits: each answers whether something was stored ---
 
-  /// A text typed into the selected row, at each keystroke and when the focus leaves. A text that
-  /// the row shows already is no edit.
+  /// A text typed into the selected row, at each keystroke. A text that the row shows already is
+  /// no edit. A number that its place refuses puts back the value that the row had when it was
+  /// selected; an empty one changes nothing.
   bool ApplyText(std::string_view text);
   /// A row picked from the list: its text and its place from 0. Closes the list.
   bool ApplyChoice(std::string_view text, int index);
   /// Brings the record of the current form's selection, or of the form itself for "Form", up to
-  /// date for a row: sizes from window or control, "cursor", "enabled", "taborder" and "visible"
-  /// from `RowChoice`. The grid follows where it shows the same object; the panel need not be
+  /// date for a row. The grid follows where it shows the same object; the panel need not be
   /// visible.
   void SyncRow(std::string_view name_objet, std::string_view row_name);
-  /// The same on a form that need not be the current one.
-  void SyncRow(DesignForm& form, std::string_view name_objet, std::string_view row_name);
   /// `Boton1` and `Boton2`: the picker of the selected row. A cancelled one changes nothing.
   void PickValue();
   /// `Boton3`: back to "(Default)" or "(None)".
@@ -137,100 +131,66 @@ class PropertySheet {
   // --- Head `Combo` ---
 
   /// Builds the rows for the current form: it came to the front.
-  void FillCombo();
+  void FillCombo() { head_.Fill(); }
   /// The user picked a row: selects the form or the object and shows its properties.
   void ChooseComboRow(int place);
   /// An object is about to go.
-  void RemoveComboRow(std::string_view name);
-  [[nodiscard]] const ObjectCombo& Combo() const noexcept { return combo_; }
+  void RemoveComboRow(const DesignControl& object) { head_.Remove(object); }
+  [[nodiscard]] const ObjectCombo& Combo() const noexcept { return head_.Rows(); }
 
-  [[nodiscard]] std::int16_t GridBusy() const noexcept { return GridBusy_; }
-  [[nodiscard]] std::int16_t GridFilling() const noexcept { return GridFilling_; }
+  /// The kind that is selected on the current form, by its name in the language; "" without a form.
+  [[nodiscard]] std::string_view SelectedKind() const noexcept;
   [[nodiscard]] const std::string& SelKind() const noexcept { return SelKind_; }
   [[nodiscard]] const std::string& SelName() const noexcept { return SelName_; }
-  [[nodiscard]] std::int16_t RowChoice() const noexcept { return RowChoice_; }
 
  private:
-  struct Cell {
-    PropertyRow Row;
-    std::string Text;
-    const RowBinding* Binding = nullptr;
-  };
-  /// For whom the rows stand.
-  struct Subject {
-    int FormNumber = 0;
-    const DesignForm* Window = nullptr;
-    std::weak_ptr<DesignControl> Control;
-    Kind Id = Kind::Form;
-    int Index = 0;
-  };
-
-  [[nodiscard]] const Cell* CellAt(int row) const noexcept;
-  [[nodiscard]] Cell* CellAt(int row) noexcept;
-  /// The record and control of the subject; nothing once they are gone.
-  [[nodiscard]] std::optional<RowTarget> Target() const;
-  [[nodiscard]] std::optional<RowTarget> TargetOf(const Subject& subject) const;
-  [[nodiscard]] Subject SubjectOf(const DesignForm* window, std::string_view kind_word) const;
+  [[nodiscard]] std::optional<RowTarget> Target() const { return subject_.In(tables_); }
+  [[nodiscard]] const RowBinding* BindingAt(int row) const noexcept;
   void TakeSubject();
-  void BringComboRow(const RowTarget& target);
-  void BuildCells();
+  void BuildRows();
   [[nodiscard]] std::string ValueText(const RowBinding& binding, const RowTarget& target) const;
   void SetText(int row, std::string text);
+  void RereadRow(int row);
   void RereadRowsBut(int row);
-  void ShowRows();
-  void FillList(const Cell& cell);
+  void TellRow(int row);
+  [[nodiscard]] const std::vector<project::Finding>& Faults() const;
   [[nodiscard]] bool IsEditable() const noexcept;
 
-  bool ApplyToRow(const std::string& text);
-  bool ApplyTyped(const Cell& cell, const RowTarget& target, const std::string& text);
-  bool StoreChoice(const RowBinding& binding, const RowTarget& target, const std::string& value,
-                   int place);
-  bool StoreRowChoice(const RowBinding& binding, const RowTarget& target, double value);
-  bool Sync(const RowBinding& binding, const RowTarget& target);
+  bool ApplyToRow(std::string text);
+  bool ApplyTyped(const RowBinding& binding, const RowTarget& target, const std::string& text);
+  bool ApplyNumber(const RowBinding& binding, const RowTarget& target, const std::string& text);
   void Rename(const RowTarget& target, const std::string& name);
-  void RenameForm(const RowTarget& target, const std::string& old_name, const std::string& name);
-  void Finish(const RowBinding& binding, const RowTarget& target);
-  void LoadWindowIcon(const RowTarget& target);
-  void LoadPicture(const RowTarget& target, const std::string& path);
-  [[nodiscard]] std::optional<std::string> LoadablePath(const std::string& path);
-  void TellChanged(int form, Kind kind);
-
-  [[nodiscard]] int PlaceInList(std::string_view text) const noexcept;
   void OpenList();
-  void PickFile(const RowTarget& target);
   void PickFont(const RowTarget& target);
   void PickColor();
-  void PickFolder();
   void OpenDesigner(const RowTarget& target);
-  void Picked(const std::string& text);
+  void Picked(const std::optional<std::string>& text);
 
   ProjectTables& tables_;
   const language::SupportTables& support_;
   Ports& ports_;
-  ProjectObserver& observer_;
   InspectorHost& host_;
   PropertySheetView* view_ = nullptr;
 
-  Subject subject_;
-  std::vector<Cell> cells_;
-  std::string filter_;
-  std::vector<int> shown_rows_;
-  std::vector<std::string> list_rows_;
-  int list_height_ = 500;
-  int list_marked_ = -1;
-  bool is_list_open_ = false;
+  RowSubject subject_;
+  GridRows rows_;
+  RowEdits edits_;
+  ValuePickers pickers_;
+  HeadList head_;
+  ValueList list_;
+  /// The findings on the rows of the subject; nothing until somebody asks for them.
+  mutable std::optional<std::vector<project::Finding>> faults_;
   bool is_visible_ = true;
+  bool is_filling_ = false;
   bool is_row_selected_ = false;
-  bool is_row_live_ = false;  ///< the selected row belongs to the present subject
-  ObjectCombo combo_;
-  bool combo_busy_ = false;
+  bool is_row_live_ = false;               ///< the selected row belongs to the present subject
+  std::string text_at_entry_;              ///< what the selected row showed when it was selected
+  std::optional<double> number_at_entry_;  ///< and its stored number
+  std::string last_row_;                   ///< name of the row last selected
 
   std::string SelKind_;
   std::string SelName_;
   int RowIndex_ = -1;
-  std::int16_t GridBusy_ = 0;
-  std::int16_t GridFilling_ = 0;
-  std::int16_t RowChoice_ = 0;
 };
 
 }  // namespace tarnwick

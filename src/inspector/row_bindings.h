@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -17,6 +16,7 @@ enum class RowShape : std::uint8_t {
   Text,
   File,    ///< a text; an empty one prints "(None)"
   Number,  ///< a whole number, read by its leading digits
+  Color,   ///< a colour: a number, also in hexadecimal digits, or a name of the language
   Pixels,  ///< a place or size, in pixels; held in twips on controls and windows
   Extent,  ///< the same for a width or height, which cannot be negative
   YesNo,   ///< "False" 0, "True" any other number
@@ -73,23 +73,16 @@ struct RowTarget {
   int Index = 0;
 };
 
+/// True for a place or size: pixels in the grid.
+[[nodiscard]] constexpr bool IsMeasure(RowShape shape) noexcept {
+  return shape == RowShape::Pixels || shape == RowShape::Extent;
+}
+/// True for a row whose text is read as a number.
+[[nodiscard]] constexpr bool IsTypedNumber(RowShape shape) noexcept {
+  return shape == RowShape::Number || shape == RowShape::Color || IsMeasure(shape);
+}
+
 /// The line for a row name, in any case, on a kind; null when the kind has no such row.
 [[nodiscard]] const RowBinding* BindingOf(std::string_view row_name, Kind kind) noexcept;
-
-/// The stored value as text; a member that the control lacks, and a row of a list by place, which
-/// takes PlaceValue, give nothing.
-[[nodiscard]] std::optional<std::string> StoredText(const RowBinding& binding,
-                                                    const RowTarget& target);
-/// The stored number of a row that is held as one.
-[[nodiscard]] std::optional<double> StoredNumber(const RowBinding& binding,
-                                                 const RowTarget& target);
-/// Stores a text, or the number at its head, by the row's shape. False, and nothing changed, when
-/// the place refuses it or the shape takes no typing.
-bool StoreText(const RowBinding& binding, const RowTarget& target, std::string_view text);
-/// Stores a number: of a list row its place, of a size its pixels.
-bool StoreNumber(const RowBinding& binding, const RowTarget& target, double value);
-/// Brings the record up to date from the window or control that follows it, where both hold the
-/// value (sizes of the form and of a TransparentFrame). False when there is nothing to bring.
-bool SyncRecord(const RowBinding& binding, const RowTarget& target);
 
 }  // namespace tarnwick

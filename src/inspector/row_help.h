@@ -8,9 +8,9 @@
 
 namespace tarnwick {
 
-/// What the member descriptions say of a row on a kind ("Button", "Images"): the passages of the
-/// member that speak of the kind, without the lines that name the kinds; all passages when none
-/// does. Lines end in CR LF. "" when nothing is known of the row.
+/// What a row is for on a kind ("Button", "Images"). A row that the grid has no words for takes the
+/// passages of the member's description that speak of the kind, without the lines that name the
+/// kinds; all passages when none does. Lines end in CR LF. "" when nothing is known of the row.
 [[nodiscard]] std::string RowHelp(const language::SupportTables& support, std::string_view kind,
                                   std::string_view row);
 

@@ -77,8 +77,6 @@ struct FontChoice {
   float Size = 8.0F;
   bool Bold = false;
   bool Italic = false;
-  bool Underline = false;
-  bool Strikethru = false;
   std::int32_t Color = 0;
 };
 

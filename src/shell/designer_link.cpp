@@ -5,7 +5,7 @@
 namespace tarnwick {
 
 void DesignerLink::RemoveHeadRow(const DesignControl& object) {
-  sheet_->RemoveComboRow(object.Tag);
+  sheet_->RemoveComboRow(object);
   // The object is about to go, and its code with it.
   const DesignForm* form = state_.Tables.CurrentForm;
   if (form != nullptr) bar_->ObjectGone(form->Number(), object.ArrayAndIndex());
@@ -34,6 +34,14 @@ void InspectorLink::FormRecolored(DesignForm& form) {
   if (surface == nullptr) return;
   surface->PintaPuntitos();
   state_.View->Gestures(form.Number()).TakeFocus();
+}
+
+void InspectorLink::PlaceChanged(DesignForm& form) {
+  FormUser* surface = surfaces_.Of(form.Number());
+  const ControlRef handle = form.Element(Kind::Handle, 0);
+  if (surface == nullptr || handle == nullptr || !handle->Visible) return;
+  surface->ShowHandles(true);
+  state_.Observer.SelectionChanged(form.Number());
 }
 
 }  // namespace tarnwick

@@ -62,6 +62,7 @@ class InspectorLink final : public InspectorHost {
   void SelectObject(DesignForm& form, const ControlRef& control) override;
   void borderstylea(DesignForm& form, std::int16_t style) override;
   void FormRecolored(DesignForm& form) override;
+  void PlaceChanged(DesignForm& form) override;
   [[nodiscard]] bool PictureLoads(const std::string& path) override {
     return state_.View->PictureLoads(path);
   }

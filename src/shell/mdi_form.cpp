@@ -39,7 +39,7 @@ struct MDIForm1::Rooms {
         Edit(State, Surfaces, Forms),
         Compile(State, Project),
         Commands(State, Project, Forms, Edit, Compile, Sheet),
-        Examiner(State.Support),
+        Examiner(State.Support, Sheet),
         Start(State, Forms),
         Status(State) {
     Designer.SetSheet(Sheet);

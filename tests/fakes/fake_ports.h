@@ -147,9 +147,13 @@ class FakeScreen final : public ScreenPort {
  public:
   int Height = 768;
   int Yields = 0;
+  std::function<void()> OnYield;
 
   [[nodiscard]] int HeightPixels() override { return Height; }
-  void Yield() override { ++Yields; }
+  void Yield() override {
+    ++Yields;
+    if (OnYield) OnYield();
+  }
 };
 
 /// Log entries: "capture", "release", "confine", "free", "band L,T,R,B", "focus".

@@ -86,6 +86,19 @@ TEST(FormAddItems, OpeningAndOkLeaveTheItemsAsTheyAre) {
   }
 }
 
+TEST(FormAddItems, BytesThatTheStoredListUsesAreQuestionMarks) {
+  ItemsBench bench;
+  const ControlRef list = bench.Make(Kind::ListBox);
+  EXPECT_EQ(FormAddItems::Storable("a\x95"
+                                   "b\x8C"
+                                   "c\xA0"),
+            "a?b?c\xA0");
+  bench.Open().Ok(
+      "a\x95"
+      "b\r\n\x8C");
+  EXPECT_EQ(list->Items, (Rows{"a?b", "?"}));
+}
+
 TEST(FormAddItems, AnObjectThatIsGoneTakesNothing) {
   ItemsBench bench;
   bench.Pick(nullptr);

@@ -6,11 +6,12 @@
 
 #include <gtest/gtest.h>
 
+#include "sheet_bench.h"
+
 namespace tarnwick {
 namespace {
 
 using language::MemberSort;
-using language::SupportTables;
 using Rows = std::vector<std::string>;
 
 SupportTables Tables() {
@@ -30,7 +31,8 @@ SupportTables Tables() {
 
 TEST(ObjectsExaminer, OpeningListsTheKindsAndSelectsTheFirst) {
   const SupportTables tables = Tables();
-  FormViewObjects window{tables};
+  SheetBench bench;
+  FormViewObjects window{tables, bench.Sheet};
   window.Open();
   EXPECT_EQ(window.Lista(), (Rows{"Form", "Font", "WinSock", "Menu"}));
   EXPECT_EQ(window.KindRow(), 0);
@@ -40,7 +42,8 @@ TEST(ObjectsExaminer, OpeningListsTheKindsAndSelectsTheFirst) {
 
 TEST(ObjectsExaminer, AWantedRowIsSelectedOnce) {
   const SupportTables tables = Tables();
-  FormViewObjects window{tables};
+  SheetBench bench;
+  FormViewObjects window{tables, bench.Sheet};
   window.WantedRow = 2;
   window.Open();
   EXPECT_EQ(window.KindRow(), 2);
@@ -51,7 +54,8 @@ TEST(ObjectsExaminer, AWantedRowIsSelectedOnce) {
 
 TEST(ObjectsExaminer, FontHasItsOwnDescriptionUnderTheSameKey) {
   const SupportTables tables = Tables();
-  FormViewObjects window{tables};
+  SheetBench bench;
+  FormViewObjects window{tables, bench.Sheet};
   window.Open();
   window.SelectKind(1);
   EXPECT_EQ(window.Editor(), "The font");
@@ -59,7 +63,8 @@ TEST(ObjectsExaminer, FontHasItsOwnDescriptionUnderTheSameKey) {
 
 TEST(ObjectsExaminer, AMemberShowsItsDescription) {
   const SupportTables tables = Tables();
-  FormViewObjects window{tables};
+  SheetBench bench;
+  FormViewObjects window{tables, bench.Sheet};
   window.Open();
   window.SelectMember(0);
   EXPECT_EQ(window.Editor(), "Its text");
@@ -68,7 +73,8 @@ TEST(ObjectsExaminer, AMemberShowsItsDescription) {
 
 TEST(ObjectsExaminer, AMemberOfOneNameInSeveralKindsHasItsOwn) {
   const SupportTables tables = Tables();
-  FormViewObjects window{tables};
+  SheetBench bench;
+  FormViewObjects window{tables, bench.Sheet};
   window.Open();
   window.SelectKind(1);
   window.SelectMember(0);
@@ -80,7 +86,8 @@ TEST(ObjectsExaminer, AMemberOfOneNameInSeveralKindsHasItsOwn) {
 
 TEST(ObjectsExaminer, AKeyWithoutHelpLeavesTheDescription) {
   const SupportTables tables = Tables();
-  FormViewObjects window{tables};
+  SheetBench bench;
+  FormViewObjects window{tables, bench.Sheet};
   window.Open();
   window.SelectMember(1);
   EXPECT_EQ(window.Editor(), "The window");
@@ -91,7 +98,8 @@ TEST(ObjectsExaminer, AKeyWithoutHelpLeavesTheDescription) {
 
 TEST(ObjectsExaminer, FindSelectsTheFirstKindThatBeginsWithTheText) {
   const SupportTables tables = Tables();
-  FormViewObjects window{tables};
+  SheetBench bench;
+  FormViewObjects window{tables, bench.Sheet};
   window.Open();
   window.Find("FO");
   EXPECT_EQ(window.KindRow(), 0);
@@ -106,9 +114,44 @@ TEST(ObjectsExaminer, FindSelectsTheFirstKindThatBeginsWithTheText) {
   EXPECT_EQ(window.KindRow(), 0);
 }
 
+TEST(ObjectsExaminer, OpeningSelectsTheKindOfTheSelectionAndMarksTheMemberOfTheRow) {
+  SupportTables tables = Tables();
+  tables.ListaObjetos = {"Form", "Button", "Label"};
+  tables.MemberLists.Add("button", {{"Cancel", MemberSort::Property},
+                                    {"Caption", MemberSort::Property},
+                                    {"Font", MemberSort::Property}});
+  tables.MemberHelp.Add("button%", "The button");
+  SheetBench bench;
+  FormViewObjects window{tables, bench.Sheet};
+  bench.Make(Kind::Button);
+  window.Open();
+  EXPECT_EQ(window.KindRow(), 1);
+  EXPECT_EQ(window.MemberRow(), -1);
+  EXPECT_EQ(window.Editor(), "The button");
+  bench.Sheet.SelectRow(bench.RowOf("Caption"));
+  window.Open();
+  EXPECT_EQ(window.MemberRow(), 1);
+  EXPECT_EQ(window.Editor(), "Its text");
+  bench.Sheet.SelectRow(bench.RowOf("FontColor"));
+  window.Open();
+  EXPECT_EQ(window.MemberRow(), 2);
+  bench.Sheet.SelectRow(bench.RowOf("Name"));
+  window.Open();
+  EXPECT_EQ(window.KindRow(), 1);
+  EXPECT_EQ(window.MemberRow(), -1);
+  window.WantedRow = 2;
+  window.Open();
+  EXPECT_EQ(window.KindRow(), 2);
+  EXPECT_EQ(window.MemberRow(), -1);
+  bench.Make(Kind::HtmlViewer);
+  window.Open();
+  EXPECT_EQ(window.KindRow(), 0);
+}
+
 TEST(ObjectsExaminer, WithoutTablesTheWindowIsEmpty) {
   const SupportTables tables;
-  FormViewObjects window{tables};
+  SheetBench bench;
+  FormViewObjects window{tables, bench.Sheet};
   window.Open();
   window.SelectKind(0);
   window.SelectMember(0);

@@ -178,9 +178,8 @@ TEST(PropertyEdits, AChoiceIsWrittenIntoTheRowFirst) {
   bench.PressButton("Cursor");
   EXPECT_TRUE(bench.Sheet.ApplyChoice("crCross", 3));
   EXPECT_EQ(bench.Text("Cursor"), "crCross");
-  EXPECT_FALSE(bench.Sheet.ListOpen());
+  EXPECT_FALSE(bench.Sheet.List().IsOpen());
   EXPECT_EQ(bench.Record().Buttons.At(1)->Cursor, 3);
-  EXPECT_EQ(bench.Sheet.RowChoice(), 3);
 }
 
 TEST(PropertyEdits, ATextTypedIntoAListRowAppliesOnceItNamesAValue) {
@@ -490,12 +489,211 @@ TEST(PropertyEdits, SyncRowOfASelectionRowStoresTheSharedChoice) {
   EXPECT_EQ(bench.Text("Cursor"), "crSizeNS");
 }
 
-TEST(PropertyEdits, TypedTabOrderGoesThroughTheSharedChoice) {
+TEST(PropertyEdits, ATypedTabOrderGoesToTheRecord) {
   SheetBench bench;
   bench.Make(Kind::Button);
   EXPECT_TRUE(bench.Type("TabOrder", "5"));
-  EXPECT_EQ(bench.Sheet.RowChoice(), 5);
   EXPECT_EQ(bench.Record().Buttons.At(1)->TabOrder, 5);
+}
+
+// What a row shows is what is stored.
+
+TEST(PropertyEdits, ANumberThatIsRefusedPutsBackTheValueBeforeIt) {
+  struct Case {
+    Kind On;
+    const char* Row;
+    std::vector<const char*> Keys;
+  };
+  for (const Case& c :
+       {Case{Kind::Button, "TabOrder", {"7", "70", "700", "7000", "70000"}},
+        Case{Kind::Button, "FontColor", {"429496729", "4294967296"}},
+        Case{Kind::Button, "Width", {"-", "-5"}}, Case{Kind::Form, "Height", {"7000", "70000"}},
+        Case{Kind::Time, "Interval", {"4000", "40000"}},
+        Case{Kind::TransparentFrame, "Width", {"4000", "40000"}}}) {
+    SheetBench bench;
+    bench.MakeOrForm(c.On);
+    const std::string before = bench.Text(c.Row);
+    bench.Sheet.SelectRow(bench.RowOf(c.Row));
+    for (const char* text : c.Keys) bench.Sheet.ApplyText(text);
+    EXPECT_EQ(bench.Text(c.Row), c.Keys.back()) << c.Row;
+    bench.Sheet.LeaveRow();
+    EXPECT_EQ(bench.Text(c.Row), before) << c.Row;
+    bench.Sheet.ShowSelection();
+    EXPECT_EQ(bench.Text(c.Row), before) << c.Row;
+  }
+}
+
+TEST(PropertyEdits, ANumberThatIsCorrectedAfterARefusalIsStored) {
+  SheetBench bench;
+  bench.Make(Kind::Button);
+  bench.Sheet.SelectRow(bench.RowOf("TabOrder"));
+  EXPECT_FALSE(bench.Sheet.ApplyText("70000"));
+  EXPECT_TRUE(bench.Sheet.ApplyText("700"));
+  EXPECT_EQ(bench.Record().Buttons.At(1)->TabOrder, 700);
+}
+
+TEST(PropertyEdits, AnEmptiedNumberRowAndASignAloneApplyNothing) {
+  SheetBench bench;
+  const ControlRef button = bench.Make(Kind::Button);
+  for (const char* text : {"", "-", "+", ".", " "}) {
+    EXPECT_FALSE(bench.Type("Width", text)) << text;
+    EXPECT_EQ(button->Width, 75 * 15.0F) << text;
+  }
+  bench.Sheet.SelectRow(bench.RowOf("Caption"));
+  EXPECT_EQ(bench.Text("Width"), "75");
+}
+
+TEST(PropertyEdits, ARowThatIsLeftShowsWhatIsStored) {
+  SheetBench bench;
+  bench.Make(Kind::Button);
+  bench.Type("Left", "12abc");
+  EXPECT_EQ(bench.Text("Left"), "12abc");
+  bench.Sheet.LeaveRow();
+  EXPECT_EQ(bench.Text("Left"), "12");
+  bench.Type("TabOrder", "7.5");
+  bench.Type("Enabled", "fal");
+  EXPECT_EQ(bench.Text("TabOrder"), "8");
+  bench.Type("Cursor", "CRHELP");
+  EXPECT_EQ(bench.Text("Enabled"), "True");
+  bench.Sheet.LeaveRow();
+  EXPECT_EQ(bench.Text("Cursor"), "crHelp");
+}
+
+TEST(PropertyEdits, RevertPutsBackTheValueAtEntry) {
+  SheetBench bench;
+  const ControlRef button = bench.Make(Kind::Button);
+  bench.Sheet.SelectRow(bench.RowOf("Width"));
+  EXPECT_FALSE(bench.Sheet.Revert());
+  bench.Sheet.ApplyText("8");
+  EXPECT_TRUE(bench.Sheet.Revert());
+  EXPECT_EQ(button->Width, 75 * 15.0F);
+  EXPECT_EQ(bench.Text("Width"), "75");
+  EXPECT_FALSE(bench.Sheet.Revert());
+  bench.Sheet.ApplyText("");
+  EXPECT_TRUE(bench.Sheet.Revert());
+  EXPECT_EQ(bench.Text("Width"), "75");
+  bench.Sheet.SelectRow(0);
+  bench.Sheet.ApplyText("Other");
+  EXPECT_TRUE(bench.Sheet.Revert());
+  EXPECT_EQ(button->Tag, "Form1Btn1");
+}
+
+TEST(PropertyEdits, LineBreaksAndControlCharactersBecomeBlanks) {
+  SheetBench bench;
+  const ControlRef button = bench.Make(Kind::Button);
+  bench.Type("Name", "na\nme");
+  EXPECT_EQ(button->Tag, "na me");
+  EXPECT_EQ(bench.Sheet.Text(0), "na me");
+  bench.Type("Caption", "one\r\ntwo\tthree\x7F");
+  EXPECT_EQ(button->Caption, "one two three ");
+  bench.Type("Hint", std::string_view("a\0b\rc", 5));
+  EXPECT_EQ(button->ToolTipText, "a b c");
+  bench.Make(Kind::OpenDialog);
+  bench.Type("Filter", "Texts\n|*.txt");
+  EXPECT_EQ(bench.Record().OpenDialogs.At(1)->Filter, "Texts |*.txt");
+}
+
+TEST(PropertyEdits, AColourIsTypedAsANameANumberOrInHexadecimal) {
+  SheetBench bench;
+  const ControlRef label = bench.Make(Kind::Label);
+  const struct {
+    const char* Typed;
+    std::int32_t Colour;
+  } cases[] = {{"255", 255},
+               {"clRed", 255},
+               {"CLBLUE", 16711680},
+               {"clScrollBar", -2147483647 - 1},
+               {"clBtnFace", -2147483633},
+               {"&HFF", 255},
+               {"&h00ff00", 65280},
+               {"&H80000005", -2147483643},
+               {"$FF", 255},
+               {"$FF0000", 255},
+               {"$0000ff", 16711680},
+               {" clWhite ", 16777215},
+               {"-2147483633", -2147483633}};
+  for (const auto& c : cases) {
+    label->BackColor = 1;
+    bench.Sheet.ShowSelection();
+    EXPECT_TRUE(bench.Type("Color", c.Typed)) << c.Typed;
+    EXPECT_EQ(label->BackColor, c.Colour) << c.Typed;
+    bench.Sheet.LeaveRow();
+    EXPECT_EQ(bench.Text("Color"), std::to_string(c.Colour)) << c.Typed;
+  }
+}
+
+TEST(PropertyEdits, AHalfTypedColourChangesNothing) {
+  SheetBench bench;
+  const ControlRef label = bench.Make(Kind::Label);
+  for (const char* text : {"c", "clRe", "&", "&H", "$", "&HXY", "$GG", "red"}) {
+    EXPECT_FALSE(bench.Type("Color", text)) << text;
+    EXPECT_EQ(label->BackColor, 12632256) << text;
+  }
+  EXPECT_FALSE(bench.Type("Color", "&H123456789"));
+  EXPECT_EQ(label->BackColor, 12632256);
+  bench.Sheet.LeaveRow();
+  EXPECT_EQ(bench.Text("Color"), "12632256");
+}
+
+TEST(PropertyEdits, EveryColourRowTakesNames) {
+  SheetBench bench;
+  bench.Pick(nullptr);
+  EXPECT_TRUE(bench.Type("Color", "clBlue"));
+  EXPECT_EQ(bench.Form().BackColor, 16711680);
+  bench.Make(Kind::Button);
+  EXPECT_TRUE(bench.Type("FontColor", "clRed"));
+  EXPECT_EQ(bench.Record().Buttons.At(1)->FontColor, 255);
+  bench.Make(Kind::TransparentFrame);
+  EXPECT_TRUE(bench.Type("TranspColor", "clGreen"));
+  EXPECT_EQ(bench.Record().TfTranspColor, 65280);
+}
+
+TEST(PropertyEdits, NoneInAnyLettersIsNone) {
+  SheetBench bench;
+  const ControlRef button = bench.Make(Kind::Button);
+  button->Picture = "C:\\a.bmp";
+  bench.Type("BmpHandle", "(none)");
+  EXPECT_EQ(bench.Record().Buttons.At(1)->ImageFile, "(None)");
+  EXPECT_EQ(button->Picture, "");
+  bench.Sheet.LeaveRow();
+  EXPECT_EQ(bench.Text("BmpHandle"), "(None)");
+  bench.Pick(nullptr);
+  bench.Type("IcoHandle", "(DEFAULT)");
+  EXPECT_EQ(bench.Record().ImageFile, "(Default)");
+}
+
+TEST(PropertyEdits, AnEmptyFileRowReadsNone) {
+  SheetBench bench;
+  bench.Make(Kind::HtmlViewer);
+  bench.Type("Navigate", "page.htm");
+  bench.Type("Navigate", "");
+  bench.Sheet.LeaveRow();
+  EXPECT_EQ(bench.Text("Navigate"), "(None)");
+}
+
+TEST(PropertyEdits, APageIsShownByTheViewerOnTheForm) {
+  SheetBench bench;
+  const ControlRef viewer = bench.Make(Kind::HtmlViewer);
+  bench.Type("Navigate", "C:\\a.htm");
+  EXPECT_EQ(viewer->Text, "C:\\a.htm");
+  EXPECT_TRUE(bench.Logged("controls 1"));
+}
+
+TEST(PropertyEdits, EditsOfPlaceAndSizeMoveTheHandles) {
+  for (const char* row : {"Left", "Top", "Width", "Height"}) {
+    SheetBench bench;
+    bench.Make(Kind::Button);
+    bench.Fakes.Log.Clear();
+    bench.Type(row, "40");
+    EXPECT_TRUE(bench.Logged("place 1")) << row;
+  }
+  SheetBench bench;
+  bench.Make(Kind::Button);
+  bench.Fakes.Log.Clear();
+  bench.Type("Caption", "40");
+  bench.Pick(nullptr);
+  bench.Type("Width", "400");
+  EXPECT_EQ(bench.Fakes.Log.Count("place"), 0U);
 }
 
 }  // namespace

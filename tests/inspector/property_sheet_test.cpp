@@ -88,16 +88,12 @@ TEST(PropertySheet, WhileThePanelIsHiddenTheGridStaysAsItWas) {
   EXPECT_EQ(bench.Sheet.RowCount(), 14);
 }
 
-TEST(PropertySheet, TheGuardsAreUpOnlyWhileTheGridFills) {
+TEST(PropertySheet, NoEditIsTakenWhileTheGridFills) {
   class Watch final : public PropertySheetView {
    public:
     PropertySheet* Sheet = nullptr;
     bool WasBusy = false;
-    bool WasFilling = false;
-    void RowsChanged() override {
-      WasBusy = Sheet->GridBusy() == 1 && !Sheet->ApplyText("x") && !Sheet->ApplyChoice("x", 1);
-      WasFilling = Sheet->GridFilling() == 1;
-    }
+    void RowsChanged() override { WasBusy = !Sheet->ApplyText("x") && !Sheet->ApplyChoice("x", 1); }
   };
   SheetBench bench;
   const ControlRef button = bench.Make(Kind::Button);
@@ -107,9 +103,6 @@ TEST(PropertySheet, TheGuardsAreUpOnlyWhileTheGridFills) {
   bench.Sheet.SetView(&watch);
   bench.Sheet.ShowSelection();
   EXPECT_TRUE(watch.WasBusy);
-  EXPECT_TRUE(watch.WasFilling);
-  EXPECT_EQ(bench.Sheet.GridBusy(), 0);
-  EXPECT_EQ(bench.Sheet.GridFilling(), 0);
   EXPECT_EQ(button->Caption, "Form1Btn1");
 }
 
@@ -157,38 +150,23 @@ TEST(PropertySheet, AdditemsPrintsItemsAndNeverTheList) {
   EXPECT_FALSE(bench.Sheet.TakesTyping(bench.RowOf("AddItems")));
 }
 
-TEST(PropertySheet, RowValueWritesOneRow) {
-  SheetBench bench;
-  const ControlRef button = bench.Make(Kind::Button);
-  button->Caption = "Later";
-  bench.Sheet.RowValue("caption", bench.RowOf("Caption"));
-  EXPECT_EQ(bench.Text("Caption"), "Later");
-  bench.Sheet.RowValue("name", 0);
-  EXPECT_EQ(bench.Sheet.Text(0), "Form1Btn1");
-}
-
-TEST(PropertySheet, NamesAndMarksAreReadByRow) {
+TEST(PropertySheet, MarksAreReadByRow) {
   SheetBench bench;
   bench.Make(Kind::Button);
   const int row = bench.RowOf("Cursor");
-  EXPECT_EQ(bench.Sheet.RowNameLength(row), 6);
   EXPECT_EQ(bench.Sheet.RowMark(row), 158);
   EXPECT_EQ(bench.Sheet.RowMark(0), 0);
   EXPECT_EQ(bench.Sheet.RowMark(99), 0);
-  EXPECT_EQ(bench.Sheet.EnumText("BUTTON", "Cursor\x9E", 21), "crHandPoint");
 }
 
-TEST(PropertySheet, TheSelectedRowHasItsColours) {
+TEST(PropertySheet, ThePanelsClearingTakesTheSelectionOffTheRowsAndKeepsItsNumber) {
   SheetBench bench;
   bench.Make(Kind::Button);
   bench.Sheet.SelectRow(2);
+  EXPECT_TRUE(bench.Sheet.HasSelectedRow());
   EXPECT_EQ(bench.Sheet.RowIndex(), 2);
-  EXPECT_EQ(bench.Sheet.RowBackColor(2), 8388608);
-  EXPECT_EQ(bench.Sheet.RowTextColor(2), 16777215);
-  EXPECT_EQ(bench.Sheet.RowBackColor(1), 16777215);
-  EXPECT_EQ(bench.Sheet.RowTextColor(1), 0);
   bench.Sheet.ClearPanel();
-  EXPECT_EQ(bench.Sheet.RowBackColor(2), 16777215);
+  EXPECT_FALSE(bench.Sheet.HasSelectedRow());
   EXPECT_EQ(bench.Sheet.RowIndex(), 2);
 }
 
@@ -197,31 +175,24 @@ TEST(PropertySheet, ClearPanelHidesButtonsAndList) {
   bench.Make(Kind::Button);
   bench.PressButton("Enabled");
   EXPECT_TRUE(bench.Sheet.Boton2Shown());
-  EXPECT_TRUE(bench.Sheet.ListOpen());
+  EXPECT_TRUE(bench.Sheet.List().IsOpen());
   bench.Sheet.ClearPanel();
   EXPECT_FALSE(bench.Sheet.Boton1Shown());
   EXPECT_FALSE(bench.Sheet.Boton2Shown());
   EXPECT_FALSE(bench.Sheet.Boton3Shown());
-  EXPECT_FALSE(bench.Sheet.ListOpen());
+  EXPECT_FALSE(bench.Sheet.List().IsOpen());
 }
 
-TEST(PropertySheet, TheSecondClearAlsoEmptiesHeadListAndFirstRow) {
+TEST(PropertySheet, TheSecondClearAlsoEmptiesHeadListAndGrid) {
   SheetBench bench;
   const ControlRef button = bench.Make(Kind::Button);
   bench.Sheet.SelectRow(bench.RowOf("Caption"));
   bench.Sheet.ClearPanelAndCombo();
+  EXPECT_EQ(bench.Labels(), Rows{"Name"});
   EXPECT_EQ(bench.Sheet.Text(0), "");
   EXPECT_TRUE(bench.ComboRows().empty());
   EXPECT_FALSE(bench.Sheet.ApplyText("late"));
   EXPECT_EQ(button->Caption, "Form1Btn1");
-}
-
-TEST(PropertySheet, ButtonsStandBesideTheRowAndTheListBeneath) {
-  SheetBench bench;
-  bench.Make(Kind::Button);
-  bench.Sheet.SelectRow(4);
-  EXPECT_EQ(bench.Sheet.ButtonTop(), 4 * 315);
-  EXPECT_EQ(bench.Sheet.ListTop(), 5 * 315);
 }
 
 TEST(PropertySheet, ResetIsShownOnlyWhereThereIsANeutralText) {
@@ -244,50 +215,18 @@ TEST(PropertySheet, ResetIsShownOnlyWhereThereIsANeutralText) {
   EXPECT_FALSE(bench.Sheet.Boton3Shown());
 }
 
-TEST(PropertySheet, ListsHaveTheirRowsAndHeights) {
+TEST(PropertySheet, ListsHaveTheirRows) {
   SheetBench bench;
   bench.Make(Kind::RichTextBox);
   bench.Sheet.SelectRow(bench.RowOf("ReadOnly"));
-  EXPECT_EQ(bench.Sheet.ListRows(), (Rows{"False", "True"}));
-  EXPECT_EQ(bench.Sheet.ListHeight(), 500);
+  EXPECT_EQ(bench.Sheet.List().Values(), (Rows{"False", "True"}));
   bench.Sheet.SelectRow(bench.RowOf("ScrollBars"));
-  EXPECT_EQ(bench.Sheet.ListRows().size(), 4U);
-  EXPECT_EQ(bench.Sheet.ListHeight(), 4 * 250);
+  EXPECT_EQ(bench.Sheet.List().Values().size(), 4U);
   bench.Sheet.SelectRow(bench.RowOf("Text"));
-  EXPECT_TRUE(bench.Sheet.ListRows().empty());
-  EXPECT_EQ(bench.Sheet.ListHeight(), 500);
+  EXPECT_TRUE(bench.Sheet.List().Values().empty());
   bench.Make(Kind::Button);
   bench.Sheet.SelectRow(bench.RowOf("Cursor"));
-  EXPECT_EQ(bench.Sheet.ListRows().size(), 22U);
-  EXPECT_EQ(bench.Sheet.ListHeight(), 22 * 70);
-}
-
-TEST(PropertySheet, AListIsLongOnceItsSplitPassesSix) {
-  SupportTables rows;
-  AddKindFile(rows,
-              "[FORM]\x8DSeven\x9E"
-              "1\x8B"
-              "2\x8B"
-              "3\x8B"
-              "4\x8B"
-              "5\x8B"
-              "6\x8B"
-              "7\x95"
-              "Eight\x9E"
-              "1\x8B"
-              "2\x8B"
-              "3\x8B"
-              "4\x8B"
-              "5\x8B"
-              "6\x8B"
-              "7\x8B"
-              "8\x8E");
-  SheetBench bench{rows};
-  bench.Pick(nullptr);
-  bench.Sheet.SelectRow(1);
-  EXPECT_EQ(bench.Sheet.ListHeight(), 7 * 250);
-  bench.Sheet.SelectRow(2);
-  EXPECT_EQ(bench.Sheet.ListHeight(), 8 * 70);
+  EXPECT_EQ(bench.Sheet.List().Values().size(), 22U);
 }
 
 TEST(PropertySheet, AListRowWithoutValuesShowsAnEmptyList) {
@@ -296,9 +235,9 @@ TEST(PropertySheet, AListRowWithoutValuesShowsAnEmptyList) {
   SheetBench bench{rows};
   bench.Pick(nullptr);
   bench.PressButton("WindowState");
-  EXPECT_TRUE(bench.Sheet.ListOpen());
-  EXPECT_TRUE(bench.Sheet.ListRows().empty());
-  EXPECT_EQ(bench.Sheet.ListMarked(), -1);
+  EXPECT_TRUE(bench.Sheet.List().IsOpen());
+  EXPECT_TRUE(bench.Sheet.List().Values().empty());
+  EXPECT_EQ(bench.Sheet.List().Marked(), -1);
 }
 
 TEST(PropertySheet, ParentOffersTheFormAndItsVisualObjects) {
@@ -310,8 +249,7 @@ TEST(PropertySheet, ParentOffersTheFormAndItsVisualObjects) {
   }
   bench.Make(Kind::PopUpMenu);
   bench.Sheet.SelectRow(bench.RowOf("Parent"));
-  EXPECT_EQ(bench.Sheet.ListRows(), (Rows{"Form1", "Form1Btn1", "Form1Image1"}));
-  EXPECT_EQ(bench.Sheet.ListHeight(), 3 * 250);
+  EXPECT_EQ(bench.Sheet.List().Values(), (Rows{"Form1", "Form1Btn1", "Form1Image1"}));
 }
 
 TEST(PropertySheet, AFilterHidesRowsAndChangesNoNumbers) {
@@ -431,36 +369,76 @@ TEST(ObjectComboRows, ChoosingAPopupShowsItsRows) {
   EXPECT_GE(bench.RowOf("AutoPopUp"), 1);
 }
 
-TEST(ObjectComboRows, RowsThatNameNothingAreIgnored) {
+TEST(ObjectComboRows, RowsWhoseObjectIsGoneAreIgnored) {
   SheetBench bench;
   const ControlRef button = bench.Make(Kind::Button);
-  button->Tag = "Elsewhere";
+  bench.Form().Unload(button);
   bench.Fakes.Log.Clear();
-  bench.Sheet.ChooseComboRow(1);
-  bench.Sheet.ChooseComboRow(2);
-  bench.Sheet.ChooseComboRow(-1);
+  for (const int row : {1, 2, -1}) bench.Sheet.ChooseComboRow(row);
   EXPECT_EQ(bench.Fakes.Log.Count("select"), 0U);
 }
 
-TEST(ObjectComboRows, ADeletedObjectsRowGoes) {
+TEST(ObjectComboRows, OfTwoObjectsWithOneNameEachRowSelectsItsOwn) {
   SheetBench bench;
-  bench.Make(Kind::Button);
-  bench.Make(Kind::Label);
-  bench.Sheet.RemoveComboRow("FORM1BTN1");
-  EXPECT_EQ(bench.ComboRows(), (Rows{"Form1   (Form)", "Form1Label1   (Label)"}));
+  const ControlRef first = bench.Make(Kind::Button);
+  const ControlRef second = bench.Make(Kind::Button);
+  bench.Type("Name", first->Tag);
+  EXPECT_EQ(bench.ComboRows()[1], bench.ComboRows()[2]);
+  bench.Sheet.ChooseComboRow(1);
+  EXPECT_EQ(bench.Form().ControlSel, first);
   EXPECT_EQ(bench.Sheet.Combo().Selected(), 1);
-  bench.Sheet.RemoveComboRow("Form1");
-  EXPECT_EQ(bench.ComboRows().size(), 2U);
+  bench.Sheet.ChooseComboRow(2);
+  EXPECT_EQ(bench.Form().ControlSel, second);
+  EXPECT_EQ(bench.Sheet.Combo().Selected(), 2);
 }
 
-TEST(ObjectComboRows, OfTwoObjectsWithOneNameTheSelectedOnesRowGoes) {
+TEST(ObjectComboRows, ADeletedObjectsRowGoesAndTheViewIsTold) {
+  SheetBench bench;
+  const ControlRef button = bench.Make(Kind::Button);
+  bench.Make(Kind::Label);
+  const int told = bench.View.Combos;
+  bench.Sheet.RemoveComboRow(*button);
+  EXPECT_EQ(bench.ComboRows(), (Rows{"Form1   (Form)", "Form1Label1   (Label)"}));
+  EXPECT_EQ(bench.Sheet.Combo().Selected(), 1);
+  EXPECT_EQ(bench.View.Combos, told + 1);
+  bench.Sheet.RemoveComboRow(*button);
+  EXPECT_EQ(bench.ComboRows().size(), 2U);
+  EXPECT_EQ(bench.View.Combos, told + 1);
+}
+
+TEST(ObjectComboRows, OfTwoObjectsWithOneNameTheDeletedOnesRowGoes) {
   SheetBench bench;
   bench.Make(Kind::Button)->Tag = "Ok";
   const ControlRef second = bench.Make(Kind::Label);
   second->Tag = "Ok";
   bench.Sheet.FillCombo();
-  bench.Sheet.RemoveComboRow("Ok");
+  bench.Sheet.RemoveComboRow(*second);
   EXPECT_EQ(bench.ComboRows(), (Rows{"Form1   (Form)", "Ok   (Button)"}));
+}
+
+TEST(ObjectComboRows, ObjectsPlacedWhileThePanelIsHiddenAreThereWhenItIsShown) {
+  SheetBench bench;
+  bench.Sheet.SetPanelVisible(false);
+  bench.Make(Kind::Button);
+  bench.Make(Kind::Label);
+  EXPECT_EQ(bench.ComboRows(), Rows{"Form1   (Form)"});
+  bench.Sheet.SetPanelVisible(true);
+  EXPECT_EQ(bench.ComboRows(),
+            (Rows{"Form1   (Form)", "Form1Btn1   (Button)", "Form1Label1   (Label)"}));
+  EXPECT_EQ(bench.Sheet.Combo().Selected(), 2);
+}
+
+TEST(ObjectComboRows, ASearchGoesToTheFirstRowThatBeginsWithTheTextOrElseHoldsIt) {
+  SheetBench bench;
+  for (int i = 0; i < 12; ++i) bench.Make(Kind::Button);
+  bench.Make(Kind::Label);
+  const ObjectCombo& combo = bench.Sheet.Combo();
+  EXPECT_EQ(combo.Search("form1btn1"), 1);
+  EXPECT_EQ(combo.Search("FORM1BTN12"), 12);
+  EXPECT_EQ(combo.Search("btn3"), 3);
+  EXPECT_EQ(combo.Search("label"), 13);
+  EXPECT_EQ(combo.Search("button"), -1);
+  EXPECT_EQ(combo.Search("form1"), 0);
 }
 
 TEST(ObjectComboRows, TheListItselfSelectsNothingWhileItIsEdited) {
@@ -495,6 +473,149 @@ TEST(ObjectComboRows, ARenameAndASelectionTouchOneRowEach) {
   EXPECT_EQ(watch.Texts, std::vector<int>{1});
   bench.Make(Kind::Time);
   EXPECT_EQ(watch.Lists, 1);
+}
+
+TEST(PropertySheet, TheViewHearsThatTheListClosed) {
+  class Watch final : public PropertySheetView {
+   public:
+    std::vector<bool> Lists;
+    void ListOpened(bool is_open) override { Lists.push_back(is_open); }
+  };
+  SheetBench bench;
+  bench.Make(Kind::Button);
+  Watch watch;
+  bench.Sheet.SetView(&watch);
+  bench.PressButton("Enabled");
+  bench.Sheet.CloseList();
+  bench.Sheet.CloseList();
+  EXPECT_EQ(watch.Lists, (std::vector<bool>{true, false}));
+  bench.PressButton("Enabled");
+  bench.Sheet.SelectRow(0);
+  EXPECT_EQ(watch.Lists, (std::vector<bool>{true, false, true, false}));
+}
+
+TEST(PropertySheet, ARowStaysInUseWhenItsOwnObjectIsShownAgain) {
+  SheetBench bench;
+  const ControlRef button = bench.Make(Kind::Button);
+  bench.Sheet.SelectRow(bench.RowOf("Caption"));
+  const int subjects = bench.View.Subjects;
+  bench.Pick(button);
+  EXPECT_EQ(bench.View.Subjects, subjects);
+  EXPECT_TRUE(bench.Sheet.ApplyText("typed"));
+  EXPECT_EQ(button->Caption, "typed");
+  bench.Make(Kind::Button);
+  EXPECT_EQ(bench.View.Subjects, subjects + 1);
+}
+
+TEST(PropertySheet, GoingToTheGridStartsAtTheRowOfTheNameLastSelected) {
+  SheetBench bench;
+  bench.Make(Kind::Button);
+  EXPECT_EQ(bench.Sheet.RowToEnter(), 0);
+  bench.Sheet.SelectRow(bench.RowOf("Height"));
+  bench.Make(Kind::Label);
+  EXPECT_EQ(bench.Sheet.RowToEnter(), bench.RowOf("Height"));
+  EXPECT_NE(bench.Sheet.RowToEnter(), bench.Sheet.RowIndex());
+  bench.Make(Kind::Time);
+  EXPECT_EQ(bench.Sheet.RowToEnter(), 0);
+  bench.Make(Kind::Button);
+  EXPECT_EQ(bench.Sheet.RowToEnter(), bench.RowOf("Height"));
+}
+
+TEST(PropertySheet, TheProgramsIconIsOfferedOnTheFirstFormAlone) {
+  SheetBench bench;
+  bench.Pick(nullptr);
+  EXPECT_GT(bench.RowOf("Icon(App)"), 0);
+  bench.Tables.CurrentForm = bench.Tables.User(AddForm(bench.Tables));
+  bench.Pick(nullptr);
+  EXPECT_EQ(bench.Sheet.Text(0), "Form2");
+  EXPECT_EQ(bench.RowOf("Icon(App)"), -1);
+  EXPECT_GT(bench.RowOf("IcoHandle"), 0);
+  EXPECT_TRUE(bench.Type("Width", "250"));
+  EXPECT_EQ(bench.Record().Width, 250);
+}
+
+TEST(PropertySheet, RowsAreFilledOneByOneWhileTheScreenFollows) {
+  SheetBench bench;
+  bench.Make(Kind::Button);
+  bench.Fakes.Screen.Yields = 0;
+  bench.Sheet.ShowSelection();
+  EXPECT_EQ(bench.Fakes.Screen.Yields, bench.Sheet.RowCount() - 1);
+}
+
+TEST(PropertySheet, AnObjectThatGoesWhileItsRowsAreFilledIsLeftAlone) {
+  SheetBench bench;
+  const ControlRef button = bench.Make(Kind::Button);
+  bench.Pick(nullptr);
+  bench.Fakes.Screen.OnYield = [&] {
+    bench.Fakes.Screen.OnYield = nullptr;
+    bench.Form().Unload(button);
+  };
+  bench.Pick(button);
+  EXPECT_EQ(bench.Sheet.RowCount(), 14);
+  EXPECT_EQ(bench.Text("Width"), "");
+  EXPECT_FALSE(bench.Type("Width", "5"));
+}
+
+TEST(PropertySheet, TheFontOfItsRowIsThatOfTheObject) {
+  SheetBench bench;
+  const ControlRef label = bench.Make(Kind::Label);
+  label->FontSize = 8.25F;
+  label->FontBold = true;
+  const std::optional<FontChoice> font = bench.Sheet.RowFont(bench.RowOf("Font"));
+  ASSERT_TRUE(font);
+  EXPECT_EQ(font->Name, "MS Sans Serif");
+  EXPECT_EQ(font->Size, 8.25F);
+  EXPECT_TRUE(font->Bold);
+  EXPECT_FALSE(bench.Sheet.RowFont(bench.RowOf("Caption")));
+}
+
+TEST(PropertySheet, APictureRowNamesTheFilesThatItMayShow) {
+  SheetBench bench;
+  bench.Make(Kind::Button);
+  const int row = bench.RowOf("BmpHandle");
+  EXPECT_EQ(bench.Sheet.RowPictures(row), Rows{});
+  bench.Type("BmpHandle", "pics\\a.bmp");
+  EXPECT_EQ(bench.Sheet.RowPictures(row), (Rows{"pics\\a.bmp", "C:\\P\\pics\\a.bmp"}));
+  EXPECT_TRUE(bench.Sheet.IsPath(row));
+  EXPECT_FALSE(bench.Sheet.IsPath(bench.RowOf("Caption")));
+  bench.Pick(nullptr);
+  EXPECT_EQ(bench.Sheet.RowPictures(bench.RowOf("IcoHandle")), Rows{"C:\\T\\iconapp.ico"});
+}
+
+TEST(PropertySheet, ANameThatMakesNoProgramIsMarkedWithTheReason) {
+  SheetBench bench;
+  bench.Make(Kind::Button);
+  const ControlRef second = bench.Make(Kind::Button);
+  EXPECT_EQ(bench.Sheet.RowFault(0), "");
+  for (const char* name : {"", "1abc", "a b", "Print", "Font", "FORM1BTN1"}) {
+    bench.Type("Name", name);
+    EXPECT_EQ(second->Tag, name);
+    EXPECT_NE(bench.Sheet.RowFault(0), "") << name;
+    ASSERT_FALSE(bench.View.Texts.empty());
+    EXPECT_EQ(bench.View.Texts.back(), 0);
+  }
+  bench.Type("Name", "Ok");
+  EXPECT_EQ(bench.Sheet.RowFault(0), "");
+  bench.Type("Name", "End");
+  EXPECT_EQ(bench.Sheet.RowFault(0),
+            "The name End is a word of the language: choose another name.");
+  bench.Pick(nullptr);
+  EXPECT_EQ(bench.Sheet.RowFault(0), "");
+}
+
+TEST(PropertySheet, EachRowHasTheFindingsOfTheCheckThatAreAboutIt) {
+  SheetBench bench;
+  bench.Make(Kind::Button);
+  bench.Type("Caption", "say \"hello\"");
+  EXPECT_NE(bench.Sheet.RowFault(bench.RowOf("Caption")), "");
+  EXPECT_EQ(bench.Sheet.RowFault(bench.RowOf("Hint")), "");
+  EXPECT_EQ(bench.Sheet.RowFault(0), "");
+  bench.Type("Caption", "say hello");
+  EXPECT_EQ(bench.Sheet.RowFault(bench.RowOf("Caption")), "");
+  bench.Type("BmpHandle", "C:\\none.bmp");
+  EXPECT_NE(bench.Sheet.RowFault(bench.RowOf("BmpHandle")), "");
+  bench.Make(Kind::Label);
+  EXPECT_EQ(bench.Sheet.RowFault(bench.RowOf("Caption")), "");
 }
 
 TEST(PropertySheet, AFormOfManyObjectsShowsWithoutAWalkForEachRow) {

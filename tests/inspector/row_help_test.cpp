@@ -7,6 +7,7 @@
 
 #include "fakes/build_paths.h"
 #include "inspector/property_rows.h"
+#include "inspector/row_help_texts.h"
 #include "model/kinds.h"
 #include "persistence/support_files.h"
 
@@ -46,36 +47,59 @@ TEST(RowHelp, EveryDeliveredRowOfEveryKindHasSome) {
 }
 
 TEST(RowHelp, OnlyThePassagesThatNameTheKindShowAndTheLineThatNamesItGoes) {
-  const SupportTables tables = With("caption",
-                                    "Caption, property of Form\r\nSTRING\r\nTitle.\r\n\r\n"
-                                    "Caption, property of Button, Label\r\nSTRING\r\nText.");
-  EXPECT_EQ(RowHelp(tables, "Form", "Caption"), "STRING\r\nTitle.");
-  EXPECT_EQ(RowHelp(tables, "Button", "CAPTION"), "STRING\r\nText.");
-  EXPECT_EQ(RowHelp(tables, "LABEL", "caption"), "STRING\r\nText.");
+  const SupportTables tables = With("tag",
+                                    "Tag, property of Form\r\nINTEGER\r\nOne.\r\n\r\n"
+                                    "Tag, property of Button, Label\r\nINTEGER\r\nTwo.");
+  EXPECT_EQ(RowHelp(tables, "Form", "Tag"), "INTEGER\r\nOne.");
+  EXPECT_EQ(RowHelp(tables, "Button", "TAG"), "INTEGER\r\nTwo.");
+  EXPECT_EQ(RowHelp(tables, "LABEL", "tag"), "INTEGER\r\nTwo.");
 }
 
 TEST(RowHelp, AKindIsNamedByAWholeWord) {
-  const SupportTables tables = With("text",
-                                    "Text, property of RichTextBox\r\nLines.\r\n\r\n"
-                                    "Text, property of TextBox\r\nOne line.");
-  EXPECT_EQ(RowHelp(tables, "TextBox", "Text"), "One line.");
-  EXPECT_EQ(RowHelp(tables, "RichTextBox", "Text"), "Lines.");
+  const SupportTables tables = With("modified",
+                                    "Modified, property of RichTextBox\r\nLines.\r\n\r\n"
+                                    "Modified, property of TextBox\r\nOne line.");
+  EXPECT_EQ(RowHelp(tables, "TextBox", "Modified"), "One line.");
+  EXPECT_EQ(RowHelp(tables, "RichTextBox", "Modified"), "Lines.");
 }
 
 TEST(RowHelp, AMemberThatNamesNoKindShowsWhole) {
-  const SupportTables tables = With("left", "Left\r\nPlace.\r\n\r\nLeft of all\r\nMore.");
-  EXPECT_EQ(RowHelp(tables, "Button", "Left"), "Place.\r\n\r\nMore.");
+  const SupportTables tables = With("tag", "Tag\r\nPlace.\r\n\r\nTag of all\r\nMore.");
+  EXPECT_EQ(RowHelp(tables, "Button", "Tag"), "Place.\r\n\r\nMore.");
 }
 
 TEST(RowHelp, MembersWithAKeyOfTheirOwnAreFoundByItAndElseByTheirName) {
   SupportTables tables = With("portwinsock", "Port\r\nOf a socket.");
-  tables.MemberHelp.Add("left", "Left\r\nPlace.");
+  tables.MemberHelp.Add("tag", "Tag\r\nFree.");
   EXPECT_EQ(RowHelp(tables, "WinSock", "Port"), "Of a socket.");
-  EXPECT_EQ(RowHelp(tables, "WinSock", "Left"), "Place.");
+  EXPECT_EQ(RowHelp(tables, "WinSock", "Tag"), "Free.");
+}
+
+TEST(RowHelp, EveryDeliveredRowHasWordsOfTheGridsOwn) {
+  for (const KindInfo& info : AllKinds()) {
+    for (const PropertyRow& row : PropertyRowsOf(Delivered(), KindWordOf(info.Array))) {
+      EXPECT_NE(RowHelpText(row.Name, info.Id), "") << info.Name << "." << row.Name;
+    }
+  }
+}
+
+TEST(RowHelp, SpeaksOfTheRowWhereTheMemberOfItsNameIsAnotherThing) {
+  const SupportTables none;
+  EXPECT_NE(RowHelp(none, "PopUpMnu", "Parent").find("right button"), std::string::npos);
+  EXPECT_NE(RowHelp(none, "OpenDialog", "Title").find("title bar"), std::string::npos);
+  EXPECT_NE(RowHelp(none, "Button", "BmpHandle").find(".bmp file"), std::string::npos);
+  EXPECT_NE(RowHelp(none, "ListBox", "AddItems").find("rows"), std::string::npos);
+  EXPECT_NE(RowHelp(none, "Label", "Font").find("font dialog"), std::string::npos);
+  EXPECT_NE(RowHelp(none, "Form", "IcoHandle").find("title bar"), std::string::npos);
+  EXPECT_NE(RowHelp(none, "Form", "Center").find("no effect"), std::string::npos);
+  EXPECT_NE(RowHelp(none, "HtmlViewer", "Navigate").find("page"), std::string::npos);
+  EXPECT_NE(RowHelp(none, "Form", "Left"), RowHelp(none, "Button", "Left"));
+  EXPECT_NE(RowHelp(none, "Time", "Left"), RowHelp(none, "Button", "Left"));
+  EXPECT_NE(RowHelp(none, "Label", "Color").find("clRed"), std::string::npos);
 }
 
 TEST(RowHelp, WhatIsNotKnownIsEmpty) {
-  EXPECT_EQ(RowHelp(SupportTables{}, "Button", "Caption"), "");
+  EXPECT_EQ(RowHelp(SupportTables{}, "Button", "Tag"), "");
   EXPECT_EQ(RowHelp(Delivered(), "Button", "no such row"), "");
   EXPECT_EQ(RowHelp(With("x", ""), "", "x"), "");
 }

@@ -31,7 +31,7 @@ inline const SupportTables& DeliveredRows() {
 }
 
 /// Selects as the design surface does. Log entries: "select NAME", "border N", "recolor",
-/// "name OLD>NEW", "popup N", "items".
+/// "place N", "name OLD>NEW", "popup N", "items".
 class RecordingHost final : public InspectorHost {
  public:
   explicit RecordingHost(CallLog& log) : log_(log) {}
@@ -45,6 +45,9 @@ class RecordingHost final : public InspectorHost {
     log_.Add("border " + std::to_string(style));
   }
   void FormRecolored(DesignForm& /*form*/) override { log_.Add("recolor"); }
+  void PlaceChanged(DesignForm& form) override {
+    log_.Add("place " + std::to_string(form.Number()));
+  }
   bool PictureLoads(const std::string& path) override { return Pictures.contains(path); }
   void NameChanged(DesignForm& /*form*/, std::string_view old_name,
                    std::string_view new_name) override {
@@ -77,10 +80,12 @@ class CountingView final : public PropertySheetView {
  public:
   PropertySheet* Sheet = nullptr;
   int Rows = 0;
-  int Texts = 0;
+  int Subjects = 0;
+  std::vector<int> Texts;  ///< the rows told, in order
   int Combos = 0;
   void RowsChanged() override { ++Rows; }
-  void RowTextChanged(int /*row*/) override { ++Texts; }
+  void SubjectChanged() override { ++Subjects; }
+  void RowTextChanged(int row) override { Texts.push_back(row); }
   void ComboChanged() override {
     ++Combos;
     if (Sheet != nullptr) Sheet->ChooseComboRow(Sheet->Combo().Selected());
@@ -141,7 +146,7 @@ struct SheetBench {
   }
   bool Choose(std::string_view row, int place) {
     Sheet.SelectRow(RowOf(row));
-    const auto& rows = Sheet.ListRows();
+    const auto& rows = Sheet.List().Values();
     const auto at = static_cast<std::size_t>(place);
     return Sheet.ApplyChoice(at < rows.size() ? rows[at] : std::string{}, place);
   }

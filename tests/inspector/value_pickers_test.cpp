@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <optional>
 #include <string>
 
@@ -76,29 +77,47 @@ TEST(ValuePickers, TheFontIsSetOnTheControlAndItsNameShows) {
   label->FontUnderline = true;
   label->ForeColor = 128;
   bench.Sheet.ShowSelection();
-  bench.Fakes.Dialogs.FontAnswers = {
-      FontChoice{"Courier New", 12.5F, true, true, false, true, 255}};
+  bench.Fakes.Dialogs.FontAnswers = {FontChoice{"Courier New", 12.5F, true, true, 255}};
   bench.PressButton("Font");
   ASSERT_TRUE(bench.Fakes.Dialogs.LastFont);
   EXPECT_EQ(bench.Fakes.Dialogs.LastFont->Name, "Tahoma");
   EXPECT_EQ(bench.Fakes.Dialogs.LastFont->Size, 9.0F);
-  EXPECT_TRUE(bench.Fakes.Dialogs.LastFont->Underline);
   EXPECT_EQ(bench.Fakes.Dialogs.LastFont->Color, 128);
   EXPECT_EQ(label->FontName, "Courier New");
   EXPECT_EQ(label->FontSize, 12.5F);
   EXPECT_TRUE(label->FontBold);
   EXPECT_TRUE(label->FontItalic);
-  EXPECT_FALSE(label->FontUnderline);
-  EXPECT_TRUE(label->FontStrikethru);
+  EXPECT_TRUE(label->FontUnderline);
   EXPECT_EQ(label->ForeColor, 255);
   EXPECT_EQ(bench.Text("Font"), "Courier New");
   EXPECT_EQ(bench.Text("FontColor"), "255");
 }
 
+TEST(ValuePickers, TheFontRowIsToldWhenSizeOrStyleAloneChange) {
+  SheetBench bench;
+  const ControlRef label = bench.Make(Kind::Label);
+  bench.Fakes.Dialogs.FontAnswers = {FontChoice{label->FontName, 24, true, false, 0}};
+  bench.View.Texts.clear();
+  bench.PressButton("Font");
+  EXPECT_EQ(label->FontSize, 24);
+  EXPECT_NE(std::find(bench.View.Texts.begin(), bench.View.Texts.end(), bench.RowOf("Font")),
+            bench.View.Texts.end());
+}
+
+TEST(ValuePickers, AColourThatNoNumberHoldsStartsTheDialogAtTheStoredOne) {
+  SheetBench bench;
+  const ControlRef label = bench.Make(Kind::Label);
+  label->BackColor = 255;
+  bench.Sheet.ShowSelection();
+  bench.Type("Color", "99999999999");
+  bench.Sheet.PickValue();
+  EXPECT_EQ(bench.Fakes.Dialogs.LastColor, 255);
+}
+
 TEST(ValuePickers, TheFontOfAButtonSetsTheColourInItsRecord) {
   SheetBench bench;
   bench.Make(Kind::Button);
-  bench.Fakes.Dialogs.FontAnswers = {FontChoice{"Arial", 8, false, false, false, false, 65280}};
+  bench.Fakes.Dialogs.FontAnswers = {FontChoice{"Arial", 8, false, false, 65280}};
   bench.PressButton("Font");
   EXPECT_EQ(bench.Record().Buttons.At(1)->FontColor, 65280);
   EXPECT_EQ(bench.Text("FontColor"), "65280");
@@ -153,13 +172,13 @@ TEST(ValuePickers, TheListOpensWithThePresentValueMarkedAndClosesAgain) {
   SheetBench bench;
   bench.Make(Kind::Button);
   bench.PressButton("Enabled");
-  EXPECT_TRUE(bench.Sheet.ListOpen());
-  EXPECT_EQ(bench.Sheet.ListMarked(), 1);
+  EXPECT_TRUE(bench.Sheet.List().IsOpen());
+  EXPECT_EQ(bench.Sheet.List().Marked(), 1);
   bench.Sheet.PickValue();
-  EXPECT_FALSE(bench.Sheet.ListOpen());
+  EXPECT_FALSE(bench.Sheet.List().IsOpen());
   bench.Make(Kind::WinSock);
   bench.PressButton("Family");
-  EXPECT_EQ(bench.Sheet.ListMarked(), 0);
+  EXPECT_EQ(bench.Sheet.List().Marked(), 0);
 }
 
 TEST(ValuePickers, CancelledPickersChangeNothing) {

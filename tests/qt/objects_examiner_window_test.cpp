@@ -138,5 +138,20 @@ TEST_F(ObjectsExaminerOnScreen, MenuAndToolbarOpenIt) {
   EXPECT_EQ(program.Window().findChildren<ObjectsExaminerWindow*>().size(), 1);
 }
 
+TEST_F(ObjectsExaminerOnScreen, ItOpensOnTheSelectedKindAndMarksTheMemberOfTheRow) {
+  program.Place(3, {20, 20});
+  PropertySheet& sheet = program.Shell().Sheet();
+  for (int row = 0; row < sheet.RowCount(); ++row) {
+    if (sheet.Label(row) == "WordWrap") sheet.SelectRow(row);
+  }
+  Open();
+  EXPECT_EQ(Current(Kinds()), "Label");
+  EXPECT_EQ(Current(Members()), "WordWrap");
+  EXPECT_TRUE(Text().startsWith("WordWrap")) << Text().left(40).toStdString();
+  for (const QWidget* part : {static_cast<QWidget*>(&Kinds()), static_cast<QWidget*>(&Members())}) {
+    EXPECT_FALSE(part->accessibleName().isEmpty());
+  }
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -13,7 +13,8 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QSpinBox>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
 
@@ -23,6 +24,7 @@
 #include "codegen/program_source.h"
 #include "program.h"
 #include "qt/grid/property_panel.h"
+#include "qt/grid/value_field.h"
 #include "qt/kit/theme.h"
 
 namespace tarnwick {
@@ -80,21 +82,22 @@ class PropertyGridWindow : public testing::Test {
 
 // --- Selecting ---
 
-TEST_F(PropertyGridWindow, ASelectedRowIsPaintedWhiteOnDarkBlueAndNoOther) {
+TEST_F(PropertyGridWindow, ASelectedRowHasTheAccentOfItsPaletteAndNoOther) {
   program.Place(0, {20, 20});
-  Enter("Caption");
-  const QImage picture = NameOf("Caption").grab().toImage();
-  EXPECT_EQ(picture.pixelColor(2, 2), QColor(0, 0, 128));
-  bool has_white = false;
-  for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) {
-      has_white = has_white || picture.pixelColor(x, y).lightness() > 240;
-    }
+  const QPalette before = QApplication::palette();
+  for (const Theme theme : {Theme::Light, Theme::Dark}) {
+    const QPalette palette = PaletteOf(theme);
+    QApplication::setPalette(palette);
+    Program::Settle();
+    Enter("Caption");
+    EXPECT_EQ(BackOf("Caption"), palette.color(QPalette::Highlight));
+    EXPECT_EQ(NameOf("Caption").palette().color(NameOf("Caption").foregroundRole()),
+              palette.color(QPalette::HighlightedText));
+    EXPECT_EQ(BackOf("Height"), palette.color(QPalette::Base));
+    Enter("Height");
+    EXPECT_EQ(BackOf("Caption"), palette.color(QPalette::Base));
   }
-  EXPECT_TRUE(has_white);
-  EXPECT_EQ(BackOf("Height"), QColor(Qt::white));
-  Enter("Height");
-  EXPECT_EQ(BackOf("Caption"), QColor(Qt::white));
+  QApplication::setPalette(before);
 }
 
 TEST_F(PropertyGridWindow, APressOnTheFormTakesTheColoursOffTheRows) {
@@ -327,7 +330,7 @@ TEST_F(PropertyGridWindow, TheListOpensWithThePresentValueMarkedAndAPickApplies)
   program.Click(*List().viewport(), List().visualItemRect(List().item(other)).center());
   EXPECT_FALSE(List().isVisible());
   EXPECT_EQ(Shown("BorderStyle"), wanted);
-  EXPECT_FALSE(Sheet().ListOpen());
+  EXPECT_FALSE(Sheet().List().IsOpen());
 }
 
 TEST_F(PropertyGridWindow, TheListIsWorkedByKeysAlone) {
@@ -350,7 +353,7 @@ TEST_F(PropertyGridWindow, TheListIsWorkedByKeysAlone) {
   program.Key(Qt::Key_Down);
   program.Key(Qt::Key_Escape);
   EXPECT_FALSE(List().isVisible());
-  EXPECT_FALSE(Sheet().ListOpen());
+  EXPECT_FALSE(Sheet().List().IsOpen());
   EXPECT_EQ(Shown("Cursor"), "crArrow");
 }
 
@@ -458,7 +461,7 @@ TEST_F(PropertyGridWindow, AColourRowShowsItsColour) {
 
 TEST_F(PropertyGridWindow, AFontRowShowsItsFont) {
   program.Place(0, {20, 20});
-  program.Dialogs.FontAnswers = {FontChoice{"Courier New", 14, true, true, false, false, 0}};
+  program.Dialogs.FontAnswers = {FontChoice{"Courier New", 14, true, true, 0}};
   Enter("Font");
   program.Key(Qt::Key_Space);
   EXPECT_EQ(Shown("Font"), "Courier New");
@@ -467,6 +470,200 @@ TEST_F(PropertyGridWindow, AFontRowShowsItsFont) {
   EXPECT_TRUE(Cell("Font").font().italic());
   EXPECT_FALSE(Cell("Caption").font().bold());
   ExpectLine("\nFont.Name = \"Courier New\"");
+}
+
+TEST_F(PropertyGridWindow, AFontRowFollowsASizeOrStyleOfTheSameFamily) {
+  DesignControl* button = program.Place(0, {20, 20});
+  Enter("Font");
+  const QImage before = Cell("Font").parentWidget()->grab().toImage();
+  program.Dialogs.FontAnswers = {FontChoice{button->FontName, 24, true, false, 0}};
+  program.Key(Qt::Key_Space);
+  EXPECT_EQ(button->FontSize, 24);
+  EXPECT_TRUE(Cell("Font").font().bold());
+  EXPECT_NE(Cell("Font").parentWidget()->grab().toImage(), before);
+}
+
+// --- What is shown is what is stored ---
+
+TEST_F(PropertyGridWindow, APastedLineBreakIsABlankInTheCellAndTheObject) {
+  program.Place(0, {20, 20});
+  for (const char* row : {"Name", "Caption", "Hint"}) {
+    for (const char* text : {"na\nme", "na\r\nme", "na\tme"}) {
+      Enter(row);
+      QApplication::clipboard()->setText(QString::fromLatin1(text));
+      program.Key(Qt::Key_A, Qt::ControlModifier);
+      program.Key(Qt::Key_V, Qt::ControlModifier);
+      EXPECT_EQ(Shown(row), "na me") << row;
+      EXPECT_EQ(Sheet().Text(RowOf(row)), "na me") << row;
+    }
+  }
+  EXPECT_EQ(program.Selected()->Tag, "na me");
+  EXPECT_EQ(program.Selected()->ToolTipText, "na me");
+}
+
+TEST_F(PropertyGridWindow, ARefusedNumberIsTakenBackWhenItsRowIsLeft) {
+  program.Place(0, {20, 20});
+  const std::string before = Shown("TabOrder");
+  Type("TabOrder", "70000");
+  EXPECT_EQ(Shown("TabOrder"), "70000");
+  program.Key(Qt::Key_Tab);
+  EXPECT_EQ(Shown("TabOrder"), before);
+  EXPECT_EQ(std::to_string(program.Record().Objects(Kind::Button)->At(1)->TabOrder), before);
+  Type("Width", "-5");
+  Enter("Caption");
+  EXPECT_EQ(Shown("Width"), "75");
+  EXPECT_EQ(program.Selected()->Width, 75 * 15);
+  Enter("Width");
+  program.Key(Qt::Key_Delete);
+  EXPECT_EQ(Shown("Width"), "");
+  EXPECT_EQ(program.Selected()->Width, 75 * 15);
+  program.Click(program.Surface(), {300, 200});
+  EXPECT_EQ(program.Form().Element(Kind::Button, 1)->Width, 75 * 15);
+}
+
+TEST_F(PropertyGridWindow, AColourIsTypedByItsNameAndItsRowNamesIt) {
+  program.Place(0, {20, 20});
+  Type("FontColor", "clred");
+  EXPECT_EQ(program.Record().Objects(Kind::Button)->At(1)->FontColor, 255);
+  QWidget* row = Cell("FontColor").parentWidget();
+  const QImage picture = row->grab().toImage();
+  EXPECT_EQ(picture.pixelColor(Cell("FontColor").x() - 9, picture.height() / 2), QColor(255, 0, 0));
+  Enter("Caption");
+  EXPECT_EQ(Shown("FontColor"), "255");
+  ExpectLine("\nFont.Color = 255");
+}
+
+TEST_F(PropertyGridWindow, ANameThatMakesNoProgramIsMarkedInItsRow) {
+  program.Place(0, {20, 20});
+  program.Place(0, {20, 80});
+  const QImage before = Cell("Name").parentWidget()->grab().toImage();
+  Type("Name", "Form1Btn1");
+  EXPECT_TRUE(Cell("Name").toolTip().contains("is used before"))
+      << Cell("Name").toolTip().toStdString();
+  EXPECT_EQ(Cell("Name").accessibleDescription(), Cell("Name").toolTip());
+  EXPECT_TRUE(program.Find<QPlainTextEdit>(QStringLiteral("RowHelp"))
+                  .toPlainText()
+                  .contains("is used before"));
+  EXPECT_EQ(program.Selected()->Tag, "Form1Btn1");
+  Type("Name", "Print");
+  EXPECT_TRUE(Cell("Name").toolTip().contains("word of the language"));
+  Type("Name", "Ok");
+  EXPECT_FALSE(Cell("Name").toolTip().contains("."));
+}
+
+TEST_F(PropertyGridWindow, HandlesFollowAnEditOfPlaceAndSize) {
+  program.Place(0, {40, 40});
+  const ControlRef handle = program.Form().Element(Kind::Handle, 4);
+  ASSERT_TRUE(handle->Visible);
+  const float before = handle->Left;
+  Type("Width", "150");
+  EXPECT_GT(program.Form().Element(Kind::Handle, 4)->Left + 1000, before);
+  EXPECT_NE(program.Form().Element(Kind::Handle, 4)->Left, before);
+  EXPECT_TRUE(handle->Visible);
+}
+
+// --- Scrolling and columns ---
+
+TEST_F(PropertyGridWindow, ANewSelectionStartsAtTheTopRow) {
+  program.Window().resize(1000, 640);
+  Program::Settle();
+  program.Place(4, {20, 20});
+  auto* bar = program.Window().findChild<QScrollBar*>(QStringLiteral("VScroll1"));
+  ASSERT_NE(bar, nullptr);
+  ASSERT_GT(bar->maximum(), 0);
+  bar->setValue(bar->maximum());
+  program.Place(4, {220, 20});
+  EXPECT_EQ(bar->value(), 0);
+}
+
+TEST_F(PropertyGridWindow, F4GoesToTheRowOfTheNameLastEdited) {
+  program.Place(0, {20, 20});
+  Type("Height", "40");
+  program.Place(3, {20, 120});
+  program.Key(Qt::Key_F4);
+  EXPECT_EQ(Sheet().Label(Sheet().RowIndex()), "Height");
+  EXPECT_EQ(Focused(), CellName("Height"));
+}
+
+TEST_F(PropertyGridWindow, NoRowIsCutAtTheFootOfTheGrid) {
+  program.Place(4, {20, 20});
+  for (const int height : {640, 655, 670, 700, 900}) {
+    program.Window().resize(1000, height);
+    Program::Settle();
+    const QWidget* viewport = program.Find<QScrollArea>(QStringLiteral("PropertyGrid")).viewport();
+    EXPECT_EQ(viewport->height() % Cell("Name").parentWidget()->height(), 0) << height;
+  }
+}
+
+TEST_F(PropertyGridWindow, InALowWindowTheRowsComeBeforeTheHelp) {
+  program.Place(4, {20, 20});
+  program.Window().resize(1000, 640);
+  Program::Settle();
+  const QWidget* viewport = program.Find<QScrollArea>(QStringLiteral("PropertyGrid")).viewport();
+  EXPECT_GE(viewport->height() / Cell("Name").parentWidget()->height(), 8);
+  program.Window().resize(1000, 1000);
+  Program::Settle();
+  EXPECT_GE(program.Find<QPlainTextEdit>(QStringLiteral("RowHelp")).height(), 60);
+}
+
+TEST_F(PropertyGridWindow, TheLineBetweenTheColumnsIsDraggedByTheMouse) {
+  program.Place(0, {20, 20});
+  QWidget* row = NameOf("Caption").parentWidget();
+  const int before = Cell("Caption").x();
+  program.Drag(*row, {before - 3, 10}, {before + 37, 10});
+  EXPECT_NEAR(Cell("Caption").x(), before + 40, 4);
+  EXPECT_NEAR(Cell("Height").x(), before + 40, 4);
+  EXPECT_FALSE(Sheet().HasSelectedRow());
+  program.Drag(*row, {Cell("Caption").x() - 3, 10}, {-500, 10});
+  EXPECT_GT(Cell("Caption").x(), 20);
+}
+
+TEST_F(PropertyGridWindow, APathThatIsTooLongShowsItsEnd) {
+  program.Place(12, {20, 20});
+  Type("FileName", "C:\\a folder\\with many\\folders below\\and then\\the file.txt");
+  Enter("Title");
+  auto* field = dynamic_cast<ValueField*>(&Cell("FileName"));
+  ASSERT_NE(field, nullptr);
+  EXPECT_TRUE(field->CutText().endsWith("the file.txt")) << field->CutText().toStdString();
+  EXPECT_NE(field->CutText(), field->text());
+}
+
+TEST_F(PropertyGridWindow, LettersInTheHeadListGoToTheObjectOfThatName) {
+  for (int i = 0; i < 4; ++i) program.Place(0, {20, 20 + 40 * i});
+  auto& combo = program.Find<QComboBox>(QStringLiteral("Combo"));
+  combo.setFocus();
+  program.Type("Btn3");
+  EXPECT_EQ(combo.currentText(), "Form1Btn3   (Button)");
+  ASSERT_NE(program.Selected(), nullptr);
+  EXPECT_EQ(program.Selected()->Tag, "Form1Btn3");
+  program.Key(Qt::Key_Down);
+  EXPECT_EQ(program.Selected()->Tag, "Form1Btn4");
+  program.Type("form1btn2");
+  EXPECT_EQ(program.Selected()->Tag, "Form1Btn2");
+}
+
+TEST_F(PropertyGridWindow, EveryPartHasANameForThoseWhoDoNotSeeIt) {
+  program.Place(0, {20, 20});
+  for (int row = 0; row < Sheet().RowCount(); ++row) {
+    const auto& cell = program.Find<QLineEdit>(QStringLiteral("Text_%1").arg(row));
+    EXPECT_EQ(cell.accessibleName().toStdString(), Sheet().Label(row));
+  }
+  for (const char* name :
+       {"Combo", "RowFilter", "RowHelp", "Boton1", "Boton2", "Boton3", "ListBox", "GridRows"}) {
+    EXPECT_FALSE(program.Find<QWidget>(QString::fromLatin1(name)).accessibleName().isEmpty())
+        << name;
+  }
+}
+
+TEST_F(PropertyGridWindow, TheGridOfARemovedFormIsEmpty) {
+  program.Place(0, {20, 20});
+  program.User.Yes();
+  program.Choose(QStringLiteral("mnuRemove"));
+  EXPECT_EQ(program.Tables().CurrentForm, nullptr);
+  EXPECT_EQ(Sheet().RowCount(), 1);
+  EXPECT_EQ(program.Find<QLineEdit>(QStringLiteral("Text_0")).text(), "");
+  EXPECT_FALSE(program.Find<QLineEdit>(QStringLiteral("Text_3")).isVisible());
+  EXPECT_EQ(program.Find<QComboBox>(QStringLiteral("Combo")).count(), 0);
 }
 
 }  // namespace

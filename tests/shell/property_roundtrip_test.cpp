@@ -103,8 +103,8 @@ class Bench final : public ShellTest {
 void Bench::Edit(int row) {
   PropertySheet& sheet = Sheet();
   sheet.SelectRow(row);
-  if (!sheet.ListRows().empty()) {
-    const std::vector<std::string> values = sheet.ListRows();
+  if (!sheet.List().Values().empty()) {
+    const std::vector<std::string> values = sheet.List().Values();
     const std::size_t place = values.back() == sheet.Text(row) ? 0 : values.size() - 1;
     EXPECT_TRUE(sheet.ApplyChoice(values[place], static_cast<int>(place)));
     return;
@@ -112,7 +112,7 @@ void Bench::Edit(int row) {
   FakeDialogs& dialogs = ports.Dialogs;
   switch (sheet.RowMark(row)) {
     case row_mark::kFont:
-      dialogs.FontAnswers.push_back(FontChoice{"Courier New", 14, true, true, true, false, 255});
+      dialogs.FontAnswers.push_back(FontChoice{"Courier New", 14, true, true, 255});
       break;
     case row_mark::kColor:
     case row_mark::kColorToo:

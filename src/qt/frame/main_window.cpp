@@ -2,7 +2,6 @@
 
 #include <QCloseEvent>
 #include <QLabel>
-#include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -14,6 +13,7 @@
 #include "qt/frame/objects_examiner_window.h"
 #include "qt/frame/tool_box_panel.h"
 #include "qt/grid/property_panel.h"
+#include "qt/kit/grip_splitter.h"
 #include "qt/kit/panel_frame.h"
 #include "qt/kit/theme.h"
 #include "qt/surface/container.h"
@@ -37,14 +37,14 @@ MainWindow::MainWindow(MDIForm1& shell, FilePort& files)
       actions_(new CommandActions(*this, shell.Commands())),
       container_(new Container(pictures_, texts_, this)),
       tools_(new ToolBoxPanel(shell.Commands(), QStringLiteral("BtnObjet"), kToolColumns, this)),
-      form_list_(new FormListPanel(shell.Forms(), *actions_, this)),
       properties_(new PropertyPanel(shell.Sheet(), pictures_, this)),
+      form_list_(new FormListPanel(shell.Forms(), *actions_, this)),
       icon_(new IconDisplay(shell.Tables(), pictures_, this)),
       object_bar_(new ObjectBar(shell.Commands(), this)),
       events_bar_(new EventsBarWindow(shell.Bar(), shell.Commands(), *container_, this)),
       examiner_(new ObjectsExaminerWindow(shell.Examiner(), this)),
       right_(new QWidget(this)),
-      panels_(new QSplitter(Qt::Vertical, right_)),
+      panels_(new GripSplitter(Qt::Vertical, right_)),
       status_(new QLabel(this)),
       selection_(new QLabel(this)),
       pointer_(new QLabel(this)) {
@@ -79,7 +79,7 @@ void MainWindow::BuildPanels() {
   right_column->addWidget(panels_, 1);
   right_column->addWidget(icon_);
 
-  auto* middle = new QSplitter(Qt::Horizontal, this);
+  auto* middle = new GripSplitter(Qt::Horizontal, this);
   middle->setObjectName(QStringLiteral("MiddleAndRight"));
   middle->setHandleWidth(kRoom);
   middle->addWidget(container_);

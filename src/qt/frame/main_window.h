@@ -67,8 +67,8 @@ class MainWindow final : public QMainWindow {
   CommandActions* actions_;
   Container* container_;
   ToolBoxPanel* tools_;
-  FormListPanel* form_list_ = nullptr;
-  PropertyPanel* properties_ = nullptr;
+  PropertyPanel* properties_;
+  FormListPanel* form_list_;
   IconDisplay* icon_;
   ObjectBar* object_bar_;
   EventsBarWindow* events_bar_;

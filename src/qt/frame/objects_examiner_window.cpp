@@ -79,11 +79,15 @@ ObjectsExaminerWindow::ObjectsExaminerWindow(FormViewObjects& logic, QWidget* pa
 
 void ObjectsExaminerWindow::Build() {
   find_->setObjectName(QStringLiteral("Text1"));
+  find_->setAccessibleName(QStringLiteral("Find"));
+  kinds_->setAccessibleName(QStringLiteral("Objects"));
+  members_->setAccessibleName(QStringLiteral("Properties, Methods and Events"));
   find_->setPlaceholderText(QStringLiteral("First letters of an object"));
   find_->setClearButtonEnabled(true);
   find_->addAction(IconOf(QStringLiteral("search")), QLineEdit::LeadingPosition);
   KeepInCodePage(*find_);
   text_->setObjectName(QStringLiteral("Editor"));
+  text_->setAccessibleName(QStringLiteral("Description"));
   text_->setReadOnly(true);
   text_->setTabChangesFocus(true);
   // A reader moves in it by keys as well.
@@ -135,6 +139,10 @@ void ObjectsExaminerWindow::ShowKind() {
   kinds_->setCurrentRow(logic_.KindRow());
   FillList(*members_, logic_.ListaPro());
   members_->setCurrentRow(logic_.MemberRow());
+  // Both marks are seen, however far down they stand.
+  for (QListWidget* list : {kinds_, members_}) {
+    if (list->currentItem() != nullptr) list->scrollToItem(list->currentItem());
+  }
   ShowText();
 }
 

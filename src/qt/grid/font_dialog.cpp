@@ -9,10 +9,10 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
-#include <cmath>
 
 #include "looks/platform_colors.h"
 #include "qt/kit/text_bridge.h"
@@ -25,28 +25,54 @@ namespace {
 constexpr int kSwatch = 16;
 constexpr int kSampleHeight = 72;
 constexpr int kLargestSize = 400;
+constexpr int kSizeDecimals = 3;
+constexpr int kSizeDigits = 6;
+
+/// Points with their fraction, "8.25". Point and comma both stand before it.
+class SizeBox final : public QDoubleSpinBox {
+ public:
+  explicit SizeBox(QWidget* parent) : QDoubleSpinBox(parent) {
+    setLocale(QLocale::c());
+    setDecimals(kSizeDecimals);
+    setRange(1, kLargestSize);
+  }
+
+ protected:
+  [[nodiscard]] QString textFromValue(double value) const override {
+    return QString::number(value, 'g', kSizeDigits);
+  }
+  [[nodiscard]] double valueFromText(const QString& text) const override {
+    return QDoubleSpinBox::valueFromText(WithPoint(text));
+  }
+  QValidator::State validate(QString& text, int& position) const override {
+    text = WithPoint(text);
+    return QDoubleSpinBox::validate(text, position);
+  }
+
+ private:
+  static QString WithPoint(QString text) { return text.replace(u',', u'.'); }
+};
 
 /// The dialog's fields; the choice is read from them when it closes.
 class FontDialog final : public QDialog {
  public:
-  FontDialog(const FontChoice& start, QWidget* parent) : QDialog(parent), color_(start.Color) {
+  FontDialog(const FontChoice& start, QWidget* parent)
+      : QDialog(parent), start_size_(start.Size), color_(start.Color) {
     setWindowTitle(QStringLiteral("Font"));
     setObjectName(QStringLiteral("FontDialog"));
     name_->setCurrentText(ToQString(start.Name));
     KeepInCodePage(*name_->lineEdit());
-    size_->setRange(1, kLargestSize);
-    size_->setValue(static_cast<int>(std::lround(start.Size)));
+    size_->setValue(start.Size);
+    shown_size_ = size_->value();
     bold_->setChecked(start.Bold);
     italic_->setChecked(start.Italic);
-    underline_->setChecked(start.Underline);
-    strike_->setChecked(start.Strikethru);
     sample_->setAlignment(Qt::AlignCenter);
     sample_->setFixedHeight(kSampleHeight);
     sample_->setAutoFillBackground(true);
     Build();
     connect(name_, &QComboBox::editTextChanged, this, [this] { ShowSample(); });
-    connect(size_, &QSpinBox::valueChanged, this, [this] { ShowSample(); });
-    for (const QCheckBox* box : {bold_, italic_, underline_, strike_}) {
+    connect(size_, &QDoubleSpinBox::valueChanged, this, [this] { ShowSample(); });
+    for (const QCheckBox* box : {bold_, italic_}) {
       connect(box, &QCheckBox::toggled, this, [this] { ShowSample(); });
     }
     connect(pick_, &QPushButton::clicked, this, [this] { PickColor(); });
@@ -55,18 +81,14 @@ class FontDialog final : public QDialog {
 
   [[nodiscard]] FontChoice Choice() const {
     return {FromQString(name_->currentText()),
-            static_cast<float>(size_->value()),
-            bold_->isChecked(),
-            italic_->isChecked(),
-            underline_->isChecked(),
-            strike_->isChecked(),
-            color_};
+            size_->value() == shown_size_ ? start_size_ : static_cast<float>(size_->value()),
+            bold_->isChecked(), italic_->isChecked(), color_};
   }
 
  private:
   void Build() {
     auto* styles = new QHBoxLayout;
-    for (QCheckBox* box : {bold_, italic_, underline_, strike_}) styles->addWidget(box);
+    for (QCheckBox* box : {bold_, italic_}) styles->addWidget(box);
     styles->addStretch();
     auto* form = new QFormLayout;
     form->setSpacing(kRoom);
@@ -74,7 +96,12 @@ class FontDialog final : public QDialog {
     form->addRow(QStringLiteral("&Size"), size_);
     form->addRow(QString(), styles);
     form->addRow(QStringLiteral("&Colour"), pick_);
+    pick_->setAccessibleName(QStringLiteral("Colour"));
+    pick_->setToolTip(QStringLiteral("Choose the colour of the text"));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    buttons->button(QDialogButtonBox::Ok)->setToolTip(QStringLiteral("Take the font (Enter)"));
+    buttons->button(QDialogButtonBox::Cancel)
+        ->setToolTip(QStringLiteral("Leave the font as it was (Esc)"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);
@@ -87,11 +114,9 @@ class FontDialog final : public QDialog {
 
   void ShowSample() {
     QFont font(name_->currentText());
-    font.setPixelSize(size_->value() * 96 / 72 + 1);
+    font.setPixelSize(qRound(size_->value() * 96 / 72) + 1);
     font.setBold(bold_->isChecked());
     font.setItalic(italic_->isChecked());
-    font.setUnderline(underline_->isChecked());
-    font.setStrikeOut(strike_->isChecked());
     sample_->setFont(font);
     QPalette palette;
     palette.setColor(QPalette::Window, Qt::white);
@@ -109,13 +134,13 @@ class FontDialog final : public QDialog {
     ShowSample();
   }
 
+  float start_size_;
+  double shown_size_ = 0;  ///< the start's, as the field rounds it
   std::int32_t color_;
   QFontComboBox* name_ = new QFontComboBox(this);
-  QSpinBox* size_ = new QSpinBox(this);
+  SizeBox* size_ = new SizeBox(this);
   QCheckBox* bold_ = new QCheckBox(QStringLiteral("&Bold"), this);
   QCheckBox* italic_ = new QCheckBox(QStringLiteral("&Italic"), this);
-  QCheckBox* underline_ = new QCheckBox(QStringLiteral("&Underline"), this);
-  QCheckBox* strike_ = new QCheckBox(QStringLiteral("S&trike-out"), this);
   QPushButton* pick_ = new QPushButton(QStringLiteral("Choose..."), this);
   QLabel* sample_ = new QLabel(QStringLiteral("AaBbCc 0123"), this);
 };

@@ -9,8 +9,8 @@ class QWidget;
 
 namespace tarnwick {
 
-/// Lets the user choose a font: name, size, bold, italic, underline, strike-out and colour. Nothing
-/// when it was cancelled.
+/// Lets the user choose a font: name, size, bold, italic and colour. A size that the user
+/// leaves alone comes back as it was. Nothing when it was cancelled.
 [[nodiscard]] std::optional<FontChoice> RunFontDialog(const FontChoice& start, QWidget* parent);
 
 }  // namespace tarnwick

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include "inspector/form_add_items.h"
@@ -13,6 +14,29 @@
 
 namespace tarnwick {
 
+namespace {
+
+/// The text with its hard blanks, which the field's plain text turns into soft ones; "\n" between
+/// the lines.
+QString TextOf(const QPlainTextEdit& field) {
+  QString text = field.document()->toRawText();
+  return text.replace(QChar::ParagraphSeparator, u'\n');
+}
+
+/// What the list cannot hold shows as "?" where it is typed.
+void KeepItems(QPlainTextEdit& field) {
+  const QString typed = TextOf(field);
+  const QString kept = ToQString(FormAddItems::Storable(FromQString(typed)));
+  if (typed == kept) return;
+  const int caret = field.textCursor().position();
+  field.setPlainText(kept);
+  QTextCursor cursor = field.textCursor();
+  cursor.setPosition(qMin<int>(caret, static_cast<int>(kept.size())));
+  field.setTextCursor(cursor);
+}
+
+}  // namespace
+
 void RunItemDialog(FormAddItems& logic, QWidget* parent) {
   QDialog dialog(parent);
   dialog.setObjectName(QStringLiteral("FormAddItems"));
@@ -20,25 +44,18 @@ void RunItemDialog(FormAddItems& logic, QWidget* parent) {
   auto* label = new QLabel(QStringLiteral("One item a &line"), &dialog);
   auto* text = new QPlainTextEdit(&dialog);
   text->setObjectName(QStringLiteral("TextAdd"));
+  text->setAccessibleName(QStringLiteral("Items, one a line"));
   text->setTabChangesFocus(true);
   text->setPlainText(ToQString(logic.TextAdd()));
   label->setBuddy(text);
-  // What the code page lacks shows as "?" where it is typed.
-  QObject::connect(text, &QPlainTextEdit::textChanged, &dialog, [text] {
-    const QString typed = text->toPlainText();
-    const QString kept = ShownInCodePage(typed);
-    if (typed == kept) return;
-    const int caret = text->textCursor().position();
-    text->setPlainText(kept);
-    QTextCursor cursor = text->textCursor();
-    cursor.setPosition(qMin<int>(caret, static_cast<int>(kept.size())));
-    text->setTextCursor(cursor);
-  });
+  const QString at_opening = TextOf(*text);
+  QObject::connect(text, &QPlainTextEdit::textChanged, &dialog, [text] { KeepItems(*text); });
   auto* buttons = new QDialogButtonBox(&dialog);
   QPushButton* ok = buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole);
   ok->setShortcut(QKeySequence(QStringLiteral("Ctrl+Return")));
-  ok->setToolTip(QStringLiteral("Ctrl+Enter"));
-  buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+  ok->setToolTip(QStringLiteral("Store the items (Ctrl+Enter)"));
+  QPushButton* cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+  cancel->setToolTip(QStringLiteral("Leave the items as they were (Esc)"));
   QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
   QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
   auto* column = new QVBoxLayout(&dialog);
@@ -49,9 +66,9 @@ void RunItemDialog(FormAddItems& logic, QWidget* parent) {
   column->addWidget(buttons);
   dialog.resize(360, 320);
   if (dialog.exec() != QDialog::Accepted) return;
-  QString lines = text->toPlainText();
-  lines.replace(u'\n', QStringLiteral("\r\n"));
-  logic.Ok(FromQString(lines));
+  // A text that nobody touched may hold bytes that the field shows otherwise.
+  const QString lines = TextOf(*text);
+  if (lines != at_opening) logic.Ok(FromQString(lines));
 }
 
 }  // namespace tarnwick

@@ -4,61 +4,27 @@
 #include <QClipboard>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QScopedValueRollback>
-#include <QScreen>
-#include <QSignalBlocker>
 #include <QToolButton>
 #include <algorithm>
-#include <array>
 
 #include "inspector/property_sheet.h"
-#include "looks/platform_colors.h"
+#include "qt/grid/cell_keys.h"
 #include "qt/grid/property_looks.h"
 #include "qt/grid/property_row_view.h"
-#include "qt/kit/icon_set.h"
+#include "qt/grid/row_buttons.h"
+#include "qt/grid/value_popup.h"
 #include "qt/kit/text_bridge.h"
-#include "qt/kit/theme.h"
 
 namespace tarnwick {
 
 namespace {
 
-constexpr int kButton = 22;
-constexpr int kButtonIcon = 14;
-constexpr int kMostListRows = 12;
-constexpr int kListFrame = 6;  ///< border and padding, both sides
 constexpr int kPage = 10;
 constexpr int kEnd = 10000;
-
-bool IsColor(int mark) {
-  return mark == row_mark::kColor || mark == row_mark::kColorToo;
-}
-
-bool OpensPicker(const QKeyEvent& event) {
-  return event.key() == Qt::Key_F4 ||
-         (event.key() == Qt::Key_Down && event.modifiers().testFlag(Qt::AltModifier));
-}
-
-bool IsEnter(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
-/// Keys that a menu command has too, and that here belong to the cell.
-bool BelongsToCell(const QKeyEvent& event) {
-  constexpr std::array kKeys{QKeySequence::Cut,      QKeySequence::Copy, QKeySequence::Paste,
-                             QKeySequence::Undo,     QKeySequence::Redo, QKeySequence::Delete,
-                             QKeySequence::SelectAll};
-  const auto same = [&event](QKeySequence::StandardKey key) { return event.matches(key); };
-  return OpensPicker(event) || std::any_of(kKeys.begin(), kKeys.end(), same);
-}
-
-bool IsTyping(const QKeyEvent& event) {
-  const Qt::KeyboardModifiers held =
-      event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-  const bool plain = held == Qt::NoModifier || held == (Qt::ControlModifier | Qt::AltModifier);
-  return plain && !event.text().isEmpty() && event.text().at(0).isPrint();
-}
+constexpr double kNamePart = 0.42;
+/// Neither column gets narrower.
+constexpr int kLeastColumn = 48;
 
 }  // namespace
 
@@ -66,44 +32,14 @@ PropertyGrid::PropertyGrid(PropertySheet& sheet, looks::PictureCache& pictures, 
     : QWidget(parent),
       sheet_(sheet),
       pictures_(pictures),
-      boton1_(MakeButton("Boton1", "choose", "Choose...")),
-      boton2_(MakeButton("Boton2", "drop", "List")),
-      boton3_(MakeButton("Boton3", "reset", "Reset")),
-      list_(new QListWidget(this)) {
+      buttons_(new RowButtons(sheet, this)),
+      list_(new ValuePopup(this)),
+      name_part_(kNamePart) {
   setObjectName(QStringLiteral("GridRows"));
-  const auto pick = [this] { sheet_.PickValue(); };
-  connect(boton1_, &QToolButton::clicked, this, pick);
-  connect(boton2_, &QToolButton::clicked, this, pick);
-  connect(boton3_, &QToolButton::clicked, this, [this] { sheet_.ResetValue(); });
-  MakeList();
-}
-
-QToolButton* PropertyGrid::MakeButton(const char* name, const char* icon, const char* tip) {
-  auto* button = new QToolButton(this);
-  button->setObjectName(QString::fromLatin1(name));
-  button->setIcon(IconOf(QString::fromLatin1(icon)));
-  button->setIconSize(QSize(kButtonIcon, kButtonIcon));
-  button->setToolTip(QString::fromLatin1(tip));
-  button->setAccessibleName(QString::fromLatin1(tip));
-  button->setAutoRaise(true);
-  button->setFocusPolicy(Qt::TabFocus);
-  button->installEventFilter(this);
-  button->hide();
-  return button;
-}
-
-void PropertyGrid::MakeList() {
-  list_->setObjectName(QStringLiteral("ListBox"));
-  list_->setWindowFlags(Qt::Popup);
-  // A press on the button that opened the list closes it and no more.
-  list_->setAttribute(Qt::WA_NoMouseReplay);
-  list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  list_->setUniformItemSizes(true);
-  list_->setMouseTracking(true);
-  list_->installEventFilter(this);
-  list_->hide();
-  connect(list_, &QListWidget::itemClicked, this,
-          [this](QListWidgetItem* item) { ChooseListRow(list_->row(item)); });
+  setAccessibleName(QStringLiteral("Properties"));
+  for (QToolButton* button : buttons_->All()) button->installEventFilter(this);
+  connect(list_, &ValuePopup::Chosen, this, [this](int place) { ChooseListRow(place); });
+  connect(list_, &ValuePopup::Closed, this, [this] { sheet_.CloseList(); });
 }
 
 PropertyRowView* PropertyGrid::ViewAt(int row) const {
@@ -113,14 +49,23 @@ PropertyRowView* PropertyGrid::ViewAt(int row) const {
 
 /// The row of a field, or the selected row for one of its buttons.
 PropertyRowView* PropertyGrid::ViewOf(const QObject* object) const {
-  if (object == boton1_ || object == boton2_ || object == boton3_) {
-    return ViewAt(sheet_.RowIndex());
-  }
+  if (buttons_->Holds(object)) return ViewAt(sheet_.RowIndex());
   return qobject_cast<PropertyRowView*>(object->parent());
 }
 
 bool PropertyGrid::IsSelected(int row) const {
   return sheet_.HasSelectedRow() && sheet_.RowIndex() == row;
+}
+
+int PropertyGrid::ValueLeft() const {
+  const int wanted = static_cast<int>(width() * name_part_) + 1;
+  return qMax(kLeastColumn, qMin(wanted, width() - kLeastColumn));
+}
+
+void PropertyGrid::MoveDivider(int x) {
+  if (width() <= 2 * kLeastColumn) return;
+  name_part_ = static_cast<double>(qBound(kLeastColumn, x, width() - kLeastColumn)) / width();
+  LayOut();
 }
 
 void PropertyGrid::Commit() {
@@ -137,9 +82,10 @@ void PropertyGrid::MakeRows(int count) {
     connect(&view->Field(), &QLineEdit::textEdited, this,
             [this, row](const QString& text) { Type(row, text); });
     connect(view, &PropertyRowView::NamePressed, this, [this](int pressed, bool twice) {
-      EnterRow(pressed, Focus::ByRow);
+      EnterRow(pressed, FocusOn::ByRow);
       if (twice) PickOrCycle(pressed);
     });
+    connect(view, &PropertyRowView::DividerDragged, this, [this](int x) { MoveDivider(x); });
     rows_.push_back(view);
   }
 }
@@ -169,6 +115,7 @@ void PropertyGrid::LayOut() {
     PropertyRowView* view = ViewAt(row);
     if (view == nullptr) continue;
     is_shown[static_cast<std::size_t>(row)] = true;
+    view->SetValueLeft(ValueLeft());
     view->setGeometry(0, top, width(), height);
     top += height;
   }
@@ -180,7 +127,7 @@ void PropertyGrid::LayOut() {
 }
 
 QSize PropertyGrid::sizeHint() const {
-  return {2 * kButton, minimumHeight()};
+  return {2 * kLeastColumn, minimumHeight()};
 }
 
 void PropertyGrid::resizeEvent(QResizeEvent* event) {
@@ -190,79 +137,60 @@ void PropertyGrid::resizeEvent(QResizeEvent* event) {
 
 void PropertyGrid::ShowSelection() {
   const int present = sheet_.RowIndex();
-  PropertyRowView* stop = ViewAt(sheet_.RowTop(present) >= 0 ? present : 0);
   for (PropertyRowView* view : rows_) {
     const bool selected = IsSelected(view->Row());
-    view->SetColors(selected ? looks::ColorOf(sheet_.RowBackColor(view->Row())) : QColor(),
-                    selected ? looks::ColorOf(sheet_.RowTextColor(view->Row())) : QColor());
-    const Qt::FocusPolicy policy = view == stop ? Qt::StrongFocus : Qt::ClickFocus;
-    if (view->Field().focusPolicy() != policy) view->Field().setFocusPolicy(policy);
+    view->SetSelected(selected);
     if (!selected) view->SetButtonRoom(0);
   }
   PlaceButtons();
+  SetTabStop(ViewAt(sheet_.RowTop(present) >= 0 ? present : 0));
+}
+
+/// The one row at which the Tab key stops, its buttons behind it.
+void PropertyGrid::SetTabStop(PropertyRowView* stop) {
+  for (PropertyRowView* view : rows_) {
+    const Qt::FocusPolicy policy = view == stop ? Qt::StrongFocus : Qt::ClickFocus;
+    if (view->Field().focusPolicy() != policy) view->Field().setFocusPolicy(policy);
+  }
   if (stop == nullptr || stop == tab_stop_) return;
   tab_stop_ = stop;
-  QWidget* before = tab_before_;
-  for (QWidget* next : {static_cast<QWidget*>(&stop->Field()), static_cast<QWidget*>(boton1_),
-                        static_cast<QWidget*>(boton2_), static_cast<QWidget*>(boton3_)}) {
-    if (before != nullptr) setTabOrder(before, next);
-    before = next;
+  if (tab_before_ != nullptr) setTabOrder(tab_before_, &stop->Field());
+  QWidget* before = &stop->Field();
+  for (QToolButton* button : buttons_->All()) {
+    setTabOrder(before, button);
+    before = button;
   }
 }
 
 void PropertyGrid::PlaceButtons() {
   PropertyRowView* view = sheet_.HasSelectedRow() ? ViewAt(sheet_.RowIndex()) : nullptr;
-  const bool shown = view != nullptr && !view->isHidden();
-  if (shown) {
-    const bool color = IsColor(sheet_.RowMark(view->Row()));
-    const QString tip = color ? QStringLiteral("Colour...") : QStringLiteral("List");
-    if (boton2_->toolTip() != tip) {
-      boton2_->setIcon(IconOf(color ? QStringLiteral("colour") : QStringLiteral("drop")));
-      boton2_->setToolTip(tip);
-      boton2_->setAccessibleName(tip);
-    }
-  }
-  const struct {
-    QToolButton* Button;
-    bool Shown;
-  } buttons[] = {{boton3_, shown && sheet_.Boton3Shown()},
-                 {boton2_, shown && sheet_.Boton2Shown()},
-                 {boton1_, shown && sheet_.Boton1Shown()}};
-  const int top = shown ? view->y() + (view->height() - 1 - kButton) / 2 : 0;
-  int room = 0;
-  for (const auto& [button, is_shown] : buttons) {
-    if (is_shown) {
-      room += kButton + 1;
-      button->setGeometry(width() - room, top, kButton, kButton);
-      button->raise();
-    }
-    button->setVisible(is_shown);
-  }
-  if (shown) view->SetButtonRoom(room);
+  if (view != nullptr && view->isHidden()) view = nullptr;
+  const QRect line = view != nullptr ? view->geometry().adjusted(0, 0, 0, -1) : QRect();
+  const int room = buttons_->Place(line);
+  if (view != nullptr) view->SetButtonRoom(room);
 }
 
 void PropertyGrid::FocusRow() {
-  if (sheet_.ShownRows().empty()) return;
   const auto& shown = sheet_.ShownRows();
-  const int present = sheet_.RowIndex();
-  const bool is_there = sheet_.RowTop(present) >= 0;
+  if (shown.empty()) return;
+  const int wanted = sheet_.HasSelectedRow() ? sheet_.RowIndex() : sheet_.RowToEnter();
   const int first = shown[shown.size() > 1 && !sheet_.Filter().empty() ? 1 : 0];
-  EnterRow(is_there && sheet_.Filter().empty() ? present : first, Focus::ByRow);
+  const bool is_there = sheet_.RowTop(wanted) >= 0 && sheet_.Filter().empty();
+  EnterRow(is_there ? wanted : first, FocusOn::ByRow);
 }
 
 /// Selects a row and gives the focus to its value, or to its button where the row's type says so.
-void PropertyGrid::EnterRow(int row, Focus focus) {
+void PropertyGrid::EnterRow(int row, FocusOn focus) {
   PropertyRowView* view = ViewAt(row);
   if (view == nullptr || entering_) return;
   const QScopedValueRollback<bool> guard(entering_, true);
   if (!IsSelected(row)) {
     // A value half typed elsewhere is taken while its row is still the selected one.
     Commit();
-    before_ = sheet_.Text(row);
     sheet_.SelectRow(row);
   }
-  if (focus == Focus::ByRow && sheet_.ButtonTakesFocus()) {
-    (sheet_.Boton1Shown() ? boton1_ : boton2_)->setFocus(Qt::OtherFocusReason);
+  if (focus == FocusOn::ByRow && sheet_.ButtonTakesFocus()) {
+    buttons_->Picker().setFocus(Qt::OtherFocusReason);
   } else {
     view->Field().setFocus(Qt::OtherFocusReason);
     view->Field().selectAll();
@@ -273,12 +201,11 @@ void PropertyGrid::EnterRow(int row, Focus focus) {
 void PropertyGrid::Type(int row, const QString& text) {
   PropertyRowView* view = ViewAt(row);
   if (view == nullptr) return;
-  if (!IsSelected(row)) {
-    before_ = sheet_.Text(row);
-    sheet_.SelectRow(row);
-  }
+  if (!IsSelected(row)) sheet_.SelectRow(row);
   const QScopedValueRollback<bool> guard(applying_, true);
-  if (sheet_.ApplyText(FromQString(text))) ShowRow(row);
+  sheet_.ApplyText(FromQString(text));
+  // Its colour, its picture or its mark may be another.
+  ShowRow(row);
 }
 
 void PropertyGrid::MoveBy(int row, int steps) {
@@ -287,13 +214,13 @@ void PropertyGrid::MoveBy(int row, int steps) {
   const auto here = std::lower_bound(shown.begin(), shown.end(), row);
   const auto last = static_cast<int>(shown.size()) - 1;
   const int place = std::clamp(static_cast<int>(here - shown.begin()) + steps, 0, last);
-  EnterRow(shown[static_cast<std::size_t>(place)], Focus::ByRow);
+  EnterRow(shown[static_cast<std::size_t>(place)], FocusOn::ByRow);
 }
 
 /// A double click: the next value of a list, the dialog of another row.
 void PropertyGrid::PickOrCycle(int row) {
   if (!IsSelected(row)) return;
-  const auto& values = sheet_.ListRows();
+  const auto& values = sheet_.List().Values();
   if (!sheet_.Boton2Shown() || values.empty()) {
     if (sheet_.Boton1Shown() || sheet_.Boton2Shown()) sheet_.PickValue();
     return;
@@ -303,21 +230,8 @@ void PropertyGrid::PickOrCycle(int row) {
                         ? values.begin()
                         : std::next(present);
   const int place = static_cast<int>(next - values.begin());
-  sheet_.ApplyChoice(std::string{*next}, place);
-}
-
-/// Puts back the value that the row had when it was entered; with nothing to put back the grid is
-/// left.
-void PropertyGrid::Revert(int row) {
-  QLineEdit& field = ViewAt(row)->Field();
-  const QString before = ToQString(before_);
-  if (sheet_.Text(row) == before_ && field.text() == before) {
-    Q_EMIT Left();
-    return;
-  }
-  field.setText(before);
-  Type(row, before);
-  field.selectAll();
+  const std::string value = *next;
+  sheet_.ApplyChoice(value, place);
 }
 
 void PropertyGrid::ShowList(bool is_open) {
@@ -326,52 +240,19 @@ void PropertyGrid::ShowList(bool is_open) {
     list_->hide();
     return;
   }
-  const QSignalBlocker quiet(list_);
-  list_->clear();
-  for (const std::string& text : sheet_.ListRows()) list_->addItem(ToQString(text));
-  list_->setCurrentRow(sheet_.ListMarked());
-  const int rows = qBound(1, list_->count(), kMostListRows);
-  const int row_height = list_->count() > 0 ? list_->sizeHintForRow(0) : view->height();
-  const int left = PropertyRowView::ValueLeft(width());
-  QRect place(view->mapToGlobal(QPoint(left, view->height())),
-              QSize(width() - left, row_height * rows + kListFrame));
-  // At the foot of the screen the list opens upwards.
-  if (const QScreen* desk = screen(); place.bottom() > desk->availableGeometry().bottom()) {
-    place.moveBottom(view->mapToGlobal(QPoint(0, 0)).y() - 1);
-  }
-  list_->setGeometry(place);
-  list_->show();
-  list_->setFocus();
-  if (list_->currentItem() != nullptr) list_->scrollToItem(list_->currentItem());
+  const int left = ValueLeft();
+  list_->Open(sheet_.List().Values(), sheet_.List().Marked(),
+              QRect(view->mapToGlobal(QPoint(left, 0)), QSize(width() - left, view->height())));
 }
 
 void PropertyGrid::ChooseListRow(int place) {
-  if (place < 0 || place >= list_->count()) return;
-  const std::string text = FromQString(list_->item(place)->text());
-  list_->hide();
-  sheet_.ApplyChoice(text, place);
-}
-
-bool PropertyGrid::FilterList(QEvent* event) {
-  if (event->type() == QEvent::Hide && sheet_.ListOpen()) {
-    sheet_.CloseList();
-  }
-  if (event->type() != QEvent::KeyPress) return false;
-  const auto& key = *static_cast<QKeyEvent*>(event);
-  if (IsEnter(key.key()) || key.key() == Qt::Key_Tab) {
-    ChooseListRow(list_->currentRow());
-    return true;
-  }
-  if (key.key() == Qt::Key_Escape || key.key() == Qt::Key_F4 ||
-      key.modifiers().testFlag(Qt::AltModifier)) {
-    list_->hide();
-    return true;
-  }
-  return false;
+  const auto& values = sheet_.List().Values();
+  if (place < 0 || place >= static_cast<int>(values.size())) return;
+  const std::string value = values[static_cast<std::size_t>(place)];
+  sheet_.ApplyChoice(value, place);
 }
 
 bool PropertyGrid::eventFilter(QObject* object, QEvent* event) {
-  if (object == list_) return FilterList(event) || QWidget::eventFilter(object, event);
   const PropertyRowView* view = ViewOf(object);
   if (view != nullptr && FilterCell(object, view->Row(), event)) return true;
   return QWidget::eventFilter(object, event);
@@ -384,18 +265,16 @@ bool PropertyGrid::FilterCell(QObject* object, int row, QEvent* event) {
       // A press says itself what it does.
       if (is_field && !IsSelected(row) &&
           static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason) {
-        EnterRow(row, Focus::Text);
+        EnterRow(row, FocusOn::Text);
       }
       break;
     case QEvent::FocusOut:
-      if (is_field && IsSelected(row)) {
-        sheet_.ApplyText(FromQString(ViewAt(row)->Field().text()));
-      }
+      if (is_field && IsSelected(row)) LeaveCell(row, *static_cast<QFocusEvent*>(event));
       break;
     case QEvent::MouseButtonPress:
       // The press that selects the row leaves the text selected; the next one sets the caret.
       if (is_field && !(IsSelected(row) && ViewAt(row)->Field().hasFocus())) {
-        EnterRow(row, IsSelected(row) ? Focus::Text : Focus::ByRow);
+        EnterRow(row, IsSelected(row) ? FocusOn::Text : FocusOn::ByRow);
         return true;
       }
       break;
@@ -417,6 +296,15 @@ bool PropertyGrid::FilterCell(QObject* object, int row, QEvent* event) {
       break;
   }
   return false;
+}
+
+/// What was typed last is applied, and then the row shows what is stored. A menu over the cell does
+/// not end its editing.
+void PropertyGrid::LeaveCell(int row, const QFocusEvent& event) {
+  sheet_.ApplyText(FromQString(ViewAt(row)->Field().text()));
+  if (event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason) {
+    sheet_.LeaveRow();
+  }
 }
 
 bool PropertyGrid::PressKey(QObject* object, int row, QKeyEvent& event) {
@@ -441,7 +329,11 @@ bool PropertyGrid::PressKey(QObject* object, int row, QKeyEvent& event) {
       MoveBy(row, event.key() == Qt::Key_Home ? -kEnd : kEnd);
       return true;
     case Qt::Key_Escape:
-      Revert(row);
+      if (sheet_.Revert()) {
+        view.Field().selectAll();
+      } else {
+        Q_EMIT Left();
+      }
       return true;
     default:
       break;
@@ -474,7 +366,7 @@ bool PropertyGrid::TypeOnButton(PropertyRowView& view, QKeyEvent& event) {
                      (IsTyping(event) && event.key() != Qt::Key_Space);
   if (!edits) return false;
   if (!sheet_.TakesTyping(view.Row())) return true;
-  EnterRow(view.Row(), Focus::Text);
+  EnterRow(view.Row(), FocusOn::Text);
   QApplication::sendEvent(&field, &event);
   return true;
 }

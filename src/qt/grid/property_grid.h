@@ -2,11 +2,10 @@
 #pragma once
 
 #include <QWidget>
-#include <string>
 #include <vector>
 
+class QFocusEvent;
 class QKeyEvent;
-class QListWidget;
 class QToolButton;
 
 namespace tarnwick::looks {
@@ -17,6 +16,8 @@ namespace tarnwick {
 
 class PropertyRowView;
 class PropertySheet;
+class RowButtons;
+class ValuePopup;
 
 /// Paints the rows of the sheet and forwards what the user does in them. The selected row alone
 /// takes part in the order of Tab, so that the grid is one stop on the way through the window:
@@ -61,23 +62,23 @@ class PropertyGrid final : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  enum class Focus { ByRow, Text };
+  enum class FocusOn { ByRow, Text };
 
   [[nodiscard]] PropertyRowView* ViewAt(int row) const;
   [[nodiscard]] PropertyRowView* ViewOf(const QObject* object) const;
   [[nodiscard]] bool IsSelected(int row) const;
-  QToolButton* MakeButton(const char* name, const char* icon, const char* tip);
-  void MakeList();
+  [[nodiscard]] int ValueLeft() const;
   void MakeRows(int count);
   void LayOut();
   void PlaceButtons();
-  void EnterRow(int row, Focus focus);
+  void SetTabStop(PropertyRowView* stop);
+  void MoveDivider(int x);
+  void EnterRow(int row, FocusOn focus);
   void Type(int row, const QString& text);
   void MoveBy(int row, int steps);
   void PickOrCycle(int row);
-  void Revert(int row);
   void ChooseListRow(int place);
-  bool FilterList(QEvent* event);
+  void LeaveCell(int row, const QFocusEvent& event);
   bool FilterCell(QObject* object, int row, QEvent* event);
   bool PressKey(QObject* object, int row, QKeyEvent& event);
   bool TypeOnButton(PropertyRowView& view, QKeyEvent& event);
@@ -87,11 +88,9 @@ class PropertyGrid final : public QWidget {
   std::vector<PropertyRowView*> rows_;
   QWidget* tab_before_ = nullptr;
   const PropertyRowView* tab_stop_ = nullptr;
-  QToolButton* boton1_;
-  QToolButton* boton2_;
-  QToolButton* boton3_;
-  QListWidget* list_;
-  std::string before_;  ///< value of the selected row as it was entered
+  RowButtons* buttons_;
+  ValuePopup* list_;
+  double name_part_;  ///< part of the width that the names take
   bool applying_ = false;
   bool entering_ = false;
 };

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "inspector/property_sheet.h"
+#include "language/colour_names.h"
 #include "looks/picture_cache.h"
 #include "looks/platform_colors.h"
 #include "qt/kit/text_bridge.h"
@@ -15,12 +16,12 @@ namespace tarnwick {
 
 namespace {
 
-QPixmap Swatch(const std::string& text, const QWidget& grid) {
+QPixmap Swatch(std::int32_t color, const QWidget& grid) {
   const qreal ratio = grid.devicePixelRatioF();
   const int side = PropertyRowView::PicturePixels() - 2;
   QPixmap pixmap(QSize(side, side) * ratio);
   pixmap.setDevicePixelRatio(ratio);
-  pixmap.fill(looks::ColorOf(ToInt32(Val(text)).value_or(0)));
+  pixmap.fill(looks::ColorOf(color));
   QPainter painter(&pixmap);
   // A line in the middle of the two greys shows on any colour.
   painter.setPen(QColor(128, 128, 128));
@@ -50,40 +51,30 @@ void ShowFont(const FontChoice& font, RowLook& look) {
   look.Face.setFamily(ToQString(font.Name));
   look.Face.setBold(font.Bold);
   look.Face.setItalic(font.Italic);
-  look.Face.setUnderline(font.Underline);
-  look.Face.setStrikeOut(font.Strikethru);
   look.Note = QString::fromStdString(NumberText(font.Size));
+  if (font.Bold) look.Note += QStringLiteral(", bold");
+  if (font.Italic) look.Note += QStringLiteral(", italic");
 }
 
 }  // namespace
 
 RowLook LookOfRow(const PropertySheet& sheet, looks::PictureCache& pictures, const QWidget& grid,
                   int row) {
-  const std::string& text = sheet.Text(row);
+  const QString text = ToQString(sheet.Text(row));
   RowLook look;
   look.Face = grid.font();
   look.Typed = sheet.TakesTyping(row);
-  switch (sheet.RowMark(row)) {
-    case row_mark::kColor:
-    case row_mark::kColorToo:
-      look.Picture = Swatch(text, grid);
-      break;
-    case row_mark::kPicture:
-    case row_mark::kIcon:
-      look.Picture = Preview(sheet.RowPictures(row), pictures, grid);
-      look.Tip = ToQString(text);
-      break;
-    case row_mark::kFolder:
-    case row_mark::kAnyFile:
-    case row_mark::kHtmlFile:
-      look.Tip = ToQString(text);
-      break;
-    case row_mark::kFont:
-      if (const std::optional<FontChoice> font = sheet.RowFont(row)) ShowFont(*font, look);
-      break;
-    default:
-      break;
+  look.Fault = ToQString(sheet.RowFault(row));
+  look.IsPath = sheet.IsPath(row);
+  if (look.IsPath) look.Tip = text;
+  if (const std::optional<std::int32_t> color = sheet.RowColor(row)) {
+    look.Picture = Swatch(*color, grid);
+    const QString name = ToQString(language::NameOfColour(*color));
+    if (text.compare(name, Qt::CaseInsensitive) != 0) look.Note = name;
   }
+  look.Picture =
+      look.Picture.isNull() ? Preview(sheet.RowPictures(row), pictures, grid) : look.Picture;
+  if (const std::optional<FontChoice> font = sheet.RowFont(row)) ShowFont(*font, look);
   return look;
 }
 

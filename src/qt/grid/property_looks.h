@@ -11,8 +11,8 @@ namespace tarnwick {
 
 class PropertySheet;
 
-/// Look of a row of the sheet: a colour has its swatch, a font its face, style and size, a picture
-/// or icon a small image of itself.
+/// Look of a row of the sheet: a colour has its swatch and name, a font its face, style and size, a
+/// picture or icon a small image of itself.
 [[nodiscard]] RowLook LookOfRow(const PropertySheet& sheet, looks::PictureCache& pictures,
                                 const QWidget& grid, int row);
 

@@ -1,20 +1,22 @@
 #include "qt/grid/property_panel.h"
 
-#include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
-#include <QSplitter>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "inspector/property_sheet.h"
+#include "qt/grid/object_box.h"
 #include "qt/grid/property_grid.h"
+#include "qt/grid/property_row_view.h"
+#include "qt/grid/row_area.h"
+#include "qt/kit/grip_splitter.h"
 #include "qt/kit/icon_set.h"
 #include "qt/kit/panel_frame.h"
 #include "qt/kit/text_bridge.h"
@@ -25,22 +27,29 @@ namespace tarnwick {
 namespace {
 
 constexpr int kCloseIcon = 14;
+/// The most and the least that the help takes by itself, and the rows that come before it.
 constexpr int kHelpHeight = 92;
-constexpr int kGridHeight = 400;
+constexpr int kLeastHelp = 44;
+constexpr int kRowsFirst = 12;
 
 }  // namespace
 
 PropertyPanel::PropertyPanel(PropertySheet& sheet, looks::PictureCache& pictures, QWidget* parent)
     : QWidget(parent),
       sheet_(sheet),
-      combo_(new QComboBox),
+      combo_(new ObjectBox(
+          [this](const QString& text) { return sheet_.Combo().Search(FromQString(text)); },
+          nullptr)),
       filter_(new QLineEdit),
-      scroll_(new QScrollArea),
+      scroll_(new RowArea),
       grid_(new PropertyGrid(sheet, pictures, scroll_)),
       help_name_(new QLabel),
-      help_(new QPlainTextEdit) {
+      help_(new QPlainTextEdit),
+      parts_(new GripSplitter(Qt::Vertical)),
+      help_part_(new QWidget) {
   BuildHead();
   BuildGrid();
+  BuildHelp();
   auto* go = new QShortcut(QKeySequence(Qt::Key_F4), window());
   connect(go, &QShortcut::activated, this, [this] {
     if (!sheet_.PanelVisible()) Q_EMIT ShownWanted(true);
@@ -64,6 +73,7 @@ void PropertyPanel::BuildHead() {
   close->setIcon(IconOf(QStringLiteral("close")));
   close->setIconSize(QSize(kCloseIcon, kCloseIcon));
   close->setToolTip(QStringLiteral("Close"));
+  close->setAccessibleName(QStringLiteral("Close properties"));
   close->setAutoRaise(true);
   close->setFocusPolicy(Qt::NoFocus);
   frame->AddToHead(close);
@@ -73,7 +83,7 @@ void PropertyPanel::BuildHead() {
   combo_->setAccessibleName(combo_->toolTip());
   combo_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   combo_->setMinimumContentsLength(8);
-  connect(combo_, &QComboBox::activated, this, [this](int place) { sheet_.ChooseComboRow(place); });
+  connect(combo_, &ObjectBox::activated, this, [this](int place) { sheet_.ChooseComboRow(place); });
   filter_->setObjectName(QStringLiteral("RowFilter"));
   filter_->setPlaceholderText(QStringLiteral("Filter rows"));
   filter_->setToolTip(QStringLiteral("Show only rows whose name holds this text"));
@@ -84,23 +94,22 @@ void PropertyPanel::BuildHead() {
   connect(filter_, &QLineEdit::textChanged, this,
           [this](const QString& text) { sheet_.SetFilter(FromQString(text)); });
 
-  auto* help = new QWidget;
-  auto* help_column = new QVBoxLayout(help);
-  help_column->setContentsMargins(0, kGap, 0, 0);
+  auto* help_column = new QVBoxLayout(help_part_);
+  help_column->setContentsMargins(0, 0, 0, 0);
   help_column->setSpacing(0);
   help_column->addWidget(help_name_);
   help_column->addWidget(help_);
-  auto* parts = new QSplitter(Qt::Vertical);
-  parts->setObjectName(QStringLiteral("GridAndHelp"));
-  parts->setHandleWidth(kGap);
-  parts->addWidget(scroll_);
-  parts->addWidget(help);
-  parts->setStretchFactor(0, 1);
-  parts->setSizes({kGridHeight, kHelpHeight});
+  parts_->setObjectName(QStringLiteral("GridAndHelp"));
+  parts_->setHandleWidth(kRoom);
+  parts_->addWidget(scroll_);
+  parts_->addWidget(help_part_);
+  parts_->setCollapsible(0, false);
+  parts_->setStretchFactor(0, 1);
+  connect(parts_, &QSplitter::splitterMoved, this, [this] { is_shared_by_user_ = true; });
 
   frame->Body().addWidget(combo_);
   frame->Body().addWidget(filter_);
-  frame->Body().addWidget(parts, 1);
+  frame->Body().addWidget(parts_, 1);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(frame);
@@ -108,11 +117,7 @@ void PropertyPanel::BuildHead() {
 
 void PropertyPanel::BuildGrid() {
   scroll_->setObjectName(QStringLiteral("PropertyGrid"));
-  scroll_->setFrameShape(QFrame::NoFrame);
-  scroll_->setFocusPolicy(Qt::NoFocus);
-  scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroll_->verticalScrollBar()->setObjectName(QStringLiteral("VScroll1"));
-  scroll_->setWidgetResizable(true);
   grid_->setBackgroundRole(QPalette::Base);
   scroll_->setWidget(grid_);
   grid_->SetTabBefore(filter_);
@@ -120,7 +125,9 @@ void PropertyPanel::BuildGrid() {
     scroll_->ensureVisible(0, row.y() + row.height() / 2, 0, row.height());
   });
   connect(grid_, &PropertyGrid::Left, this, &PropertyPanel::Left);
+}
 
+void PropertyPanel::BuildHelp() {
   help_name_->setObjectName(QStringLiteral("RowHelpName"));
   help_name_->setProperty("heading", true);
   help_name_->setTextFormat(Qt::PlainText);
@@ -130,6 +137,23 @@ void PropertyPanel::BuildGrid() {
   help_->setFrameShape(QFrame::NoFrame);
   help_->setFocusPolicy(Qt::ClickFocus);
   help_->document()->setDocumentMargin(0);
+  help_->setMinimumHeight(0);
+  help_part_->setMinimumHeight(0);
+}
+
+void PropertyPanel::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  ShareHeight();
+}
+
+/// In a low window the rows come first: the help takes what twelve of them leave, down to nothing.
+void PropertyPanel::ShareHeight() {
+  if (is_shared_by_user_) return;
+  const int whole = parts_->height() - parts_->handleWidth();
+  const int rows = qMin(grid_->minimumHeight(), kRowsFirst * PropertyRowView::HeightPixels());
+  const int left = qMin(kHelpHeight, whole - rows);
+  const int help = left < kLeastHelp ? 0 : left;
+  parts_->setSizes({whole - help, help});
 }
 
 void PropertyPanel::Commit() {
@@ -140,13 +164,20 @@ bool PropertyPanel::KeepsFocus() const {
   return grid_->IsApplying();
 }
 
+void PropertyPanel::SubjectChanged() {
+  starts_at_top_ = true;
+}
+
 void PropertyPanel::RowsChanged() {
   grid_->ShowRows();
+  if (std::exchange(starts_at_top_, false)) scroll_->verticalScrollBar()->setValue(0);
+  ShareHeight();
   ShowHelp();
 }
 
 void PropertyPanel::RowTextChanged(int row) {
   grid_->ShowRow(row);
+  if (row == 0) ShowHelp();
 }
 
 void PropertyPanel::RowSelected() {
@@ -161,7 +192,9 @@ void PropertyPanel::ListOpened(bool is_open) {
 void PropertyPanel::ShowHelp() {
   const int row = sheet_.HasSelectedRow() ? sheet_.RowIndex() : -1;
   const QString name = ToQString(sheet_.Label(row));
-  const QString text = ToQString(sheet_.Help());
+  const QString fault = ToQString(sheet_.RowFault(row));
+  const QString about = ToQString(sheet_.Help());
+  const QString text = fault.isEmpty() ? about : fault + QStringLiteral("\n") + about;
   if (help_name_->text() != name) help_name_->setText(name);
   if (help_->toPlainText() != text) help_->setPlainText(text);
 }

@@ -5,11 +5,10 @@
 
 #include "inspector/inspector_host.h"
 
-class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
-class QScrollArea;
+class QSplitter;
 
 namespace tarnwick::looks {
 class PictureCache;
@@ -17,8 +16,10 @@ class PictureCache;
 
 namespace tarnwick {
 
+class ObjectBox;
 class PropertyGrid;
 class PropertySheet;
+class RowArea;
 
 /// View of `PropertySheet`. F4 anywhere in the main window goes to the grid.
 class PropertyPanel final : public QWidget, public PropertySheetView {
@@ -35,6 +36,7 @@ class PropertyPanel final : public QWidget, public PropertySheetView {
   /// would take it from the cell being typed in.
   [[nodiscard]] bool KeepsFocus() const;
 
+  void SubjectChanged() override;
   void RowsChanged() override;
   void RowTextChanged(int row) override;
   void RowSelected() override;
@@ -51,19 +53,26 @@ class PropertyPanel final : public QWidget, public PropertySheetView {
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void BuildHead();
   void BuildGrid();
+  void BuildHelp();
+  void ShareHeight();
   void ShowHelp();
 
   PropertySheet& sheet_;
-  QComboBox* combo_;
+  ObjectBox* combo_;
   QLineEdit* filter_;
-  QScrollArea* scroll_;
+  RowArea* scroll_;
   PropertyGrid* grid_;
   QLabel* help_name_;
   QPlainTextEdit* help_;
+  QSplitter* parts_;
+  QWidget* help_part_;
+  bool is_shared_by_user_ = false;  ///< the user moved the handle between rows and help
+  bool starts_at_top_ = false;      ///< the next rows are those of another object
 };
 
 }  // namespace tarnwick

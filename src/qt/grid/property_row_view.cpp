@@ -1,10 +1,11 @@
 #include "qt/grid/property_row_view.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 
+#include "qt/grid/value_field.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
 
@@ -12,24 +13,46 @@ namespace tarnwick {
 
 namespace {
 
-/// The names take this part of the row's width.
-constexpr double kNamePart = 0.42;
+/// So many pixels in front of the line between the columns can be dragged.
+constexpr int kGrip = 5;
+
+/// A triangle with an exclamation mark.
+void DrawWarning(QPainter& painter, const QRectF& place) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  QPainterPath triangle;
+  triangle.moveTo(place.center().x(), place.top() + 1);
+  triangle.lineTo(place.right() - 1, place.bottom() - 1);
+  triangle.lineTo(place.left() + 1, place.bottom() - 1);
+  triangle.closeSubpath();
+  painter.setPen(QPen(QColor(0x9A, 0x67, 0x00), 1));
+  painter.setBrush(QColor(0xFB, 0xBF, 0x24));
+  painter.drawPath(triangle);
+  painter.setPen(QPen(QColor(0x42, 0x20, 0x06), 1.6));
+  const double x = place.center().x();
+  painter.drawLine(QPointF(x, place.top() + 6), QPointF(x, place.bottom() - 6));
+  painter.drawPoint(QPointF(x, place.bottom() - 3.5));
+  painter.restore();
+}
 
 }  // namespace
 
 PropertyRowView::PropertyRowView(int row, QWidget* parent)
-    : QWidget(parent), row_(row), label_(new QLabel(this)), text_(new QLineEdit(this)) {
+    : QWidget(parent), row_(row), label_(new QLabel(this)), text_(new ValueField(this)) {
   label_->setObjectName(QStringLiteral("Label_%1").arg(row));
   label_->setTextFormat(Qt::PlainText);
   label_->setIndent(kRoom);
-  // Not the roles that the grid hands down: the selected row sets these two.
-  label_->setBackgroundRole(QPalette::Window);
   label_->setForegroundRole(QPalette::WindowText);
   text_->setObjectName(QStringLiteral("Text_%1").arg(row));
   text_->setFrame(false);
   text_->setFocusPolicy(Qt::ClickFocus);
   KeepInCodePage(*text_);
+  setMouseTracking(true);
   resize(width(), HeightPixels());
+}
+
+QLineEdit& PropertyRowView::Field() {
+  return *text_;
 }
 
 void PropertyRowView::SetName(std::string_view name) {
@@ -48,25 +71,24 @@ void PropertyRowView::SetValue(std::string_view text, const RowLook& look) {
   }
   if (text_->isReadOnly() == look.Typed) text_->setReadOnly(!look.Typed);
   if (text_->font() != look.Face) text_->setFont(look.Face);
-  if (text_->toolTip() != look.Tip) text_->setToolTip(look.Tip);
-  if (picture_.isNull() && look.Picture.isNull() && note_ == look.Note) return;
+  const QString& tip = look.Fault.isEmpty() ? look.Tip : look.Fault;
+  if (text_->toolTip() != tip) text_->setToolTip(tip);
+  if (text_->accessibleDescription() != look.Fault) text_->setAccessibleDescription(look.Fault);
+  text_->SetIsPath(look.IsPath);
+  const bool same =
+      picture_.isNull() && look.Picture.isNull() && note_ == look.Note && fault_ == look.Fault;
+  if (same) return;
   picture_ = look.Picture;
   note_ = look.Note;
+  fault_ = look.Fault;
   LayOut();
-  update();
 }
 
-void PropertyRowView::SetColors(const QColor& back, const QColor& text) {
-  const bool selected = back.isValid();
+void PropertyRowView::SetSelected(bool selected) {
   if (selected_ == selected) return;
   selected_ = selected;
-  QPalette colors = palette();
-  if (selected) {
-    colors.setColor(QPalette::Window, back);
-    colors.setColor(QPalette::WindowText, text);
-  }
-  label_->setPalette(colors);
-  label_->setAutoFillBackground(selected);
+  label_->setForegroundRole(selected ? QPalette::HighlightedText : QPalette::WindowText);
+  update();
 }
 
 void PropertyRowView::SetButtonRoom(int pixels) {
@@ -75,8 +97,10 @@ void PropertyRowView::SetButtonRoom(int pixels) {
   LayOut();
 }
 
-int PropertyRowView::ValueLeft(int width) {
-  return static_cast<int>(width * kNamePart) + 1;
+void PropertyRowView::SetValueLeft(int pixels) {
+  if (value_left_ == pixels) return;
+  value_left_ = pixels;
+  LayOut();
 }
 
 void PropertyRowView::resizeEvent(QResizeEvent* event) {
@@ -85,21 +109,25 @@ void PropertyRowView::resizeEvent(QResizeEvent* event) {
 }
 
 void PropertyRowView::LayOut() {
-  int left = ValueLeft(width());
-  label_->setGeometry(0, 0, left - 1, height() - 1);
-  if (!picture_.isNull()) left += kGap + PicturePixels();
+  int left = value_left_;
+  label_->setGeometry(0, 0, left - kGrip, height() - 1);
+  if (!picture_.isNull() || !fault_.isEmpty()) left += kGap + PicturePixels();
   int right = width() - button_room_;
   if (!note_.isEmpty()) right -= fontMetrics().horizontalAdvance(note_) + kRoom;
   text_->setGeometry(left, 0, qMax(0, right - left), height() - 1);
+  update();
 }
 
 void PropertyRowView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  const int left = ValueLeft(width());
+  const int left = value_left_;
+  if (selected_) painter.fillRect(0, 0, left, height(), palette().highlight());
   painter.fillRect(left, 0, width() - left, height(), palette().base());
-  if (!picture_.isNull()) {
+  const int side = PicturePixels();
+  if (!fault_.isEmpty()) {
+    DrawWarning(painter, QRectF(left + kGap, (height() - 1 - side) / 2.0, side, side));
+  } else if (!picture_.isNull()) {
     const QSizeF size = picture_.deviceIndependentSize();
-    const int side = PicturePixels();
     painter.drawPixmap(
         QPointF(left + kGap + (side - size.width()) / 2, (height() - 1 - size.height()) / 2),
         picture_);
@@ -114,12 +142,33 @@ void PropertyRowView::paintEvent(QPaintEvent* /*event*/) {
   painter.fillRect(left - 1, 0, 1, height(), line);
 }
 
+bool PropertyRowView::IsOnDivider(const QMouseEvent& event) const {
+  const double x = event.position().x();
+  return x >= value_left_ - kGrip && x < value_left_;
+}
+
 void PropertyRowView::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) Q_EMIT NamePressed(row_, false);
+  if (event->button() != Qt::LeftButton) return;
+  dragging_ = IsOnDivider(*event);
+  if (!dragging_) Q_EMIT NamePressed(row_, false);
+}
+
+void PropertyRowView::mouseMoveEvent(QMouseEvent* event) {
+  if (dragging_) {
+    Q_EMIT DividerDragged(static_cast<int>(event->position().x()));
+  } else if (IsOnDivider(*event)) {
+    setCursor(Qt::SplitHCursor);
+  } else {
+    unsetCursor();
+  }
+}
+
+void PropertyRowView::mouseReleaseEvent(QMouseEvent* /*event*/) {
+  dragging_ = false;
 }
 
 void PropertyRowView::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) Q_EMIT NamePressed(row_, true);
+  if (event->button() == Qt::LeftButton && !IsOnDivider(*event)) Q_EMIT NamePressed(row_, true);
 }
 
 }  // namespace tarnwick

@@ -2,18 +2,24 @@
 
 #include <QLineEdit>
 
+#include "text/one_line.h"
+
 namespace tarnwick {
 
 QString ShownInCodePage(const QString& text) {
   return ToQString(FromQString(text));
 }
 
+QString ShownInOneLine(const QString& text) {
+  return ToQString(OneLineText(FromQString(text)));
+}
+
 CodePageValidator::CodePageValidator(QObject* parent) : QValidator(parent) {}
 
 QValidator::State CodePageValidator::validate(QString& text, int& position) const {
-  QString shown = ShownInCodePage(text);
+  QString shown = ShownInOneLine(text);
   if (shown != text) {
-    const int before = static_cast<int>(ShownInCodePage(text.left(position)).size());
+    const int before = static_cast<int>(ShownInOneLine(text.left(position)).size());
     position = before;
     text = std::move(shown);
   }

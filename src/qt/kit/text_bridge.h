@@ -17,8 +17,11 @@ using looks::ToQString;
 /// basic plane counts once.
 [[nodiscard]] QString ShownInCodePage(const QString& text);
 
-/// Lets a field hold only what the code page can hold: what is typed or pasted and has no place in
-/// it shows as "?" at once, so that saving never changes a text.
+/// The same for a field of one line: line breaks and other control characters are blanks.
+[[nodiscard]] QString ShownInOneLine(const QString& text);
+
+/// Lets a field of one line hold only what the code page can hold, and no line break: what is typed
+/// or pasted and has no place in it shows as "?" at once, so that saving never changes a text.
 class CodePageValidator final : public QValidator {
  public:
   explicit CodePageValidator(QObject* parent);

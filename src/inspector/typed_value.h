@@ -1,0 +1,32 @@
+// What a text typed into a row of the grid means.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "inspector/row_bindings.h"
+
+namespace tarnwick {
+
+/// A number as it is typed.
+struct TypedNumber {
+  enum class State : std::uint8_t {
+    Unfinished,  ///< empty, a sign alone, the beginning of a name: nothing to store yet
+    Number,
+    Refused,  ///< more than any place can hold
+  };
+  State Is = State::Unfinished;
+  double Value = 0;
+};
+
+/// Reads the text of a number row. Decimal numbers count by their leading digits, a word is 0. A
+/// colour row also takes the names of the language, `&H` with up to eight hexadecimal digits, `$`
+/// with six digits as red, green and blue, and `$` with another number of digits as `&H`; a word
+/// that is no colour is unfinished there.
+[[nodiscard]] TypedNumber ReadTypedNumber(RowShape shape, std::string_view text);
+
+/// The text of a file row: "(none)" and "(default)" in any case are the fixed words.
+[[nodiscard]] std::string FileRowText(std::string_view text);
+
+}  // namespace tarnwick
