@@ -1,6 +1,7 @@
 // Both menu designers and the menu bar of a design form, by real keys and presses.
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -9,6 +10,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
@@ -19,11 +21,17 @@
 #include "program.h"
 #include "qt/menus/menu_preview_view.h"
 #include "qt/surface/container.h"
+#include "shell/events_bar.h"
 
 namespace tarnwick {
 namespace {
 
 using menus::Rows;
+
+/// Waits until keys go to the window: one with a transient parent counts as active along with it.
+bool TakesKeys(const QWidget& window) {
+  return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
+}
 
 /// An open designer.
 struct Designer {
@@ -104,6 +112,15 @@ class MenuDesigners : public testing::Test {
   std::string Source() {
     GeneratorState state;
     return GenerateSource(program.Tables(), state);
+  }
+  /// The code editor, wherever it works.
+  static QWidget& Code() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto found = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+      return window->objectName() == QLatin1String("FormCodigo");
+    });
+    EXPECT_NE(found, windows.end());
+    return **found;
   }
   QAbstractButton& Title(int number) {
     return *program.Window()
@@ -275,6 +292,25 @@ TEST_F(MenuDesigners, TheMenuOfTheFormOpensAndAnItemIsSelectedForItsCode) {
   program.Click(*items, items->actionGeometry(items->actions().at(1)).center());
   EXPECT_EQ(program.Form().NameObjet, "Form1mnuOpen");
   EXPECT_EQ(program.Form().ControlSel, nullptr);
+  QWidget& code = Code();
+  ASSERT_TRUE(code.isVisible());
+  EXPECT_EQ(code.windowTitle(), "Form1mnuOpen");
+  auto* events = code.findChild<QComboBox*>(QStringLiteral("Events"));
+  EXPECT_EQ(events->count(), 1);
+  EXPECT_EQ(events->currentText(), "Sub Form1mnuOpen_OnClick");
+  ASSERT_TRUE(TakesKeys(code));
+  program.Type(QStringLiteral("Beep"));
+  program.Key(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_FALSE(code.isVisible());
+  EXPECT_EQ(*program.Tables().EventTable.Find("Form1.Form1mnuOpen.OnClick"), "Beep");
+  // The events bar has a button for the item, which selects it again.
+  const auto buttons = program.Shell().Bar().btncodigo(1);
+  ASSERT_EQ(buttons.size(), 1U);
+  EXPECT_EQ(buttons.front().Tag, "Form1mnuOpen");
+  program.Shell().User(1)->SelectForm();
+  program.Shell().Bar().btncodigo_Click("Form1mnuOpen");
+  EXPECT_EQ(program.Form().NameObjet, "Form1mnuOpen");
+  EXPECT_NE(Source().find("Form1mnuOpen.OnClick = Form1mnuOpen_OnClick"), std::string::npos);
 }
 
 TEST_F(MenuDesigners, TheMenuOfTheFormIsReachedByKeys) {
@@ -293,6 +329,10 @@ TEST_F(MenuDesigners, TheMenuOfTheFormIsReachedByKeys) {
   program.Key(Qt::Key_Down);
   program.Key(Qt::Key_Return);
   EXPECT_EQ(program.Form().NameObjet, "Form1mnuCut");
+  ASSERT_TRUE(Code().isVisible());
+  ASSERT_TRUE(TakesKeys(Code()));
+  program.Key(Qt::Key_Escape);
+  EXPECT_FALSE(Code().isVisible());
 }
 
 TEST_F(MenuDesigners, ThePopUpDesignerStoresItsRows) {
@@ -311,6 +351,48 @@ TEST_F(MenuDesigners, ThePopUpDesignerStoresItsRows) {
   ASSERT_EQ(popup.Items.size(), 8U);
   EXPECT_EQ(popup.Items[7].Level, 2);
   EXPECT_EQ(program.Form().NameObjet, "PopupMenu1");
+}
+
+TEST_F(MenuDesigners, SubroutinesOpensTheEditorAboveTheDesignerWhichComesBack) {
+  program.Place(19, {20, 20});
+  InPopUpEdit([this](const Designer& menu) {
+    menu.Press(10);
+    menu.Text(0).setFocus();
+    menu.Key(Qt::Key_Down);
+    auto* subroutines = menu.Dialog.findChild<QPushButton*>(QStringLiteral("btns"));
+    QTest::mouseClick(subroutines, Qt::LeftButton);
+    QWidget& code = Code();
+    ASSERT_TRUE(code.isVisible());
+    EXPECT_EQ(code.windowTitle(), "Form1ppmCut");
+    ASSERT_TRUE(TakesKeys(code));
+    // The designer waits.
+    EXPECT_FALSE(menu.Button(7).isEnabled());
+    menu.Dialog.reject();
+    EXPECT_TRUE(menu.Dialog.isVisible());
+    program.Type(QStringLiteral("Beep"));
+    program.Key(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_FALSE(code.isVisible());
+    EXPECT_TRUE(menu.Dialog.isVisible());
+    EXPECT_TRUE(menu.Button(7).isEnabled());
+    EXPECT_EQ(code.parentWidget(), &program.Window());
+    const std::string* stored = program.Tables().EventTable.Find("Form1.Form1ppmCut.OnClick");
+    ASSERT_NE(stored, nullptr);
+    EXPECT_EQ(*stored, "Beep");
+    // An item without code opens an empty page; emptied code leaves no entry.
+    menu.Dialog.activateWindow();
+    ASSERT_TRUE(TakesKeys(menu.Dialog));
+    QTest::mouseClick(subroutines, Qt::LeftButton);
+    ASSERT_TRUE(TakesKeys(code));
+    program.Key(Qt::Key_A, Qt::ControlModifier);
+    program.Key(Qt::Key_Delete);
+    program.Key(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(program.Tables().EventTable.Find("Form1.Form1ppmCut.OnClick"), nullptr);
+    menu.Dialog.activateWindow();
+    ASSERT_TRUE(TakesKeys(menu.Dialog));
+    menu.Ok();
+  });
+  EXPECT_EQ(program.Tables().PopUpMenus.At(1)->Items.size(), 8U);
+  EXPECT_EQ(program.Tables().JumpKey, "");
 }
 
 TEST_F(MenuDesigners, TwoFormsWithMenusPopUpsAndCodeGoToSourceAndComeBackFromDisk) {

@@ -231,6 +231,11 @@ void CodeEdit::keyPressEvent(QKeyEvent* event) {
     event->accept();
     return;
   }
+  if (event->key() == Qt::Key_Escape) {
+    // The widget would keep it for itself, and it closes the window.
+    event->ignore();
+    return;
+  }
   if (const QString typed = event->text(); !typed.isEmpty()) list_.KeyPress(typed.at(0).unicode());
   const QString kept = ShownInCodePage(event->text());
   QKeyEvent shown(event->type(), event->key(), event->modifiers(), kept, event->isAutoRepeat());
