@@ -40,7 +40,7 @@ class OwnerCode {
   /// Calls `use(event, code)` for each of `events` that has code, in their order.
   template <class Use>
   void ForEach(std::span<const Event> events, Use use) const {
-    if (owner_ == nullptr) return;
+    if (owner_ == nullptr || !owner_->HasCode()) return;
     for (const Event event : events) {
       const std::string_view code = Of(event);
       if (!code.empty()) use(event, code);

@@ -13,10 +13,26 @@ std::string ObjectKey(int form, Kind kind, int number) {
   return key;
 }
 
+const std::string* EventCodeTable::Owner::FindSlot(std::size_t slot) const noexcept {
+  static const std::string kNoCode;
+  if (!present_[slot]) return nullptr;
+  const auto code = codes_.find(slot);
+  return code == codes_.end() ? &kNoCode : &code->second;
+}
+
 bool EventCodeTable::Owner::AddSlot(std::size_t slot, std::string_view code) {
-  if (entries_[slot]) return false;
-  entries_[slot].emplace(code);
+  if (present_[slot]) return false;
+  SetSlot(slot, code);
   return true;
+}
+
+void EventCodeTable::Owner::SetSlot(std::size_t slot, std::string_view code) {
+  present_.set(slot);
+  if (code.empty()) {
+    codes_.erase(slot);
+  } else {
+    codes_[slot] = code;
+  }
 }
 
 EventCodeTable::KeyParts EventCodeTable::PartsOf(std::string_view key) noexcept {
@@ -34,15 +50,16 @@ std::string EventCodeTable::SuffixOf(std::size_t slot) {
 }
 
 const EventCodeTable::Owner* EventCodeTable::OwnerOf(std::string_view owner) const noexcept {
-  const auto found = index_.find(owner);
-  return found == index_.end() ? nullptr : &owners_[found->second];
+  const auto found = owners_.find(owner);
+  return found == owners_.end() ? nullptr : &found->second;
 }
 
 EventCodeTable::Owner& EventCodeTable::OwnerFor(std::string_view owner) {
-  const auto found = index_.find(owner);
-  if (found != index_.end()) return owners_[found->second];
-  index_.emplace(owner, owners_.size());
-  return owners_.emplace_back(owner);
+  const auto found = owners_.find(owner);
+  if (found != owners_.end()) return found->second;
+  KeyedOwner& made = *owners_.try_emplace(std::string(owner)).first;
+  order_.push_back(&made);
+  return made.second;
 }
 
 const std::string* EventCodeTable::Find(std::string_view key) const noexcept {
@@ -62,25 +79,24 @@ bool EventCodeTable::Add(std::string_view owner, Event event, std::string_view v
 
 void EventCodeTable::Replace(std::string_view key, std::string_view value) {
   const KeyParts parts = PartsOf(key);
-  OwnerFor(parts.Owner).entries_[parts.Slot] = value;
+  OwnerFor(parts.Owner).SetSlot(parts.Slot, value);
 }
 
 void EventCodeTable::Replace(std::string_view owner, Event event, std::string_view value) {
-  OwnerFor(owner).entries_[static_cast<std::size_t>(event)] = value;
+  OwnerFor(owner).SetSlot(static_cast<std::size_t>(event), value);
 }
 
 bool EventCodeTable::Remove(std::string_view key) noexcept {
   const KeyParts parts = PartsOf(key);
-  const auto found = index_.find(parts.Owner);
-  if (found == index_.end()) return false;
-  std::optional<std::string>& entry = owners_[found->second].entries_[parts.Slot];
-  const bool there = entry.has_value();
-  entry.reset();
-  return there;
+  const auto found = owners_.find(parts.Owner);
+  if (found == owners_.end() || !found->second.present_[parts.Slot]) return false;
+  found->second.present_.reset(parts.Slot);
+  found->second.codes_.erase(parts.Slot);
+  return true;
 }
 
 void EventCodeTable::Clear() noexcept {
-  index_.clear();
+  order_.clear();
   owners_.clear();
 }
 

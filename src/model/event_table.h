@@ -1,13 +1,14 @@
 // `EventTable`: the code of every event of every form, object and menu item.
 #pragma once
 
-#include <array>
+#include <bitset>
 #include <cstddef>
-#include <deque>
-#include <optional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 #include "model/kinds.h"
 #include "text/code_page.h"
@@ -31,12 +32,12 @@ class EventCodeTable {
   /// All entries of one owner.
   class Owner {
    public:
-    explicit Owner(std::string_view key) : key_(key) {}
-
     /// The code of an event; null when there is no entry.
     [[nodiscard]] const std::string* Find(Event event) const noexcept {
       return FindSlot(static_cast<std::size_t>(event));
     }
+    /// True when an entry has code: most owners have none.
+    [[nodiscard]] bool HasCode() const noexcept { return !codes_.empty(); }
     /// Adds an entry; false, and nothing changed, when there is one.
     bool Add(Event event, std::string_view code) {
       return AddSlot(static_cast<std::size_t>(event), code);
@@ -44,15 +45,21 @@ class EventCodeTable {
 
    private:
     friend class EventCodeTable;
-    [[nodiscard]] const std::string* FindSlot(std::size_t slot) const noexcept {
-      return entries_[slot] ? &*entries_[slot] : nullptr;
-    }
+    [[nodiscard]] const std::string* FindSlot(std::size_t slot) const noexcept;
     bool AddSlot(std::size_t slot, std::string_view code);
+    void SetSlot(std::size_t slot, std::string_view code);
 
-    std::string key_;
-    /// By event; the last one is for a key that ends in no event.
-    std::array<std::optional<std::string>, kEventCount + 1> entries_;
+    // A slot is an event; the last one is for a key that ends in no event.
+    std::bitset<kEventCount + 1> present_;
+    std::map<std::size_t, std::string> codes_;  ///< of the entries that are not empty
   };
+
+  EventCodeTable() = default;
+  EventCodeTable(const EventCodeTable&) = delete;
+  EventCodeTable& operator=(const EventCodeTable&) = delete;
+  EventCodeTable(EventCodeTable&&) noexcept = default;
+  EventCodeTable& operator=(EventCodeTable&&) noexcept = default;
+  ~EventCodeTable() = default;
 
   /// The entry of a key; null when there is none.
   [[nodiscard]] const std::string* Find(std::string_view key) const noexcept;
@@ -77,10 +84,10 @@ class EventCodeTable {
   /// entries of each by enumerator.
   template <class Visit>
   void ForEach(Visit visit) const {
-    for (const Owner& owner : owners_) {
+    for (const KeyedOwner* const owner : order_) {
       for (std::size_t slot = 0; slot <= kEventCount; ++slot) {
-        const std::string* const value = owner.FindSlot(slot);
-        if (value != nullptr) visit(owner.key_ + SuffixOf(slot), *value);
+        const std::string* const value = owner->second.FindSlot(slot);
+        if (value != nullptr) visit(owner->first + SuffixOf(slot), *value);
       }
     }
   }
@@ -94,8 +101,10 @@ class EventCodeTable {
   [[nodiscard]] static KeyParts PartsOf(std::string_view key) noexcept;
   [[nodiscard]] static std::string SuffixOf(std::size_t slot);
 
-  std::deque<Owner> owners_;
-  std::unordered_map<std::string, std::size_t, FoldedHash, FoldedEqual> index_;  ///< by key
+  using KeyedOwner = std::pair<const std::string, Owner>;
+
+  std::unordered_map<std::string, Owner, FoldedHash, FoldedEqual> owners_;
+  std::vector<const KeyedOwner*> order_;  ///< as they were made
 };
 
 }  // namespace tarnwick

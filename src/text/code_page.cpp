@@ -147,7 +147,10 @@ std::size_t FindFolded(std::string_view text, std::string_view part, std::size_t
 }
 
 std::size_t FoldedHash::operator()(std::string_view text) const noexcept {
-  return std::hash<std::string>()(Lower(text));
+  // FNV-1a over the lower-case bytes.
+  std::uint64_t hash = 0xCBF29CE484222325U;
+  for (const char c : text) hash = (hash ^ Index(LowerByte(c))) * 0x100000001B3U;
+  return static_cast<std::size_t>(hash);
 }
 
 std::string CodePageToUtf8(std::string_view text) {

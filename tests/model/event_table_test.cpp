@@ -177,12 +177,25 @@ TEST(EventTable, ACodeThatIsEmptiedAndFilledAgainIsTheNewOne) {
   EXPECT_EQ(CodeOf(table, "Form1.Button1.OnClick"), "new");
 }
 
-TEST(EventTable, ACopyIsItsOwn) {
+TEST(EventTable, AnOwnerHasCodeWhileAnEntryIsNotEmpty) {
   EventCodeTable table;
-  table.Add("Form1.OnClick", "old");
-  const EventCodeTable copy = table;
-  table.Replace("Form1.OnClick", "new");
-  EXPECT_EQ(CodeOf(copy, "Form1.OnClick"), "old");
+  auto& owner = table.OwnerFor("Form1.Button1");
+  EXPECT_FALSE(owner.HasCode());
+  owner.Add(Event::OnKeyUp, "");
+  EXPECT_FALSE(owner.HasCode());
+  table.Replace("Form1.Button1.OnKeyUp", "x");
+  EXPECT_TRUE(owner.HasCode());
+  table.Replace("Form1.Button1.OnKeyUp", "");
+  EXPECT_FALSE(owner.HasCode());
+}
+
+TEST(EventTable, AMovedTableHasItsEntriesInTheirOrder) {
+  EventCodeTable table;
+  for (const char* key : {"Form2.OnClick", "Form1.OnClick", "Form3.OnClick"}) table.Add(key, "x");
+  const EventCodeTable moved = std::move(table);
+  std::vector<std::string> keys;
+  moved.ForEach([&](const std::string& key, const std::string&) { keys.push_back(key); });
+  EXPECT_EQ(keys, (std::vector<std::string>{"Form2.OnClick", "Form1.OnClick", "Form3.OnClick"}));
 }
 
 }  // namespace
