@@ -129,7 +129,7 @@ void MenuPreviewView::paintEvent(QPaintEvent* /*event*/) {
   // The size may be another one since the rows were shown.
   LayOut();
   QPainter painter(this);
-  painter.fillRect(rect(), looks::kLight);
+  painter.fillRect(rect(), palette().color(QPalette::Mid));
   looks::DrawFrame(painter, rect(), LineOf(palette()), LineOf(palette()));
   painter.setClipRect(rect().adjusted(1, 1, -1, -1));
   if (has_bar_) painter.fillRect(bar_, looks::kFace);

@@ -55,6 +55,8 @@ void MenuWindowsView::Run(menus::MenuDesigner& designer) {
   dialog_ = &dialog;
   dialog.exec();
   dialog_ = nullptr;
+  // Back to where it was opened, also where no window manager sees to that.
+  main_window_.activateWindow();
 }
 
 void MenuWindowsView::OpenCode() {
