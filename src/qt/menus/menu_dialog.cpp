@@ -22,7 +22,7 @@ namespace {
 
 using menus::RowList;
 
-enum Button {
+enum Button : std::size_t {
   kOutdent,
   kIndent,
   kUp,
@@ -113,8 +113,8 @@ void MenuDialog::BuildFields() {
 }
 
 void MenuDialog::BuildButtons() {
-  for (int i = 0; i < kButtonCount; ++i) {
-    const ButtonInfo& info = kButtons[static_cast<std::size_t>(i)];
+  for (std::size_t i = 0; i < buttons_.size(); ++i) {
+    const ButtonInfo& info = kButtons[i];
     auto* button = new QPushButton(Latin(info.Caption), content_);
     button->setObjectName(QStringLiteral("Command1_%1").arg(i));
     button->setToolTip(Latin(info.Tip));
@@ -125,7 +125,7 @@ void MenuDialog::BuildButtons() {
     // Enter belongs to the text boxes.
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, [this, i] { Press(i); });
-    buttons_[static_cast<std::size_t>(i)] = button;
+    buttons_[i] = button;
   }
   if (!designer_.Design().Subroutines) return;
   subroutines_ = new QPushButton(QStringLiteral("Subroutines"), content_);
@@ -138,9 +138,9 @@ void MenuDialog::BuildButtons() {
 QHBoxLayout* MenuDialog::ButtonRow() {
   auto* row = new QHBoxLayout;
   row->setSpacing(kGap);
-  for (const int index : {kOutdent, kIndent, kUp, kDown}) row->addWidget(buttons_[index]);
+  for (const std::size_t index : {kOutdent, kIndent, kUp, kDown}) row->addWidget(buttons_[index]);
   row->addSpacing(kRoom);
-  for (const int index : {kInsert, kDelItem, kDelAll}) row->addWidget(buttons_[index]);
+  for (const std::size_t index : {kInsert, kDelItem, kDelAll}) row->addWidget(buttons_[index]);
   row->addStretch(1);
   row->addWidget(buttons_[kExample]);
   return row;
@@ -192,9 +192,9 @@ void MenuDialog::BuildLayout() {
     before = next;
   };
   follow(texto_[1]);
-  for (const int index :
+  for (const std::size_t index :
        {kAdd, kOutdent, kIndent, kUp, kDown, kInsert, kDelItem, kDelAll, kExample}) {
-    follow(buttons_[static_cast<std::size_t>(index)]);
+    follow(buttons_[index]);
   }
   follow(list_);
   follow(subroutines_);
@@ -204,7 +204,7 @@ void MenuDialog::BuildLayout() {
 }
 
 void MenuDialog::BindKeys() {
-  const auto key = [this](const QKeySequence& keys, int index) {
+  const auto key = [this](const QKeySequence& keys, std::size_t index) {
     connect(new QShortcut(keys, content_), &QShortcut::activated, this,
             [this, index] { Press(index); });
   };
@@ -223,7 +223,7 @@ void MenuDialog::Do(Step step) {
   ShowList();
 }
 
-void MenuDialog::Press(int index) {
+void MenuDialog::Press(std::size_t index) {
   switch (index) {
     case kOutdent:
       return Do([](RowList& rows) { rows.Outdent(); });

@@ -46,7 +46,7 @@ class MenuDialog final : public QDialog {
   void BuildLayout();
   void BindKeys();
   QHBoxLayout* ButtonRow();
-  void Press(int index);
+  void Press(std::size_t index);
   void Add();
   void Accept();
   /// Calls a method of the row list, then shows what it made.
