@@ -9,6 +9,7 @@
 #include "designer/form_user.h"
 #include "designer/object_kinds.h"
 #include "fakes/build_paths.h"
+#include "fakes/fake_instance_folders.h"
 #include "fakes/fake_ports.h"
 #include "platform/native_files.h"
 #include "qt/frame/main_view.h"
@@ -31,7 +32,8 @@ struct Desk {
   NativeFiles Files;
   QtScreen Screen;
   Ports Given{Files, Fakes.Profiles, Fakes.Processes, Fakes.Messages, Fakes.Dialogs, Screen};
-  MDIForm1 Shell{Given, PathFromNative(test::ProgramFolder())};
+  FakeInstanceFolders Instances{Fakes.Files};
+  MDIForm1 Shell{Given, Instances, PathFromNative(test::ProgramFolder())};
   MainWindow Window{Shell, Files};
   MainView View{Window, Shell};
   std::vector<ControlRef> Objects;

@@ -88,7 +88,8 @@ struct ProjectTables {
   std::vector<MenuBarRec> MenuTitles{1};
   std::vector<MenuItemRec> MenuItems{1};
   FormList ListaFrms;
-  std::string ProgramFolder;  ///< without a closing "\"
+  std::string ProgramFolder;     ///< without a closing "\"
+  std::string ExecutableFolder;  ///< where the program itself lies, likewise; "" when not known
 
   /// The record of a form number; null outside 0 to `FormsCount`.
   [[nodiscard]] FormRec* Form(int number) noexcept;

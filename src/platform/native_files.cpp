@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cerrno>
 #include <climits>
+#include <system_error>
 #include <utility>
 
 #include <fcntl.h>
@@ -92,8 +93,18 @@ std::optional<std::string> NativeFiles::Read(const std::string& path) {
 }
 
 bool NativeFiles::Replace(const std::string& path, std::string_view bytes) {
+  errno = 0;
+  const bool replaced = TryReplace(path, bytes);
+  why_not_ = replaced || errno == 0 ? std::string() : std::generic_category().message(errno);
+  return replaced;
+}
+
+bool NativeFiles::TryReplace(const std::string& path, std::string_view bytes) {
   const std::optional<std::string> native = FindNativeForWriting(path);
-  if (!native) return false;
+  if (!native) {
+    errno = ENOENT;
+    return false;
+  }
   const std::optional<std::string> target = LinkTarget(*native);
   if (!target) return false;
   struct stat info {};
@@ -120,7 +131,9 @@ bool NativeFiles::ReplaceNative(const std::string& target, bool is_new, std::str
   const bool filled = FillTemporary(file, target, is_new, bytes);
   const bool closed = steps_->Close(file);
   if (!filled || !closed || !steps_->Rename(temporary, target)) {
+    const int why = errno;
     steps_->Remove(temporary);
+    errno = why;
     return false;
   }
   // The new bytes are in place even when this fails; it only makes them survive a power cut.

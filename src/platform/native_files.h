@@ -26,16 +26,19 @@ class NativeFiles final : public FilePort {
   /// Temporary file in the same folder, write, flush, rename, flush the folder. A link stays a
   /// link: its target is replaced. A file without write permission is not replaced.
   bool Replace(const std::string& path, std::string_view bytes) override;
+  [[nodiscard]] std::string WhyNotReplaced() override { return why_not_; }
   bool Remove(const std::string& path) override;
   /// There are no short names here: the path itself.
   [[nodiscard]] std::string ShortPathOf(const std::string& path) override;
 
  private:
+  bool TryReplace(const std::string& path, std::string_view bytes);
   bool ReplaceNative(const std::string& target, bool is_new, std::string_view bytes);
   bool FillTemporary(int file, const std::string& target, bool is_new, std::string_view bytes);
 
   DiskSteps own_steps_;
   DiskSteps* steps_;
+  std::string why_not_;  ///< of the last Replace
 };
 
 }  // namespace tarnwick

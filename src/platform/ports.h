@@ -21,6 +21,8 @@ class FilePort {
   /// Replaces the file in one step. Returns true when it holds the new bytes afterwards; on any
   /// failure it holds the old ones, and the result is false.
   virtual bool Replace(const std::string& path, std::string_view bytes) = 0;
+  /// Why the last Replace failed, in a few words; "" when it did not, or the reason is not known.
+  [[nodiscard]] virtual std::string WhyNotReplaced() { return {}; }
   /// Deletes a file; false when there was none or it cannot be deleted.
   virtual bool Remove(const std::string& path) = 0;
   /// The short 8.3 form of a path, at most 165 characters; "" for a file that does not exist.
@@ -61,6 +63,13 @@ class MessagePort {
   /// A box with Yes and No; true for Yes. Closing it any other way is No.
   [[nodiscard]] virtual bool AskYesNo(std::string_view text, std::string_view title,
                                       MessageIcon icon) = 0;
+  /// The same for a question whose No would lose work: true for Yes, false for a No that was
+  /// pressed, nothing when the box is closed without an answer. A port whose boxes cannot be
+  /// closed returns what AskYesNo does.
+  [[nodiscard]] virtual std::optional<bool> AskOrCancel(std::string_view text,
+                                                        std::string_view title) {
+    return AskYesNo(text, title, MessageIcon::Question);
+  }
 };
 
 /// What a file dialog shows: `Filter` is caption and patterns in turn, joined by "|".
@@ -128,6 +137,28 @@ class GesturePort {
   /// Draws the outline once with an inverting pen; a second call erases it.
   virtual void DrawRubberBand(const ScreenRect& rect) = 0;
   virtual void TakeFocus() = 0;
+};
+
+/// A folder that an instance of the program has, or had, for itself.
+struct InstanceFolder {
+  std::string Path;                ///< without a closing "\\"
+  bool Running = false;            ///< its instance runs, or it is this one's
+  std::vector<std::string> Files;  ///< bare names
+};
+
+/// Folders of running instances. An instance holds its folder until its process ends, however
+/// that ends.
+class InstanceFolderPort {
+ public:
+  virtual ~InstanceFolderPort() = default;
+  /// Makes a folder under `parent`, which is made too where it is missing, and holds it from now
+  /// on. Its path; "" when that fails.
+  [[nodiscard]] virtual std::string Claim(const std::string& parent) = 0;
+  /// The folders under `parent`, in no order.
+  [[nodiscard]] virtual std::vector<InstanceFolder> List(const std::string& parent) = 0;
+  /// Deletes a folder with its files; false when it stays. A folder of a running instance is let
+  /// go of first.
+  virtual bool Remove(const std::string& path) = 0;
 };
 
 /// The ports that the logic gets by reference; all live as long as the program.

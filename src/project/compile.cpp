@@ -30,6 +30,13 @@ void CheckMainForm(ProjectTables& tables) {
   }
 }
 
+std::string CompilerPath(const ProjectTables& tables, FilePort& files) {
+  std::string own = tables.ProgramFolder + "\\Rc.exe";
+  if (files.Exists(own) || tables.ExecutableFolder.empty()) return own;
+  std::string beside = tables.ExecutableFolder + "\\Rc.exe";
+  return files.Exists(beside) ? beside : own;
+}
+
 std::string CompilerCommandLine(const ProjectTables& tables, FilePort& files,
                                 const std::string& source_file) {
   static const FormRec empty{};
@@ -48,12 +55,12 @@ std::string CompilerCommandLine(const ProjectTables& tables, FilePort& files,
   // The first dot of the whole path: a dot in a folder's name cuts there.
   const std::string target = source.substr(0, source.find('.') + 1) + "EXE";
 
-  return tables.ProgramFolder + "\\Rc.exe /COMPILE  " + InQuotes(icon) + ' ' + InQuotes(source) +
+  return CompilerPath(tables, files) + " /COMPILE  " + InQuotes(icon) + ' ' + InQuotes(source) +
          ' ' + InQuotes(target) + ' ' + InQuotes(tables.ExeFile);
 }
 
-void GenerateProgram(ProjectTables& tables, GeneratorState& state, CompileHost& host,
-                     const Ports& ports, const std::string& source_file) {
+CompileOutcome GenerateProgram(ProjectTables& tables, GeneratorState& state, CompileHost& host,
+                               const Ports& ports, const std::string& source_file) {
   // How far below the screen the container waits while the forms are read.
   constexpr int kBelowScreen = 1000;
 
@@ -69,14 +76,20 @@ void GenerateProgram(ProjectTables& tables, GeneratorState& state, CompileHost& 
   for (int i = 1; i <= tables.FormsCount; ++i) {
     if (tables.IsLive(i)) SetFormVisible(host, tables.User(i), false);
   }
-  ports.Files.Replace(source_file, text);
+  CompileOutcome outcome;
+  if (!ports.Files.Replace(source_file, text)) {
+    outcome.Source = {source_file, ports.Files.WhyNotReplaced()};
+  }
 
   host.HideContainer();
   host.MoveContainer(0);
   SetFormVisible(host, tables.CurrentForm, true);
   host.ShowContainer();
 
-  ports.Processes.StartHidden(CompilerCommandLine(tables, ports.Files, source_file));
+  outcome.CompilerFound = ports.Files.Exists(CompilerPath(tables, ports.Files));
+  outcome.Started =
+      ports.Processes.StartHidden(CompilerCommandLine(tables, ports.Files, source_file));
+  return outcome;
 }
 
 }  // namespace tarnwick::project

@@ -6,12 +6,15 @@
 #include "codegen/generator_state.h"
 #include "model/project_records.h"
 #include "platform/ports.h"
+#include "project/write_outcome.h"
 
 namespace tarnwick::project {
 
 /// A main form that was removed gives way to the first form of the list.
 void CheckMainForm(ProjectTables& tables);
 
+/// `Rc.exe` of the program folder, or that beside the program when only that is there.
+[[nodiscard]] std::string CompilerPath(const ProjectTables& tables, FilePort& files);
 /// The compiler's command line for a source that has been written.
 [[nodiscard]] std::string CompilerCommandLine(const ProjectTables& tables, FilePort& files,
                                               const std::string& source_file);
@@ -35,10 +38,17 @@ class CompileHost {
   virtual void ShowDesignForm(DesignForm& form, bool visible) = 0;
 };
 
+/// What became of a compilation.
+struct CompileOutcome {
+  WriteOutcome Source;        ///< of the generated source
+  bool CompilerFound = true;  ///< `Rc.exe` lies in the program folder or beside the program
+  bool Started = true;        ///< it was started
+};
+
 /// "Compile and Run": checks the main form, saves, writes the generated program to `source_file`
 /// and starts the compiler on it, hidden, without waiting. Every step runs even if the one
-/// before failed; nothing is reported. The forms end hidden but for the current one.
-void GenerateProgram(ProjectTables& tables, GeneratorState& state, CompileHost& host,
-                     const Ports& ports, const std::string& source_file);
+/// before failed; nothing is shown. The forms end hidden but for the current one.
+CompileOutcome GenerateProgram(ProjectTables& tables, GeneratorState& state, CompileHost& host,
+                               const Ports& ports, const std::string& source_file);
 
 }  // namespace tarnwick::project

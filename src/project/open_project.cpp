@@ -38,10 +38,14 @@ void TellRead(ProjectContext& context, int first) {
 
 FormReadResult ReadFormFile(ProjectContext& context, const std::string& path) {
   const std::optional<std::string> text = context.Files.Read(path);
-  if (!text) return FormReadResult::Unreadable;
+  return text ? ReadFormText(context, *text, path) : FormReadResult::Unreadable;
+}
+
+FormReadResult ReadFormText(ProjectContext& context, std::string_view text,
+                            const std::string& path) {
   const int first = context.Tables.FormsCount + 1;
   FormReader reader(context.Tables, path);
-  const FormReadResult result = reader.Read(*text);
+  const FormReadResult result = reader.Read(text);
   if (result == FormReadResult::Refused) {
     context.Messages.Show(reader.RefusedName() + " already exist!", "Tarnwick");
   }

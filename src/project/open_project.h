@@ -18,6 +18,10 @@ bool LoadProject(ProjectContext& context, const std::string& path);
 /// project already.
 FormReadResult ReadFormFile(ProjectContext& context, const std::string& path);
 
+/// The same for a form's text that lies in no file of its own; `path` becomes its file.
+FormReadResult ReadFormText(ProjectContext& context, std::string_view text,
+                            const std::string& path);
+
 /// Reads a form's text back into the number it has already: no test of the list and no new line,
 /// and the file's name stays. Its records and design window are replaced.
 FormReadResult ReadFormTextInto(ProjectContext& context, std::string_view text, int form);

@@ -8,11 +8,11 @@
 
 namespace tarnwick::project {
 
-/// Asks for the file of the project. An existing one is asked about first. The path as it was
-/// chosen; null when the dialog is cancelled.
+/// Asks for the file of the project. The name that is proposed or typed gets the extension ".tnp"
+/// where it lacks it, and an existing file is asked about. Null when the dialog is cancelled.
 [[nodiscard]] std::optional<std::string> SaveProjectDialog(ProjectContext& context);
-/// Asks for the file of a form and stores it in `FileName`, ".ftn" added where it lacks it. An
-/// existing file is asked about first. False when the dialog is cancelled: nothing changed.
+/// Asks for the file of a form, ".ftn" likewise, and stores it in `FileName`. An existing file is
+/// asked about. False when the dialog is cancelled: nothing changed.
 bool SaveFormDialog(ProjectContext& context, int form);
 /// Gives the form's line in the form list its present name and file.
 void RefreshFormListEntry(ProjectContext& context, int form);

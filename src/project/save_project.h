@@ -4,14 +4,16 @@
 #include <string>
 
 #include "project/project_context.h"
+#include "project/write_outcome.h"
 
 namespace tarnwick::project {
 
-/// Writes one form to its `FileName`. Silent on failure: false, and the old file is unchanged.
-bool WriteFormFile(ProjectContext& context, int form);
+/// Writes one form to its `FileName`. Shows nothing on failure, and the old file is unchanged.
+WriteOutcome WriteFormFile(ProjectContext& context, int form);
 /// Writes every live form, asking for a file name where a form has none, then the index to
-/// `path`. False when a file could not be written or a name dialog was cancelled; the rest is
-/// written all the same.
-bool SaveProject(ProjectContext& context, const std::string& path);
+/// `path`. What could not be written, and a cancelled name dialog, are told; the rest is written
+/// all the same. An index that names forms which are not among those of this project, since they
+/// could not be read, is kept beside the new one with ".bak" behind its name.
+WriteOutcome SaveProject(ProjectContext& context, const std::string& path);
 
 }  // namespace tarnwick::project

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include "platform/native_files.h"
+#include "platform/native_instance_folders.h"
 #include "platform/native_process.h"
 #include "platform/profile_files.h"
 #include "platform/program_folder.h"
@@ -33,9 +34,12 @@ int main(int argc, char** argv) {
   // An installed program keeps its support files where it cannot write; the first start of each
   // user copies them.
   const std::string folder = ProgramFolder();
-  FillProgramFolder(files, ExecutableFolder() + R"(\..\share\tarnwick)", folder);
+  const std::string executable = ExecutableFolder();
+  FillProgramFolder(files, executable, folder);
+  FillProgramFolder(files, executable + R"(\..\share\tarnwick)", folder);
 
-  MDIForm1 shell(ports, folder);
+  NativeInstanceFolders instances;
+  MDIForm1 shell(ports, instances, folder, executable);
   MainWindow window(shell, files);
   MainView view(window, shell);
   if (const QStringList words = QApplication::arguments(); words.size() > 1) {

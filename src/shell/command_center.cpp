@@ -6,6 +6,7 @@
 #include "shell/form_commands.h"
 #include "shell/project_commands.h"
 #include "shell/shell_state.h"
+#include "shell/status_text.h"
 
 namespace tarnwick {
 
@@ -17,6 +18,7 @@ void CommandCenter::Run(Command command) {
   }
   if (WaitsForCodeEditor(command) && state_.RaiseOpenCode()) return;
   state_.Busy = true;
+  state_.Say("");
   Dispatch(command);
   state_.Busy = false;
 }
@@ -63,13 +65,33 @@ void CommandCenter::Dispatch(Command command) {
     case Command::Compile:
       return compile_.Run();
     case Command::Help:
-      state_.Ports.Processes.OpenDocument(state_.Tables.ProgramFolder + "\\Tarnwick.chm");
-      return;
+      return OpenHelp();
+    case Command::Restore:
+      return state_.View->RunRestoreDialog();
     case Command::About:
       return state_.View->ShowAbout(state_.Tables.ProgramFolder);
     default:
       return edit_.Run(command);
   }
+}
+
+void CommandCenter::OpenHelp() {
+  const std::string path = state_.Tables.ProgramFolder + "\\Tarnwick.chm";
+  if (!state_.Ports.Files.Exists(path) || !state_.Ports.Processes.OpenDocument(path)) {
+    state_.Say(NoHelpStatus(path));
+  }
+}
+
+void CommandCenter::OpenRecent(const std::string& path) {
+  if (state_.Busy || !State(Command::Open).Enabled) return;
+  state_.Busy = true;
+  project_.OpenRecent(path);
+  state_.Busy = false;
+}
+
+void CommandCenter::Escape() {
+  if (state_.Busy || state_.RaiseOpenCode()) return;
+  edit_.ReleaseTool();
 }
 
 CommandState CommandCenter::State(Command command) const {

@@ -40,6 +40,10 @@ class CommandCenter {
   [[nodiscard]] std::string Caption(Command command) const;
   /// A tool of either box, or its row of the menu; nothing while it is off.
   void PressTool(int number);
+  /// Esc on a design form or in the floating tool box: back to the arrow. The lock stays.
+  void Escape();
+  /// Opens a project of the list of recent ones.
+  void OpenRecent(const std::string& path);
   [[nodiscard]] CommandState ToolState(int number) const;
   [[nodiscard]] bool PanelShown(Panel panel) const;
   /// Shows or hides a panel, also when its own close button was pressed.
@@ -47,6 +51,7 @@ class CommandCenter {
 
  private:
   void Dispatch(Command command);
+  void OpenHelp();
   void Toggle(Panel panel);
 
   ShellState& state_;

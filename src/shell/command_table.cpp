@@ -7,6 +7,8 @@ namespace tarnwick {
 namespace {
 
 constexpr MenuRow kSeparator{};
+/// The list of recent projects, a menu of its own.
+constexpr MenuRow kRecentProjects{"mnuRecent", "&Recent Projects", "", std::nullopt};
 
 constexpr std::array kFileRows{
     MenuRow{"mnuNew", "&New Project", "Ctrl+N", Command::New},
@@ -17,6 +19,9 @@ constexpr std::array kFileRows{
     MenuRow{"mnuSaveAs", "Save Project &As...", "Ctrl+Shift+S", Command::SaveAs},
     MenuRow{"mnuSaveForm", "Save &Form", "Ctrl+Alt+S", Command::SaveForm},
     MenuRow{"mnuSaveFormAs", "Save For&m As...", "", Command::SaveFormAs},
+    kSeparator,
+    kRecentProjects,
+    MenuRow{"mnuRestore", "Restore &Unsaved Work...", "", Command::Restore},
     kSeparator,
     MenuRow{"mnuExit", "E&xit", "Ctrl+Q", Command::Exit},
 };

@@ -18,6 +18,7 @@ enum class Command : std::uint8_t {
   SaveForm,
   SaveFormAs,
   Exit,
+  Restore,
   Cut,
   Copy,
   Paste,
@@ -43,7 +44,8 @@ enum class Command : std::uint8_t {
 };
 inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(Command::About) + 1;
 
-/// A row of a menu. A row without a command is a separator.
+/// A row of a menu. A row without a name is a separator, one with a name and no command is a menu
+/// whose rows the program fills: the recent projects.
 struct MenuRow {
   std::string_view Name;  ///< of the entry, "mnuSave"
   std::string_view Caption;

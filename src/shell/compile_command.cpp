@@ -7,11 +7,16 @@ namespace tarnwick {
 void CompileCommand::Run() {
   ProjectTables& tables = state_.Tables;
   if (tables.ListaFrms.Empty()) return;
+  // Also when the save is cancelled on the way: what was typed goes into the program.
+  project_.TakePending();
+  state_.View->HoldFocus();
   state_.View->SetArrowPointer(true);
   // By reference: a save on the way may give the project another source file.
-  project::GenerateProgram(tables, generator_, *this, state_.Ports, tables.SourceFile);
+  const project::CompileOutcome outcome =
+      project::GenerateProgram(tables, generator_, *this, state_.Ports, tables.SourceFile);
   state_.View->SetArrowPointer(false);
-  state_.View->SetStatus(CompileStatus(tables));
+  state_.View->RestoreFocus();
+  state_.Say(CompileStatus(tables, outcome));
 }
 
 }  // namespace tarnwick

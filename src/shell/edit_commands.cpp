@@ -1,6 +1,7 @@
 #include "shell/edit_commands.h"
 
 #include "designer/tool_box.h"
+#include "shell/titles.h"
 
 namespace tarnwick {
 
@@ -20,7 +21,7 @@ bool WaitsForCodeEditor(Command command) noexcept {
 
 void EditCommands::Run(Command command) {
   FormUser* surface = surfaces_.Current();
-  if (surface == nullptr) return;
+  if (surface == nullptr || Refused(command, surface->Form())) return;
   switch (command) {
     // The menu's Cut is the key Ctrl+X, which deletes and copies nothing.
     case Command::Cut:
@@ -53,6 +54,24 @@ void EditCommands::Run(Command command) {
   state_.View->CommandsChanged();
 }
 
+bool EditCommands::Refused(Command command, const DesignForm& form) {
+  if (command != Command::Delete || form.m_bDesignMode) return false;
+  state_.Ports.Messages.Show("Need to Unblock controls before copy/cut/paste", kApplicationTitle);
+  return true;
+}
+
+void EditCommands::ReleaseTool() {
+  FormUser* surface = surfaces_.Current();
+  if (surface == nullptr) return;
+  DesignForm& form = surface->Form();
+  if (ArmedTool(&form) != kArrowTool) {
+    form.Objeto.clear();
+  } else if (form.m_bDesignMode) {
+    surface->SelectForm();
+  }
+  state_.View->CommandsChanged();
+}
+
 void EditCommands::PressTool(int number) {
   const ToolInfo* tool = ToolOf(number);
   if (tool == nullptr) return;
@@ -62,6 +81,9 @@ void EditCommands::PressTool(int number) {
   } else if (!forms_.HasForm()) {
     forms_.AddFirst();
     forms_.ShowContainer();
+  } else if (surfaces_.Current() == nullptr) {
+    // All windows are closed: the first form comes up again.
+    forms_.GoTo(forms_.FirstForm());
   }
   FormUser* surface = surfaces_.Current();
   if (surface == nullptr) return;

@@ -15,6 +15,11 @@ class EditCommands {
 
   /// Runs a command of the Edit menu; nothing for other commands or without a form.
   void Run(Command command);
+  /// A locked form refuses deleting with a message; true when it did.
+  bool Refused(Command command, const DesignForm& form);
+  /// Esc: the armed tool gives way to the arrow. The lock stays; on a form that is not locked, with
+  /// no tool armed, the form itself is selected.
+  void ReleaseTool();
   /// A tool was pressed. A project without forms gets one first; a block of the form is lifted.
   void PressTool(int number);
 

@@ -30,7 +30,7 @@ void FormCommands::Opened(int form) {
   if (form == 0) return;
   state_.Observer.FormOpened(form);
   state_.Observer.FormListChanged();
-  BringUp(form);
+  GoTo(form);
 }
 
 void FormCommands::AddFirst() {
@@ -63,10 +63,7 @@ void FormCommands::Remove() {
 
   const auto& lines = tables.ListaFrms.Lines();
   if (lines.empty()) {
-    state_.View->SelectFormLine(-1);
-    state_.View->SetSelectionText("");
-    state_.Observer.CurrentFormChanged();
-    state_.View->CommandsChanged();
+    NoCurrentForm();
     return;
   }
   const std::size_t next = std::min(static_cast<std::size_t>(place), lines.size() - 1);
@@ -87,6 +84,59 @@ void FormCommands::SelectLine(int place) {
   const auto& lines = state_.Tables.ListaFrms.Lines();
   if (place < 0 || static_cast<std::size_t>(place) >= lines.size()) return;
   Choose(lines[static_cast<std::size_t>(place)].FormNumber);
+}
+
+void FormCommands::GoToLine(int place) {
+  SelectLine(place);
+  const DesignForm* form = state_.Tables.CurrentForm;
+  if (form != nullptr && state_.Tables.ListaFrms.PositionOf(form->Number()) == place) {
+    state_.View->FocusForm(form->Number());
+  }
+}
+
+void FormCommands::GoTo(int form) {
+  BringUp(form);
+  state_.View->FocusForm(form);
+}
+
+void FormCommands::ActivateForm(int form) {
+  ProjectTables& tables = state_.Tables;
+  tables.CurrentForm = tables.IsLive(form) ? tables.User(form) : nullptr;
+}
+
+void FormCommands::WindowClosed(int form) {
+  ProjectTables& tables = state_.Tables;
+  if (state_.Busy || !tables.IsLive(form)) return;
+  if (state_.RaiseOpenCode()) {
+    // Its code is being edited: the window stays.
+    state_.View->SetFormVisible(form, true);
+    return;
+  }
+  tables.User(form)->Visible = false;
+  state_.View->SetFormVisible(form, false);
+  if (form != CurrentNumber()) return;
+  const auto& lines = tables.ListaFrms.Lines();
+  const auto shown = [&](const FormList::Line& line) {
+    return tables.IsLive(line.FormNumber) && tables.User(line.FormNumber)->Visible;
+  };
+  const auto place = lines.begin() + std::max(0, tables.ListaFrms.PositionOf(form));
+  auto next = std::find_if(place, lines.end(), shown);
+  if (next == lines.end()) next = std::find_if(lines.begin(), place, shown);
+  if (next != lines.end() && shown(*next)) {
+    GoTo(next->FormNumber);
+  } else {
+    NoCurrentForm();
+  }
+}
+
+/// Nothing is current: list, grid and commands show it.
+void FormCommands::NoCurrentForm() {
+  sheet_.ClearPanelAndCombo();
+  state_.Tables.CurrentForm = nullptr;
+  state_.View->SelectFormLine(-1);
+  state_.View->SetSelectionText("");
+  state_.Observer.CurrentFormChanged();
+  state_.View->CommandsChanged();
 }
 
 void FormCommands::Activated(int form) {

@@ -23,6 +23,8 @@ class FormCommands final : public project::ContainerHost {
   /// A line of the form list was chosen, from 0: its form comes up with its events bar. While the
   /// code editor is open that comes to the front, and nothing is chosen; nor while a command runs.
   void SelectLine(int place);
+  /// Enter on a line: goes to its form.
+  void GoToLine(int place);
   /// A design window came to the front by the user's hand; the same rule holds.
   void Activated(int form);
   /// The lines of the form list, and which one is the main form's.
@@ -41,18 +43,26 @@ class FormCommands final : public project::ContainerHost {
   [[nodiscard]] bool HasForm() const;
   /// The lowest form number in use; 0 for none.
   [[nodiscard]] int FirstForm() const;
-  /// Makes a form the current one, in front, selected in the list.
+  /// Makes a form the current one, in front, selected in the list. The keyboard focus stays.
   void BringUp(int form);
+  /// The same, and the form gets the keyboard focus.
+  void GoTo(int form);
+  /// The user closed a form's window: it is hidden, and the next visible form of the list becomes
+  /// the current one, or none.
+  void WindowClosed(int form);
   /// Tells that every form closes, then empties the project.
   void CloseAll();
 
   void HideContainer() override { state_.View->HideContainer(); }
   void ShowContainer() override { state_.View->ShowContainer(); }
-  void ActivateForm(int form) override { BringUp(form); }
+  /// Only the tables change: a save shows no window that the user closed, and leaves focus,
+  /// selection and grid alone.
+  void ActivateForm(int form) override;
 
  private:
   void Opened(int form);
   void Choose(int form);
+  void NoCurrentForm();
   [[nodiscard]] int CurrentNumber() const;
   void MarkCurrentLine();
 

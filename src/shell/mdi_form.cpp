@@ -1,9 +1,12 @@
 #include "shell/mdi_form.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "inspector/objects_examiner.h"
 #include "inspector/property_sheet.h"
+#include "project/recovery.h"
+#include "project/watched_files.h"
 #include "shell/command_center.h"
 #include "shell/compile_command.h"
 #include "shell/design_surfaces.h"
@@ -11,17 +14,21 @@
 #include "shell/edit_commands.h"
 #include "shell/events_bar.h"
 #include "shell/form_commands.h"
+#include "shell/local_time.h"
 #include "shell/project_commands.h"
 #include "shell/shell_state.h"
 #include "shell/start_up.h"
 #include "shell/status_follower.h"
+#include "shell/window_placement.h"
 
 namespace tarnwick {
 
 /// The parts, in the order in which they need each other.
 struct MDIForm1::Rooms {
-  Rooms(const Ports& ports, std::string program_folder)
-      : State(ports, std::move(program_folder)),
+  Rooms(const Ports& ports, InstanceFolderPort& instances, std::string program_folder)
+      : Files(ports.Files),
+        State({Files, ports.Profiles, ports.Processes, ports.Messages, ports.Dialogs, ports.Screen},
+              std::move(program_folder)),
         Designer(State),
         Surfaces(State, Designer),
         Bar(State, Surfaces),
@@ -35,13 +42,16 @@ struct MDIForm1::Rooms {
                 State.Ports.Screen,
                 State.Observer,
                 Forms},
-        Project(State, Context, Forms),
+        Recovery(State.Tables, ports.Files, instances, State.Tables.ProgramFolder + "\\recovery",
+                 [this] { return State.Now(); }),
+        Project(State, Context, Files, Recovery, Forms),
         Edit(State, Surfaces, Forms),
         Compile(State, Project),
         Commands(State, Project, Forms, Edit, Compile, Sheet),
         Examiner(State.Support, Sheet),
         Start(State, Forms),
         Status(State) {
+    State.Now = LocalTime;
     Designer.SetSheet(Sheet);
     Designer.SetBar(Bar);
     State.Run = [this](Command command) { Commands.Run(command); };
@@ -52,6 +62,7 @@ struct MDIForm1::Rooms {
     }
   }
 
+  project::WatchedFiles Files;
   ShellState State;
   DesignerLink Designer;
   DesignSurfaces Surfaces;
@@ -60,6 +71,7 @@ struct MDIForm1::Rooms {
   PropertySheet Sheet;
   FormCommands Forms;
   project::ProjectContext Context;
+  project::Recovery Recovery;
   ProjectCommands Project;
   EditCommands Edit;
   CompileCommand Compile;
@@ -70,8 +82,11 @@ struct MDIForm1::Rooms {
   bool Closed = false;
 };
 
-MDIForm1::MDIForm1(const Ports& ports, std::string program_folder)
-    : rooms_(std::make_unique<Rooms>(ports, std::move(program_folder))) {}
+MDIForm1::MDIForm1(const Ports& ports, InstanceFolderPort& instances, std::string program_folder,
+                   std::string executable_folder)
+    : rooms_(std::make_unique<Rooms>(ports, instances, std::move(program_folder))) {
+  rooms_->State.Tables.ExecutableFolder = std::move(executable_folder);
+}
 
 MDIForm1::~MDIForm1() = default;
 
@@ -80,11 +95,38 @@ void MDIForm1::AddObserver(ProjectObserver& observer) {
 }
 
 void MDIForm1::Load(const ShellWindows& windows) {
+  ShellState& state = rooms_->State;
+  ReadPanels(state.Settings, state.Flags.PanelShown);
+  rooms_->Sheet.SetPanelVisible(state.IsShown(Panel::Properties));
   rooms_->Start.Load(windows);
 }
 
 void MDIForm1::Time_Timer() {
+  if (rooms_->Start.Done()) return rooms_->State.View->StopTimer();
   rooms_->Start.Time_Timer();
+  if (!rooms_->Start.Done()) return;
+  rooms_->Recovery.Begin();
+  rooms_->Recovery.Settle();
+}
+
+bool MDIForm1::KeepWork() {
+  ShellState& state = rooms_->State;
+  if (!rooms_->Start.Done() || rooms_->Closed) return true;
+  if (state.Busy) return false;
+  if (rooms_->Recovery.Keep() && state.SaysSaved) state.Say("");
+  return true;
+}
+
+void MDIForm1::OfferCrashedWork() {
+  ShellState& state = rooms_->State;
+  if (state.Busy || !rooms_->Start.Done()) return;
+  const auto offers = rooms_->Recovery.Offers();
+  const bool crashed =
+      std::any_of(offers.begin(), offers.end(), [](const auto& offer) { return offer.Crashed; });
+  if (!crashed) return;
+  state.Busy = true;
+  state.View->RunRestoreDialog();
+  state.Busy = false;
 }
 
 void MDIForm1::OpenNamed(const std::string& path) {
@@ -110,12 +152,14 @@ bool MDIForm1::Close() {
 
 void MDIForm1::Unload() {
   ShellState& state = rooms_->State;
+  WritePanels(state.Settings, state.Flags.PanelShown);
   for (std::size_t i = 0; i < kSideWindowCount; ++i) {
     state.View->UnloadWindow(static_cast<SideWindow>(i));
   }
   rooms_->Forms.CloseAll();
   state.View->UnloadContainer();
   state.EnableCommands(false);
+  rooms_->Recovery.End();
 }
 
 void MDIForm1::RefreshStatus() {
@@ -128,6 +172,10 @@ CommandCenter& MDIForm1::Commands() noexcept {
 
 FormCommands& MDIForm1::Forms() noexcept {
   return rooms_->Forms;
+}
+
+ProjectCommands& MDIForm1::Projects() noexcept {
+  return rooms_->Project;
 }
 
 PropertySheet& MDIForm1::Sheet() noexcept {

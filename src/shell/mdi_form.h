@@ -19,18 +19,20 @@ class EventsBar;
 class FormCommands;
 class FormUser;
 class FormViewObjects;
+class ProjectCommands;
 class PropertySheet;
 
 /// Owns the one `ProjectTables`, the design surfaces and the logic of every panel for the life of
 /// the process. It is built before any window and goes after the last one:
 ///
-///   MDIForm1 main(ports, program_folder);
+///   MDIForm1 main(ports, instances, program_folder);
 ///   MainWindow window(main.Commands(), ...);   // each panel takes the part that it shows
 ///   main.Load({view, code, menus, examiner});  // then Time's tick: main.Time_Timer();
 ///   if (main.Close()) ...                      // on a close request
 class MDIForm1 {
  public:
-  MDIForm1(const Ports& ports, std::string program_folder);
+  MDIForm1(const Ports& ports, InstanceFolderPort& instances, std::string program_folder,
+           std::string executable_folder = {});
   MDIForm1(const MDIForm1&) = delete;
   MDIForm1& operator=(const MDIForm1&) = delete;
   ~MDIForm1();
@@ -50,9 +52,17 @@ class MDIForm1 {
   /// A close request: asks about saving, then unloads every window. False: the window stays.
   [[nodiscard]] bool Close();
 
+  /// To be called a few seconds after the user did something: keeps the project as it stands for
+  /// recovery. False when a command runs and it has to be called again.
+  bool KeepWork();
+  /// Offers what a run that did not end as it should has left, if anything. To be called once,
+  /// when the start is through.
+  void OfferCrashedWork();
+
   // The parts, for the windows that show them.
   [[nodiscard]] CommandCenter& Commands() noexcept;
   [[nodiscard]] FormCommands& Forms() noexcept;
+  [[nodiscard]] ProjectCommands& Projects() noexcept;
   [[nodiscard]] PropertySheet& Sheet() noexcept;
   /// The events bars of all forms.
   [[nodiscard]] EventsBar& Bar() noexcept;

@@ -9,10 +9,11 @@
 
 namespace tarnwick {
 
-/// The files beside the program. The last, the compiler, is the user's own and may be absent.
-inline constexpr std::array<std::string_view, 8> kProgramFiles{
-    "Add001.tn",     "Add002.tn",   "Add003.tn",    "Add004.tn",
-    "Tarnwick1.lib", "IconApp.ico", "Tarnwick.chm", "Rc.exe"};
+/// The files beside the program. The compiler is not among them: it is the user's own, and is
+/// started where it lies.
+inline constexpr std::array<std::string_view, 7> kProgramFiles{
+    "Add001.tn",     "Add002.tn",   "Add003.tn",   "Add004.tn",
+    "Tarnwick1.lib", "IconApp.ico", "Tarnwick.chm"};
 
 /// Fills a program folder on first use: copies the files that it lacks from the folder that the
 /// program was installed with. What is there stays, so a user's own icon or include file is never

@@ -1,5 +1,6 @@
 #include "shell/project_commands.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "persistence/project_index.h"
@@ -7,34 +8,66 @@
 #include "project/open_project.h"
 #include "project/save_dialogs.h"
 #include "project/save_project.h"
+#include "shell/status_text.h"
 #include "shell/titles.h"
 #include "text/code_page.h"
 #include "text/path_text.h"
 
 namespace tarnwick {
 
-bool ProjectCommands::WantsSave() {
-  return state_.Ports.Messages.AskYesNo("Did you want save this project?", kSavePromptTitle,
-                                        MessageIcon::Question);
+namespace {
+
+/// An index is text: a byte below the blank that no line ends with says that the file is another.
+bool IsText(std::string_view bytes) {
+  return std::none_of(bytes.begin(), bytes.end(), [](char c) {
+    return static_cast<unsigned char>(c) < 0x20 && c != '\r' && c != '\n' && c != '\t';
+  });
+}
+
+}  // namespace
+
+bool ProjectCommands::MayLeave() {
+  const std::optional<bool> save =
+      state_.Ports.Messages.AskOrCancel("Did you want save this project?", kSavePromptTitle);
+  // What is cancelled on the way to a save must not cost the project.
+  return save && (!*save || Save());
+}
+
+bool ProjectCommands::MayGiveWay() {
+  return state_.Tables.AccionProject == "save" || !recovery_.Changed() || MayLeave();
+}
+
+void ProjectCommands::LeaveProject() {
+  recovery_.LeaveBehind();
+  state_.Code->CloseCode();
+}
+
+void ProjectCommands::BeginChange() {
+  state_.EnableCommands(false);
+  state_.Tables.JumpKey.clear();
+  forms_.HideContainer();
+  forms_.CloseAll();
+}
+
+void ProjectCommands::EndChange() {
+  if (!forms_.HasForm()) forms_.AddFirst();
+  forms_.ShowContainer();
+  forms_.GoTo(forms_.FirstForm());
+  state_.EnableCommands(true);
 }
 
 void ProjectCommands::New() {
   ProjectTables& tables = state_.Tables;
-  // What is cancelled on the way to a save must not cost the project.
-  if (tables.AccionProject != "save" && WantsSave() && !Save()) return;
-  state_.Code->CloseCode();
+  if (tables.AccionProject != "save" && !MayLeave()) return;
+  LeaveProject();
   state_.View->SetTitle(TitleOfOpened(DefaultProjectFile(tables)));
-  state_.Ports.Files.Remove(state_.Settings.EventIndexPath());
-  state_.EnableCommands(false);
+  files_.Remove(state_.Settings.EventIndexPath());
+  BeginChange();
   SetDefaultPaths(tables);
   state_.Application = {};
-  tables.JumpKey.clear();
-  forms_.HideContainer();
-  forms_.CloseAll();
-  forms_.AddFirst();
-  forms_.ShowContainer();
+  EndChange();
   tables.AccionProject = "new";
-  state_.EnableCommands(true);
+  recovery_.Settle();
 }
 
 std::optional<std::string> ProjectCommands::ChooseProject(bool old_version) {
@@ -51,12 +84,23 @@ std::optional<std::string> ProjectCommands::ChooseProject(bool old_version) {
 
 std::optional<std::string> ProjectCommands::ReadableProject(std::string path, bool old_version) {
   // The open project goes only when another one is there to take its place.
-  if (old_version) return project::ConvertOldProject(state_.Ports.Files, path);
-  if (!state_.Ports.Files.Read(path)) return std::nullopt;
-  return path;
+  if (!files_.Exists(path)) {
+    state_.Say(NotOpenedStatus(path, "there is no such file"));
+    return std::nullopt;
+  }
+  if (old_version) {
+    std::optional<std::string> converted = project::ConvertOldProject(files_, path);
+    if (!converted) state_.Say(NotOpenedStatus(path, "it could not be converted"));
+    return converted;
+  }
+  const std::optional<std::string> text = files_.Read(path);
+  if (text && IsText(*text)) return path;
+  state_.Say(NotOpenedStatus(path, text ? "it is no project" : "it could not be read"));
+  return std::nullopt;
 }
 
 void ProjectCommands::Open(bool old_version) {
+  if (!MayGiveWay()) return;
   state_.Tables.LoadingProject = 1;
   if (std::optional<std::string> path = ChooseProject(old_version)) Take(*std::move(path));
   state_.Tables.LoadingProject = 0;
@@ -71,47 +115,122 @@ void ProjectCommands::OpenNamed(const std::string& path) {
   state_.Tables.LoadingProject = 0;
 }
 
+void ProjectCommands::OpenRecent(const std::string& path) {
+  if (!files_.Exists(path)) {
+    recent_.Remove(path);
+    state_.View->RecentProjectsChanged();
+    state_.Say(NotOpenedStatus(path, "there is no such file"));
+    return;
+  }
+  if (MayGiveWay()) OpenNamed(path);
+}
+
 void ProjectCommands::Take(std::string path) {
   ProjectTables& tables = state_.Tables;
-  state_.Code->CloseCode();
+  LeaveProject();
+  BeginChange();
   tables.AccionProject = "open";
-  state_.EnableCommands(false);
-  tables.JumpKey.clear();
-  forms_.HideContainer();
-  forms_.CloseAll();
   SetProjectFile(tables, std::move(path));
   state_.View->SetTitle(TitleOfOpened(tables.ProjectFile));
   state_.Settings.Write(kProjectFolder, FolderOf(tables.ProjectFile));
   project::LoadProject(context_, tables.ProjectFile);
-  if (!forms_.HasForm()) forms_.AddFirst();
-  forms_.ShowContainer();
-  forms_.BringUp(forms_.FirstForm());
+  EndChange();
   state_.ShowPanel(Panel::EventsBar, true);
-  state_.EnableCommands(true);
+  recovery_.Settle();
+  recent_.Add(tables.ProjectFile);
+  state_.View->RecentProjectsChanged();
+  if (recovery_.IsOpenElsewhere(tables.ProjectFile)) {
+    state_.Say(OpenElsewhereStatus(tables.ProjectFile));
+  }
+}
+
+void ProjectCommands::Restore(const project::Recovery::Offer& offer) {
+  ProjectTables& tables = state_.Tables;
+  if (!MayGiveWay()) return;
+  tables.LoadingProject = 1;
+  LeaveProject();
+  BeginChange();
+  tables.AccionProject = "open";
+  const project::KeptProject& kept = offer.Project;
+  SetProjectFile(tables, kept.ProjectFile);
+  state_.View->SetTitle(TitleOfOpened(tables.ProjectFile));
+  for (const project::KeptForm& form : kept.Forms) {
+    project::ReadFormText(context_, form.Text, form.File);
+  }
+  if (forms_.HasForm()) tables.MainFormName = kept.MainForm;
+  state_.Observer.FormListChanged();
+  EndChange();
+  tables.LoadingProject = 0;
+  // It is nowhere on the disk yet but here: the offer goes when this instance keeps it.
+  recovery_.Unsettle();
+  if (recovery_.Keep()) recovery_.Forget(offer);
+  state_.Say(RestoredStatus(kept.When));
+}
+
+void ProjectCommands::Forget(const project::Recovery::Offer& offer) {
+  const std::string question = "Delete the unsaved work on " + offer.Project.ProjectFile + "?";
+  if (state_.Ports.Messages.AskYesNo(question, kApplicationTitle, MessageIcon::Critical)) {
+    recovery_.Forget(offer);
+  }
 }
 
 bool ProjectCommands::TakeProjectPath() {
-  constexpr std::string_view kExtension = ".tnp";
   std::optional<std::string> path = project::SaveProjectDialog(context_);
   if (!path) return false;
-  if (!Lower(*path).ends_with(kExtension)) *path += kExtension;
   state_.View->SetTitle(TitleOfSaved(*path));
   SetProjectFile(state_.Tables, *std::move(path));
   return true;
 }
 
-bool ProjectCommands::WriteProject() {
-  // What is typed but not taken yet belongs to the project.
+void ProjectCommands::TakePending() {
   state_.View->CommitPendingEdits();
   state_.Code->StoreShownCode();
-  return project::SaveProject(context_, state_.Tables.ProjectFile);
+}
+
+bool ProjectCommands::MayReplace(const std::vector<std::string>& paths) {
+  for (const std::string& path : paths) {
+    if (path.empty() || !files_.ChangedOutside(path)) continue;
+    const std::string question = "The File " + path +
+                                 "\r\nwas changed by another program since it was read. "
+                                 "Replace it?";
+    if (!state_.Ports.Messages.AskYesNo(question, kApplicationTitle, MessageIcon::Critical)) {
+      state_.Say(NotSavedStatus({path, "it was changed by another program"}));
+      return false;
+    }
+  }
+  return true;
+}
+
+bool ProjectCommands::WriteProject() {
+  ProjectTables& tables = state_.Tables;
+  TakePending();
+  std::vector<std::string> paths{tables.ProjectFile};
+  for (int form = 1; form <= tables.FormsCount; ++form) {
+    if (tables.IsLive(form)) paths.push_back(tables.Form(form)->FileName);
+  }
+  if (!MayReplace(paths)) return false;
+  const project::WriteOutcome outcome = project::SaveProject(context_, tables.ProjectFile);
+  if (!outcome) {
+    state_.Say(NotSavedStatus(outcome));
+    return false;
+  }
+  recovery_.Settle();
+  recent_.Add(tables.ProjectFile);
+  state_.View->RecentProjectsChanged();
+  state_.SaySaved(SavedStatus(state_.Now()));
+  return true;
 }
 
 bool ProjectCommands::Save() {
   if (HasDefaultProjectFile(state_.Tables) && !TakeProjectPath()) return false;
-  if (!WriteProject()) return false;
-  state_.Tables.AccionProject = "save";
-  return true;
+  std::string& action = state_.Tables.AccionProject;
+  if (WriteProject()) {
+    action = "save";
+    return true;
+  }
+  // The save before no longer stands for the project.
+  if (action == "save") action = "open";
+  return false;
 }
 
 void ProjectCommands::SaveAs() {
@@ -121,16 +240,22 @@ void ProjectCommands::SaveAs() {
 bool ProjectCommands::AskFormFile(int form) {
   const bool chosen = project::SaveFormDialog(context_, form);
   forms_.ShowContainer();
-  forms_.BringUp(form);
+  forms_.ActivateForm(form);
   return chosen;
 }
 
 void ProjectCommands::WriteForm(int form) {
-  state_.View->CommitPendingEdits();
-  state_.Code->StoreShownCode();
-  project::WriteFormFile(context_, form);
+  TakePending();
+  const std::string path = state_.Tables.Form(form)->FileName;
+  if (!MayReplace({path})) return;
+  const project::WriteOutcome outcome = project::WriteFormFile(context_, form);
   project::RefreshFormListEntry(context_, form);
   state_.Observer.FormListChanged();
+  if (outcome) {
+    state_.SaySaved(SavedStatus(state_.Now()));
+  } else {
+    state_.Say(NotSavedStatus(outcome));
+  }
 }
 
 void ProjectCommands::SaveForm() {
@@ -152,8 +277,14 @@ void ProjectCommands::SaveFormAs() {
 
 bool ProjectCommands::MayClose() {
   const std::string& action = state_.Tables.AccionProject;
-  if (action == "save" || action == "new" || !WantsSave()) return true;
-  return HasDefaultProjectFile(state_.Tables) ? Save() : WriteProject();
+  if (action != "save" && action != "new" && !MayLeave()) return false;
+  recovery_.LeaveBehind();
+  return true;
+}
+
+void ProjectCommands::ClearRecent() {
+  recent_.Clear();
+  state_.View->RecentProjectsChanged();
 }
 
 }  // namespace tarnwick

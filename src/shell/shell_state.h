@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "language/support_tables.h"
@@ -40,6 +41,8 @@ struct ShellState {
   ShellFlags Flags;
   bool Busy = false;  ///< a command runs: no other one starts
   ObserverHub Observer;
+  bool SaysSaved = false;            ///< the status bar tells that the project is saved
+  std::function<std::string()> Now;  ///< the local time, "2026-03-01 14:05:09"
   // The windows, from the load of the main window on; no command is enabled before.
   ShellView* View = nullptr;
   CodeWindows* Code = nullptr;
@@ -65,6 +68,16 @@ struct ShellState {
     if (!Code->IsCodeOpen()) return false;
     Code->BringCodeToFront();
     return true;
+  }
+  /// The quiet text at the foot of the window; the next command takes it away.
+  void Say(std::string_view text) {
+    SaysSaved = false;
+    View->SetStatus(text);
+  }
+  /// The same for the word that a save succeeded: a later change of the project takes it away.
+  void SaySaved(std::string_view text) {
+    View->SetStatus(text);
+    SaysSaved = true;
   }
   [[nodiscard]] bool IsShown(Panel panel) const {
     return Flags.PanelShown[static_cast<std::size_t>(panel)];

@@ -56,8 +56,15 @@ class ShellView {
   /// Moves the container's top edge to `top` pixels of the screen: the generator works behind a
   /// container that stands off it.
   virtual void MoveContainer(int top) = 0;
-  /// Takes a design window into the container: it is shown, in front, with the focus.
+  /// Takes a design window into the container: it is shown, in front, also when it was rolled up.
+  /// The keyboard focus stays where it is.
   virtual void BringFormUp(int form) = 0;
+  /// Gives a design window the keyboard focus.
+  virtual void FocusForm(int form) = 0;
+  /// Remembers the widget with the keyboard focus until RestoreFocus gives it back, unless that
+  /// widget has gone.
+  virtual void HoldFocus() = 0;
+  virtual void RestoreFocus() = 0;
   /// Shows or hides one design window without choosing it.
   virtual void SetFormVisible(int form, bool visible) = 0;
   /// What the gestures on a form's design window ask of the platform. The reference stays good
@@ -70,6 +77,8 @@ class ShellView {
   virtual void ShowPanel(Panel panel, bool shown) = 0;
   /// State or check mark of a command or tool may be different now.
   virtual void CommandsChanged() = 0;
+  /// The list of recent projects is another one now.
+  virtual void RecentProjectsChanged() = 0;
   /// The line of `ListaFrms` to mark as selected, from 0; -1 for none.
   virtual void SelectFormLine(int place) = 0;
   /// The arrow for the screen and the main window (true), or each window's own pointer.
@@ -81,6 +90,8 @@ class ShellView {
 
   /// Opens the object pop-up menu at the pointer.
   virtual void ShowObjectPopUp() = 0;
+  /// Opens the list of unsaved work and returns when it is closed.
+  virtual void RunRestoreDialog() = 0;
   /// Opens the dialog `FormMain` and returns when it is closed.
   virtual void RunFormMain() = 0;
   /// Opens `FormAddItems` on the selected list of the form and returns when it is closed.

@@ -1,5 +1,6 @@
 #include "shell/status_text.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "model/units.h"
@@ -38,8 +39,46 @@ std::string PointerStatus(float x, float y) {
   return "X " + whole(x) + "  Y " + whole(y);
 }
 
-std::string CompileStatus(const ProjectTables& tables) {
-  return "Source text: " + tables.SourceFile;
+std::string CompileStatus(const ProjectTables& tables, const project::CompileOutcome& outcome) {
+  if (!outcome.Source) return NotSavedStatus(outcome.Source);
+  if (!outcome.CompilerFound) {
+    return "Rc.exe was not found: put Rc.exe into " + tables.ProgramFolder +
+           ". Source text: " + tables.SourceFile;
+  }
+  if (!outcome.Started) {
+    return "Rc.exe could not be started; a Windows program needs Wine here. Source text: " +
+           tables.SourceFile;
+  }
+  return "Rc.exe started. Source text: " + tables.SourceFile;
+}
+
+std::string SavedStatus(std::string_view now) {
+  constexpr std::size_t kTime = 11;
+  constexpr std::size_t kTimeLength = 5;
+  return "Saved " + std::string(now.substr(std::min(kTime, now.size()), kTimeLength));
+}
+
+std::string NotSavedStatus(const project::WriteOutcome& outcome) {
+  if (outcome.Failed.empty()) return "Not saved: a form has no file";
+  std::string text = "Not saved: " + outcome.Failed;
+  if (!outcome.Reason.empty()) text.append(": ").append(outcome.Reason);
+  return text;
+}
+
+std::string NotOpenedStatus(std::string_view path, std::string_view reason) {
+  return std::string("Not opened: ").append(path).append(": ").append(reason);
+}
+
+std::string OpenElsewhereStatus(std::string_view path) {
+  return std::string(path) + " is open in another window of Tarnwick: the last save wins";
+}
+
+std::string RestoredStatus(std::string_view when) {
+  return std::string("Restored as of ").append(when).append(", not saved yet");
+}
+
+std::string NoHelpStatus(std::string_view path) {
+  return std::string("The help is not installed: there is no ").append(path);
 }
 
 }  // namespace tarnwick

@@ -67,7 +67,8 @@ class FakeProcesses final : public ProcessPort {
 class FakeMessages final : public MessagePort {
  public:
   explicit FakeMessages(CallLog& log) : log_(&log) {}
-  std::deque<bool> Answers;  ///< the answers to come, true for Yes
+  /// The answers to come, true for Yes; nothing closes the box, which is No where it must be one.
+  std::deque<std::optional<bool>> Answers;
   std::string LastTitle;
   MessageIcon LastIcon = MessageIcon::None;
 
@@ -80,13 +81,24 @@ class FakeMessages final : public MessagePort {
     log_->Add("ask " + std::string(text));
     LastTitle = title;
     LastIcon = icon;
+    return Next().value_or(false);
+  }
+  [[nodiscard]] std::optional<bool> AskOrCancel(std::string_view text,
+                                                std::string_view title) override {
+    log_->Add("ask " + std::string(text));
+    LastTitle = title;
+    LastIcon = MessageIcon::Question;
+    return Next();
+  }
+
+ private:
+  std::optional<bool> Next() {
     if (Answers.empty()) return false;
-    const bool answer = Answers.front();
+    const std::optional<bool> answer = Answers.front();
     Answers.pop_front();
     return answer;
   }
 
- private:
   CallLog* log_;
 };
 

@@ -27,9 +27,11 @@ class FakeShellView final : public ShellView {
   std::map<Panel, bool> PanelShown;
   int SelectedLine = -1;
   int FormInFront = 0;
+  int FocusedForm = 0;  ///< the form that got the focus last
   int CommandChanges = 0;
   bool PicturesLoad = true;
   std::function<void()> OnFormMain;
+  std::function<void()> OnRestoreDialog;
   std::function<void()> OnCloseMainWindow;
   std::function<void()> OnObjectPopUp;
 
@@ -56,6 +58,13 @@ class FakeShellView final : public ShellView {
     Say("form up", std::to_string(form));
     FormInFront = form;
   }
+  void FocusForm(int form) override {
+    Say("form focus", std::to_string(form));
+    FocusedForm = form;
+  }
+  void HoldFocus() override { Say("hold focus"); }
+  void RestoreFocus() override { Say("restore focus"); }
+  void RecentProjectsChanged() override { Say("recent"); }
   void SetFormVisible(int form, bool visible) override {
     Say(visible ? "form shown" : "form hidden", std::to_string(form));
   }
@@ -75,6 +84,10 @@ class FakeShellView final : public ShellView {
   void ShowObjectPopUp() override {
     Say("pop-up");
     if (OnObjectPopUp) OnObjectPopUp();
+  }
+  void RunRestoreDialog() override {
+    Say("restore dialog");
+    if (OnRestoreDialog) OnRestoreDialog();
   }
   void RunFormMain() override {
     Say("FormMain");

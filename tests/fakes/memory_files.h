@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "fakes/call_log.h"
 #include "platform/ports.h"
@@ -40,6 +41,18 @@ class MemoryFiles final : public FilePort {
   /// Operations still succeed or fail, but leave no log entry and count as no step.
   void SetQuiet(bool quiet) { quiet_ = quiet; }
 
+  [[nodiscard]] std::string WhyNotReplaced() override {
+    return read_only_ ? "Read-only file system" : "";
+  }
+  /// The names of the files in a folder, without a log entry.
+  [[nodiscard]] std::vector<std::string> NamesIn(const std::string& folder) const {
+    const std::string head = Lower(folder) + "\\";
+    std::vector<std::string> names;
+    for (const auto& [key, file] : files_) {
+      if (key.starts_with(head)) names.push_back(file.Path.substr(head.size()));
+    }
+    return names;
+  }
   [[nodiscard]] bool Exists(const std::string& path) override {
     return files_.count(Lower(path)) != 0;
   }

@@ -24,7 +24,7 @@ TEST(SaveFormDialog, AsksWithTheFormsNameInTheProjectsFolder) {
   EXPECT_EQ(request.Title, "Save Form");
   EXPECT_EQ(request.Filter, "Form (*.ftn)|*.ftn|All Files|*.*");
   EXPECT_EQ(request.StartFolder, "C:\\Work\\");
-  EXPECT_EQ(request.StartName, "Main");
+  EXPECT_EQ(request.StartName, "Main.ftn");
   EXPECT_EQ(project.Form().FileName, "C:\\Else\\x.FTN");
   EXPECT_EQ(project.Ports.Log.Entries(), (Log{"hide", "activate 1", "dialog save"}));
 }

@@ -122,17 +122,22 @@ TEST(ProjectWriter, ACancelledFormDialogWritesTheRestAndDoesNotCountAsSaved) {
 }
 
 TEST(ProjectWriter, AFileThatCannotBeWrittenKeepsItsOldBytesAndTheRestIsSaved) {
-  // Two form files and the index: whichever fails, the other two are written.
-  const Log files{"C:\\Work\\f1.ftn", "C:\\Work\\f2.ftn", kProject};
-  for (int step = 1; step <= 3; ++step) {
+  // Two form files and the index, which is read first: whichever fails, the other two are written.
+  const std::string old =
+      "1\x95"
+      "f1.ftn\r\n";
+  const std::vector<std::pair<int, std::string>> steps{
+      {1, "C:\\Work\\f1.ftn"}, {2, "C:\\Work\\f2.ftn"}, {4, kProject}};
+  for (const auto& [step, failing] : steps) {
     FakeProject project;
     AddForms(project, 2);
-    for (const std::string& file : files) project.Ports.Files.Put(file, "old");
+    for (const auto& [any, file] : steps) project.Ports.Files.Put(file, old);
     project.Ports.Files.FailAtStep(step);
-    EXPECT_FALSE(SaveProject(project.Context, kProject));
-    for (int i = 1; i <= 3; ++i) {
-      const bool old = project.Ports.Files.Bytes(files[static_cast<std::size_t>(i - 1)]) == "old";
-      EXPECT_EQ(old, i == step) << files[static_cast<std::size_t>(i - 1)];
+    const WriteOutcome outcome = SaveProject(project.Context, kProject);
+    EXPECT_FALSE(outcome);
+    EXPECT_EQ(outcome.Failed, failing);
+    for (const auto& [any, file] : steps) {
+      EXPECT_EQ(project.Ports.Files.Bytes(file) == old, file == failing) << file;
     }
     // Nothing is reported, and the container shows again.
     EXPECT_EQ(project.Ports.Log.Count("show"), 0U);
@@ -146,6 +151,54 @@ TEST(ProjectWriter, OnAWriteProtectedDiskNothingChanges) {
   project.Ports.Files.SetReadOnly(true);
   EXPECT_FALSE(SaveProject(project.Context, kProject));
   EXPECT_EQ(project.Ports.Files.Count(), 0U);
+}
+
+TEST(ProjectWriter, AFailedWriteNamesTheFileAndTheReason) {
+  FakeProject project;
+  AddForms(project, 1);
+  project.Ports.Files.SetReadOnly(true);
+  const WriteOutcome outcome = SaveProject(project.Context, kProject);
+  EXPECT_EQ(outcome.Failed, "C:\\Work\\f1.ftn");
+  EXPECT_EQ(outcome.Reason, "Read-only file system");
+  EXPECT_FALSE(outcome.Cancelled);
+}
+
+TEST(ProjectWriter, AnIndexThatNamesAFormWhichCouldNotBeReadIsKeptBesideTheNewOne) {
+  FakeProject project;
+  AddForms(project, 2);
+  const std::string former =
+      "1\x95"
+      "f1.ftn\r\n2\x95"
+      "lost.ftn\r\n";
+  project.Ports.Files.Put(kProject, former);
+  EXPECT_TRUE(SaveProject(project.Context, kProject));
+  EXPECT_EQ(project.Ports.Files.Bytes(std::string(kProject) + ".bak"), former);
+  // The next save finds nothing that it leaves out.
+  project.Ports.Files.Put(std::string(kProject) + ".bak", "untouched");
+  EXPECT_TRUE(SaveProject(project.Context, kProject));
+  EXPECT_EQ(project.Ports.Files.Bytes(std::string(kProject) + ".bak"), "untouched");
+}
+
+TEST(ProjectWriter, AFormThatTheUserRemovedKeepsNoFormerIndex) {
+  FakeProject project;
+  AddForms(project, 2);
+  ASSERT_TRUE(SaveProject(project.Context, kProject));
+  project.Builder.Form(2).Remove();
+  ASSERT_TRUE(SaveProject(project.Context, kProject));
+  EXPECT_FALSE(project.Ports.Files.Exists(std::string(kProject) + ".bak"));
+}
+
+TEST(ProjectWriter, AnIndexWhoseCopyCannotBeWrittenStays) {
+  FakeProject project;
+  AddForms(project, 1);
+  const std::string former =
+      "1\x95"
+      "lost.ftn\r\n";
+  project.Ports.Files.Put(kProject, former);
+  project.Ports.Files.FailAtStep(3);
+  const WriteOutcome outcome = SaveProject(project.Context, kProject);
+  EXPECT_EQ(outcome.Failed, std::string(kProject) + ".bak");
+  EXPECT_EQ(project.Ports.Files.Bytes(kProject), former);
 }
 
 TEST(ProjectWriter, AFormWithoutAFileNameCannotBeWritten) {

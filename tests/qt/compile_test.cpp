@@ -193,8 +193,18 @@ TEST(CompileNewProject, ACancelledSaveWritesTheDefaultProjectsSource) {
   EXPECT_TRUE(program.Surface().isVisible());
 }
 
+TEST(Help, HelpThatIsNotInstalledIsToldInTheStatusBar) {
+  Program program;
+  program.Key(Qt::Key_F1);
+  EXPECT_EQ(program.Log.Count("open "), 0U);
+  EXPECT_TRUE(program.Find<QLabel>(QStringLiteral("StatusText"))
+                  .text()
+                  .startsWith(QStringLiteral("The help is not installed")));
+}
+
 TEST(Help, OpensTheFileOfTheProgramFolder) {
   Program program;
+  program.Home.Write("Tarnwick.chm", "help");
   program.Key(Qt::Key_F1);
   EXPECT_EQ(program.Log.Entries().back(), "open " + program.Home.Path() + "\\Tarnwick.chm");
 }

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/fake_instance_folders.h"
 #include "fakes/fake_ports.h"
 #include "fakes/fake_shell.h"
 #include "qt/frame/form_list_panel.h"
@@ -26,7 +27,8 @@ namespace {
 class EventsBarWindowTest : public ::testing::Test {
  protected:
   FakePorts ports;
-  MDIForm1 shell{ports.All(), "Z:\\opt\\tarnwick"};
+  FakeInstanceFolders instances{ports.Files};
+  MDIForm1 shell{ports.All(), instances, "Z:\\opt\\tarnwick"};
   MainWindow window{shell, ports.Files};
   MainView view{window, shell};
   FakeSideWindows windows{ports.Log};

@@ -1,6 +1,7 @@
 // The commands of the File and Project menus, their prompts and their files.
 #include <QAction>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
@@ -342,12 +343,62 @@ TEST_F(FileCommands, OpenIsAskedAsItShouldAndRemembersTheFolder) {
 
 TEST_F(FileCommands, ACancelledOpenLeavesEverything) {
   program.Place(0, {20, 20});
+  program.User.No();
   program.Key(Qt::Key_O, Qt::ControlModifier);
   EXPECT_EQ(program.Form().UBound(Kind::Button), 1);
   EXPECT_EQ(program.Tables().LoadingProject, 0);
   EXPECT_TRUE(program.Find<QToolButton>(QStringLiteral("BtnMenu_0")).isEnabled());
   EXPECT_EQ(program.Tables().AccionProject, "app");
-  ExpectNoBox();
+  ExpectSaveQuestion();
+}
+
+TEST_F(FileCommands, EscInTheSaveQuestionStopsNewOpenAndExit) {
+  program.Place(0, {20, 20});
+  for (const Qt::Key key : {Qt::Key_N, Qt::Key_O, Qt::Key_Q}) {
+    program.User.Escape();
+    program.Key(key, Qt::ControlModifier);
+    ExpectSaveQuestion();
+    EXPECT_TRUE(program.Window().isVisible());
+    EXPECT_EQ(program.Form().UBound(Kind::Button), 1);
+  }
+  EXPECT_EQ(Dialogs("open"), 0);
+}
+
+TEST_F(FileCommands, ReturnInAQuestionThatReplacesOrDeletesIsNo) {
+  program.Projects.Write("old.tnp", "old bytes");
+  program.Dialogs.SaveAnswers = {program.Projects.Path("old.tnp"), std::nullopt};
+  program.User.Return();
+  program.Key(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(program.Projects.Read("old.tnp"), "old bytes");
+  program.User.Return();
+  program.Choose(QStringLiteral("mnuRemove"));
+  EXPECT_EQ(program.Tables().Form(1)->Removed, 0);
+  EXPECT_EQ(program.User.TakeSeen().size(), 2U);
+}
+
+TEST_F(FileCommands, ARecentProjectOpensFromItsMenuAndClearEmptiesIt) {
+  SaveAs("a & b.tnp", "f.ftn");
+  program.Key(Qt::Key_N, Qt::ControlModifier);
+  QAction& row = program.Action(QStringLiteral("mnuRecent_1"));
+  EXPECT_TRUE(row.text().contains(QStringLiteral("a && b.tnp"))) << row.text().toStdString();
+  row.trigger();
+  EXPECT_EQ(program.Title(), Opened("a & b.tnp"));
+  program.Action(QStringLiteral("mnuRecentClear")).trigger();
+  Program::Settle();
+  EXPECT_EQ(program.Window().findChild<QAction*>(QStringLiteral("mnuRecent_1")), nullptr);
+}
+
+TEST_F(FileCommands, AFailedSaveIsNamedInTheStatusBarAndStopsNew) {
+  SaveAs("p.tnp", "f.ftn");
+  std::filesystem::rename(program.Projects.Native(), program.Home.Native("away"));
+  program.Key(Qt::Key_S, Qt::ControlModifier);
+  const QString status = program.Find<QLabel>(QStringLiteral("StatusText")).text();
+  EXPECT_TRUE(status.startsWith(QStringLiteral("Not saved: "))) << status.toStdString();
+  EXPECT_TRUE(status.contains(QStringLiteral("No such file"))) << status.toStdString();
+  program.User.Yes();
+  program.Key(Qt::Key_N, Qt::ControlModifier);
+  EXPECT_NE(program.Tables().AccionProject, "new");
+  std::filesystem::rename(program.Home.Native("away"), program.Projects.Native());
 }
 
 TEST_F(FileCommands, AMissingFormFileIsTold) {

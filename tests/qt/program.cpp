@@ -102,6 +102,10 @@ void Attendant::Look() {
     QTest::keyClick(box, Qt::Key_Escape);
     return;
   }
+  if (answer == kReturn) {
+    QTest::keyClick(box, Qt::Key_Return);
+    return;
+  }
   QAbstractButton* button = box->button(static_cast<QMessageBox::StandardButton>(answer));
   if (button == nullptr) {
     ADD_FAILURE() << "the box has no such button: " << box->text().toStdString();
@@ -116,7 +120,7 @@ Program::Program(FileDialogs dialogs) {
   DialogPort& chosen = dialogs == FileDialogs::Real ? static_cast<DialogPort&>(real_dialogs_)
                                                     : static_cast<DialogPort&>(Dialogs);
   const Ports ports{files_, profiles_, processes_, messages_, chosen, screen_};
-  shell_ = std::make_unique<MDIForm1>(ports, Home.Path());
+  shell_ = std::make_unique<MDIForm1>(ports, instances_, Home.Path());
   window_ = std::make_unique<MainWindow>(*shell_, files_);
   view_ = std::make_unique<MainView>(*window_, *shell_);
   window_->show();

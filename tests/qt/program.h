@@ -21,6 +21,7 @@
 #include "fakes/fake_ports.h"
 #include "fakes/temporary_folder.h"
 #include "platform/native_files.h"
+#include "platform/native_instance_folders.h"
 #include "platform/native_process.h"
 #include "platform/profile_files.h"
 #include "qt/frame/main_view.h"
@@ -56,6 +57,8 @@ class Attendant final : public QObject {
   void Yes();
   void No();
   void Ok();
+  /// The box gets Return, for its default button.
+  void Return() { answers_.push_back(kReturn); }
   /// The box closes by Esc.
   void Escape() { answers_.push_back(0); }
   /// The next dialog of the program is given to the step, which must close it.
@@ -69,6 +72,7 @@ class Attendant final : public QObject {
   [[nodiscard]] bool Done() const { return answers_.empty() && steps_.empty(); }
 
  private:
+  static constexpr int kReturn = -1;
   void Look();
 
   QTimer look_;
@@ -168,6 +172,7 @@ class Program {
 
   NativeFiles files_;
   ProfileFiles profiles_{files_};
+  NativeInstanceFolders instances_;
   NotedProcesses processes_{Log};
   QtMessages messages_;
   QtDialogs real_dialogs_;

@@ -117,7 +117,8 @@ TEST(CloseBeforeStart, ARequestDuringTheStartWaits) {
   FakeShellView view(ports.Log);
   FakeSideWindows windows(ports.Log);
   FakeObserver observer(ports.Log);
-  MDIForm1 main(ports.All(), std::string(kProgram));
+  FakeInstanceFolders instances(ports.Files);
+  MDIForm1 main(ports.All(), instances, std::string(kProgram));
   main.AddObserver(observer);
   main.Load({view, windows, windows, windows});
   EXPECT_FALSE(main.Close());

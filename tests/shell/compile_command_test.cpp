@@ -25,7 +25,6 @@ TEST_F(CompileCommandTest, TheDefaultProjectShowsTheSaveDialogAndTakesItsNewName
   main.Commands().Run(Command::Compile);
   EXPECT_TRUE(ports.Files.Exists("Z:\\p\\b.com"));
   EXPECT_FALSE(ports.Files.Exists("Z:\\opt\\tarnwick\\UnTitle.com"));
-  EXPECT_EQ(view.Status, "Source text: Z:\\p\\b.com");
 }
 
 TEST_F(CompileCommandTest, ACancelledSaveGoesOnUnderTheDefaultNames) {
@@ -37,11 +36,50 @@ TEST_F(CompileCommandTest, ACancelledSaveGoesOnUnderTheDefaultNames) {
   EXPECT_EQ(log().Count("start"), 1U);
 }
 
-TEST_F(CompileCommandTest, AQuietTextTellsWhereTheSourceLies) {
+TEST_F(CompileCommandTest, AQuietTextTellsWhatWasStartedAndWhereTheSourceLies) {
+  ports.Files.Put("Z:\\opt\\tarnwick\\Rc.exe", "MZ");
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
   main.Commands().Run(Command::Compile);
-  EXPECT_EQ(view.Status, "Source text: Z:\\p\\a.com");
+  EXPECT_EQ(view.Status, "Rc.exe started. Source text: Z:\\p\\a.com");
   EXPECT_EQ(log().Count("show"), 0U);
+}
+
+TEST_F(CompileCommandTest, AMissingCompilerIsNamedWithThePlaceWhereItBelongs) {
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
+  main.Commands().Run(Command::Compile);
+  EXPECT_EQ(view.Status,
+            "Rc.exe was not found: put Rc.exe into Z:\\opt\\tarnwick. Source text: Z:\\p\\a.com");
+}
+
+TEST_F(CompileCommandTest, ACompilerThatDoesNotStartIsTold) {
+  ports.Files.Put("Z:\\opt\\tarnwick\\Rc.exe", "MZ");
+  ports.Processes.Succeeds = false;
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
+  main.Commands().Run(Command::Compile);
+  EXPECT_TRUE(view.Status.starts_with("Rc.exe could not be started")) << view.Status;
+}
+
+TEST_F(CompileCommandTest, ASourceThatCannotBeWrittenIsNamedWithTheReason) {
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
+  ports.Files.SetReadOnly(true);
+  main.Commands().Run(Command::Compile);
+  EXPECT_EQ(view.Status, "Not saved: Z:\\p\\a.com: Read-only file system");
+}
+
+TEST_F(CompileCommandTest, WithTheSaveDialogCancelledWhatIsTypedIsGeneratedAllTheSame) {
+  windows.CodeOpen = true;
+  windows.OnStoreShownCode = [this] { tables().EventTable.Replace("Form1.OnShow", "Beep"); };
+  main.Commands().Run(Command::Compile);
+  ExpectOrder({"view commit", "windows store code", "dialog save",
+               "replace Z:\\opt\\tarnwick\\UnTitle.com"});
+  EXPECT_NE(ports.Files.Bytes("Z:\\opt\\tarnwick\\UnTitle.com")->find("Beep"), std::string::npos);
+}
+
+TEST_F(CompileCommandTest, TheFocusIsGivenBackWhereItWas) {
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
+  main.Commands().Run(Command::Compile);
+  ExpectOrder({"view hold focus", "view form hidden 1", "view form shown 1", "view restore focus"});
+  EXPECT_EQ(log().Count("view form focus"), 0U);
 }
 
 TEST_F(CompileCommandTest, F5OnADesignFormRunsTheSameCommand) {

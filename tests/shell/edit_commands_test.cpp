@@ -183,8 +183,46 @@ TEST_F(EditCommandsTest, DoubleClickOpensTheCode) {
 class OtherCommandsTest : public EditCommandsTest {};
 
 TEST_F(OtherCommandsTest, HelpOpensTheHelpFileOfTheProgramFolder) {
+  ports.Files.Put("Z:\\opt\\tarnwick\\Tarnwick.chm", "help");
   main.Commands().Run(Command::Help);
   EXPECT_EQ(log().Entries(), std::vector<std::string>{"open Z:\\opt\\tarnwick\\Tarnwick.chm"});
+}
+
+TEST_F(OtherCommandsTest, HelpThatIsNotInstalledIsTold) {
+  main.Commands().Run(Command::Help);
+  EXPECT_TRUE(log().Entries().empty());
+  EXPECT_EQ(view.Status, "The help is not installed: there is no Z:\\opt\\tarnwick\\Tarnwick.chm");
+}
+
+TEST_F(OtherCommandsTest, DeleteOnALockedFormIsRefusedWithTheMessageOfCut) {
+  Place(0, 20, 20);
+  main.Commands().Run(Command::Lock);
+  main.Commands().Run(Command::Delete);
+  EXPECT_EQ(log().Count("show Need to Unblock controls before copy/cut/paste"), 1U);
+  EXPECT_TRUE(tables().CurrentForm->HasObjects(Kind::Button));
+}
+
+TEST_F(OtherCommandsTest, EscNeverLiftsTheLock) {
+  Place(0, 20, 20);
+  main.Commands().Run(Command::Lock);
+  main.Commands().Escape();
+  EXPECT_FALSE(tables().CurrentForm->m_bDesignMode);
+  EXPECT_EQ(tables().CurrentForm->NameObjet, "Button1");
+}
+
+TEST_F(OtherCommandsTest, EscGivesTheArmedToolBackAndKeepsTheSelection) {
+  Place(0, 20, 20);
+  main.Commands().PressTool(1);
+  main.Commands().Escape();
+  EXPECT_TRUE(main.Commands().ToolState(kArrowTool).Checked);
+  EXPECT_EQ(tables().CurrentForm->NameObjet, "Button1");
+}
+
+TEST_F(OtherCommandsTest, TheNextCommandTakesTheStatusTextAway) {
+  main.Commands().Run(Command::Help);
+  ASSERT_NE(view.Status, "");
+  main.Commands().Run(Command::Lock);
+  EXPECT_EQ(view.Status, "");
 }
 
 TEST_F(OtherCommandsTest, AboutNamesTheProgramFolder) {

@@ -64,6 +64,7 @@ TEST_F(FormCommandsTest, NoKeepsTheForm) {
   main.Commands().Run(Command::Remove);
   EXPECT_EQ(tables().Form(1)->Removed, 0);
   EXPECT_EQ(Lines().size(), 1U);
+  EXPECT_EQ(log().Count("ask Delete Form1?"), 1U);
   EXPECT_EQ(log().Count("told closing"), 0U);
 }
 
@@ -143,6 +144,79 @@ TEST_F(FormCommandsTest, ALineOfTheListBringsItsFormUpWithItsEventsBar) {
   EXPECT_EQ(view.FormInFront, 2);
   EXPECT_TRUE(view.PanelShown[Panel::EventsBar]);
   EXPECT_EQ(main.Sheet().Combo().Rows().front().Text, "Form2   (Form)");
+}
+
+TEST_F(FormCommandsTest, ChoosingALineLeavesTheFocusAndEnterMovesItToTheForm) {
+  AddForms(2);
+  view.FocusedForm = 0;
+  main.Forms().SelectLine(1);
+  EXPECT_EQ(view.FormInFront, 2);
+  EXPECT_EQ(view.FocusedForm, 0);
+  main.Forms().GoToLine(0);
+  EXPECT_EQ(view.FormInFront, 1);
+  EXPECT_EQ(view.FocusedForm, 1);
+}
+
+TEST_F(FormCommandsTest, ALineShowsTheEventsBarAgain) {
+  AddForms(1);
+  main.Commands().Run(Command::EventsBar);
+  ASSERT_FALSE(view.PanelShown[Panel::EventsBar]);
+  main.Forms().SelectLine(0);
+  EXPECT_TRUE(view.PanelShown[Panel::EventsBar]);
+}
+
+TEST_F(FormCommandsTest, AClosedWindowGivesWayToTheNextVisibleForm) {
+  AddForms(2);
+  main.Forms().SelectLine(0);
+  main.Forms().WindowClosed(1);
+  EXPECT_FALSE(tables().User(1)->Visible);
+  EXPECT_EQ(tables().CurrentForm, tables().User(2));
+  EXPECT_EQ(view.SelectedLine, 1);
+  EXPECT_EQ(view.FocusedForm, 2);
+  // Behind the last one the list goes on at its head.
+  main.Forms().SelectLine(2);
+  main.Forms().WindowClosed(3);
+  EXPECT_EQ(tables().CurrentForm, tables().User(2));
+}
+
+TEST_F(FormCommandsTest, WithAllWindowsClosedNoCommandMeansAForm) {
+  Place(0, 10, 10);
+  main.Forms().WindowClosed(1);
+  EXPECT_EQ(tables().CurrentForm, nullptr);
+  EXPECT_EQ(view.SelectedLine, -1);
+  EXPECT_FALSE(main.Commands().State(Command::Delete).Enabled);
+  EXPECT_EQ(main.Sheet().Combo().Rows().size(), 0U);
+  main.Commands().Run(Command::Delete);
+  EXPECT_TRUE(tables().User(1)->HasObjects(Kind::Button));
+  // Its line brings it back.
+  main.Forms().SelectLine(0);
+  EXPECT_TRUE(tables().User(1)->Visible);
+  EXPECT_EQ(tables().CurrentForm, tables().User(1));
+  EXPECT_EQ(view.FormInFront, 1);
+}
+
+TEST_F(FormCommandsTest, ASaveDoesNotShowWhatTheUserClosed) {
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
+  main.Forms().WindowClosed(1);
+  log().Clear();
+  main.Commands().Run(Command::Save);
+  EXPECT_EQ(log().Count("replace Z:\\p\\one.ftn"), 1U);
+  EXPECT_EQ(log().Count("view form"), 0U) << Text();
+  EXPECT_EQ(tables().CurrentForm, nullptr);
+}
+
+TEST_F(FormCommandsTest, AToolPressedWithAllWindowsClosedBringsTheFirstFormUp) {
+  main.Forms().WindowClosed(1);
+  main.Commands().PressTool(0);
+  EXPECT_EQ(tables().CurrentForm, tables().User(1));
+  EXPECT_TRUE(main.Commands().ToolState(0).Checked);
+  EXPECT_EQ(tables().FormsCount, 1);
+}
+
+TEST_F(FormCommandsTest, AnotherFormsClosedWindowLeavesTheCurrentOne) {
+  AddForms(1);
+  main.Forms().WindowClosed(1);
+  EXPECT_EQ(tables().CurrentForm, tables().User(2));
 }
 
 TEST_F(FormCommandsTest, LinesKeepTheirFormsAfterARemoval) {

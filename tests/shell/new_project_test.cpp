@@ -21,10 +21,19 @@ TEST_F(NewProjectTest, NoGoesOnWithoutSaving) {
   Place(0, 10, 10);
   main.Commands().Run(Command::New);
   EXPECT_EQ(log().Count("dialog save"), 0U);
-  EXPECT_EQ(log().Count("replace"), 0U);
+  EXPECT_EQ(log().Count("replace Z:\\opt\\tarnwick\\UnTitle"), 0U);
   EXPECT_EQ(tables().FormsCount, 1);
   EXPECT_FALSE(tables().CurrentForm->HasObjects(Kind::Button));
   EXPECT_EQ(tables().AccionProject, "new");
+}
+
+TEST_F(NewProjectTest, ClosingTheQuestionStopsIt) {
+  Place(0, 10, 10);
+  ports.Messages.Answers = {std::nullopt};
+  main.Commands().Run(Command::New);
+  EXPECT_EQ(log().Count("ask"), 1U);
+  EXPECT_TRUE(tables().CurrentForm->HasObjects(Kind::Button));
+  EXPECT_EQ(tables().AccionProject, "app");
 }
 
 TEST_F(NewProjectTest, YesSavesFirst) {
@@ -63,6 +72,7 @@ TEST_F(NewProjectTest, AFailedWriteAfterYesStopsItToo) {
   main.Commands().Run(Command::New);
   EXPECT_EQ(log().Count("told closing"), 0U);
   EXPECT_EQ(log().Count("show"), 0U);
+  EXPECT_EQ(view.Status, "Not saved: Z:\\p\\one.ftn: Read-only file system");
 }
 
 TEST_F(NewProjectTest, SaveThenNewAsksNothingEvenAfterEdits) {

@@ -45,7 +45,8 @@ TEST_F(OpenProjectTest, CancelledItLeavesEverythingAsItWas) {
   EXPECT_TRUE(main.Commands().State(Command::Open).Enabled);
   EXPECT_TRUE(main.Commands().ToolState(0).Enabled);
   EXPECT_EQ(log().Entries(),
-            (std::vector<std::string>{"profile read [Paths] OpenDlg", "dialog open"}));
+            (std::vector<std::string>{"ask Did you want save this project?",
+                                      "profile read [Paths] OpenDlg", "dialog open"}));
 }
 
 TEST_F(OpenProjectTest, AFileThatCannotBeReadLeavesEverythingAsItWas) {
@@ -57,11 +58,44 @@ TEST_F(OpenProjectTest, AFileThatCannotBeReadLeavesEverythingAsItWas) {
   EXPECT_EQ(log().Count("told closing"), 0U);
 }
 
-TEST_F(OpenProjectTest, ItAsksNothingAboutSaving) {
+TEST_F(OpenProjectTest, AChangedProjectIsAskedAboutUnlessTheLastCommandWasSave) {
   SaveTwoForms();
-  ports.Dialogs.OpenAnswers = {"Z:\\p\\two.tnp"};
+  ports.Dialogs.OpenAnswers = {"Z:\\p\\two.tnp", "Z:\\p\\two.tnp", "Z:\\p\\two.tnp"};
+  main.Commands().Run(Command::Open);
+  log().Clear();
   main.Commands().Run(Command::Open);
   EXPECT_EQ(log().Count("ask"), 0U);
+  Place(0, 10, 10);
+  main.Commands().Run(Command::Open);
+  EXPECT_EQ(log().Count("ask Did you want save this project?"), 1U);
+  Place(0, 10, 10);
+  main.Commands().Run(Command::Save);
+  log().Clear();
+  main.Commands().Run(Command::Open);
+  EXPECT_EQ(log().Count("ask"), 0U);
+}
+
+TEST_F(OpenProjectTest, ClosingTheQuestionStopsItBeforeTheDialog) {
+  Place(0, 10, 10);
+  ports.Messages.Answers = {std::nullopt};
+  main.Commands().Run(Command::Open);
+  EXPECT_EQ(log().Count("dialog"), 0U);
+  EXPECT_TRUE(tables().CurrentForm->HasObjects(Kind::Button));
+}
+
+TEST_F(OpenProjectTest, AFileThatIsNotThereIsNamedInTheStatusBar) {
+  main.OpenNamed("Z:\\p\\none.tnp");
+  EXPECT_EQ(view.Status, "Not opened: Z:\\p\\none.tnp: there is no such file");
+}
+
+TEST_F(OpenProjectTest, AFileThatIsNoTextIsNoProjectAndShowsNoBox) {
+  ports.Files.Put("Z:\\p\\picture.tnp", std::string("BM\x01\0\x02 form\r\n", 12));
+  Place(0, 10, 10);
+  log().Clear();
+  main.OpenNamed("Z:\\p\\picture.tnp");
+  EXPECT_EQ(view.Status, "Not opened: Z:\\p\\picture.tnp: it is no project");
+  EXPECT_EQ(log().Count("show"), 0U);
+  EXPECT_TRUE(tables().CurrentForm->HasObjects(Kind::Button));
 }
 
 TEST_F(OpenProjectTest, ReadsTheProjectAndShowsItsFirstFormWithTheEventsBar) {
@@ -187,7 +221,7 @@ TEST_F(OpenOldTest, AnExistingFormFileOfThatNameIsOverwrittenUnasked) {
   ports.Files.Put("Z:\\old\\app.ftn", "something else");
   ports.Dialogs.OpenAnswers = {"Z:\\old\\app.ptn"};
   main.Commands().Run(Command::OpenOld);
-  EXPECT_EQ(log().Count("ask"), 0U);
+  EXPECT_EQ(log().Count("ask The File"), 0U);
   EXPECT_NE(ports.Files.Bytes("Z:\\old\\app.ftn"), "something else");
 }
 

@@ -21,7 +21,7 @@ class ProgramSetup : public ::testing::Test {
 };
 
 TEST_F(ProgramSetup, FillsAnEmptyFolder) {
-  EXPECT_EQ(FillProgramFolder(ports.Files, kInstalled, kOwn), 8);
+  EXPECT_EQ(FillProgramFolder(ports.Files, kInstalled, kOwn), 7);
   for (const std::string_view name : kProgramFiles) {
     EXPECT_EQ(ports.Files.Bytes(kOwn + "\\" + std::string(name)), "of " + std::string(name));
   }
@@ -29,7 +29,7 @@ TEST_F(ProgramSetup, FillsAnEmptyFolder) {
 
 TEST_F(ProgramSetup, WhatIsThereStays) {
   ports.Files.Put(kOwn + "\\IconApp.ico", "my own");
-  EXPECT_EQ(FillProgramFolder(ports.Files, kInstalled, kOwn), 7);
+  EXPECT_EQ(FillProgramFolder(ports.Files, kInstalled, kOwn), 6);
   EXPECT_EQ(ports.Files.Bytes(kOwn + "\\IconApp.ico"), "my own");
 }
 
@@ -41,8 +41,14 @@ TEST_F(ProgramSetup, ASecondStartCopiesNothing) {
 }
 
 TEST_F(ProgramSetup, WhatIsNotInstalledIsPassedOver) {
-  ports.Files.Remove(kInstalled + "\\Rc.exe");
-  EXPECT_EQ(FillProgramFolder(ports.Files, kInstalled, kOwn), 7);
+  ports.Files.Remove(kInstalled + "\\Tarnwick.chm");
+  EXPECT_EQ(FillProgramFolder(ports.Files, kInstalled, kOwn), 6);
+  EXPECT_FALSE(ports.Files.Exists(kOwn + "\\Tarnwick.chm"));
+}
+
+TEST_F(ProgramSetup, TheUsersCompilerIsNotCopied) {
+  ports.Files.Put(kInstalled + "\\Rc.exe", "MZ");
+  FillProgramFolder(ports.Files, kInstalled, kOwn);
   EXPECT_FALSE(ports.Files.Exists(kOwn + "\\Rc.exe"));
 }
 

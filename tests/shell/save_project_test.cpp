@@ -159,6 +159,61 @@ TEST_F(SaveProjectTest, SaveAsCancelledChangesNothing) {
   EXPECT_EQ(log().Count("replace"), 0U);
 }
 
+TEST_F(SaveProjectTest, ASaveMovesNoFocusAndShowsNoWindow) {
+  main.Commands().Run(Command::AddNewForm);
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn", "Z:\\p\\two.ftn"});
+  main.Commands().Run(Command::Save);
+  main.Commands().Run(Command::SaveForm);
+  EXPECT_EQ(log().Count("view form"), 0U) << Text();
+  EXPECT_EQ(tables().CurrentForm, tables().User(2));
+}
+
+TEST_F(SaveProjectTest, ASaveTellsTheTimeUntilTheProjectChanges) {
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
+  main.Commands().Run(Command::Save);
+  ASSERT_TRUE(view.Status.starts_with("Saved ")) << view.Status;
+  EXPECT_EQ(view.Status.size(), std::string_view("Saved 14:05").size());
+  main.KeepWork();
+  EXPECT_NE(view.Status, "");
+  Place(0, 10, 10);
+  main.KeepWork();
+  EXPECT_EQ(view.Status, "");
+}
+
+TEST_F(SaveProjectTest, AFailedSaveAfterASavedOneCountsAsNotSaved) {
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
+  ports.Files.SetReadOnly(true);
+  main.Commands().Run(Command::Save);
+  EXPECT_EQ(view.Status, "Not saved: Z:\\p\\one.ftn: Read-only file system");
+  log().Clear();
+  ports.Messages.Answers = {std::nullopt};
+  main.Commands().Run(Command::New);
+  EXPECT_EQ(log().Count("ask Did you want save"), 1U);
+}
+
+TEST_F(SaveProjectTest, ATypedNameIsCompletedBeforeTheQuestion) {
+  ports.Files.Put("Z:\\p\\a.tnp", "old");
+  ports.Dialogs.SaveAnswers = {"Z:\\p\\a"};
+  main.Commands().Run(Command::Save);
+  EXPECT_EQ(log().Count("ask The File Z:\\p\\a.tnp\r\nalready exist. Replace it?"), 1U);
+  EXPECT_EQ(ports.Files.Bytes("Z:\\p\\a.tnp"), "old");
+}
+
+TEST_F(SaveProjectTest, AFileThatAnotherProgramChangedIsReplacedOnYesOnly) {
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
+  ports.Files.Put("Z:\\p\\one.ftn", "theirs");
+  ports.Messages.Answers = {false};
+  main.Commands().Run(Command::Save);
+  EXPECT_EQ(log().Count("ask The File Z:\\p\\one.ftn\r\nwas changed by another program"), 1U);
+  EXPECT_EQ(ports.Files.Bytes("Z:\\p\\one.ftn"), "theirs");
+  ports.Messages.Answers = {true};
+  main.Commands().Run(Command::Save);
+  EXPECT_NE(ports.Files.Bytes("Z:\\p\\one.ftn"), "theirs");
+  log().Clear();
+  main.Commands().Run(Command::Save);
+  EXPECT_EQ(log().Count("ask"), 0U);
+}
+
 class SaveFormTest : public SaveProjectTest {};
 
 TEST_F(SaveFormTest, AsksForAFileWhileTheFormHasNone) {
@@ -169,7 +224,7 @@ TEST_F(SaveFormTest, AsksForAFileWhileTheFormHasNone) {
   EXPECT_EQ(ports.Dialogs.LastRequest.Title, "Save Form");
   EXPECT_EQ(ports.Dialogs.LastRequest.Filter, "Form (*.ftn)|*.ftn|All Files|*.*");
   EXPECT_EQ(ports.Dialogs.LastRequest.StartFolder, "Z:\\p\\");
-  EXPECT_EQ(ports.Dialogs.LastRequest.StartName, "Form2");
+  EXPECT_EQ(ports.Dialogs.LastRequest.StartName, "Form2.ftn");
   EXPECT_EQ(tables().Form(2)->FileName, "Z:\\p\\Second.ftn");
   EXPECT_EQ(Lines().back(), "Form2 (Second.ftn)");
   EXPECT_TRUE(ports.Files.Exists("Z:\\p\\Second.ftn"));
@@ -177,7 +232,7 @@ TEST_F(SaveFormTest, AsksForAFileWhileTheFormHasNone) {
 
 TEST_F(SaveFormTest, HidesTheContainerForTheDialogAndBringsItBack) {
   main.Commands().Run(Command::SaveForm);
-  ExpectOrder({"view container hidden", "view form up 1", "dialog save", "view container shown"});
+  ExpectOrder({"view container hidden", "dialog save", "view container shown"});
   EXPECT_EQ(tables().Form(1)->FileName, "");
   EXPECT_EQ(log().Count("replace"), 0U);
 }

@@ -10,6 +10,7 @@
 
 #include "designer/form_user.h"
 #include "designer/tool_box.h"
+#include "fakes/fake_instance_folders.h"
 #include "fakes/fake_ports.h"
 #include "fakes/fake_shell.h"
 #include "inspector/property_sheet.h"
@@ -19,6 +20,7 @@
 #include "shell/form_main.h"
 #include "shell/mdi_form.h"
 #include "shell/program_icon.h"
+#include "shell/project_commands.h"
 
 namespace tarnwick {
 
@@ -36,7 +38,8 @@ class ShellTest : public ::testing::Test {
   FakeSideWindows windows{ports.Log};
   FakeObserver observer{ports.Log};
   ShellWindows views{view, windows, windows, windows};
-  MDIForm1 main{ports.All(), std::string(kProgram)};
+  FakeInstanceFolders instances{ports.Files};
+  MDIForm1 main{ports.All(), instances, std::string(kProgram)};
   ShellTest() { main.AddObserver(observer); }
 
   CallLog& log() { return ports.Log; }

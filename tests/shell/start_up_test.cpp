@@ -56,7 +56,7 @@ TEST_F(StartUpTest, TheScreenIsGivenTimeToRepaintAfterEachLogoText) {
   LoggingScreen screen(log());
   const Ports with_screen{ports.Files,    ports.Profiles, ports.Processes,
                           ports.Messages, ports.Dialogs,  screen};
-  MDIForm1 window(with_screen, std::string(kProgram));
+  MDIForm1 window(with_screen, instances, std::string(kProgram));
   window.Load(views);
   window.Time_Timer();
   const std::vector<std::string>& all = log().Entries();

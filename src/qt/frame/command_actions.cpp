@@ -1,16 +1,20 @@
 #include "qt/frame/command_actions.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
 #include <QToolButton>
+#include <optional>
 
 #include "designer/tool_box.h"
+#include "qt/kit/focused_text.h"
 #include "qt/kit/icon_set.h"
 #include "qt/kit/text_bridge.h"
 #include "shell/command_center.h"
+#include "shell/project_commands.h"
 
 namespace tarnwick {
 
@@ -35,17 +39,36 @@ bool IsToggle(Command command) {
 /// Rows whose marks are no pictures: a picture would take the place of the check mark.
 bool HasIcon(Command command) {
   return !IsToggle(command) && command != Command::Exit && command != Command::OpenOld &&
-         command != Command::SaveAs && command != Command::SaveForm &&
-         command != Command::SaveFormAs;
+         command != Command::SaveAs && command != Command::Restore &&
+         command != Command::SaveForm && command != Command::SaveFormAs;
+}
+
+/// What a command does to a text that has the focus; nothing for commands that leave texts alone.
+std::optional<TextEdit> TextEditOf(Command command) {
+  switch (command) {
+    case Command::Cut:
+      return TextEdit::Cut;
+    case Command::Copy:
+      return TextEdit::Copy;
+    case Command::Paste:
+      return TextEdit::Paste;
+    case Command::Delete:
+      return TextEdit::Delete;
+    default:
+      return std::nullopt;
+  }
 }
 
 }  // namespace
 
-CommandActions::CommandActions(QMainWindow& window, CommandCenter& commands)
-    : QObject(&window), commands_(commands) {
+CommandActions::CommandActions(QMainWindow& window, CommandCenter& commands,
+                               ProjectCommands& projects)
+    : QObject(&window), commands_(commands), projects_(projects) {
   BuildMenuBar(window);
   BuildToolbar(window);
   BuildPopUp(window);
+  // What the Edit menu works on goes by the focus, and so does what of it can be used.
+  connect(qApp, &QApplication::focusChanged, this, [this] { Refresh(); });
   Refresh();
 }
 
@@ -64,6 +87,11 @@ void CommandActions::BuildMenuBar(QMainWindow& window) {
 
 void CommandActions::AddRows(QMenu& menu, std::span<const MenuRow> rows, bool takes_keys) {
   for (const MenuRow& row : rows) {
+    if (!row.Does && !row.Name.empty()) {
+      recent_ = menu.addMenu(ToQString(row.Caption));
+      recent_->setObjectName(ToQString(row.Name));
+      continue;
+    }
     if (!row.Does) {
       menu.addSeparator();
       continue;
@@ -130,6 +158,12 @@ void CommandActions::BuildPopUp(QMainWindow& window) {
 }
 
 void CommandActions::Run(Command command) {
+  const std::optional<TextEdit> edit = TextEditOf(command);
+  if (QWidget* field = FocusedText(); edit && field != nullptr) {
+    EditText(*field, *edit);
+    Refresh();
+    return;
+  }
   commands_.Run(command);
   // A check mark that the toolkit set by itself goes back to what is true.
   Refresh();
@@ -140,14 +174,43 @@ void CommandActions::PressTool(int number) {
   Refresh();
 }
 
+CommandState CommandActions::StateOf(Command command) const {
+  CommandState state = commands_.State(command);
+  const std::optional<TextEdit> edit = TextEditOf(command);
+  if (const QWidget* field = FocusedText(); edit && field != nullptr) {
+    state.Enabled = CanEdit(*field, *edit);
+  }
+  return state;
+}
+
+void CommandActions::RefreshRecent() {
+  recent_->clear();
+  int number = 1;
+  for (const std::string& path : projects_.Recent()) {
+    // An "&" of a path is no access key.
+    const QString shown = ToQString(path).replace(u'&', QStringLiteral("&&"));
+    QAction* row = recent_->addAction(QStringLiteral("&%1  %2").arg(number).arg(shown));
+    row->setObjectName(QStringLiteral("mnuRecent_%1").arg(number++));
+    connect(row, &QAction::triggered, this, [this, path] { commands_.OpenRecent(path); });
+  }
+  const bool any = number > 1;
+  if (any) recent_->addSeparator();
+  QAction* clear = recent_->addAction(QStringLiteral("&Clear"));
+  clear->setObjectName(QStringLiteral("mnuRecentClear"));
+  clear->setEnabled(any);
+  connect(clear, &QAction::triggered, this, [this] { projects_.ClearRecent(); });
+}
+
 void CommandActions::Refresh() {
   for (const Entry& entry : entries_) {
-    const CommandState state = commands_.State(entry.Does);
+    const CommandState state = StateOf(entry.Does);
     if (entry.Action != nullptr) {
       entry.Action->setEnabled(state.Enabled);
       if (entry.Action->isCheckable()) entry.Action->setChecked(state.Checked);
       if (entry.Does == Command::Remove) {
-        entry.Action->setText(ToQString(commands_.Caption(entry.Does)));
+        // An "&" in a form's name is no access key.
+        entry.Action->setText(
+            ToQString(commands_.Caption(entry.Does)).replace(u'&', QStringLiteral("&&")));
       }
     }
     if (entry.Button != nullptr) {

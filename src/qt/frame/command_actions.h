@@ -7,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "shell/command_state.h"
 #include "shell/command_table.h"
 
 class QAction;
@@ -18,6 +19,7 @@ class QToolButton;
 namespace tarnwick {
 
 class CommandCenter;
+class ProjectCommands;
 
 /// One action for each row of a menu and one button for each command of the toolbar; all follow
 /// the same state.
@@ -25,10 +27,12 @@ class CommandActions final : public QObject {
   Q_OBJECT
 
  public:
-  CommandActions(QMainWindow& window, CommandCenter& commands);
+  CommandActions(QMainWindow& window, CommandCenter& commands, ProjectCommands& projects);
 
   /// Reads state, check marks and captions of all commands and tools again.
   void Refresh();
+  /// Fills the menu of recent projects again.
+  void RefreshRecent();
   [[nodiscard]] QMenu& ObjectPopUp() { return *pop_up_; }
   /// A button of a small bar: named `name` and the index, with tip and picture of its command.
   QToolButton* MakeButton(const ToolbarButton& row, const QString& name, int index,
@@ -46,9 +50,13 @@ class CommandActions final : public QObject {
   void AddRows(QMenu& menu, std::span<const MenuRow> rows, bool takes_keys);
   void AddTools(QMenu& menu);
   void Run(Command command);
+  /// The command's state; that of the focused text where the command would act on one.
+  [[nodiscard]] CommandState StateOf(Command command) const;
   void PressTool(int number);
 
   CommandCenter& commands_;
+  ProjectCommands& projects_;
+  QMenu* recent_ = nullptr;
   std::vector<Entry> entries_;
   std::vector<std::pair<int, QAction*>> tools_;
   QMenu* pop_up_ = nullptr;

@@ -1,6 +1,5 @@
 #include "qt/frame/design_windows_view.h"
 
-#include "designer/tool_box.h"
 #include "qt/frame/main_window.h"
 #include "qt/grid/property_panel.h"
 #include "qt/surface/container.h"
@@ -16,7 +15,8 @@ DesignWindowDoors DesignWindowsView::DoorsOf(int form) {
   doors.Record = [this, form]() -> const FormRec* { return shell_.Tables().Form(form); };
   doors.Activated = [this, form] { shell_.Forms().Activated(form); };
   doors.PointerMoved = [this](QPoint place) { window_.SetPointerText(place); };
-  doors.Escape = [this] { shell_.Commands().PressTool(kArrowTool); };
+  doors.Closed = [this, form] { shell_.Forms().WindowClosed(form); };
+  doors.Escape = [this] { shell_.Commands().Escape(); };
   doors.Resized = [this] { shell_.RefreshStatus(); };
   doors.FocusIsKept = [this] { return window_.Properties().KeepsFocus(); };
   return doors;

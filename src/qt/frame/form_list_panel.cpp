@@ -14,6 +14,13 @@
 
 namespace tarnwick {
 
+namespace {
+
+/// Two lines of the list: less would show nothing of use.
+constexpr int kLeastList = 44;
+
+}  // namespace
+
 FormListPanel::FormListPanel(FormCommands& forms, CommandActions& commands, QWidget* parent)
     : QWidget(parent), forms_(forms), list_(new QListWidget), warning_(new QLabel) {
   auto* frame = new PanelFrame(QStringLiteral("Picture3"), QStringLiteral("Forms"), this);
@@ -25,7 +32,9 @@ FormListPanel::FormListPanel(FormCommands& forms, CommandActions& commands, QWid
     frame->AddToHead(button);
   }
   list_->setObjectName(QStringLiteral("ListaFrms"));
+  list_->setAccessibleName(QStringLiteral("Forms"));
   list_->setIconSize(QSize(16, 16));
+  list_->setMinimumHeight(kLeastList);
   list_->setTextElideMode(Qt::ElideMiddle);
   warning_->setObjectName(QStringLiteral("MainFormWarning"));
   warning_->setProperty("quiet", true);
@@ -39,6 +48,9 @@ FormListPanel::FormListPanel(FormCommands& forms, CommandActions& commands, QWid
   // A press selects, also on the line that is marked already.
   connect(list_, &QListWidget::itemClicked, this,
           [this](QListWidgetItem* item) { forms_.SelectLine(list_->row(item)); });
+  // Enter or a double click goes on to the form; arrows stay in the list.
+  connect(list_, &QListWidget::itemActivated, this,
+          [this](QListWidgetItem* item) { forms_.GoToLine(list_->row(item)); });
   connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) forms_.SelectLine(row);
   });

@@ -26,6 +26,7 @@ void RunMainFormDialog(FormCommands& forms, QWidget* parent) {
   for (const std::string& line : logic.List1()) {
     list->addItem(new QListWidgetItem(IconOf(QStringLiteral("form")), ToQString(line)));
   }
+  list->setAccessibleName(QStringLiteral("Forms"));
   list->setCurrentRow(logic.Selected());
   auto* text = new QLineEdit(ToQString(logic.Text1()), &dialog);
   text->setObjectName(QStringLiteral("Text1"));
@@ -35,9 +36,11 @@ void RunMainFormDialog(FormCommands& forms, QWidget* parent) {
   auto* buttons = new QDialogButtonBox(&dialog);
   QPushButton* ok = buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole);
   ok->setObjectName(QStringLiteral("Command1"));
+  ok->setToolTip(QStringLiteral("Take this form (Enter)"));
   ok->setDefault(true);
-  buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole)
-      ->setObjectName(QStringLiteral("Command2"));
+  QPushButton* cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+  cancel->setObjectName(QStringLiteral("Command2"));
+  cancel->setToolTip(QStringLiteral("Change nothing (Esc)"));
   auto* column = new QVBoxLayout(&dialog);
   column->setContentsMargins(2 * kRoom, 2 * kRoom, 2 * kRoom, 2 * kRoom);
   column->setSpacing(kRoom);
@@ -47,10 +50,14 @@ void RunMainFormDialog(FormCommands& forms, QWidget* parent) {
   column->addSpacing(kRoom);
   column->addWidget(buttons);
   dialog.resize(380, 340);
-  QObject::connect(list, &QListWidget::itemClicked, &dialog, [&](QListWidgetItem* item) {
-    logic.List1_Click(list->row(item));
+  const auto choose = [&](int row) {
+    logic.List1_Click(row);
     text->setText(ToQString(logic.Text1()));
-  });
+  };
+  // By mouse and by keys alike; a click on the marked line takes it back after typing.
+  QObject::connect(list, &QListWidget::currentRowChanged, &dialog, choose);
+  QObject::connect(list, &QListWidget::itemClicked, &dialog,
+                   [&](QListWidgetItem* item) { choose(list->row(item)); });
   QObject::connect(text, &QLineEdit::textChanged, &dialog,
                    [&](const QString& typed) { logic.Text1_Change(FromQString(typed)); });
   QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);

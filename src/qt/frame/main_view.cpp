@@ -1,6 +1,7 @@
 #include "qt/frame/main_view.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QMenu>
 #include <utility>
 
@@ -15,18 +16,23 @@
 #include "qt/frame/main_window.h"
 #include "qt/frame/object_bar.h"
 #include "qt/frame/objects_examiner_window.h"
+#include "qt/frame/restore_dialog.h"
 #include "qt/grid/item_dialog.h"
 #include "qt/grid/property_panel.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/surface/container.h"
 #include "shell/form_commands.h"
 #include "shell/mdi_form.h"
+#include "shell/window_placement.h"
 
 namespace tarnwick {
 
 namespace {
 
-/// Answers for a form without a window; nothing is drawn and nothing is taken.
+/// How long after the user did something the project is kept for recovery.
+constexpr int kKeepAfter = 2000;  // milliseconds
+
+/// Stands for a form without a window; nothing is drawn and nothing is taken.
 class NoGestures final : public GesturePort {
  public:
   void TakeCapture() override {}
@@ -40,6 +46,31 @@ class NoGestures final : public GesturePort {
 };
 
 }  // namespace
+
+/// Starts a timer when the user does anything, unless it runs.
+class MainView::WorkWatcher final : public QObject {
+ public:
+  explicit WorkWatcher(QTimer& timer) : timer_(timer) {}
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::KeyPress:
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonRelease:
+      case QEvent::InputMethod:
+      case QEvent::Drop:
+        if (!timer_.isActive()) timer_.start();
+        break;
+      default:
+        break;
+    }
+    return QObject::eventFilter(object, event);
+  }
+
+ private:
+  QTimer& timer_;
+};
 
 MainView::MainView(MainWindow& window, MDIForm1& shell)
     : window_(window),
@@ -55,7 +86,15 @@ MainView::MainView(MainWindow& window, MDIForm1& shell)
   QObject::connect(&time_, &QTimer::timeout, &window_, [this] {
     shell_.Time_Timer();
     if (!start_project_.empty()) shell_.OpenNamed(std::exchange(start_project_, {}));
+    if (!std::exchange(offered_, true)) shell_.OfferCrashedWork();
   });
+  keep_.setSingleShot(true);
+  keep_.setInterval(kKeepAfter);
+  QObject::connect(&keep_, &QTimer::timeout, &window_, [this] {
+    if (!shell_.KeepWork()) keep_.start();
+  });
+  work_ = std::make_unique<WorkWatcher>(keep_);
+  qApp->installEventFilter(work_.get());
   refresh_.setSingleShot(true);
   refresh_.setInterval(0);
   QObject::connect(&refresh_, &QTimer::timeout, &window_, [this] { Refresh(); });
@@ -64,6 +103,8 @@ MainView::MainView(MainWindow& window, MDIForm1& shell)
 MainView::~MainView() = default;
 
 void MainView::Load() {
+  window_.TakePlacement(ReadPlacement(shell_.SettingsFile()));
+  window_.Actions().RefreshRecent();
   shell_.Load({*this, code_, menus_, window_.Examiner()});
 }
 
@@ -106,19 +147,39 @@ void MainView::ShowContainerAt(int /*width*/, int /*height*/) {
 }
 
 void MainView::HideContainer() {
-  window_.Forms().widget()->hide();
+  // What is hidden loses the focus: it is enough that nothing is painted meanwhile.
+  window_.Forms().widget()->setUpdatesEnabled(false);
 }
 
 void MainView::ShowContainer() {
-  window_.Forms().widget()->show();
+  window_.Forms().widget()->setUpdatesEnabled(true);
 }
 
 void MainView::MoveContainer(int top) {
-  window_.Forms().widget()->setVisible(top >= 0 && top < window_.height());
+  window_.Forms().widget()->setUpdatesEnabled(top >= 0 && top < window_.height());
 }
 
 void MainView::BringFormUp(int form) {
   window_.Forms().BringUp(form);
+}
+
+void MainView::FocusForm(int form) {
+  window_.Forms().Focus(form);
+}
+
+void MainView::HoldFocus() {
+  held_focus_ = QApplication::focusWidget();
+}
+
+void MainView::RestoreFocus() {
+  if (held_focus_ != nullptr && QApplication::focusWidget() != held_focus_) {
+    held_focus_->setFocus(Qt::OtherFocusReason);
+  }
+  held_focus_.clear();
+}
+
+void MainView::RecentProjectsChanged() {
+  window_.Actions().RefreshRecent();
 }
 
 void MainView::SetFormVisible(int form, bool visible) {
@@ -198,6 +259,10 @@ void MainView::ShowObjectPopUp() {
   window_.Actions().ObjectPopUp().popup(QCursor::pos());
 }
 
+void MainView::RunRestoreDialog() {
+  tarnwick::RunRestoreDialog(shell_.Projects(), &window_);
+}
+
 void MainView::RunFormMain() {
   RunMainFormDialog(shell_.Forms(), &window_);
 }
@@ -227,6 +292,7 @@ void MainView::UnloadWindow(SideWindow window) {
 }
 
 void MainView::UnloadContainer() {
+  WritePlacement(shell_.SettingsFile(), window_.Placement());
   window_.Forms().widget()->hide();
 }
 

@@ -1,7 +1,9 @@
 // What the shell asks of the main window, and what the main window hears of the project.
 #pragma once
 
+#include <QPointer>
 #include <QTimer>
+#include <QWidget>
 #include <memory>
 #include <string>
 #include <utility>
@@ -42,6 +44,10 @@ class MainView final : public ShellView, public ProjectObserver {
   void ShowContainer() override;
   void MoveContainer(int top) override;
   void BringFormUp(int form) override;
+  void FocusForm(int form) override;
+  void HoldFocus() override;
+  void RestoreFocus() override;
+  void RecentProjectsChanged() override;
   void SetFormVisible(int form, bool visible) override;
   [[nodiscard]] GesturePort& Gestures(int form) override;
   [[nodiscard]] bool PictureLoads(const std::string& path) override;
@@ -52,6 +58,7 @@ class MainView final : public ShellView, public ProjectObserver {
   void SetStatus(std::string_view text) override;
   void SetSelectionText(std::string_view text) override;
   void ShowObjectPopUp() override;
+  void RunRestoreDialog() override;
   void RunFormMain() override;
   void RunItemDialog(int form) override;
   void ShowAbout(std::string_view program_folder) override;
@@ -68,6 +75,7 @@ class MainView final : public ShellView, public ProjectObserver {
   void EventsBarChanged(int form) override;
 
  private:
+  class WorkWatcher;
   void ScheduleRefresh();
   void ScheduleBarRefresh();
   void Refresh();
@@ -80,6 +88,10 @@ class MainView final : public ShellView, public ProjectObserver {
   std::string start_project_;
   QTimer time_;
   QTimer refresh_;
+  QTimer keep_;  ///< runs from what the user did until the project is kept
+  std::unique_ptr<WorkWatcher> work_;
+  QPointer<QWidget> held_focus_;
+  bool offered_ = false;  ///< the work of a crashed run was offered
   std::unique_ptr<LogoWindow> logo_;
   std::unique_ptr<GesturePort> no_gestures_;
   bool arrow_ = false;

@@ -1,9 +1,13 @@
 #include "qt/frame/main_window.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QLabel>
+#include <QScreen>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "qt/frame/command_actions.h"
 #include "qt/frame/events_bar_window.h"
@@ -24,17 +28,21 @@ namespace tarnwick {
 
 namespace {
 
+constexpr QSize kStartSize(1400, 900);
 constexpr int kToolColumns = 2;
 constexpr int kRightWidth = 290;
 constexpr int kPropertiesHeight = 590;
 constexpr int kFormsHeight = 130;
+/// Room for the frame of a desktop that tells nothing about it.
+constexpr int kFrameSide = 4;
+constexpr int kFrameTop = 32;
 
 }  // namespace
 
 MainWindow::MainWindow(MDIForm1& shell, FilePort& files)
     : shell_(shell),
       pictures_([&files](const std::string& path) { return files.Read(path); }),
-      actions_(new CommandActions(*this, shell.Commands())),
+      actions_(new CommandActions(*this, shell.Commands(), shell.Projects())),
       container_(new Container(pictures_, texts_, this)),
       tools_(new ToolBoxPanel(shell.Commands(), QStringLiteral("BtnObjet"), kToolColumns, this)),
       properties_(new PropertyPanel(shell.Sheet(), pictures_, this)),
@@ -45,11 +53,12 @@ MainWindow::MainWindow(MDIForm1& shell, FilePort& files)
       examiner_(new ObjectsExaminerWindow(shell.Examiner(), this)),
       right_(new QWidget(this)),
       panels_(new GripSplitter(Qt::Vertical, right_)),
+      middle_(new GripSplitter(Qt::Horizontal, this)),
       status_(new QLabel(this)),
       selection_(new QLabel(this)),
       pointer_(new QLabel(this)) {
   setObjectName(QStringLiteral("MDIForm1"));
-  resize(1400, 900);
+  resize(kStartSize);
   BuildPanels();
   BuildStatusBar();
   connect(properties_, &PropertyPanel::ShownWanted, this,
@@ -79,26 +88,30 @@ void MainWindow::BuildPanels() {
   right_column->addWidget(panels_, 1);
   right_column->addWidget(icon_);
 
-  auto* middle = new GripSplitter(Qt::Horizontal, this);
-  middle->setObjectName(QStringLiteral("MiddleAndRight"));
-  middle->setHandleWidth(kRoom);
-  middle->addWidget(container_);
-  middle->addWidget(right_);
-  middle->setStretchFactor(0, 1);
-  middle->setChildrenCollapsible(false);
-  middle->setSizes({width() - kRightWidth, kRightWidth});
+  middle_->setObjectName(QStringLiteral("MiddleAndRight"));
+  middle_->setHandleWidth(kRoom);
+  middle_->addWidget(container_);
+  middle_->addWidget(right_);
+  middle_->setStretchFactor(0, 1);
+  middle_->setChildrenCollapsible(false);
+  middle_->setSizes({width() - kRightWidth, kRightWidth});
 
   auto* whole = new QWidget(this);
   auto* row = new QHBoxLayout(whole);
   row->setContentsMargins(kRoom, kRoom, kRoom, kRoom);
   row->setSpacing(kRoom);
   row->addWidget(tool_frame);
-  row->addWidget(middle, 1);
+  row->addWidget(middle_, 1);
   setCentralWidget(whole);
 }
 
 void MainWindow::BuildStatusBar() {
   status_->setObjectName(QStringLiteral("StatusText"));
+  status_->setTextFormat(Qt::PlainText);
+  status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  status_->setAccessibleName(QStringLiteral("Status"));
+  selection_->setAccessibleName(QStringLiteral("Selection"));
+  pointer_->setAccessibleName(QStringLiteral("Pointer"));
   selection_->setObjectName(QStringLiteral("SelectionText"));
   pointer_->setObjectName(QStringLiteral("PointerText"));
   pointer_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000, 0000")) +
@@ -108,6 +121,46 @@ void MainWindow::BuildStatusBar() {
   statusBar()->addWidget(status_, 1);
   statusBar()->addPermanentWidget(selection_);
   statusBar()->addPermanentWidget(pointer_);
+}
+
+WindowPlacement MainWindow::Placement() const {
+  const QRect place = isMaximized() || isFullScreen() ? normalGeometry() : geometry();
+  const auto sizes = [](const QSplitter& splitter) {
+    const QList<int> list = splitter.sizes();
+    return std::vector<int>(list.begin(), list.end());
+  };
+  return {{place.x(), place.y(), place.width(), place.height()},
+          isMaximized(),
+          sizes(*middle_),
+          sizes(*panels_)};
+}
+
+void MainWindow::TakePlacement(const WindowPlacement& last) {
+  const bool known = last.Window.Width > 0;
+  const QPoint middle = known ? QPoint(last.Window.Left + last.Window.Width / 2,
+                                       last.Window.Top + last.Window.Height / 2)
+                              : QPoint();
+  // A screen that has gone since leaves its windows to the first one.
+  const QScreen* on = known ? QGuiApplication::screenAt(middle) : nullptr;
+  if (on == nullptr) on = QGuiApplication::primaryScreen();
+  if (on == nullptr) return;
+  QRect area = on->availableGeometry();
+  // The frame that the desktop draws around the window belongs to it.
+  area.adjust(kFrameSide, kFrameTop, -kFrameSide, -kFrameSide);
+  const WindowRect free{area.x(), area.y(), area.width(), area.height()};
+  const WindowRect wanted = known ? last.Window
+                                  : WindowRect{area.center().x() - width() / 2,
+                                               area.center().y() - height() / 2, width(), height()};
+  const WindowRect place = FitInto(wanted, free);
+  setGeometry(place.Left, place.Top, place.Width, place.Height);
+  const auto give = [](QSplitter& splitter, const std::vector<int>& sizes) {
+    const bool fits = static_cast<int>(sizes.size()) == splitter.count() &&
+                      std::any_of(sizes.begin(), sizes.end(), [](int size) { return size > 0; });
+    if (fits) splitter.setSizes(QList<int>(sizes.begin(), sizes.end()));
+  };
+  give(*middle_, last.Columns);
+  give(*panels_, last.Panels);
+  if (last.Maximised) setWindowState(windowState() | Qt::WindowMaximized);
 }
 
 void MainWindow::GoToForm() {
@@ -124,6 +177,8 @@ void MainWindow::RefreshCommands() {
 
 void MainWindow::SetStatus(const QString& text) {
   status_->setText(text);
+  // A path may be longer than the window is wide.
+  status_->setToolTip(text);
 }
 
 void MainWindow::SetSelectionText(const QString& text) {

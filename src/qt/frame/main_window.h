@@ -5,6 +5,7 @@
 
 #include "looks/picture_cache.h"
 #include "qt/surface/text_cache.h"
+#include "shell/window_placement.h"
 
 class QLabel;
 class QSplitter;
@@ -33,6 +34,9 @@ class MainWindow final : public QMainWindow {
   MainWindow(MDIForm1& shell, FilePort& files);
   ~MainWindow() override;
 
+  /// Where the window and its parts stand, and the way back there, as far as the screen has room.
+  [[nodiscard]] WindowPlacement Placement() const;
+  void TakePlacement(const WindowPlacement& last);
   /// State of all commands and tools changed.
   void RefreshCommands();
 
@@ -75,6 +79,7 @@ class MainWindow final : public QMainWindow {
   ObjectsExaminerWindow* examiner_;
   QWidget* right_;
   QSplitter* panels_;
+  QSplitter* middle_;
   QLabel* status_;
   QLabel* selection_;
   QLabel* pointer_;

@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
-#include "designer/tool_box.h"
 #include "qt/frame/tool_box_panel.h"
 #include "qt/kit/theme.h"
 #include "shell/command_center.h"
@@ -41,7 +40,7 @@ void ObjectBar::closeEvent(QCloseEvent* event) {
 
 void ObjectBar::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) {
-    commands_.PressTool(kArrowTool);
+    commands_.Escape();
   } else {
     QWidget::keyPressEvent(event);
   }

@@ -108,6 +108,7 @@ constexpr std::array<CommandIcon, kCommandCount> kCommandIcons{{
     {Command::SaveForm, "save"},
     {Command::SaveFormAs, "save"},
     {Command::Exit, "exit"},
+    {Command::Restore, "open"},
     {Command::Cut, "cut"},
     {Command::Copy, "copy"},
     {Command::Paste, "paste"},

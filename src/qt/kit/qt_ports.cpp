@@ -1,8 +1,10 @@
 #include "qt/kit/qt_ports.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QScreen>
 
@@ -53,6 +55,26 @@ std::optional<std::string> RunFileDialog(const FileDialogRequest& request, bool 
   return Chosen(dialog.selectedFiles().value(0));
 }
 
+/// A box with Yes and No that can also be closed without an answer, by Esc or its title's button;
+/// the toolkit's own takes either for No.
+class ClosableBox final : public QMessageBox {
+ public:
+  using QMessageBox::QMessageBox;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Escape) {
+      done(QMessageBox::Cancel);
+    } else {
+      QMessageBox::keyPressEvent(event);
+    }
+  }
+  void closeEvent(QCloseEvent* event) override {
+    done(QMessageBox::Cancel);
+    event->accept();
+  }
+};
+
 }  // namespace
 
 std::string ToolkitFilter(std::string_view filter) {
@@ -82,7 +104,9 @@ std::string ToolkitFilter(std::string_view filter) {
 }
 
 void QtMessages::Show(std::string_view text, std::string_view title) {
-  QMessageBox box(QMessageBox::NoIcon, ToQString(title), ToQString(text), QMessageBox::Ok, Above());
+  // What is shown and not asked is always about something that did not go as it should.
+  QMessageBox box(QMessageBox::Warning, ToQString(title), ToQString(text), QMessageBox::Ok,
+                  Above());
   box.setObjectName(QStringLiteral("MsgBox"));
   box.setTextFormat(Qt::PlainText);
   box.exec();
@@ -96,9 +120,21 @@ bool QtMessages::AskYesNo(std::string_view text, std::string_view title, Message
                   Above());
   box.setObjectName(QStringLiteral("MsgBox"));
   box.setTextFormat(Qt::PlainText);
-  box.setDefaultButton(QMessageBox::Yes);
+  // Such questions delete or replace: Enter alone must not.
+  box.setDefaultButton(QMessageBox::No);
   box.setEscapeButton(QMessageBox::No);
   return box.exec() == QMessageBox::Yes;
+}
+
+std::optional<bool> QtMessages::AskOrCancel(std::string_view text, std::string_view title) {
+  ClosableBox box(QMessageBox::Question, ToQString(title), ToQString(text),
+                  QMessageBox::Yes | QMessageBox::No, Above());
+  box.setObjectName(QStringLiteral("MsgBox"));
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::Yes);
+  const int answer = box.exec();
+  if (answer != QMessageBox::Yes && answer != QMessageBox::No) return std::nullopt;
+  return answer == QMessageBox::Yes;
 }
 
 std::optional<std::string> QtDialogs::OpenFile(const FileDialogRequest& request) {

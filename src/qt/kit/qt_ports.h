@@ -16,6 +16,8 @@ class QtMessages final : public MessagePort {
   void Show(std::string_view text, std::string_view title) override;
   [[nodiscard]] bool AskYesNo(std::string_view text, std::string_view title,
                               MessageIcon icon) override;
+  [[nodiscard]] std::optional<bool> AskOrCancel(std::string_view text,
+                                                std::string_view title) override;
 };
 
 /// The common dialogs over the active window. Paths go in and come out as Windows paths.

@@ -68,10 +68,16 @@ DesignWindow* Container::Window(int form) const {
 void Container::BringUp(int form) {
   DesignWindow* window = Window(form);
   if (window == nullptr) return;
+  window->Unroll();
   window->show();
   window->raise();
   FitCanvas();
   ensureWidgetVisible(window, 0, 0);
+}
+
+void Container::Focus(int form) {
+  DesignWindow* window = Window(form);
+  if (window == nullptr) return;
   if (window->Surface().isVisibleTo(this)) {
     window->Surface().setFocus();
   } else {

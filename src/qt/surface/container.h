@@ -25,8 +25,10 @@ class Container final : public QScrollArea {
   [[nodiscard]] bool IsEmpty() const { return windows_.empty(); }
   /// Null for a form without a window.
   [[nodiscard]] DesignWindow* Window(int form) const;
-  /// Shows a window in front of the others, with the focus.
+  /// Shows a window in front of the others, also when it was rolled up. The focus stays.
   void BringUp(int form);
+  /// Gives a window the focus.
+  void Focus(int form);
   /// The window drawn as that of the current form; 0 for none.
   void SetCurrent(int form);
 

@@ -20,9 +20,10 @@ struct DesignWindowDoors {
   std::function<const FormRec*()> Record;  ///< null while there is none
   std::function<void()> Activated;  ///< the user pressed into this window, or it has the focus now
   std::function<void(QPoint)> PointerMoved;  ///< place in pixels of the form
-  std::function<void()> Escape;              ///< back to the arrow
-  std::function<void()> Resized;             ///< the form has taken a new size from its window
-  std::function<bool()> FocusIsKept;         ///< a value is just being typed elsewhere
+  std::function<void()> Closed;       ///< the user closed the window; whoever is told hides it
+  std::function<void()> Escape;       ///< back to the arrow
+  std::function<void()> Resized;      ///< the form has taken a new size from its window
+  std::function<bool()> FocusIsKept;  ///< a value is just being typed elsewhere
 };
 
 /// Paints the form and forwards presses, moves, releases, double clicks and keys. It is the

@@ -242,7 +242,7 @@ void DesignWindow::mousePressEvent(QMouseEvent* event) {
   at_press_ = geometry();
   if (edges_) return;
   if (part == Part::Close) {
-    hide();
+    doors_.Closed();
   } else if (part == Part::Maximise) {
     SetState(state_ == WindowState::Maximised ? WindowState::Normal : WindowState::Maximised);
   } else if (part == Part::Minimise) {
@@ -315,6 +315,10 @@ void DesignWindow::mouseDoubleClickEvent(QMouseEvent* event) {
   } else if (FrameOf().Maximise) {
     SetState(state_ == WindowState::Maximised ? WindowState::Normal : WindowState::Maximised);
   }
+}
+
+void DesignWindow::Unroll() {
+  if (state_ == WindowState::Minimised) SetState(WindowState::Normal);
 }
 
 void DesignWindow::SetState(WindowState state) {

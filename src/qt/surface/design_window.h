@@ -30,6 +30,8 @@ class DesignWindow final : public QWidget {
   void Detach();
   /// Draws the title as that of the current form.
   void SetCurrent(bool current);
+  /// Gives a rolled-up window its height back.
+  void Unroll();
   [[nodiscard]] WindowState State() const { return state_; }
 
  protected:

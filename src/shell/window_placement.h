@@ -1,0 +1,42 @@
+// Where the main window stands, from one run to the next.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "persistence/settings.h"
+#include "shell/panels.h"
+
+namespace tarnwick {
+
+/// A rectangle of the screen in pixels of the toolkit.
+struct WindowRect {
+  int Left = 0;
+  int Top = 0;
+  int Width = 0;
+  int Height = 0;
+  friend bool operator==(const WindowRect&, const WindowRect&) = default;
+};
+
+/// Size and place of the main window, of its parts, and which panels are shown.
+struct WindowPlacement {
+  WindowRect Window;
+  bool Maximised = false;
+  std::vector<int> Columns;  ///< widths left and right of the splitter; empty: as they come
+  std::vector<int> Panels;   ///< heights in the right column; likewise
+};
+
+/// The window as it stands on a screen whose free area is `free`: no larger, and wholly within it.
+[[nodiscard]] WindowRect FitInto(WindowRect window, const WindowRect& free) noexcept;
+
+/// What the last run left in the settings, section "Window"; a width of 0 when there is nothing
+/// that can be used.
+[[nodiscard]] WindowPlacement ReadPlacement(const Settings& settings);
+void WritePlacement(Settings& settings, const WindowPlacement& placement);
+
+/// The panels that the last run showed; those without a setting keep the value they have.
+void ReadPanels(const Settings& settings, std::array<bool, kPanelCount>& shown);
+void WritePanels(Settings& settings, const std::array<bool, kPanelCount>& shown);
+
+}  // namespace tarnwick
