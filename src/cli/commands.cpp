@@ -62,7 +62,7 @@ int Resave(LoadedProject& project, const Arguments& arguments, std::FILE* err) {
     all_named = all_named && !name.empty();
     if (!name.empty()) name = std::string(folder).append(BareName(name));
   }
-  const bool saved = project::SaveProject(project.Context, tables.ProjectFile);
+  const bool saved{project::SaveProject(project.Context, tables.ProjectFile)};
   if (saved || (!all_named && project.Files.Exists(tables.ProjectFile))) return 0;
   return Fail(err, "cannot write the project into", arguments.OutputFolder);
 }
