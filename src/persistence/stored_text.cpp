@@ -34,6 +34,7 @@ void AppendStoredCode(std::string& out, std::string_view code) {
 }
 
 std::string RestoredValue(std::string_view stored, Restore how) {
+  if (stored.empty()) return {};  // as most code is
   switch (how) {
     case Restore::Plain:
       return std::string(stored);
