@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "model/design_control.h"
+#include "model/event_table.h"
 
 namespace tarnwick {
 
@@ -53,7 +54,13 @@ class DesignerHost {
   /// Opens the object pop-up menu at the cursor.
   virtual void OpenObjectPopUp(const ObjectPopUp& entries) = 0;
 
+  /// Quiet text at the foot of the main window.
+  virtual void SetStatus(std::string_view text) = 0;
+
   // Code editor and compiler.
+  /// The number of an object was taken out of its kind: the objects behind it have moved down by
+  /// one. With `back` it is there again and they have moved up. Lines of `IniEvents` follow.
+  virtual void NumberMoved(const ObjectPlace& object, bool back) = 0;
   /// While the code editor is open: brings it to the front and answers true; nothing can be
   /// selected meanwhile.
   virtual bool RaiseOpenCodeEditor() = 0;
@@ -64,9 +71,6 @@ class DesignerHost {
 
   // The container window of the design forms.
   [[nodiscard]] virtual bool ContainerMinimised() = 0;
-  /// The container's flag that the form in it is maximised.
-  [[nodiscard]] virtual bool FormMaximised() = 0;
-  virtual void SetFormMaximised(bool maximised) = 0;
   /// The container grows, or shrinks, by twips.
   virtual void GrowContainer(float width, float height) = 0;
 };

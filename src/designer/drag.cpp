@@ -42,8 +42,8 @@ const std::array<HandleInfo, kHandleCount>& Handles() noexcept {
 void Drag::Begin(const ControlRef& control) {
   if (!control) return;
   DragControl = control;
-  origin_ = gesture_.CursorPosition();
   TakeScreenRect();
+  origin_ = press_;
   origin_.X = WholeUnits(static_cast<double>(origin_.X) - rect_.Left);
   origin_.Y = WholeUnits(static_cast<double>(origin_.Y) - rect_.Top);
   DrawRubberBand();
@@ -64,10 +64,13 @@ bool Drag::BeginResize(int handle) {
 
 void Drag::Move() {
   if (mode_ == DragMode::None) return;
+  const ScreenPoint cursor = gesture_.CursorPosition();
+  // A handle is wider than the edge under it: an edge follows the mouse once that has moved.
+  if (!moved_ && cursor.X == press_.X && cursor.Y == press_.Y) return;
+  moved_ = true;
   // Taken as floating values, as the sizes of a rectangle are wherever it only moves.
   const double width = static_cast<double>(rect_.Right) - rect_.Left;
   const double height = static_cast<double>(rect_.Bottom) - rect_.Top;
-  const ScreenPoint cursor = gesture_.CursorPosition();
   DrawRubberBand();
   if (mode_ == DragMode::Move) {
     rect_.Left = WholeUnits(static_cast<double>(cursor.X) - origin_.X);
@@ -108,6 +111,13 @@ void Drag::DragEnd() {
   DragControl = nullptr;
 }
 
+void Drag::Cancel() {
+  if (mode_ == DragMode::None) return;
+  DrawRubberBand();
+  Free();
+  ShowHandles(DragControl != nullptr);
+}
+
 void Drag::DrawRubberBand() {
   gesture_.DrawRubberBand({rect_.Left, rect_.Top, rect_.Right, rect_.Bottom});
 }
@@ -134,10 +144,17 @@ void Drag::ShowHandles(bool show) {
   }
 }
 
+bool Drag::HandlesShown() const noexcept {
+  const ControlRef first = form_.Element(Kind::Handle, 0);
+  return first && first->Visible;
+}
+
 void Drag::TakeScreenRect() {
   rect_.SetRectToCtrl(*DragControl);
   rect_.TwipsToScreen(gesture_.ClientOrigin());
   start_ = rect_;
+  press_ = gesture_.CursorPosition();
+  moved_ = false;
 }
 
 void Drag::Confine() {

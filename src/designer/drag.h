@@ -52,6 +52,10 @@ class Drag {
   /// Clears the drag references. A gesture under way is given up: its outline goes, capture and
   /// cursor are free, the control stays.
   void DragEnd();
+  /// Gives a gesture up and shows the handles where the control still is.
+  void Cancel();
+  /// True while the handles are to be seen.
+  [[nodiscard]] bool HandlesShown() const noexcept;
   /// Draws the outline; a second call erases it.
   void DrawRubberBand();
   /// Shows the handles on the drag control, or hides them where they are. Without a drag control
@@ -68,6 +72,8 @@ class Drag {
   DragMode mode_ = DragMode::None;
   int handle_ = 0;
   ScreenPoint origin_;
+  ScreenPoint press_;  ///< the cursor when the gesture began
+  bool moved_ = false;
   CRect rect_;
   CRect start_;
 };

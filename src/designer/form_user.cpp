@@ -1,10 +1,13 @@
 #include "designer/form_user.h"
 
 #include <array>
+#include <string>
+#include <utility>
 
 #include "designer/grid.h"
 #include "designer/object_kinds.h"
 #include "designer/selection.h"
+#include "designer/tool_box.h"
 #include "model/units.h"
 #include "text/numbers.h"
 
@@ -44,13 +47,13 @@ void FormUser::PintaPuntitos() {
 
 void FormUser::Form_Resize(float width, float height, WindowState state) {
   if (state == WindowState::Minimised) return;
+  if (width != form_.Width || height != form_.Height) {
+    ports_.Steps.Stay(Number(), "window", StepName("Size"));
+  }
   form_.Width = width;
   form_.Height = height;
-  const bool was_maximised = ports_.Host.FormMaximised();
-  if (state == WindowState::Maximised && was_maximised) return;
-  if ((state == WindowState::Maximised) != was_maximised) {
-    ports_.Host.SetFormMaximised(state == WindowState::Maximised);
-  }
+  const bool was_maximised = std::exchange(maximised_, state == WindowState::Maximised);
+  if (maximised_ && was_maximised) return;
   // The old size is renewed first: a container that grows can resize the form again.
   const float wider = width - static_cast<float>(form_.oldWidth);
   const float higher = height - static_cast<float>(form_.oldHeight);
@@ -68,6 +71,10 @@ void FormUser::Form_Resize(float width, float height, WindowState state) {
   ports_.Host.SyncRow(InfoOf(Kind::Form).NameWord, "width");
 }
 
+void FormUser::ResizeEnded() {
+  ports_.Steps.Leave();
+}
+
 void FormUser::borderstylea(int style) {
   ApplyBorderStyle(style_, style);
   if (FormRec* record = tables_.RecordOf(form_)) {
@@ -83,6 +90,28 @@ void FormUser::ShowMessage(std::string_view text) {
 void FormUser::ForgetReferences() {
   drag_.DragEnd();
   clipboard_.ForgetSource();
+}
+
+void FormUser::ControlsMoved() {
+  if (drag_.Mode() != DragMode::None || !drag_.HandlesShown()) return;
+  drag_.ShowHandles(IsLive(drag_.DragControl));
+}
+
+void FormUser::Restored() {
+  drag_.DragEnd();
+  if (const FormRec* record = tables_.RecordOf(form_)) {
+    ApplyBorderStyle(style_, record->BorderStyle);
+  }
+  if (form_.m_bDesignMode) drag_.DragControl = form_.ControlSel;
+  drag_.ShowHandles(drag_.DragControl != nullptr);
+  ports_.Host.EnableTool(kTransparentFrameTool, !HasTransparentFrame(form_));
+  ports_.Host.EnableCopyPasteButtons(form_.NameObjet != InfoOf(Kind::TransparentFrame).NameWord);
+  SelectionRefresh();
+}
+
+void FormUser::NumberMoved(const ObjectPlace& object, bool back) {
+  clipboard_.NumberMoved(object.Id, object.Number, back);
+  ports_.Host.NumberMoved(object, back);
 }
 
 bool FormUser::Ready() {
@@ -145,8 +174,24 @@ void FormUser::SyncPlaceRows() {
   for (const std::string_view row : kPlaceRows) ports_.Host.SyncRow(form_.NameObjet, row);
 }
 
+bool FormUser::ToolArmed() const {
+  return !form_.Objeto.empty() && form_.Objeto != InfoOf(Kind::Form).Name;
+}
+
+std::string FormUser::StepName(std::string_view deed) const {
+  const FormRec* const record = tables_.RecordOf(form_);
+  std::string name(deed);
+  name += ' ';
+  if (form_.ControlSel) {
+    name += form_.ControlSel->Tag;
+  } else if (record != nullptr) {
+    name += record->Name;
+  }
+  return name;
+}
+
 void FormUser::Disarm() {
-  const bool armed = !form_.Objeto.empty() && form_.Objeto != InfoOf(Kind::Form).Name;
+  const bool armed = ToolArmed();
   form_.Objeto.clear();
   if (armed) ports_.Host.ArmedToolChanged();
 }

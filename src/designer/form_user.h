@@ -6,6 +6,7 @@
 
 #include "designer/designer_host.h"
 #include "designer/drag.h"
+#include "designer/history/history.h"
 #include "designer/object_clipboard.h"
 #include "designer/window_style.h"
 #include "model/project_observer.h"
@@ -21,6 +22,7 @@ struct DesignerPorts {
   ScreenPort& Screen;
   ProjectObserver& Observer;
   DesignerHost& Host;
+  History& Steps;
 };
 
 /// Mouse buttons, shift bits and keys as the handlers take them.
@@ -91,8 +93,20 @@ class FormUser {
   /// A key of the window or of an object on it. True when the key has a meaning here.
   bool KeyDown(int KeyCode, int Shift);
 
-  /// The window has a new size, twips.
+  /// The window has a new size, twips. All sizes until ResizeEnded are one step.
   void Form_Resize(float width, float height, WindowState state);
+  void ResizeEnded();
+  /// Gives up a gesture, the object stays where it was and stays selected; otherwise puts an armed
+  /// tool down. Neither selection nor lock change.
+  void Escape();
+
+  // What others changed.
+  /// Objects have other places or sizes: the handles follow.
+  void ControlsMoved();
+  /// An undo or redo changed the form: its frame, its handles and the property sheet follow.
+  void Restored();
+  /// An undo or redo moved the number of an object.
+  void NumberMoved(const ObjectPlace& object, bool back);
 
   // Selection, as every other window sets it.
   /// Selects an object as a press does, handles and property sheet included.
@@ -132,6 +146,12 @@ class FormUser {
   [[nodiscard]] bool Ready();
   [[nodiscard]] bool IsLive(const ControlRef& control) const noexcept;
   [[nodiscard]] bool ForwardsPress(const DesignControl& control) const;
+  [[nodiscard]] bool ToolArmed() const;
+  [[nodiscard]] std::string StepName(std::string_view deed) const;
+  [[nodiscard]] std::string_view GestureName() const;
+  void DeleteSelected(const ControlRef& control);
+  void FinishGesture();
+  void DragCancelled();
   [[nodiscard]] bool Refused(int KeyCode, int Shift, int key);
   void EndGesture();
   void PressForm(int Button, float X, float Y);
@@ -155,6 +175,8 @@ class FormUser {
   ObjectClipboard clipboard_;
   clsStyle style_;
   bool forwarding_frame_ = false;
+  bool maximised_ = false;
+  bool placing_ = false;  ///< the gesture began by placing an object and is one step with it
 };
 
 }  // namespace tarnwick

@@ -7,6 +7,7 @@
 #include "designer/object_kinds.h"
 #include "designer/rect.h"
 #include "designer/selection.h"
+#include "designer/settle.h"
 #include "designer/tool_box.h"
 #include "model/units.h"
 
@@ -70,30 +71,45 @@ void FormUser::DeletObject(int KeyCode, int Shift) {
 
 void FormUser::CopyObject(int KeyCode, int Shift) {
   if (Refused(KeyCode, Shift, keys::kC)) return;
+  // The kind has no copies; what was copied before stays to be pasted.
+  if (form_.ControlSel && form_.ControlSel->Id == Kind::TransparentFrame) return;
   clipboard_.Copy(form_);
 }
 
 void FormUser::CutObject(int KeyCode) {
   if (KeyCode != keys::kDelete) return;
+  const HistoryStep step(ports_.Steps, Number(), StepName("Delete"));
   const ControlRef control = form_.ControlSel;
   SelectNothing();
-  if (control) {
-    ports_.Host.RemoveHeadRow(*control);
-    DeleteObject(tables_, form_, control);
-    if (control->Id == Kind::TransparentFrame) {
-      ports_.Host.EnableTool(kTransparentFrameTool, !HasTransparentFrame(form_));
-    }
-    ports_.Observer.ControlsChanged(Number());
-  }
+  if (control) DeleteSelected(control);
   ports_.Host.EnableCopyPasteButtons(true);
   SelectionRefresh();
+}
+
+void FormUser::DeleteSelected(const ControlRef& control) {
+  ports_.Host.RemoveHeadRow(*control);
+  DeleteObject(tables_, form_, control);
+  if (SettleForm(tables_, form_, control->Id, control->Index)) {
+    NumberMoved({Number(), control->Id, control->Index}, false);
+    ports_.Observer.EventsBarChanged(Number());
+  }
+  if (control->Id == Kind::TransparentFrame) {
+    ports_.Host.EnableTool(kTransparentFrameTool, !HasTransparentFrame(form_));
+  }
+  ports_.Observer.ControlsChanged(Number());
 }
 
 void FormUser::PasteObject(int KeyCode, int Shift) {
   if (Refused(KeyCode, Shift, keys::kV)) return;
   EndGesture();
+  const HistoryStep step(ports_.Steps, Number(), "Paste");
+  const bool source_gone = clipboard_.CopySource && !clipboard_.SourceIsLive(form_);
   const ControlRef control = clipboard_.Paste(tables_, form_);
   if (!control) return;
+  ports_.Steps.NameStep("Paste " + control->Tag);
+  if (source_gone) {
+    ports_.Host.SetStatus("The copied object is gone: " + control->Tag + " is a new one");
+  }
   // A drag that begins and ends at once makes the copy the selection, as a press would.
   DragBegin(control);
   MouseUp();
@@ -111,18 +127,21 @@ void FormUser::ToggleLock() {
 
 void FormUser::BringToFront() {
   if (!form_.ControlSel) return;
+  const HistoryStep step(ports_.Steps, Number(), StepName("Bring to front"));
   form_.ZOrder(form_.ControlSel, true);
   ports_.Observer.ControlsChanged(Number());
 }
 
 void FormUser::SendToBack() {
   if (!form_.ControlSel) return;
+  const HistoryStep step(ports_.Steps, Number(), StepName("Stay back"));
   form_.ZOrder(form_.ControlSel, false);
   ports_.Observer.ControlsChanged(Number());
 }
 
 void FormUser::aligngrid() {
   EndGesture();
+  const HistoryStep step(ports_.Steps, Number(), "Align To Grid");
   FormRec* record = tables_.RecordOf(form_);
   // The walk is by index: the yield may let controls come and go.
   for (std::size_t i = 1; i < form_.Controls().size(); ++i) {
@@ -148,6 +167,8 @@ void FormUser::SettleMoved() {
 void FormUser::MoveKey(int KeyCode, int Shift) {
   const ControlRef control = form_.ControlSel;
   if (!form_.m_bDesignMode || !control) return;
+  const HistoryStep step(ports_.Steps, Number(),
+                         StepName((Shift & kShiftBit) != 0 ? "Size" : "Move"));
   const bool across = KeyCode == keys::kLeft || KeyCode == keys::kRight;
   const bool upward = KeyCode == keys::kRight || KeyCode == keys::kDown;
   const int pixel = upward ? kTwipsPerPixel : -kTwipsPerPixel;

@@ -1,4 +1,6 @@
 // The mouse on a design window.
+#include <utility>
+
 #include "designer/form_user.h"
 #include "designer/hit_test.h"
 #include "designer/object_kinds.h"
@@ -41,9 +43,13 @@ void FormUser::PressEmptyForm(int Button) {
 }
 
 void FormUser::PutObject(Kind kind, float X, float Y) {
+  // One step until the release: placing an object and dragging it at once is one deed.
+  const bool own_step = ports_.Steps.Stay(Number(), "place", "Place");
   const ControlRef control = CreateObject(tables_, form_, kind, X, Y);
   if (!control) return;
   Select(form_, control);
+  if (own_step) ports_.Steps.NameStep(StepName("Place"));
+  placing_ = true;
   if (kind == Kind::TransparentFrame) {
     ports_.Host.EnableTool(kTransparentFrameTool, false);
     ports_.Host.EnableCopyPasteButtons(false);
@@ -59,10 +65,12 @@ void FormUser::DragFirstUnder(float X, float Y) {
   drag_.DragEnd();
   drag_.ShowHandles(false);
   ports_.Observer.ControlsChanged(Number());
+  placing_ = false;
+  ports_.Steps.Leave();
 }
 
 bool FormUser::ForwardsPress(const DesignControl& control) const {
-  const bool armed = !form_.Objeto.empty() && form_.Objeto != InfoOf(Kind::Form).Name;
+  const bool armed = ToolArmed();
   if (control.Id == Kind::Image) return armed;
   if (control.Id == Kind::Frame) {
     return armed && !forwarding_frame_ && !Contains(form_.Objeto, InfoOf(Kind::Frame).Name);
@@ -82,6 +90,9 @@ void FormUser::ObjectMouseDown(const ControlRef& control, int Button, int /*Shif
   }
   ports_.Host.EnableCopyPasteButtons(control->Id != Kind::TransparentFrame);
   Select(form_, control);
+  if (ToolArmed() && form_.m_bDesignMode) {
+    ports_.Host.SetStatus("Press on a free part of the form to place the new " + form_.Objeto);
+  }
   if (form_.m_bDesignMode) {
     DragBegin(control);
   } else {
@@ -105,6 +116,20 @@ void FormUser::MouseMove() {
 
 void FormUser::MouseUp() {
   if (drag_.Mode() == DragMode::None && tables_.LoadingProject == 1) return;
+  if (std::exchange(placing_, false)) {
+    FinishGesture();
+    ports_.Steps.Leave();
+  } else {
+    const HistoryStep step(ports_.Steps, Number(), StepName(GestureName()));
+    FinishGesture();
+  }
+}
+
+std::string_view FormUser::GestureName() const {
+  return drag_.Mode() == DragMode::Resize ? "Size" : "Move";
+}
+
+void FormUser::FinishGesture() {
   ports_.Host.EnableCopyPasteButtons(form_.NameObjet != InfoOf(Kind::TransparentFrame).NameWord);
   drag_.Finish();
   ports_.Observer.ControlsChanged(Number());
@@ -145,6 +170,22 @@ void FormUser::DragBegin(const ControlRef& control) {
 
 void FormUser::DragEnd() {
   drag_.DragEnd();
+  if (std::exchange(placing_, false)) ports_.Steps.Leave();
+}
+
+void FormUser::Escape() {
+  if (drag_.Mode() != DragMode::None) {
+    drag_.Cancel();
+    DragCancelled();
+    return;
+  }
+  Disarm();
+}
+
+void FormUser::DragCancelled() {
+  if (std::exchange(placing_, false)) ports_.Steps.Leave();
+  ports_.Observer.ControlsChanged(Number());
+  SelectionRefresh();
 }
 
 void FormUser::ShowHandles(bool bShowHandles) {

@@ -74,14 +74,16 @@ bool IsLive(const DesignForm& form, const ControlRef& control) {
 }
 
 /// The rows that a copy of a list shows: the source's items, or its own name while the source has
-/// none but its own.
-void FillList(const SourceRecord& source_record, const DesignControl* source, DesignControl& copy) {
+/// none but its own. A check box that is copied with its check shows it.
+void ShowCopiedRecord(const SourceRecord& source_record, const DesignControl* source,
+                      DesignControl& copy) {
   const auto* const record = std::get_if<ObjectRec>(&source_record);
   if (source != nullptr && record != nullptr && !record->Items.empty()) {
     copy.Items = source->Items;
   } else {
     copy.AddItem(copy.Tag);
   }
+  if (source != nullptr && copy.Id == Kind::CheckBox) copy.Value = source->Value;
 }
 
 }  // namespace
@@ -100,13 +102,19 @@ ControlRef ObjectClipboard::Paste(ProjectTables& tables, DesignForm& form) {
   const KindInfo& kind = InfoOf(CopySource->Id);
   const CopyRule& rule = kind.Copy;
   if (!rule.Copied) return nullptr;
-  const SourceRecord source_record = ReadSource(*record, kind, CopyIndex);
+  const bool live = SourceIsLive(form);
+  const SourceRecord source_record =
+      live ? ReadSource(*record, kind, CopySource->Index) : SourceRecord{};
   ControlRef copy =
       LoadObject(tables, form, kind.Id, rule.Prefix.empty() ? kind.Prefix : rule.Prefix);
   if (!copy) return nullptr;
-  WriteCopy(*record, kind, copy->Index, source_record);
+  if (live) {
+    WriteCopy(*record, kind, copy->Index, source_record);
+  } else {
+    SetRecordDefaults(*record, kind.Id, copy->Index);
+  }
 
-  const DesignControl* source = IsLive(form, CopySource) ? CopySource.get() : nullptr;
+  const DesignControl* source = live ? CopySource.get() : nullptr;
   const DesignControl* base = IsLive(form, last_pasted_) ? last_pasted_.get() : source;
   if (base != nullptr) {
     copy->Top = base->Top + kPasteStep;
@@ -117,7 +125,7 @@ ControlRef ObjectClipboard::Paste(ProjectTables& tables, DesignForm& form) {
     for (const Member member : kCopiedMembers) TakeMember(member, *source, *copy);
     TakeMember(Member::Picture, *source, *copy);
   }
-  FillList(source_record, source, *copy);
+  ShowCopiedRecord(source_record, source, *copy);
   FitComboControl(*copy);
   if (rule.Tab != TabRule::None) {
     copy->Set(Member::TabIndex, std::int32_t{form.NextTabOrder});
@@ -126,6 +134,16 @@ ControlRef ObjectClipboard::Paste(ProjectTables& tables, DesignForm& form) {
   copy->Visible = true;
   last_pasted_ = copy;
   return copy;
+}
+
+bool ObjectClipboard::SourceIsLive(const DesignForm& form) const noexcept {
+  return IsLive(form, CopySource);
+}
+
+void ObjectClipboard::NumberMoved(Kind kind, int index, bool back) noexcept {
+  if (!CopySource || CopySource->Id != kind) return;
+  if (back && CopyIndex >= index) ++CopyIndex;
+  if (!back && CopyIndex > index) --CopyIndex;
 }
 
 void ObjectClipboard::ForgetSource() noexcept {

@@ -10,7 +10,7 @@ namespace tarnwick {
 
 /// Remembers what was copied on one design window and makes further objects like it. The source
 /// is read at the paste: what changed since the copy shows. A source that was deleted gives an
-/// object with the template's values.
+/// object with the template's values, as a press on the form with its tool does.
 class ObjectClipboard {
  public:
   ControlRef CopySource;
@@ -23,6 +23,10 @@ class ObjectClipboard {
   /// Makes a new object like the source and answers it, visible and not yet selected. Null when
   /// nothing was copied or its kind has no copies.
   ControlRef Paste(ProjectTables& tables, DesignForm& form);
+  /// True when the source still stands on the form.
+  [[nodiscard]] bool SourceIsLive(const DesignForm& form) const noexcept;
+  /// An object's number was taken out of its kind, or put back: the number of the source follows.
+  void NumberMoved(Kind kind, int index, bool back) noexcept;
   /// Forgets the source; what is `CopyReady` stays.
   void ForgetSource() noexcept;
 

@@ -11,18 +11,7 @@ namespace tarnwick {
 
 namespace {
 
-/// True when a popup menu of that number stands on another form: the rows of all forms share one
-/// array, and a new popup must not empty rows that belong to an older one.
-bool PopUpElsewhere(const ProjectTables& tables, int form, int index) {
-  for (int other = 1; other <= tables.FormsCount; ++other) {
-    const DesignForm* user = other == form ? nullptr : tables.UserIfAny(other);
-    if (user != nullptr && tables.IsLive(other) && user->Element(Kind::PopUpMenu, index)) {
-      return true;
-    }
-  }
-  return false;
-}
-
+/// Gives a popup its rows, unless they belong to an older popup of another form.
 void PutFreshRows(ProjectTables& tables, int form, int index) {
   PopUpFormRec* rows = tables.PopUpMenus.Ensure(index);
   if (rows == nullptr || (!rows->Items.empty() && PopUpElsewhere(tables, form, index))) return;
@@ -79,6 +68,24 @@ std::string OwnerKey(const DesignForm& form, const DesignControl& control) {
 }
 
 }  // namespace
+
+bool PopUpElsewhere(const ProjectTables& tables, int form, int index) {
+  for (int other = 1; other <= tables.FormsCount; ++other) {
+    const DesignForm* user = other == form ? nullptr : tables.UserIfAny(other);
+    if (user != nullptr && tables.IsLive(other) && user->Element(Kind::PopUpMenu, index)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+void SetRecordDefaults(FormRec& record, Kind kind, int index) {
+  const KindInfo& info = InfoOf(kind);
+  for (const RecordDefault& value : info.Defaults) {
+    if (value.Into != nullptr) continue;
+    std::visit([&](auto field) { Store(record, info, index, value, field); }, value.Field);
+  }
+}
 
 std::optional<Kind> ArmedKind(std::string_view objeto) noexcept {
   for (const KindInfo& kind : AllKinds()) {

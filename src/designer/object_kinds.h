@@ -15,6 +15,11 @@ namespace tarnwick {
 /// Name of a new object of an index: form name, prefix, index; a TransparentFrame has none.
 [[nodiscard]] std::string NewObjectName(std::string_view form_name, Kind kind, int index,
                                         std::string_view prefix);
+/// True when a popup menu of that number stands on a form other than `form`: the rows of all
+/// forms' popups share one array.
+[[nodiscard]] bool PopUpElsewhere(const ProjectTables& tables, int form, int index);
+/// Gives the record of an object what a new one of its kind holds beyond empty texts and zeros.
+void SetRecordDefaults(FormRec& record, Kind kind, int index);
 /// Puts an empty record into the slot of an object, growing the kind's arrays to it, no further.
 void PutFreshRecord(ProjectTables& tables, int form, Kind kind, int index);
 /// The next element of a kind's control array, its record fresh, its name given, visible and

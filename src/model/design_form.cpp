@@ -81,6 +81,37 @@ void DesignForm::UnloadAll(Kind kind) {
   if (ControlSel && of_kind(ControlSel)) ControlSel = nullptr;
 }
 
+std::size_t DesignForm::PartCount() noexcept {
+  constexpr std::size_t kNumeroAndFrame = 2;
+  return kTemplates.size() + kNumeroAndFrame + kHandleCount;
+}
+
+void DesignForm::Arrange(std::vector<ControlRef> objects, std::vector<ControlRef> drawn) {
+  controls_.resize(PartCount());
+  for (auto& elements : arrays_) {
+    if (!elements.empty() && elements.front()->Id != Kind::Handle) elements.resize(1);
+  }
+  for (ControlRef& object : objects) {
+    auto& elements = arrays_[static_cast<std::size_t>(object->Id)];
+    const auto index = static_cast<std::size_t>(object->Index);
+    if (index >= elements.size()) elements.resize(index + 1);
+    elements[index] = object;
+    controls_.push_back(std::move(object));
+  }
+  draw_order_ = std::move(drawn);
+  if (ControlSel && Element(ControlSel->Id, ControlSel->Index) != ControlSel) ControlSel = nullptr;
+}
+
+void DesignForm::CloseGap(Kind kind, int index) {
+  auto& elements = arrays_[static_cast<std::size_t>(kind)];
+  const auto gap = static_cast<std::size_t>(index);
+  if (index < 1 || gap >= elements.size() || elements[gap]) return;
+  elements.erase(elements.begin() + index);
+  for (std::size_t i = gap; i < elements.size(); ++i) {
+    if (elements[i]) elements[i]->Index = static_cast<int>(i);
+  }
+}
+
 ControlRef DesignForm::Element(Kind kind, int index) const noexcept {
   const auto& elements = arrays_[static_cast<std::size_t>(kind)];
   if (index < 0 || static_cast<std::size_t>(index) >= elements.size()) return nullptr;

@@ -57,6 +57,8 @@ class DesignForm {
   [[nodiscard]] std::string KeyPrefix() const;
 
   [[nodiscard]] const std::vector<ControlRef>& Controls() const noexcept { return controls_; }
+  /// How many controls at the head of the collection are parts of the window and no objects.
+  [[nodiscard]] static std::size_t PartCount() noexcept;
   /// Loads the next element of a control array: a copy of the template with the highest index
   /// plus 1, hidden, at the end of the collection.
   const ControlRef& Load(Kind kind);
@@ -64,6 +66,13 @@ class DesignForm {
   void Unload(const ControlRef& control);
   /// Unloads every element of an array but its template.
   void UnloadAll(Kind kind);
+  /// Lets exactly these objects stand on the form, menu controls among them: in the order of the
+  /// collection and in that of drawing. Each is found under its own index. A selection that is
+  /// not among them is cleared.
+  void Arrange(std::vector<ControlRef> objects, std::vector<ControlRef> drawn);
+  /// Closes the gap that an unloaded element left in an array: the elements behind it move down
+  /// by one. Nothing when an element stands at the index.
+  void CloseGap(Kind kind, int index);
   /// The element of an array, template included; null when there is none.
   [[nodiscard]] ControlRef Element(Kind kind, int index) const noexcept;
   /// The elements of an array by index, template first; null where one was unloaded.

@@ -1,5 +1,7 @@
 #include "model/event_table.h"
 
+#include <utility>
+
 #include "text/numbers.h"
 
 namespace tarnwick {
@@ -56,10 +58,12 @@ const EventCodeTable::Owner* EventCodeTable::OwnerOf(std::string_view owner) con
 
 EventCodeTable::Owner& EventCodeTable::OwnerFor(std::string_view owner) {
   const auto found = owners_.find(owner);
-  if (found != owners_.end()) return found->second;
-  KeyedOwner& made = *owners_.try_emplace(std::string(owner)).first;
-  order_.push_back(&made);
-  return made.second;
+  KeyedOwner& wanted =
+      found != owners_.end() ? *found : *owners_.try_emplace(std::string(owner)).first;
+  if (found == owners_.end()) order_.push_back(&wanted);
+  // Whoever asks for it is about to change it.
+  Note(wanted.first, wanted.second);
+  return wanted.second;
 }
 
 const std::string* EventCodeTable::Find(std::string_view key) const noexcept {
@@ -86,10 +90,11 @@ void EventCodeTable::Replace(std::string_view owner, Event event, std::string_vi
   OwnerFor(owner).SetSlot(static_cast<std::size_t>(event), value);
 }
 
-bool EventCodeTable::Remove(std::string_view key) noexcept {
+bool EventCodeTable::Remove(std::string_view key) {
   const KeyParts parts = PartsOf(key);
   const auto found = owners_.find(parts.Owner);
   if (found == owners_.end() || !found->second.present_[parts.Slot]) return false;
+  Note(found->first, found->second);
   found->second.present_.reset(parts.Slot);
   found->second.codes_.erase(parts.Slot);
   return true;
@@ -98,6 +103,84 @@ bool EventCodeTable::Remove(std::string_view key) noexcept {
 void EventCodeTable::Clear() noexcept {
   order_.clear();
   owners_.clear();
+  noted_.clear();
+  removed_.clear();
+}
+
+EventCodeTable::Entries EventCodeTable::EntriesOf(const Owner& owner) {
+  Entries entries;
+  for (std::size_t slot = 0; slot <= kEventCount; ++slot) {
+    if (const std::string* const code = owner.FindSlot(slot)) entries.emplace_back(slot, *code);
+  }
+  return entries;
+}
+
+EventCodeTable::Entries EventCodeTable::EntriesOf(std::string_view owner) const {
+  const Owner* const found = OwnerOf(owner);
+  return found == nullptr ? Entries() : EntriesOf(*found);
+}
+
+void EventCodeTable::SetEntries(std::string_view owner, const Entries& entries) {
+  if (entries.empty() && OwnerOf(owner) == nullptr) return;
+  Owner& changed = OwnerFor(owner);
+  changed = {};
+  for (const auto& [slot, code] : entries) changed.SetSlot(slot, code);
+}
+
+void EventCodeTable::Note(const std::string& key, const Owner& owner) {
+  if (!watched_ || noted_.contains(key)) return;
+  noted_.emplace(key, EntriesOf(owner));
+}
+
+void EventCodeTable::MoveNote(const std::string& from, const std::string& to) {
+  auto note = noted_.extract(from);
+  if (note.empty()) return;
+  note.key() = to;
+  noted_.insert(std::move(note));
+}
+
+void EventCodeTable::RemoveNumber(const ObjectPlace& object, int last) {
+  std::string to = ObjectKey(object.Form, object.Id, object.Number);
+  Changes::Removed removed{object, last, EntriesOf(to)};
+  if (const auto noted = noted_.find(to); noted != noted_.end()) {
+    removed.Entries = std::move(noted->second);
+    noted_.erase(noted);
+  }
+  // Moving is no change of an owner: the removal itself is kept.
+  const bool watched = std::exchange(watched_, false);
+  for (int number = object.Number + 1; number <= last; ++number) {
+    std::string from = ObjectKey(object.Form, object.Id, number);
+    const auto source = owners_.find(from);
+    if (source == owners_.end()) {
+      SetEntries(to, {});
+    } else {
+      Owner moved = std::exchange(source->second, {});
+      OwnerFor(to) = std::move(moved);
+    }
+    MoveNote(from, to);
+    to = std::move(from);
+  }
+  SetEntries(to, {});
+  watched_ = watched;
+  if (watched_) removed_.push_back(std::move(removed));
+}
+
+void EventCodeTable::InsertNumber(const Changes::Removed& removed) {
+  const ObjectPlace& object = removed.Object;
+  for (int number = removed.Last; number > object.Number; --number) {
+    const std::string from = ObjectKey(object.Form, object.Id, number - 1);
+    SetEntries(ObjectKey(object.Form, object.Id, number), EntriesOf(from));
+  }
+  SetEntries(ObjectKey(object.Form, object.Id, object.Number), removed.Entries);
+}
+
+EventCodeTable::Changes EventCodeTable::TakeChanges() {
+  Changes changes;
+  changes.Owners.reserve(noted_.size());
+  for (auto& [key, before] : noted_) changes.Owners.push_back({key, std::move(before)});
+  noted_.clear();
+  changes.Numbers = std::exchange(removed_, {});
+  return changes;
 }
 
 std::size_t EventCodeTable::Size() const noexcept {

@@ -15,6 +15,13 @@
 
 namespace tarnwick {
 
+/// An object by what its key is made of.
+struct ObjectPlace {
+  int Form = 0;
+  Kind Id = Kind::Button;
+  int Number = 0;
+};
+
 /// The owner key of an object: "Form1.Button2".
 [[nodiscard]] std::string ObjectKey(int form, Kind kind, int number);
 
@@ -29,6 +36,24 @@ namespace tarnwick {
 /// other entries leaves every pointer and reference valid.
 class EventCodeTable {
  public:
+  /// The entries of one owner as a value: event, or kEventCount for a key that ends in none, and
+  /// code.
+  using Entries = std::vector<std::pair<std::size_t, std::string>>;
+  /// What happened to the table since changes were last taken.
+  struct Changes {
+    struct Owner {
+      std::string Key;
+      EventCodeTable::Entries Before;
+    };
+    struct Removed {
+      ObjectPlace Object;
+      int Last = 0;                     ///< the highest number of the kind before
+      EventCodeTable::Entries Entries;  ///< those that stood under the number
+    };
+    std::vector<Owner> Owners;     ///< each owner once, by its key behind all removals
+    std::vector<Removed> Numbers;  ///< calls of RemoveNumber, in their order
+  };
+
   /// All entries of one owner.
   class Owner {
    public:
@@ -75,8 +100,22 @@ class EventCodeTable {
   void Replace(std::string_view key, std::string_view value);
   void Replace(std::string_view owner, Event event, std::string_view value);
   /// False when there was no such key.
-  bool Remove(std::string_view key) noexcept;
+  bool Remove(std::string_view key);
   void Clear() noexcept;
+
+  /// Takes the number of an object out of its kind: the entries under it go, and those of the
+  /// objects behind it, up to number `last`, move down by one.
+  void RemoveNumber(const ObjectPlace& object, int last);
+  /// The way back.
+  void InsertNumber(const Changes::Removed& removed);
+  [[nodiscard]] Entries EntriesOf(std::string_view owner) const;
+  /// Replaces all entries of an owner.
+  void SetEntries(std::string_view owner, const Entries& entries);
+  /// From now on changes are kept for TakeChanges.
+  void Watch() noexcept { watched_ = true; }
+  /// The changes since the last call, or since Watch.
+  [[nodiscard]] Changes TakeChanges();
+
   /// The number of entries; counts them all.
   [[nodiscard]] std::size_t Size() const noexcept;
 
@@ -102,9 +141,17 @@ class EventCodeTable {
   [[nodiscard]] static std::string SuffixOf(std::size_t slot);
 
   using KeyedOwner = std::pair<const std::string, Owner>;
+  [[nodiscard]] static Entries EntriesOf(const Owner& owner);
+  /// Keeps an owner's entries as they are before their first change since TakeChanges.
+  void Note(const std::string& key, const Owner& owner);
+  /// Has what is noted of an owner under another key.
+  void MoveNote(const std::string& from, const std::string& to);
 
   std::unordered_map<std::string, Owner, FoldedHash, FoldedEqual> owners_;
   std::vector<const KeyedOwner*> order_;  ///< as they were made
+  bool watched_ = false;
+  std::unordered_map<std::string, Entries, FoldedHash, FoldedEqual> noted_;  ///< by key
+  std::vector<Changes::Removed> removed_;
 };
 
 }  // namespace tarnwick

@@ -24,6 +24,15 @@ void FormList::Add(std::string text, int form_number) {
   lines_.push_back({std::move(text), form_number});
 }
 
+void FormList::Put(int form_number, std::string text) {
+  if (SetText(form_number, text)) return;
+  const auto behind = std::find_if(lines_.begin(), lines_.end(), [form_number](const Line& line) {
+    return line.FormNumber > form_number;
+  });
+  texts_.insert(text);
+  lines_.insert(behind, {std::move(text), form_number});
+}
+
 int FormList::PositionOf(int form_number) const noexcept {
   const auto line =
       std::lower_bound(lines_.begin(), lines_.end(), form_number,

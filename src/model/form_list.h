@@ -27,6 +27,8 @@ class FormList {
   [[nodiscard]] bool Empty() const noexcept { return lines_.empty(); }
   /// Adds a line at the end. Numbers are given in rising order, as forms are numbered.
   void Add(std::string text, int form_number);
+  /// Gives a form this line, in the order of the numbers where it had none.
+  void Put(int form_number, std::string text);
   /// Changes the text of a form's line; false when the form has none.
   bool SetText(int form_number, std::string text);
   /// Takes a form's line out; false when the form has none.

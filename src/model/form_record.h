@@ -44,6 +44,7 @@ struct ObjectRec {
   std::string InitialDir;
   std::string FileName;
   std::string PictureName;
+  friend bool operator==(const ObjectRec&, const ObjectRec&) = default;
 };
 
 struct WinSockRec {
@@ -51,6 +52,7 @@ struct WinSockRec {
   std::string Protocol;
   std::string Type;
   std::string WMessage;
+  friend bool operator==(const WinSockRec&, const WinSockRec&) = default;
 };
 
 struct HtmlViewerRec {
@@ -59,12 +61,14 @@ struct HtmlViewerRec {
   std::string Top;
   std::string Width;
   std::string Height;
+  friend bool operator==(const HtmlViewerRec&, const HtmlViewerRec&) = default;
 };
 
 struct PopUpItemRec {
   std::int16_t Alignment = 0;
   std::int16_t AutoPopUp = 0;
   std::string PopUpMenu;  ///< name of the object that the popup hangs on
+  friend bool operator==(const PopUpItemRec&, const PopUpItemRec&) = default;
 };
 
 /// One form of the project. A slot whose `Removed` is 1 is skipped by every loop over forms and

@@ -21,6 +21,7 @@ inline constexpr std::string_view kFirstMainForm = "Form1 ()";
 struct PopUpEntryRec {
   std::string Name;
   std::string Text;
+  friend bool operator==(const PopUpEntryRec&, const PopUpEntryRec&) = default;
 };
 
 /// A top-level row of a popup menu; slot 0 of `Entries` stays empty.
@@ -29,12 +30,14 @@ struct PopUpMenuRec {
   std::string Name;
   std::string Caption;
   std::int16_t Level = 0;  ///< number of its sub-items
+  friend bool operator==(const PopUpMenuRec&, const PopUpMenuRec&) = default;
 };
 
 /// One popup menu; slot 0 of `Items` stays empty.
 struct PopUpFormRec {
   std::vector<PopUpMenuRec> Items;
   std::int16_t Removed = 0;
+  friend bool operator==(const PopUpFormRec&, const PopUpFormRec&) = default;
 };
 
 /// A title of the menu bar.
@@ -44,6 +47,7 @@ struct MenuBarRec {
   std::string Reserved;
   std::string Name;
   std::int32_t LastItem = 0;
+  friend bool operator==(const MenuBarRec&, const MenuBarRec&) = default;
 };
 
 /// An item of the menu bar; items of all titles count through.
@@ -52,6 +56,7 @@ struct MenuItemRec {
   std::int16_t Parent = 0;
   std::string Tag;
   std::string Name;
+  friend bool operator==(const MenuItemRec&, const MenuItemRec&) = default;
 };
 
 /// The events bar of a form: the objects that have code, in the order in which it was added.
@@ -59,6 +64,7 @@ struct FrmBarra {
   struct Entry {
     std::string Name;   ///< as in event keys: kind word and index, "Form", or a menu item's name
     std::string Event;  ///< event name without a dot
+    friend bool operator==(const Entry&, const Entry&) = default;
   };
   std::string Caption;
   std::int32_t Left = 0;

@@ -1,13 +1,15 @@
 // Arrays of records as project files number them.
 #pragma once
 
+#include <algorithm>
 #include <unordered_map>
+#include <utility>
 
 namespace tarnwick {
 
 /// An array with slots 0 to UBound(), slot 0 normally left empty. Project files may name any
 /// number of the 16-bit range, so only the records that were written are held. A record stays where
-/// it is until Clear().
+/// it is until Clear() or Splice().
 template <class T>
 class RecordArray {
  public:
@@ -26,6 +28,27 @@ class RecordArray {
   [[nodiscard]] T* At(int index) {
     if (index < 0 || index > ubound_) return nullptr;
     return &records_[index];
+  }
+
+  /// Puts `insert` empty records in the place of `remove` records from index `first` on; the
+  /// records behind them move, and so does the highest index.
+  void Splice(int first, int remove, int insert) {
+    const int behind = first + remove;
+    const int shift = insert - remove;
+    const int last = ubound_;
+    for (int i = first; i < behind; ++i) records_.erase(i);
+    const auto move = [&](int i) {
+      auto record = records_.extract(i);
+      if (record.empty()) return;
+      record.key() = i + shift;
+      records_.insert(std::move(record));
+    };
+    if (shift > 0) {
+      for (int i = last; i >= behind; --i) move(i);
+    } else if (shift < 0) {
+      for (int i = behind; i <= last; ++i) move(i);
+    }
+    ubound_ = std::max(last + shift, 0);
   }
 
   /// Raises the highest index to at least `index`, keeping contents; never shrinks.

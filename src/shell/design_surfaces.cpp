@@ -11,10 +11,10 @@ FormUser* DesignSurfaces::Of(int form) {
   if (slot >= surfaces_.size()) surfaces_.resize(slot + 1);
   std::unique_ptr<FormUser>& surface = surfaces_[slot];
   if (!surface || &surface->Form() != window) {
-    surface =
-        std::make_unique<FormUser>(*window, tables,
-                                   DesignerPorts{state_.View->Gestures(form), state_.Ports.Messages,
-                                                 state_.Ports.Screen, state_.Observer, host_});
+    surface = std::make_unique<FormUser>(
+        *window, tables,
+        DesignerPorts{state_.View->Gestures(form), state_.Ports.Messages, state_.Ports.Screen,
+                      state_.Observer, host_, state_.Steps});
     surface->Form_Load();
   }
   return surface.get();
@@ -29,6 +29,11 @@ void DesignSurfaces::FormOpened(int form) {
   // A form that was read back into its number has a new window, maybe at the old one's address.
   FormClosing(form);
   static_cast<void>(Of(form));
+}
+
+void DesignSurfaces::ControlsChanged(int form) {
+  const auto slot = static_cast<std::size_t>(form);
+  if (form >= 1 && slot < surfaces_.size() && surfaces_[slot]) surfaces_[slot]->ControlsMoved();
 }
 
 void DesignSurfaces::FormClosing(int form) {

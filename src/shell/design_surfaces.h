@@ -23,6 +23,7 @@ class DesignSurfaces final : public ProjectObserver {
 
   void FormOpened(int form) override;
   void FormClosing(int form) override;
+  void ControlsChanged(int form) override;
 
  private:
   ShellState& state_;

@@ -1,14 +1,12 @@
 #include "shell/designer_link.h"
 
 #include "shell/design_surfaces.h"
+#include "shell/event_index_numbers.h"
 
 namespace tarnwick {
 
-void DesignerLink::RemoveHeadRow(const DesignControl& object) {
-  sheet_->RemoveComboRow(object);
-  // The object is about to go, and its code with it.
-  const DesignForm* form = state_.Tables.CurrentForm;
-  if (form != nullptr) bar_->ObjectGone(form->Number(), object.ArrayAndIndex());
+void DesignerLink::NumberMoved(const ObjectPlace& object, bool back) {
+  RenumberEventIndex(state_.Ports.Files, state_.Settings.EventIndexPath(), object, back);
 }
 
 bool DesignerLink::RaiseOpenCodeEditor() {

@@ -4,7 +4,6 @@
 #include "designer/designer_host.h"
 #include "inspector/inspector_host.h"
 #include "inspector/property_sheet.h"
-#include "shell/events_bar.h"
 #include "shell/shell_state.h"
 
 namespace tarnwick {
@@ -18,8 +17,6 @@ class DesignerLink final : public DesignerHost {
   explicit DesignerLink(ShellState& state) : state_(state) {}
   /// The sheet is built after the surfaces.
   void SetSheet(PropertySheet& sheet) { sheet_ = &sheet; }
-  /// So is the events bar.
-  void SetBar(EventsBar& bar) { bar_ = &bar; }
 
   [[nodiscard]] bool PropertyPanelVisible() override { return state_.IsShown(Panel::Properties); }
   void ClearPanel() override { sheet_->ClearPanel(); }
@@ -29,29 +26,27 @@ class DesignerLink final : public DesignerHost {
   void SyncRow(std::string_view name_objet, std::string_view row) override {
     sheet_->SyncRow(name_objet, row);
   }
-  void RemoveHeadRow(const DesignControl& object) override;
+  void RemoveHeadRow(const DesignControl& object) override { sheet_->RemoveComboRow(object); }
 
   void EnableCopyPasteButtons(bool /*on*/) override { state_.View->CommandsChanged(); }
   void EnableTool(int /*tool*/, bool /*on*/) override { state_.View->CommandsChanged(); }
   void ArmedToolChanged() override { state_.View->CommandsChanged(); }
   void LockChanged() override { state_.View->CommandsChanged(); }
+  void SetStatus(std::string_view text) override { state_.View->SetStatus(text); }
   void OpenObjectPopUp(const ObjectPopUp& /*entries*/) override { state_.View->ShowObjectPopUp(); }
 
+  void NumberMoved(const ObjectPlace& object, bool back) override;
   bool RaiseOpenCodeEditor() override;
   void OpenCode() override { state_.Run(Command::Code); }
   void CompileAndRun() override { state_.Run(Command::Compile); }
 
   [[nodiscard]] bool ContainerMinimised() override { return false; }
-  [[nodiscard]] bool FormMaximised() override { return form_maximised_; }
-  void SetFormMaximised(bool maximised) override { form_maximised_ = maximised; }
   /// The container grows with its windows by itself.
   void GrowContainer(float /*width*/, float /*height*/) override {}
 
  private:
   ShellState& state_;
   PropertySheet* sheet_ = nullptr;
-  EventsBar* bar_ = nullptr;
-  bool form_maximised_ = false;
 };
 
 /// The property sheet's door to the other rooms.

@@ -72,13 +72,40 @@ void EditCommands::ReleaseTool() {
   state_.View->CommandsChanged();
 }
 
+void EditCommands::Undo() {
+  state_.View->CommitPendingEdits();
+  Show(state_.Steps.Undo());
+}
+
+void EditCommands::Redo() {
+  state_.View->CommitPendingEdits();
+  Show(state_.Steps.Redo());
+}
+
+void EditCommands::Show(std::optional<int> form) {
+  if (!form) return;
+  if (FormUser* const surface = surfaces_.Of(*form)) surface->Restored();
+  forms_.Show(*form);
+}
+
 void EditCommands::PressTool(int number) {
   const ToolInfo* tool = ToolOf(number);
-  if (tool == nullptr) return;
+  if (tool == nullptr) {
+    // A button that no table knows arms nothing.
+    if (FormUser* const surface = surfaces_.Current()) surface->Form().Objeto.clear();
+    state_.View->CommandsChanged();
+    return;
+  }
   if (number == kFormTool) {
+    // The tool lifts the block of the form it is pressed on and leaves it for the new one.
+    if (FormUser* const left = surfaces_.Current()) {
+      left->Form().m_bDesignMode = true;
+      left->SelectForm();
+    }
     forms_.AddNew();
     forms_.ShowContainer();
   } else if (!forms_.HasForm()) {
+    const HistoryStep step(state_.Steps, 0, "Add Form");
     forms_.AddFirst();
     forms_.ShowContainer();
   } else if (surfaces_.Current() == nullptr) {

@@ -1,6 +1,8 @@
 // Commands on the current design form: the Edit menu, the views on its code, the tool box.
 #pragma once
 
+#include <optional>
+
 #include "shell/command_table.h"
 #include "shell/design_surfaces.h"
 #include "shell/form_commands.h"
@@ -22,8 +24,13 @@ class EditCommands {
   void ReleaseTool();
   /// A tool was pressed. A project without forms gets one first; a block of the form is lifted.
   void PressTool(int number);
+  /// Takes the last step back, or does it again; its form comes up.
+  void Undo();
+  void Redo();
 
  private:
+  void Show(std::optional<int> form);
+
   ShellState& state_;
   DesignSurfaces& surfaces_;
   FormCommands& forms_;

@@ -130,10 +130,6 @@ void EventsBar::DelBoockMarck(int form, std::string_view name) {
   if (EventsWithCode(form, target).empty()) RemoveButton(form, target);
 }
 
-void EventsBar::ObjectGone(int form, std::string_view name) {
-  RemoveButton(form, TargetOf(name));
-}
-
 void EventsBar::RemoveButton(int form, const Target& target) {
   FrmBarra* bar = state_.Tables.Bar(form);
   if (bar == nullptr) return;

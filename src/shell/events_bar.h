@@ -59,8 +59,6 @@ class EventsBar {
   /// An event's text of the object became empty: its button goes with the last one. The form's
   /// OnKeyPress does not count.
   void DelBoockMarck(int form, std::string_view name);
-  /// The object leaves its form: its button goes.
-  void ObjectGone(int form, std::string_view name);
 
   /// A button of the current form was pressed: selects the object, as a press on the form does,
   /// and lists its events that have code. While the code editor is open that comes to the front

@@ -38,6 +38,7 @@ void FormCommands::AddFirst() {
 }
 
 void FormCommands::AddNew() {
+  const HistoryStep step(state_.Steps, 0, "Add Form");
   Opened(NewForm(state_.Tables));
 }
 
@@ -51,6 +52,7 @@ void FormCommands::Remove() {
                                       MessageIcon::Critical)) {
     return;
   }
+  const HistoryStep step(state_.Steps, form, "Remove " + record->Name);
   record->Removed = 1;
   sheet_.ClearPanelAndCombo();
   state_.Observer.FormClosing(form);
@@ -68,6 +70,14 @@ void FormCommands::Remove() {
   }
   const std::size_t next = std::min(static_cast<std::size_t>(place), lines.size() - 1);
   Choose(lines[next].FormNumber);
+}
+
+void FormCommands::Show(int form) {
+  if (state_.Tables.IsLive(form)) {
+    BringUp(form);
+  } else {
+    NoCurrentForm();
+  }
 }
 
 void FormCommands::Choose(int form) {
@@ -166,6 +176,7 @@ FormListMarks FormCommands::Marks() const {
 }
 
 void FormCommands::TakeMainForm(const FormMain& dialog) {
+  const HistoryStep step(state_.Steps, 0, "Main Form");
   dialog.Command1_Click(state_.Tables);
   state_.Observer.FormListChanged();
 }
@@ -176,6 +187,7 @@ void FormCommands::CloseAll() {
     if (state_.Tables.IsLive(form)) state_.Observer.FormClosing(form);
   }
   state_.Tables.Reset();
+  state_.Steps.Clear();
   state_.Observer.FormListChanged();
 }
 

@@ -50,6 +50,8 @@ class FormCommands final : public project::ContainerHost {
   /// The user closed a form's window: it is hidden, and the next visible form of the list becomes
   /// the current one, or none.
   void WindowClosed(int form);
+  /// Makes a form the current one; with 0 there is none.
+  void Show(int form);
   /// Tells that every form closes, then empties the project.
   void CloseAll();
 

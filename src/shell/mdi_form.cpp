@@ -53,7 +53,12 @@ struct MDIForm1::Rooms {
         Status(State) {
     State.Now = LocalTime;
     Designer.SetSheet(Sheet);
-    Designer.SetBar(Bar);
+    State.Steps.Changed = [this] {
+      if (State.View != nullptr) State.View->CommandsChanged();
+    };
+    State.Steps.NumberMoved = [this](const ObjectPlace& object, bool back) {
+      if (FormUser* const user = Surfaces.Of(object.Form)) user->NumberMoved(object, back);
+    };
     State.Run = [this](Command command) { Commands.Run(command); };
     State.Observer.Add(Surfaces);
     State.Observer.Add(Status);
@@ -204,6 +209,18 @@ Settings& MDIForm1::SettingsFile() noexcept {
 
 const language::SupportTables& MDIForm1::Support() const noexcept {
   return rooms_->State.Support;
+}
+
+History& MDIForm1::Steps() noexcept {
+  return rooms_->State.Steps;
+}
+
+void MDIForm1::Undo() {
+  rooms_->Edit.Undo();
+}
+
+void MDIForm1::Redo() {
+  rooms_->Edit.Redo();
 }
 
 FormUser* MDIForm1::User(int form) {

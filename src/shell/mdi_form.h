@@ -73,6 +73,11 @@ class MDIForm1 {
   [[nodiscard]] project::ProjectContext& Context() noexcept;
   [[nodiscard]] Settings& SettingsFile() noexcept;
   [[nodiscard]] const language::SupportTables& Support() const noexcept;
+  /// The user's steps, for whoever makes one.
+  [[nodiscard]] History& Steps() noexcept;
+  /// Takes the last step back, or does it again, and shows the form that it was about.
+  void Undo();
+  void Redo();
   /// The design surface of a form; null for a number without one.
   [[nodiscard]] FormUser* User(int form);
   /// The surface of the current form; null without one.

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "designer/history/history.h"
 #include "language/support_tables.h"
 #include "model/project_records.h"
 #include "persistence/settings.h"
@@ -43,6 +44,7 @@ struct ShellState {
   ObserverHub Observer;
   bool SaysSaved = false;            ///< the status bar tells that the project is saved
   std::function<std::string()> Now;  ///< the local time, "2026-03-01 14:05:09"
+  History Steps{Tables, Observer};
   // The windows, from the load of the main window on; no command is enabled before.
   ShellView* View = nullptr;
   CodeWindows* Code = nullptr;

@@ -14,15 +14,14 @@
 namespace tarnwick {
 
 /// Log entries: "clear panel", "properties WORD NAME", "sync WORD ROW", "head - NAME",
-/// "copy-paste on", "tool N off", "armed", "lock", "pop-up", "code", "compile",
-/// "grow W,H", "maximised on".
+/// "copy-paste on", "tool N off", "armed", "lock", "pop-up", "code", "compile", "grow W,H",
+/// "status TEXT", "number out Button2", "number back Button2".
 class RecordingHost final : public DesignerHost {
  public:
   explicit RecordingHost(CallLog& log) : log_(&log) {}
   bool PanelVisible = true;
   bool EditorOpen = false;
   bool Minimised = false;
-  bool Maximised = false;
   ObjectPopUp LastPopUp;
 
   [[nodiscard]] bool PropertyPanelVisible() override { return PanelVisible; }
@@ -46,6 +45,11 @@ class RecordingHost final : public DesignerHost {
     log_->Add("pop-up");
     LastPopUp = entries;
   }
+  void SetStatus(std::string_view text) override { log_->Add("status " + std::string(text)); }
+  void NumberMoved(const ObjectPlace& object, bool back) override {
+    log_->Add(std::string(back ? "number back " : "number out ") +
+              std::string(InfoOf(object.Id).Array) + std::to_string(object.Number));
+  }
   bool RaiseOpenCodeEditor() override {
     if (EditorOpen) log_->Add("raise editor");
     return EditorOpen;
@@ -53,11 +57,6 @@ class RecordingHost final : public DesignerHost {
   void OpenCode() override { log_->Add("code"); }
   void CompileAndRun() override { log_->Add("compile"); }
   [[nodiscard]] bool ContainerMinimised() override { return Minimised; }
-  [[nodiscard]] bool FormMaximised() override { return Maximised; }
-  void SetFormMaximised(bool maximised) override {
-    Maximised = maximised;
-    log_->Add(std::string("maximised ") + (maximised ? "on" : "off"));
-  }
   void GrowContainer(float width, float height) override {
     log_->Add("grow " + std::to_string(static_cast<int>(width)) + "," +
               std::to_string(static_cast<int>(height)));
@@ -117,6 +116,9 @@ class SurfaceTest : public ::testing::Test {
   }
   /// Drags a handle from where it is to a place of the window.
   void DragHandle(int handle, int x, int y) {
+    const ControlRef grip = form.Element(Kind::Handle, handle);
+    Point(static_cast<int>(grip->Left) / kTwipsPerPixel + 3,
+          static_cast<int>(grip->Top) / kTwipsPerPixel + 3);
     user.HandleMouseDown(handle, kLeftButton);
     MoveTo(x, y);
     user.MouseUp();
@@ -133,8 +135,10 @@ class SurfaceTest : public ::testing::Test {
   int number = AddForm(tables);
   DesignForm& form = *tables.User(number);
   FormRec& record = *tables.Form(number);
-  FormUser user{form, tables,
-                DesignerPorts{ports.Gestures, ports.Messages, ports.Screen, observer, host}};
+  History history{tables, observer};
+  FormUser user{
+      form, tables,
+      DesignerPorts{ports.Gestures, ports.Messages, ports.Screen, observer, host, history}};
 };
 
 }  // namespace tarnwick

@@ -311,13 +311,23 @@ TEST_F(EventsBarTest, WhileTheCodeIsOpenAButtonBringsItToTheFrontAndSelectsNothi
   EXPECT_EQ(log().Count("windows code to front"), 1U);
 }
 
-TEST_F(EventsBarTest, ADeletedObjectTakesItsButtonAlong) {
+TEST_F(EventsBarTest, TheButtonStaysWhileTheCodeOfADeletedObjectStays) {
   Place(kButtonTool, 20, 20);
   Store("Button1", Event::OnClick, "a");
   Store("Form", Event::OnShow, "a");
   main.Commands().Run(Command::Delete);
-  EXPECT_EQ(Tags(), Texts{"Form"});
+  EXPECT_EQ(Tags(), (Texts{"Button1", "Form"}));
   Place(kButtonTool, 20, 20);
+  EXPECT_EQ(Tags(), (Texts{"Button1", "Form"})) << "the new object has the old code";
+}
+
+TEST_F(EventsBarTest, TheButtonGoesWithTheCodeThatALaterObjectReplaces) {
+  Place(kButtonTool, 20, 20);
+  Place(kButtonTool, 120, 20);
+  Store("Button1", Event::OnClick, "a");
+  Store("Form", Event::OnShow, "a");
+  surface().SelectObject(tables().CurrentForm->Element(Kind::Button, 1));
+  main.Commands().Run(Command::Delete);
   EXPECT_EQ(Tags(), Texts{"Form"});
 }
 

@@ -67,9 +67,9 @@ void RandomUser::Act() {
     case 17:
       return ChooseForm();
     case 18:
-      return ChangeForms();
+      return AddOrRemoveForm();
     default:
-      return StartAnew();
+      return SaveOrStartAnew();
   }
 }
 
@@ -77,6 +77,7 @@ void RandomUser::PutObject() {
   if (Objects().size() >= kMostObjects) return;
   const auto tools = AllTools();
   const ToolInfo& tool = tools[static_cast<std::size_t>(Below(static_cast<int>(tools.size())))];
+  if (tool.Number == kFormTool && !ChangesForms) return;
   if (tool.Number == kFormTool && main_.Tables().ListaFrms.Lines().size() >= kMostForms) return;
   // A WinSock has no number in a file: reading puts its values under that of the line before.
   if (tool.Objeto == "WinSock") return;
@@ -150,6 +151,7 @@ void RandomUser::RunCommand() {
   if (command == Command::Paste && Objects().size() >= kMostObjects) return;
   if (command == Command::Compile && main_.Tables().AccionProject != "save") return;
   Did("run " + std::string(MenuRowOf(command)->Name));
+  if (command == Command::Compile && !Saves) return;
   if (command == Command::Compile) {
     Save();
     return;
@@ -171,7 +173,9 @@ void RandomUser::EditCode() {
     event = events.Events[static_cast<std::size_t>(Below(static_cast<int>(events.Events.size())))];
   }
   const std::string code = "x = " + std::to_string(Below(100)) + "\r\nPrint x, \"done\"";
+  if (RecordsItsEdits) main_.Steps().Begin(Form()->Number(), "Code");
   main_.Tables().EventTable.Replace(owner, event, code);
+  if (RecordsItsEdits) main_.Steps().End();
   Did("code of " + owner + std::string(InfoOf(event).Suffix));
 }
 
@@ -184,7 +188,9 @@ void RandomUser::EditProperty() {
   sheet.SelectRow(row);
   const std::string text =
       row == 0 ? "Name" + std::to_string(++names_given_) : std::to_string(10 + Below(200));
+  if (RecordsItsEdits) main_.Steps().Begin(Form()->Number(), "Row");
   sheet.ApplyText(text);
+  if (RecordsItsEdits) main_.Steps().End();
   Did("row " + std::string(sheet.Label(row)) + " of " + sheet.SelName() + " to " + text);
 }
 
@@ -196,7 +202,8 @@ void RandomUser::ChooseForm() {
   Did("form line " + std::to_string(place));
 }
 
-void RandomUser::ChangeForms() {
+void RandomUser::AddOrRemoveForm() {
+  if (!ChangesForms) return;
   if (main_.Tables().ListaFrms.Lines().size() >= kMostForms || Below(3) == 0) {
     const bool yes = Below(2) == 0;
     ports_.Messages.Answers.push_back(yes);
@@ -209,9 +216,11 @@ void RandomUser::ChangeForms() {
   }
 }
 
-void RandomUser::StartAnew() {
+void RandomUser::SaveOrStartAnew() {
+  if (!Saves) return;
   switch (Below(12)) {
     case 0:
+      if (!StartsAnew) return;
       ports_.Messages.Answers = {false};
       main_.Commands().Run(Command::New);
       ports_.Messages.Answers.clear();
@@ -258,6 +267,27 @@ std::map<std::string, std::string> RandomUser::SavedFiles() const {
     files[path] = std::move(bytes);
   }
   return files;
+}
+
+std::string RandomUser::GridFile() {
+  std::string text;
+  for (const std::string_view kind :
+       {"FORM", "BUTTON", "LABEL", "IMAGE", "CHECKBOX", "OPTIONBUTTON", "TEXTBOX", "RICHTEXTBOX",
+        "LISTBOX", "COMBOBOX", "TIME", "OPENDIALOG", "SAVEDIALOG", "TRANSPARENTFRAME"}) {
+    text.append("[").append(kind).append("]\x8D");
+    text +=
+        "Caption\x95Text\x95Left\x95Top\x95Width\x95Height\x95Hint\x95TabOrder\x95"
+        "Color\x95"
+        "FontColor\x95Interval\x95Title\x95"
+        "Filter\x95"
+        "Columns\x8E\r\n";
+  }
+  return text;
+}
+
+std::map<std::string, std::string> RandomUser::Saved() {
+  Save();
+  return SavedFiles();
 }
 
 std::string RandomUser::SaveAndReload() {

@@ -41,6 +41,18 @@ class RandomUser {
   /// The last things done, the newest last.
   [[nodiscard]] std::string Deeds() const;
 
+  /// Saves and returns the bytes of the project's files by path.
+  [[nodiscard]] std::map<std::string, std::string> Saved();
+  /// Grid rows enough to type into, for every kind that has a caption, a text or a place: the text
+  /// of a support file.
+  [[nodiscard]] static std::string GridFile();
+
+  /// Code and properties that are changed here without a window are steps of their own.
+  bool RecordsItsEdits = false;
+  /// Whether a new project may be started, and whether forms may be added and removed.
+  bool StartsAnew = true;
+  bool Saves = true;
+  bool ChangesForms = true;
   /// Sets the cursor of a form's gestures, screen pixels; without it objects are not dragged.
   std::function<void(int form, ScreenPoint place)> SetCursor;
 
@@ -61,8 +73,8 @@ class RandomUser {
   void EditCode();
   void EditProperty();
   void ChooseForm();
-  void ChangeForms();
-  void StartAnew();
+  void AddOrRemoveForm();
+  void SaveOrStartAnew();
   void Save();
   [[nodiscard]] std::map<std::string, std::string> SavedFiles() const;
   [[nodiscard]] std::string FaultOfForm(int number) const;

@@ -5,27 +5,10 @@
 namespace tarnwick {
 namespace {
 
-/// Rows enough to type into, for every kind that has a caption, a text or a place.
-std::string GridFile() {
-  std::string text;
-  for (const std::string_view kind :
-       {"FORM", "BUTTON", "LABEL", "IMAGE", "CHECKBOX", "OPTIONBUTTON", "TEXTBOX", "RICHTEXTBOX",
-        "LISTBOX", "COMBOBOX", "TIME", "OPENDIALOG", "SAVEDIALOG", "TRANSPARENTFRAME"}) {
-    text.append("[").append(kind).append("]\x8D");
-    text +=
-        "Caption\x95Text\x95Left\x95Top\x95Width\x95Height\x95Hint\x95TabOrder\x95"
-        "Color\x95"
-        "FontColor\x95Interval\x95Title\x95"
-        "Filter\x95"
-        "Columns\x8E\r\n";
-  }
-  return text;
-}
-
 class RandomUserTest : public ShellTest, public ::testing::WithParamInterface<unsigned> {
  protected:
   void SetUp() override {
-    ports.Files.Put(std::string(kProgram) + "\\Add004.tn", GridFile());
+    ports.Files.Put(std::string(kProgram) + "\\Add004.tn", RandomUser::GridFile());
     Start();
   }
 };

@@ -2,12 +2,12 @@
 #pragma once
 
 #include <cstddef>
-#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/project_observer.h"
 #include "model/project_records.h"
@@ -44,13 +44,15 @@ class History {
   void Begin(int form, std::string_view name);
   /// Ends the step. The step that Begin opened must be ended, whatever happened between.
   void End();
-  /// Gives the running step another name: that of an object which it has just made.
+  /// Gives the running step another name: that of an object which it has just made. Nothing within
+  /// a step of another.
   void NameStep(std::string_view name);
 
   /// Begins a step that goes on until Leave, until a stay with another key, or until any other
   /// step: all edits of one row of the property grid while the user stays in it. To be called
-  /// ahead of each edit; a further call with the same form and key changes nothing.
-  void Stay(int form, std::string_view key, std::string_view name);
+  /// ahead of each edit; a further call with the same form and key changes nothing. False within a
+  /// step, whose part the edit is then.
+  bool Stay(int form, std::string_view key, std::string_view name);
   void Leave();
 
   [[nodiscard]] bool CanUndo() const noexcept;
@@ -71,26 +73,30 @@ class History {
   [[nodiscard]] std::size_t Size() const noexcept;
   /// Called after each change of what can be undone or redone.
   std::function<void()> Changed;
+  /// Called when an undo or redo takes the number of an object out of its kind (false) or puts it
+  /// back (true): lines that are kept under numbers elsewhere move with the objects behind it.
+  std::function<void(const ObjectPlace& object, bool back)> NumberMoved;
 
  private:
   struct Entry;
   struct Shadow;
   struct Running;
 
+  void Start(int form, std::string_view key, std::string_view name);
   void Record();
   void RecordUnannounced();
-  void Restore(Entry& entry, bool back);
+  /// Adds an entry of all that differs from the shadow; false when nothing does.
+  bool RecordChanges(Entry&& entry);
+  int Restore(const Entry& entry, bool back);
   void Tell() const;
-  [[nodiscard]] int CurrentNumber() const noexcept;
 
   ProjectTables& tables_;
   ProjectObserver& observer_;
   std::unique_ptr<Shadow> shadow_;    ///< the project as the last entry left it
   std::unique_ptr<Running> running_;  ///< null while no step runs
-  int depth_ = 0;
-  bool stays_ = false;
-  std::deque<Entry> undo_;
-  std::deque<Entry> redo_;
+  int depth_ = 0;                     ///< of steps within steps; 0 in a stay
+  std::vector<std::unique_ptr<Entry>> undo_;
+  std::vector<std::unique_ptr<Entry>> redo_;
 };
 
 /// A step that ends with its scope.

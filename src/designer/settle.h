@@ -1,0 +1,15 @@
+// Settling a form: after a deletion the numbers of a kind run from 1 without a gap.
+#pragma once
+
+#include "model/project_records.h"
+
+namespace tarnwick {
+
+/// Closes the gap that a deleted object left: the later objects of its kind move down by one, each
+/// with its record, its event entries and its button on the events bar; their names stay. So every
+/// object keeps its own values and code when the form is saved, read again or generated, where
+/// objects are numbered by their order alone. Returns false, and changes nothing, when no object
+/// stood behind the deleted one, whose record and entries then stay for the next of that number.
+bool SettleForm(ProjectTables& tables, DesignForm& form, Kind kind, int index);
+
+}  // namespace tarnwick

@@ -1,0 +1,50 @@
+#include "shell/event_index_numbers.h"
+
+#include <optional>
+#include <utility>
+
+#include "model/vocabulary.h"
+#include "text/code_page.h"
+#include "text/numbers.h"
+#include "text/strings.h"
+
+namespace tarnwick {
+
+namespace {
+
+/// The line as it is to stand; nothing for a line that goes.
+std::optional<std::string> Renumbered(std::string_view line, std::string_view prefix, int number,
+                                      bool back) {
+  const std::size_t equals = line.find('=');
+  const bool of_kind = equals != std::string_view::npos && equals > prefix.size() &&
+                       EqualsFolded(line.substr(0, prefix.size()), prefix);
+  const auto held =
+      of_kind ? PlainDigits<int>(line.substr(prefix.size(), equals - prefix.size())) : std::nullopt;
+  if (!held || *held < number) return std::string(line);
+  if (!back && *held == number) return std::nullopt;
+  std::string moved(prefix);
+  AppendNumber(moved, std::int64_t{back ? *held + 1 : *held - 1});
+  return moved.append(line.substr(equals));
+}
+
+}  // namespace
+
+bool RenumberEventIndex(FilePort& files, const std::string& path, const ObjectPlace& object,
+                        bool back) {
+  const std::optional<std::string> text = files.Read(path);
+  if (!text) return false;
+  std::string prefix(InfoOf(Kind::Form).Name);
+  AppendNumber(prefix, std::int64_t{object.Form});
+  prefix.append(".").append(InfoOf(object.Id).Array);
+  std::string renumbered;
+  bool first = true;
+  for (const std::string_view line : Split(*text, kLineEnd)) {
+    const std::optional<std::string> kept = Renumbered(line, prefix, object.Number, back);
+    if (!kept) continue;
+    if (!std::exchange(first, false)) renumbered += kLineEnd;
+    renumbered += *kept;
+  }
+  return renumbered == *text || files.Replace(path, renumbered);
+}
+
+}  // namespace tarnwick
