@@ -1,5 +1,6 @@
 #include "designer/settle.h"
 
+#include <charconv>
 #include <type_traits>
 #include <utility>
 #include <variant>
@@ -53,21 +54,16 @@ void MoveRecords(ProjectTables& tables, const DesignForm& form, Kind kind, int i
   for (int i = index; i < last; ++i) RenumberPicture(*record, form.Number(), kind, i);
 }
 
-/// The number behind a kind's word in a name of the events bar; 0 for a name of anything else.
-int NumberIn(std::string_view name, std::string_view word) {
-  if (name.size() <= word.size() || !EqualsFolded(name.substr(0, word.size()), word)) return 0;
-  return PlainDigits<int>(name.substr(word.size())).value_or(0);
-}
-
 void MoveBarEntries(ProjectTables& tables, int form, Kind kind, int index, int last) {
   const auto slot = static_cast<std::size_t>(form);
   if (slot >= tables.FormsBar.size() || tables.FormsBar[slot] == nullptr) return;
   auto& entries = tables.FormsBar[slot]->Entries;
   const std::string_view word = InfoOf(kind).Array;
-  std::erase_if(entries,
-                [&](const FrmBarra::Entry& entry) { return NumberIn(entry.Name, word) == index; });
+  std::erase_if(entries, [&](const FrmBarra::Entry& entry) {
+    return NumberBehind(entry.Name, word) == index;
+  });
   for (FrmBarra::Entry& entry : entries) {
-    const int number = NumberIn(entry.Name, word);
+    const int number = NumberBehind(entry.Name, word);
     if (number <= index || number > last) continue;
     entry.Name = word;
     AppendNumber(entry.Name, std::int64_t{number - 1});
@@ -75,6 +71,14 @@ void MoveBarEntries(ProjectTables& tables, int form, Kind kind, int index, int l
 }
 
 }  // namespace
+
+int NumberBehind(std::string_view name, std::string_view word) {
+  if (name.size() <= word.size() || !EqualsFolded(name.substr(0, word.size()), word)) return 0;
+  int number = 0;
+  const char* const end = name.data() + name.size();
+  const auto [stop, error] = std::from_chars(name.data() + word.size(), end, number);
+  return error == std::errc() && stop == end && number > 0 ? number : 0;
+}
 
 bool SettleForm(ProjectTables& tables, DesignForm& form, Kind kind, int index) {
   if (index < 1 || form.UBound(kind) < index || form.Element(kind, index) != nullptr) return false;

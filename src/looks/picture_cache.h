@@ -14,7 +14,7 @@
 namespace tarnwick::looks {
 
 /// Keeps the pictures of the open project by path (any format the toolkit reads, .bmp and .ico
-/// among them). References stay good until Clear.
+/// among them). References stay good until Clear; what they show can change after Recheck.
 class PictureCache {
  public:
   /// Returns the bytes of a file; nothing when it cannot be read.
@@ -22,14 +22,24 @@ class PictureCache {
 
   explicit PictureCache(ReadFile read) : read_(std::move(read)) {}
 
-  /// The picture of a file; a null one when there is no such file or no picture in it.
+  /// The picture of a file; a null one when there is no such file, no picture in it, or not all
+  /// of one.
   [[nodiscard]] const QPixmap& At(std::string_view path);
-  /// Forgets all: files may have changed.
+  /// Files may have changed: each is looked at again when it is asked for next.
+  void Recheck() noexcept { ++check_; }
+  /// Forgets all.
   void Clear() { pictures_.clear(); }
 
  private:
+  struct Entry {
+    QPixmap Picture;
+    std::optional<std::string> Bytes;  ///< of the file that the picture was read from
+    unsigned Checked = 0;
+  };
+
   ReadFile read_;
-  std::unordered_map<std::string, QPixmap, FoldedHash, FoldedEqual> pictures_;
+  std::unordered_map<std::string, Entry, FoldedHash, FoldedEqual> pictures_;
+  unsigned check_ = 0;
 };
 
 }  // namespace tarnwick::looks

@@ -31,6 +31,7 @@ DesignForm::DesignForm() {
       arrays_[static_cast<std::size_t>(kind.Id)].push_back(control);
     }
   }
+  part_count_ = controls_.size();
 }
 
 int DesignForm::Number() const noexcept {
@@ -81,13 +82,8 @@ void DesignForm::UnloadAll(Kind kind) {
   if (ControlSel && of_kind(ControlSel)) ControlSel = nullptr;
 }
 
-std::size_t DesignForm::PartCount() noexcept {
-  constexpr std::size_t kNumeroAndFrame = 2;
-  return kTemplates.size() + kNumeroAndFrame + kHandleCount;
-}
-
 void DesignForm::Arrange(std::vector<ControlRef> objects, std::vector<ControlRef> drawn) {
-  controls_.resize(PartCount());
+  controls_.resize(part_count_);
   for (auto& elements : arrays_) {
     if (!elements.empty() && elements.front()->Id != Kind::Handle) elements.resize(1);
   }

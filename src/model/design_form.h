@@ -58,7 +58,7 @@ class DesignForm {
 
   [[nodiscard]] const std::vector<ControlRef>& Controls() const noexcept { return controls_; }
   /// How many controls at the head of the collection are parts of the window and no objects.
-  [[nodiscard]] static std::size_t PartCount() noexcept;
+  [[nodiscard]] std::size_t PartCount() const noexcept { return part_count_; }
   /// Loads the next element of a control array: a copy of the template with the highest index
   /// plus 1, hidden, at the end of the collection.
   const ControlRef& Load(Kind kind);
@@ -94,6 +94,7 @@ class DesignForm {
   [[nodiscard]] const std::vector<ControlRef>& DrawOrder() const noexcept { return draw_order_; }
 
  private:
+  std::size_t part_count_ = 0;
   std::vector<ControlRef> controls_;
   std::vector<ControlRef> draw_order_;
   std::array<std::vector<ControlRef>, kKindCount> arrays_;

@@ -3,8 +3,8 @@
 #include <optional>
 #include <utility>
 
+#include "designer/settle.h"
 #include "model/vocabulary.h"
-#include "text/code_page.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
@@ -16,14 +16,12 @@ namespace {
 std::optional<std::string> Renumbered(std::string_view line, std::string_view prefix, int number,
                                       bool back) {
   const std::size_t equals = line.find('=');
-  const bool of_kind = equals != std::string_view::npos && equals > prefix.size() &&
-                       EqualsFolded(line.substr(0, prefix.size()), prefix);
-  const auto held =
-      of_kind ? PlainDigits<int>(line.substr(prefix.size(), equals - prefix.size())) : std::nullopt;
-  if (!held || *held < number) return std::string(line);
-  if (!back && *held == number) return std::nullopt;
+  const int held =
+      equals == std::string_view::npos ? 0 : NumberBehind(line.substr(0, equals), prefix);
+  if (held < number) return std::string(line);
+  if (!back && held == number) return std::nullopt;
   std::string moved(prefix);
-  AppendNumber(moved, std::int64_t{back ? *held + 1 : *held - 1});
+  AppendNumber(moved, std::int64_t{back ? held + 1 : held - 1});
   return moved.append(line.substr(equals));
 }
 

@@ -19,6 +19,7 @@ class EventsBar;
 class FormCommands;
 class FormUser;
 class FormViewObjects;
+class History;
 class ProjectCommands;
 class PropertySheet;
 

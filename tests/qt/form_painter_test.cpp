@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QImage>
 #include <QPainter>
+#include <optional>
 
 #include <gtest/gtest.h>
 
@@ -20,7 +21,7 @@ class FormPainterTest : public testing::Test {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::magenta);
     QPainter painter(&image);
-    painter_.Paint(painter, form_, nullptr, QRect(QPoint(), size));
+    painter_.Paint(painter, form_, record_ ? &*record_ : nullptr, QRect(QPoint(), size));
     return image;
   }
   ControlRef Add(Kind kind, int left, int top, int width, int height) {
@@ -48,6 +49,7 @@ class FormPainterTest : public testing::Test {
   TextCache texts_;
   FormPainter painter_{pictures_, texts_};
   DesignForm form_;
+  std::optional<FormRec> record_;
 };
 
 TEST_F(FormPainterTest, DotsStandAtEveryTenthPixelOfTheFixedRectangle) {
@@ -71,7 +73,7 @@ TEST_F(FormPainterTest, DotsKeepTheirPlaceWhenAPartIsPaintedAnew) {
 }
 
 TEST_F(FormPainterTest, ALabelLiesUnderAButtonThatCameBeforeIt) {
-  Add(Kind::Button, 20, 20, 75, 25)->BackColor = 255;
+  Add(Kind::TextBox, 20, 20, 75, 25)->BackColor = 255;
   Add(Kind::Label, 20, 20, 75, 25)->BackColor = 0xFF0000;
   EXPECT_EQ(QColor(Painted().pixel(40, 30)), QColor(255, 0, 0));
 }
@@ -119,6 +121,63 @@ TEST_F(FormPainterTest, HiddenControlsAndTemplatesAreNotPainted) {
   const QImage empty = Painted();
   Add(Kind::TextBox, 20, 20, 100, 21)->Visible = false;
   EXPECT_EQ(Painted(), empty);
+}
+
+TEST_F(FormPainterTest, ButtonsAndMarksShowTheFaceWhateverTheirColour) {
+  for (const Kind kind : {Kind::Button, Kind::CheckBox, Kind::OptionButton}) {
+    ControlRef control = Add(kind, 20, 20, 97, 25);
+    control->BackColor = 255;
+    EXPECT_EQ(Painted().pixel(110, 25), kFace) << InfoOf(kind).Name;
+    form_.Unload(control);
+  }
+}
+
+TEST_F(FormPainterTest, WhatTheProgramDoesNotShowOrLetsNobodyUseLooksDifferent) {
+  for (const Kind kind : {Kind::Button, Kind::Label, Kind::CheckBox, Kind::OptionButton,
+                          Kind::TextBox, Kind::RichTextBox, Kind::ListBox, Kind::ComboBox}) {
+    SCOPED_TRACE(InfoOf(kind).Name);
+    record_.emplace();
+    ControlRef control = Add(kind, 20, 20, 120, 60);
+    control->Caption = control->Text = "Shown";
+    control->Items = {"Shown"};
+    ObjectRec& record = *record_->Objects(kind)->Ensure(1);
+    record.Enabled = record.Visible = 1;
+    const QImage usual = Painted();
+    record.Enabled = 0;
+    EXPECT_NE(Painted(), usual);
+    record.Enabled = 1;
+    record.Visible = 0;
+    EXPECT_NE(Painted(), usual);
+    record.Visible = 1;
+    EXPECT_EQ(Painted(), usual);
+    form_.Unload(control);
+  }
+}
+
+TEST_F(FormPainterTest, AViewerShowsItsPage) {
+  record_.emplace();
+  Add(Kind::HtmlViewer, 20, 20, 185, 120);
+  record_->HtmlViewers.Ensure(1)->Navigate = "page.htm";
+  const QImage one = Painted();
+  record_->HtmlViewers.At(1)->Navigate = "another.htm";
+  EXPECT_NE(Painted(), one);
+}
+
+TEST_F(FormPainterTest, TheSelectionOfALockedFormIsSeen) {
+  form_.ControlSel = Add(Kind::Button, 20, 20, 75, 25);
+  const QImage open = Painted();
+  form_.m_bDesignMode = false;
+  EXPECT_NE(Painted(), open);
+}
+
+TEST_F(FormPainterTest, ATruncatedPictureShowsThePlaceholder) {
+  AddPicture("C:\\p.bmp", Qt::red);
+  ControlRef image = Add(Kind::Image, 15, 15, 41, 41);
+  image->Picture = "C:\\gone.bmp";
+  const QImage placeholder = Painted();
+  image->Picture = "C:\\cut.bmp";
+  files_.Put("C:\\cut.bmp", files_.Bytes("C:\\p.bmp")->substr(0, 100));
+  EXPECT_EQ(Painted(), placeholder);
 }
 
 TEST_F(FormPainterTest, HandlesLieOnTopOfAll) {

@@ -120,7 +120,7 @@ void FormShadow::RenewObjects(const DesignForm* window, FormChange& change) {
   static const std::vector<ControlRef> none;
   const auto& controls = window != nullptr ? window->Controls() : none;
   const auto& drawn = window != nullptr ? window->DrawOrder() : none;
-  const std::size_t parts = window != nullptr ? DesignForm::PartCount() : 0;
+  const std::size_t parts = window != nullptr ? window->PartCount() : 0;
 
   std::vector<int> steps(controls.size() - parts);
   std::array<int, kKindCount> last{};

@@ -1,9 +1,11 @@
 #include "qt/surface/container.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <optional>
 
 #include "qt/kit/theme.h"
+#include "qt/surface/surface_access.h"
 
 namespace tarnwick {
 
@@ -25,6 +27,12 @@ Container::Container(looks::PictureCache& pictures, TextCache& texts, QWidget* p
   canvas_->setBackgroundRole(QPalette::Mid);
   setBackgroundRole(QPalette::Mid);
   setWidget(canvas_);
+  InstallSurfaceAccess();
+  // Picture files are changed by other programs, which the user comes back from.
+  connect(qApp, &QGuiApplication::applicationStateChanged, this,
+          [this](Qt::ApplicationState state) {
+            if (state == Qt::ApplicationActive) LookAtFilesAgain();
+          });
 }
 
 Container::~Container() = default;
@@ -36,6 +44,7 @@ DesignWindow& Container::Open(int form, DesignForm& design, DesignWindowDoors do
                                           ? std::nullopt
                                           : std::optional(before->pos());
   Close(form);
+  doors.Visible = [this] { return VisiblePart(); };
   auto* window = new DesignWindow(design, pictures_, texts_, std::move(doors), canvas_);
   if (stood) {
     window->move(*stood);
@@ -102,6 +111,30 @@ bool Container::eventFilter(QObject* object, QEvent* event) {
 void Container::resizeEvent(QResizeEvent* event) {
   QScrollArea::resizeEvent(event);
   FitCanvas();
+  FitMaximised();
+}
+
+void Container::scrollContentsBy(int dx, int dy) {
+  QScrollArea::scrollContentsBy(dx, dy);
+  FitMaximised();
+}
+
+QRect Container::VisiblePart() const {
+  return {-canvas_->pos(), viewport()->size()};
+}
+
+void Container::FitMaximised() {
+  for (const auto& [number, window] : windows_) {
+    if (window->State() == WindowState::Maximised) window->Fill(VisiblePart());
+  }
+}
+
+void Container::LookAtFilesAgain() {
+  pictures_.Recheck();
+  for (const auto& [number, window] : windows_) {
+    window->update();
+    window->Surface().update();
+  }
 }
 
 void Container::FitCanvas() {

@@ -29,15 +29,20 @@ class Container final : public QScrollArea {
   void BringUp(int form);
   /// Gives a window the focus.
   void Focus(int form);
+  /// The part of the area of the windows that can be seen, in its own pixels.
+  [[nodiscard]] QRect VisiblePart() const;
   /// The window drawn as that of the current form; 0 for none.
   void SetCurrent(int form);
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
 
  private:
   void FitCanvas();
+  void FitMaximised();
+  void LookAtFilesAgain();
 
   looks::PictureCache& pictures_;
   TextCache& texts_;

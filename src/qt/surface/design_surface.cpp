@@ -54,6 +54,22 @@ DesignSurface::DesignSurface(DesignForm& form, looks::PictureCache& pictures, Te
   setMouseTracking(true);
 }
 
+std::string DesignSurface::FormName() const {
+  const FormRec* const record = form_ != nullptr ? doors_.Record() : nullptr;
+  return record != nullptr ? record->Name : std::string();
+}
+
+void DesignSurface::PressObject(const ControlRef& object) {
+  FormUser* user = doors_.User();
+  if (form_ == nullptr || user == nullptr) return;
+  doors_.Activated();
+  if (object) {
+    user->SelectObject(object);
+  } else {
+    user->SelectForm();
+  }
+}
+
 void DesignSurface::Detach() {
   form_ = nullptr;
   FreeCursor();
@@ -217,7 +233,11 @@ void DesignSurface::keyPressEvent(QKeyEvent* event) {
   FormUser* user = doors_.User();
   if (form_ == nullptr || user == nullptr) return;
   if (event->key() == Qt::Key_Escape) {
-    doors_.Escape();
+    if (user->GestureMode() != DragMode::None) {
+      user->Escape();
+    } else {
+      doors_.Escape();
+    }
     return;
   }
   const int code = KeyCodeOf(*event);

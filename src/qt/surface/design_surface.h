@@ -24,6 +24,7 @@ struct DesignWindowDoors {
   std::function<void()> Escape;       ///< back to the arrow
   std::function<void()> Resized;      ///< the form has taken a new size from its window
   std::function<bool()> FocusIsKept;  ///< a value is just being typed elsewhere
+  std::function<QRect()> Visible;     ///< the part of the container that can be seen
 };
 
 /// Paints the form and forwards presses, moves, releases, double clicks and keys. It is the
@@ -36,6 +37,12 @@ class DesignSurface final : public QWidget, public GesturePort {
   DesignSurface(DesignForm& form, looks::PictureCache& pictures, TextCache& texts,
                 const DesignWindowDoors& doors, QWidget* parent);
 
+  /// The form that is painted; null when it is gone.
+  [[nodiscard]] const DesignForm* Form() const { return form_; }
+  /// The name of the form, "" when it is gone.
+  [[nodiscard]] std::string FormName() const;
+  /// Selects an object as a press on it does, or the form for null.
+  void PressObject(const ControlRef& object);
   /// The form is about to go: from now on nothing is painted and nothing forwarded.
   void Detach();
 

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "qt/surface/design_surface.h"
+#include "qt/surface/window_frame.h"
 
 class QMouseEvent;
 
@@ -33,6 +34,8 @@ class DesignWindow final : public QWidget {
   /// Gives a rolled-up window its height back.
   void Unroll();
   [[nodiscard]] WindowState State() const { return state_; }
+  /// Fills the part of the container that can be seen; for a maximised window.
+  void Fill(const QRect& visible);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -43,25 +46,11 @@ class DesignWindow final : public QWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
-  struct Frame {
-    bool Title = true;
-    bool Buttons = true;
-    bool Minimise = true;
-    bool Maximise = true;
-    bool Sizable = true;
-    bool Tool = false;
-  };
-  enum class Part { None, Title, Minimise, Maximise, Close };
-
-  [[nodiscard]] Frame FrameOf() const;
-  [[nodiscard]] int TitleHeight() const;
-  [[nodiscard]] int BorderWidth() const;
-  [[nodiscard]] QRect ButtonRect(Part part) const;
-  [[nodiscard]] Part PartAt(const QPoint& place) const;
-  [[nodiscard]] Qt::Edges EdgesAt(const QPoint& place) const;
+  [[nodiscard]] WindowFrame FrameOf() const;
+  /// The height of a window of which only the title is left.
+  [[nodiscard]] int RolledUpHeight() const;
   void LayOut();
-  void PaintTitle(QPainter& painter);
-  void PaintButton(QPainter& painter, Part part);
+  void EndSizing();
   void SetState(WindowState state);
   void TellSize();
   void DragEdges(const QPoint& global);
@@ -73,14 +62,15 @@ class DesignWindow final : public QWidget {
   FormMenuStrip* menu_;
   bool current_ = false;
   WindowState state_ = WindowState::Normal;
-  QRect normal_;
+  QRect normal_;  ///< place and size at the return to normal
+  QSize told_;    ///< the size that the form has, as window and form last agreed
 
   // A gesture of the frame itself.
   bool moving_ = false;
   Qt::Edges edges_;
   QPoint press_;
   QRect at_press_;
-  Part hovered_ = Part::None;
+  FramePart hovered_ = FramePart::None;
 };
 
 }  // namespace tarnwick

@@ -57,14 +57,18 @@ void FormPainter::PaintObjects(QPainter& painter, const DesignForm& form, const 
     // A label that sizes itself may reach beyond its rectangle.
     const bool spreads = control->Id == Kind::Label && control->AutoSize;
     if (!spreads && !PixelRectOf(*control).intersects(exposed)) continue;
-    const RecordArray<ObjectRec>* records =
-        record != nullptr ? record->Objects(control->Id) : nullptr;
-    objects_.Paint(painter, *control, records != nullptr ? records->At(control->Index) : nullptr);
+    objects_.Paint(painter, *control, record);
   }
 }
 
 void FormPainter::PaintHandles(QPainter& painter, const DesignForm& form) {
   static const QColor accent(0x0F, 0x76, 0x6E);
+  // A locked form has no handles, but what is selected is still to be seen.
+  if (!form.m_bDesignMode && form.ControlSel) {
+    const QRect rect = PixelRectOf(*form.ControlSel).adjusted(-2, -2, 2, 2);
+    looks::DrawFrame(painter, rect, accent, accent);
+    looks::DrawFrame(painter, rect.adjusted(1, 1, -1, -1), looks::kLight, looks::kLight);
+  }
   for (int i = 0; i < kHandleCount; ++i) {
     const ControlRef handle = form.Element(Kind::Handle, i);
     if (!handle || !handle->Visible) continue;

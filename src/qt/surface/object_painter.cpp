@@ -18,6 +18,26 @@ constexpr int kMarkGap = 4;
 constexpr int kPictureGap = 4;
 constexpr int kArrowButton = 16;
 constexpr int kSmallPicture = 20;
+constexpr qreal kFaint = 0.4;
+
+/// The kinds whose record says whether the program shows them and lets them take input. The small
+/// ones are never seen in it.
+bool HasShownState(Kind kind) noexcept {
+  switch (kind) {
+    case Kind::Button:
+    case Kind::Label:
+    case Kind::Image:
+    case Kind::CheckBox:
+    case Kind::OptionButton:
+    case Kind::TextBox:
+    case Kind::RichTextBox:
+    case Kind::ListBox:
+    case Kind::ComboBox:
+      return true;
+    default:
+      return false;
+  }
+}
 
 /// Small pictures keep the colours of the classic face in every theme.
 const IconColors& FormIconColors() {
@@ -54,10 +74,27 @@ QRect PixelRectOf(const DesignControl& control) noexcept {
           std::max(0, Pixels(control.Height))};
 }
 
-void ObjectPainter::Paint(QPainter& painter, const DesignControl& control,
-                          const ObjectRec* record) {
+void ObjectPainter::Paint(QPainter& painter, const DesignControl& control, const FormRec* form) {
   const QRect rect = PixelRectOf(control);
   if (rect.isEmpty()) return;
+  const RecordArray<ObjectRec>* const records =
+      form != nullptr ? form->Objects(control.Id) : nullptr;
+  const ObjectRec* const record = records != nullptr ? records->At(control.Index) : nullptr;
+  const bool shows_state = record != nullptr && HasShownState(control.Id);
+  enabled_ = control.Enabled && (!shows_state || record->Enabled != 0);
+  if (!shows_state || record->Visible != 0) {
+    PaintKind(painter, rect, control, form, record);
+    return;
+  }
+  painter.save();
+  painter.setOpacity(kFaint);
+  PaintKind(painter, rect, control, form, record);
+  painter.restore();
+  DrawDashed(painter, rect, looks::kShadow);
+}
+
+void ObjectPainter::PaintKind(QPainter& painter, const QRect& rect, const DesignControl& control,
+                              const FormRec* form, const ObjectRec* record) {
   switch (control.Id) {
     case Kind::Button:
       return PaintButton(painter, rect, control, record);
@@ -77,7 +114,7 @@ void ObjectPainter::Paint(QPainter& painter, const DesignControl& control,
     case Kind::ComboBox:
       return PaintCombo(painter, rect, control);
     case Kind::HtmlViewer:
-      return PaintHtml(painter, rect, control);
+      return PaintHtml(painter, rect, control, form);
     case Kind::TransparentFrame:
     case Kind::Frame:
       return PaintFrame(painter, rect, control);
@@ -100,7 +137,12 @@ void ObjectPainter::Paint(QPainter& painter, const DesignControl& control,
 void ObjectPainter::DrawCaption(QPainter& painter, const QRect& area, const DesignControl& control,
                                 const QColor& color, Qt::Alignment alignment, TextFlow flow) {
   const bool block = flow == TextFlow::Plain || flow == TextFlow::Block;
-  const std::string& text = block ? control.Text : control.Caption;
+  DrawText(painter, area, control, block ? control.Text : control.Caption, color, alignment, flow);
+}
+
+void ObjectPainter::DrawText(QPainter& painter, const QRect& area, const DesignControl& control,
+                             std::string_view text, const QColor& color, Qt::Alignment alignment,
+                             TextFlow flow) {
   if (text.empty() || area.isEmpty()) return;
   const FormFont& font = texts_.FontOf(control);
   const LaidText& laid = texts_.Lay(text, font, flow, area.width());
@@ -121,7 +163,7 @@ void ObjectPainter::DrawCaption(QPainter& painter, const QRect& area, const Desi
       painter.fillRect(x + dx + laid.KeyLeft, y + dx + laid.KeyTop, laid.KeyWidth, 1, ink);
     }
   };
-  if (control.Enabled) {
+  if (enabled_) {
     draw(0, color);
   } else {
     draw(1, looks::kLight);
@@ -137,7 +179,8 @@ void ObjectPainter::PaintButton(QPainter& painter, const QRect& rect, const Desi
     looks::DrawFrame(painter, rect, looks::kDarkShadow, looks::kDarkShadow);
     face.adjust(1, 1, -1, -1);
   }
-  looks::DrawRaised(painter, face, looks::ColorOf(control.BackColor));
+  // The program's buttons have the colour of the face, whatever colour was set.
+  looks::DrawRaised(painter, face, looks::kFace);
   QRect inside = face.adjusted(3, 3, -3, -3);
   const QPixmap* picture = control.Picture.empty() ? nullptr : &pictures_.At(control.Picture);
   if (picture != nullptr && !picture->isNull()) {
@@ -194,12 +237,12 @@ void ObjectPainter::PaintImage(QPainter& painter, const QRect& rect, const Desig
 
 void ObjectPainter::PaintMark(QPainter& painter, const QRect& rect, const DesignControl& control,
                               bool option) {
-  painter.fillRect(rect, looks::ColorOf(control.BackColor));
+  painter.fillRect(rect, looks::kFace);
   const QPoint mark(rect.x(), rect.y() + (rect.height() - kMarkSize) / 2);
   if (option) {
-    looks::DrawOption(painter, mark, control.Value != 0, control.Enabled);
+    looks::DrawOption(painter, mark, control.Value != 0, enabled_);
   } else {
-    looks::DrawCheckBox(painter, mark, control.Value != 0, control.Enabled);
+    looks::DrawCheckBox(painter, mark, control.Value != 0, enabled_);
   }
   DrawCaption(painter, rect.adjusted(kMarkSize + kMarkGap, 0, 0, 0), control,
               looks::ColorOf(control.ForeColor), Qt::AlignVCenter, TextFlow::Line);
@@ -231,7 +274,7 @@ void ObjectPainter::PaintList(QPainter& painter, const QRect& rect, const Design
   painter.save();
   painter.setClipRect(inside, Qt::IntersectClip);
   painter.setFont(font.Font);
-  painter.setPen(control.Enabled ? looks::ColorOf(control.ForeColor) : looks::kGreyText);
+  painter.setPen(enabled_ ? looks::ColorOf(control.ForeColor) : looks::kGreyText);
   int y = inside.y();
   for (const std::string& item : control.Items) {
     if (y > inside.bottom()) break;
@@ -242,21 +285,24 @@ void ObjectPainter::PaintList(QPainter& painter, const QRect& rect, const Design
 }
 
 void ObjectPainter::PaintCombo(QPainter& painter, const QRect& rect, const DesignControl& control) {
-  looks::DrawSunken(painter, rect,
-                    control.Enabled ? looks::ColorOf(control.BackColor) : looks::kFace);
+  looks::DrawSunken(painter, rect, enabled_ ? looks::ColorOf(control.BackColor) : looks::kFace);
   const QRect inside = rect.adjusted(2, 2, -2, -2);
   const int width = std::min(kArrowButton, inside.width());
   const QRect button(inside.right() - width + 1, inside.y(), width, inside.height());
   looks::DrawRaised(painter, button, looks::kFace);
-  looks::DrawDropArrow(painter, button, control.Enabled ? looks::kDarkShadow : looks::kGreyText);
+  looks::DrawDropArrow(painter, button, enabled_ ? looks::kDarkShadow : looks::kGreyText);
   DrawCaption(painter, inside.adjusted(2, 0, -width - 1, 0), control,
               looks::ColorOf(control.ForeColor), Qt::AlignVCenter, TextFlow::Plain);
 }
 
-void ObjectPainter::PaintHtml(QPainter& painter, const QRect& rect, const DesignControl& control) {
+void ObjectPainter::PaintHtml(QPainter& painter, const QRect& rect, const DesignControl& control,
+                              const FormRec* form) {
   looks::DrawSunken(painter, rect, looks::kLight);
   const QRect inside = rect.adjusted(4, 3, -4, -3);
-  DrawCaption(painter, inside, control, looks::kGreyText, Qt::AlignLeft, TextFlow::Block);
+  const HtmlViewerRec* const viewer =
+      form != nullptr ? form->HtmlViewers.At(control.Index) : nullptr;
+  DrawText(painter, inside, control, viewer != nullptr ? viewer->Navigate : control.Text,
+           looks::kGreyText, Qt::AlignLeft, TextFlow::Block);
   if (inside.height() > 44) {
     DrawPixmapIn(painter, inside.adjusted(0, 16, 0, 0), IconNameOf(Kind::HtmlViewer), 32);
   }

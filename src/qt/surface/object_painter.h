@@ -3,6 +3,7 @@
 
 #include <QRect>
 #include <cstdint>
+#include <string_view>
 
 #include "looks/picture_cache.h"
 #include "model/design_control.h"
@@ -23,10 +24,13 @@ class ObjectPainter {
   ObjectPainter(looks::PictureCache& pictures, TextCache& texts)
       : pictures_(pictures), texts_(texts) {}
 
-  /// Paints one object. `record` holds what the control cannot carry; null reads as defaults.
-  void Paint(QPainter& painter, const DesignControl& control, const ObjectRec* record);
+  /// Paints one object. `form` holds what the control cannot carry; null reads as defaults. An
+  /// object that the program will not show is painted faint, one that takes no input in grey.
+  void Paint(QPainter& painter, const DesignControl& control, const FormRec* form);
 
  private:
+  void PaintKind(QPainter& painter, const QRect& rect, const DesignControl& control,
+                 const FormRec* form, const ObjectRec* record);
   void PaintButton(QPainter& painter, const QRect& rect, const DesignControl& control,
                    const ObjectRec* record);
   void PaintLabel(QPainter& painter, const QRect& rect, const DesignControl& control);
@@ -35,14 +39,18 @@ class ObjectPainter {
   void PaintText(QPainter& painter, const QRect& rect, const DesignControl& control);
   void PaintList(QPainter& painter, const QRect& rect, const DesignControl& control);
   void PaintCombo(QPainter& painter, const QRect& rect, const DesignControl& control);
-  void PaintHtml(QPainter& painter, const QRect& rect, const DesignControl& control);
+  void PaintHtml(QPainter& painter, const QRect& rect, const DesignControl& control,
+                 const FormRec* form);
   void PaintFrame(QPainter& painter, const QRect& rect, const DesignControl& control);
   void PaintSmall(QPainter& painter, const QRect& rect, const DesignControl& control);
   void DrawCaption(QPainter& painter, const QRect& area, const DesignControl& control,
                    const QColor& color, Qt::Alignment alignment, TextFlow flow);
+  void DrawText(QPainter& painter, const QRect& area, const DesignControl& control,
+                std::string_view text, const QColor& color, Qt::Alignment alignment, TextFlow flow);
 
   looks::PictureCache& pictures_;
   TextCache& texts_;
+  bool enabled_ = true;  ///< the object being painted takes input in the program
 };
 
 }  // namespace tarnwick

@@ -19,7 +19,7 @@ inline std::string ProjectText(ProjectTables& tables, WithSelection with = WithS
   for (int form = 1; form <= tables.FormsCount; ++form) {
     text += "#" + std::to_string(form) + (tables.IsLive(form) ? " live\n" : " removed\n");
     if (!tables.IsLive(form)) continue;
-    AppendFormText(text, tables, form);
+    text += FormFileText(tables, form);
     const DesignForm& window = *tables.User(form);
     for (const ControlRef& control : window.DrawOrder()) text += control->Tag + ";";
     text += std::to_string(window.NextTabOrder) + "\n";
