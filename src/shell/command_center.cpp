@@ -40,6 +40,10 @@ void CommandCenter::Dispatch(Command command) {
       return project_.SaveForm();
     case Command::SaveFormAs:
       return project_.SaveFormAs();
+    case Command::Undo:
+      return edit_.Undo();
+    case Command::Redo:
+      return edit_.Redo();
     case Command::Code:
       return state_.Code->OpenCode();
     case Command::PublicDeclarations:
@@ -95,10 +99,21 @@ void CommandCenter::Escape() {
 }
 
 CommandState CommandCenter::State(Command command) const {
+  if (command == Command::Undo) {
+    return {state_.Flags.CommandsEnabled && state_.Steps.CanUndo(), false};
+  }
+  if (command == Command::Redo) {
+    return {state_.Flags.CommandsEnabled && state_.Steps.CanRedo(), false};
+  }
   return StateOf(command, state_.Tables, state_.Flags);
 }
 
 std::string CommandCenter::Caption(Command command) const {
+  const bool undo = command == Command::Undo;
+  const std::string_view step = undo                       ? state_.Steps.UndoName()
+                                : command == Command::Redo ? state_.Steps.RedoName()
+                                                           : std::string_view();
+  if (!step.empty()) return std::string(undo ? "&Undo " : "&Redo ").append(step);
   return CaptionOf(command, state_.Tables);
 }
 

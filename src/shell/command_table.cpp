@@ -27,6 +27,9 @@ constexpr std::array kFileRows{
 };
 
 constexpr std::array kEditRows{
+    MenuRow{"mnuUndo", "&Undo", "Ctrl+Z", Command::Undo},
+    MenuRow{"mnuRedo", "&Redo", "Ctrl+Y", Command::Redo},
+    kSeparator,
     MenuRow{"mnuCut", "Cu&t", "Ctrl+X", Command::Cut},
     MenuRow{"mnuCopy", "&Copy", "Ctrl+C", Command::Copy},
     MenuRow{"mnuPaste", "&Paste", "Ctrl+V", Command::Paste},

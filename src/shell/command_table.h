@@ -19,6 +19,8 @@ enum class Command : std::uint8_t {
   SaveFormAs,
   Exit,
   Restore,
+  Undo,
+  Redo,
   Cut,
   Copy,
   Paste,

@@ -7,6 +7,8 @@ namespace tarnwick {
 
 bool WaitsForCodeEditor(Command command) noexcept {
   switch (command) {
+    case Command::Undo:
+    case Command::Redo:
     case Command::Cut:
     case Command::Paste:
     case Command::Delete:

@@ -216,11 +216,11 @@ History& MDIForm1::Steps() noexcept {
 }
 
 void MDIForm1::Undo() {
-  rooms_->Edit.Undo();
+  rooms_->Commands.Run(Command::Undo);
 }
 
 void MDIForm1::Redo() {
-  rooms_->Edit.Redo();
+  rooms_->Commands.Run(Command::Redo);
 }
 
 FormUser* MDIForm1::User(int form) {

@@ -34,6 +34,26 @@ TEST_F(Undo, AFreshProjectHasNothingToUndo) {
   EXPECT_EQ(Lines(), std::vector<std::string>{"Form1 ()"});
 }
 
+TEST_F(Undo, TheEntriesOfTheEditMenuNameTheStep) {
+  EXPECT_FALSE(main.Commands().State(Command::Undo).Enabled);
+  EXPECT_EQ(main.Commands().Caption(Command::Undo), "&Undo");
+  Place(0, 10, 10);
+  EXPECT_TRUE(main.Commands().State(Command::Undo).Enabled);
+  EXPECT_EQ(main.Commands().Caption(Command::Undo), "&Undo Place Form1Btn1");
+  main.Commands().Run(Command::Undo);
+  EXPECT_FALSE(main.Commands().State(Command::Undo).Enabled);
+  EXPECT_EQ(main.Commands().Caption(Command::Redo), "&Redo Place Form1Btn1");
+  main.Commands().Run(Command::Redo);
+  EXPECT_EQ(tables().User(1)->UBound(Kind::Button), 1);
+}
+
+TEST_F(Undo, WhileTheCodeIsOpenNothingIsTakenBack) {
+  Place(0, 10, 10);
+  windows.CodeOpen = true;
+  main.Undo();
+  EXPECT_EQ(tables().User(1)->UBound(Kind::Button), 1);
+}
+
 TEST_F(Undo, AnAddedFormGoesAndComesBackWithItsWindow) {
   main.Commands().Run(Command::AddNewForm);
   EXPECT_EQ(main.Steps().UndoName(), "Add Form");

@@ -103,6 +103,9 @@ void CommandActions::AddRows(QMenu& menu, std::span<const MenuRow> rows, bool ta
     QAction* action = menu.addAction(caption);
     action->setObjectName(ToQString(row.Name));
     if (takes_keys && !row.Key.empty()) action->setShortcut(QKeySequence(ToQString(row.Key)));
+    if (takes_keys && command == Command::Redo) {
+      action->setShortcuts({action->shortcut(), QKeySequence(QStringLiteral("Ctrl+Shift+Z"))});
+    }
     action->setCheckable(IsToggle(command));
     if (HasIcon(command)) action->setIcon(IconOf(IconNameOf(command)));
     connect(action, &QAction::triggered, this, [this, command] { Run(command); });

@@ -109,6 +109,8 @@ constexpr std::array<CommandIcon, kCommandCount> kCommandIcons{{
     {Command::SaveFormAs, "save"},
     {Command::Exit, "exit"},
     {Command::Restore, "open"},
+    {Command::Undo, "undo"},
+    {Command::Redo, "redo"},
     {Command::Cut, "cut"},
     {Command::Copy, "copy"},
     {Command::Paste, "paste"},
