@@ -35,7 +35,8 @@ class SettledForm : public ShellTest, public ::testing::WithParamInterface<unsig
   }
   void PlaceOne() {
     Place(kTools[Below(static_cast<int>(std::size(kTools)))], 10 + Below(300), 10 + Below(250));
-    const ControlRef object = Form().ControlSel;
+    // The press may have taken hold of an object that lay there before.
+    const ControlRef object = Form().Controls().back();
     object->Tag = "Name" + std::to_string(++made_);
     object->ToolTipText = "hint" + std::to_string(made_);
     ObjectRec& record = *tables().Form(1)->Objects(object->Id)->At(object->Index);

@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "looks/frame_metrics.h"
 #include "model/design_form.h"
 
 class QMenu;
@@ -26,7 +27,7 @@ class FormMenuStrip final : public QWidget {
   void Rebuild(const DesignForm& form);
   /// Opens a title's items by its place from the left; nothing for one that is not there.
   void Open(int title);
-  [[nodiscard]] static int HeightPixels() { return 20; }
+  [[nodiscard]] static int HeightPixels() { return looks::kMenuStripHeight; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
