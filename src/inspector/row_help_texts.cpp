@@ -18,7 +18,6 @@ constexpr RowKinds kAny = ~RowKinds{0};
 constexpr RowKinds kForm = SetOf(Kind::Form);
 constexpr RowKinds kFrame = SetOf(Kind::TransparentFrame);
 constexpr RowKinds kDialogs = Of(Kind::OpenDialog, Kind::SaveDialog);
-constexpr RowKinds kLists = Of(Kind::ListBox, Kind::ComboBox);
 constexpr RowKinds kPopUp = SetOf(Kind::PopUpMenu);
 constexpr RowKinds kUnseen = kDialogs | kPopUp | Of(Kind::Time, Kind::FileStream, Kind::WinSock);
 

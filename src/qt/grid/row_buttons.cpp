@@ -24,8 +24,8 @@ RowButtons::RowButtons(PropertySheet& sheet, QWidget* grid)
       sheet_(sheet),
       all_{Make(grid, "Boton1", "choose", "Choose..."), Make(grid, "Boton2", "drop", "List"),
            Make(grid, "Boton3", "reset", "Reset")} {
-  for (const std::size_t picker : {0, 1}) {
-    connect(all_[picker], &QToolButton::clicked, this, [this] { sheet_.PickValue(); });
+  for (QToolButton* picker : {all_[0], all_[1]}) {
+    connect(picker, &QToolButton::clicked, this, [this] { sheet_.PickValue(); });
   }
   connect(all_[2], &QToolButton::clicked, this, [this] { sheet_.ResetValue(); });
 }
