@@ -80,7 +80,7 @@ TEST_F(FileCommands, TheSaveDialogsAreAskedAsTheyShould) {
   program.Choose(QStringLiteral("mnuSave"));
   EXPECT_EQ(program.Dialogs.LastRequest.Title, "Save Form");
   EXPECT_EQ(program.Dialogs.LastRequest.Filter, "Form (*.ftn)|*.ftn|All Files|*.*");
-  EXPECT_EQ(program.Dialogs.LastRequest.StartName, "Form1");
+  EXPECT_EQ(program.Dialogs.LastRequest.StartName, "Form1.ftn");
   program.Choose(QStringLiteral("mnuSaveAs"));
   EXPECT_EQ(program.Dialogs.LastRequest.Title, "Save Project");
   EXPECT_EQ(program.Dialogs.LastRequest.Filter, "Tarnwick Project|*.tnp|All Files|*.*");
