@@ -22,36 +22,43 @@ Rows MenuBarRows(const ProjectTables& tables, int form) {
 
 }  // namespace
 
+MenuDesigner::MenuDesigner(const MenuDesign& design, project::ProjectContext& context,
+                           History& steps, int form, Rows rows, NameSet other_names)
+    : design_(design),
+      context_(context),
+      steps_(steps),
+      form_(form),
+      list_(design, NameOfForm(context.Tables, form), std::move(rows)),
+      other_names_(std::move(other_names)) {}
+
 bool MenuDesigner::Ok() {
   if (list_.HasPendingText()) list_.Enter();
+  const HistoryStep step(steps_, form_, design_.Step);
   return Store(list_.ListMenu());
 }
 
-FormMenu::FormMenu(project::ProjectContext& context, int form)
-    : MenuDesigner(MenuBarDesign(), NameOfForm(context.Tables, form),
-                   MenuBarRows(context.Tables, form), NamesBesideMenuBar(context.Tables, form)),
-      context_(context),
-      form_(form) {}
+FormMenu::FormMenu(project::ProjectContext& context, History& steps, int form)
+    : MenuDesigner(MenuBarDesign(), context, steps, form, MenuBarRows(context.Tables, form),
+                   NamesBesideMenuBar(context.Tables, form)) {}
 
 bool FormMenu::Store(const Rows& rows) {
-  return RebuildFormWithMenu(context_, form_, rows);
+  return RebuildFormWithMenu(Context(), Form(), rows);
 }
 
-FormPopUp::FormPopUp(project::ProjectContext& context, CodeOpener& code, int form, int index)
-    : MenuDesigner(PopUpDesign(), NameOfForm(context.Tables, form),
+FormPopUp::FormPopUp(project::ProjectContext& context, History& steps, CodeOpener& code, int form,
+                     int index)
+    : MenuDesigner(PopUpDesign(), context, steps, form,
                    RowsOfPopUp(RecordOrEmpty(std::as_const(context.Tables).PopUpMenus, index)),
                    NamesBesidePopUp(context.Tables, index)),
-      context_(context),
       code_(code),
-      form_(form),
       index_(index) {}
 
 bool FormPopUp::Store(const Rows& rows) {
-  ProjectTables& tables = context_.Tables;
-  const DesignForm* window = tables.IsLive(form_) ? tables.UserIfAny(form_) : nullptr;
+  ProjectTables& tables = Context().Tables;
+  const DesignForm* window = tables.IsLive(Form()) ? tables.UserIfAny(Form()) : nullptr;
   if (window == nullptr || index_ < 1 || !window->Element(Kind::PopUpMenu, index_)) return false;
   ParsePopUpRows(*tables.PopUpMenus.Ensure(index_), rows);
-  context_.Observer.ControlsChanged(form_);
+  Context().Observer.ControlsChanged(Form());
   return true;
 }
 
@@ -59,8 +66,8 @@ bool FormPopUp::Subroutines() {
   const std::string& name = List().Texts().Name;
   if (name.empty()) return false;
   std::string key = "Form";
-  AppendNumber(key, std::int64_t{form_});
-  context_.Tables.JumpKey = key.append(".").append(name);
+  AppendNumber(key, std::int64_t{Form()});
+  Context().Tables.JumpKey = key.append(".").append(name);
   code_.OpenCode();
   return true;
 }

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "designer/history/history.h"
 #include "menus/menu_preview.h"
 #include "menus/row_faults.h"
 #include "menus/row_list.h"
@@ -43,23 +44,26 @@ class MenuDesigner {
     return PreviewOf(design_, list_.RowsWithTexts());
   }
 
-  /// Takes the rows; texts that were typed and not added yet go into the selected row first. False
-  /// when form or popup menu are gone.
+  /// Takes the rows, as one step of the history; texts that were typed and not added yet go into
+  /// the selected row first. False when form or popup menu are gone.
   bool Ok();
   /// `btns`: opens the code of the item named in the second text box. False when there is no such
   /// button or the name is empty.
   virtual bool Subroutines() { return false; }
 
  protected:
-  MenuDesigner(const MenuDesign& design, std::string form_name, Rows rows, NameSet other_names)
-      : design_(design),
-        list_(design, std::move(form_name), std::move(rows)),
-        other_names_(std::move(other_names)) {}
+  MenuDesigner(const MenuDesign& design, project::ProjectContext& context, History& steps, int form,
+               Rows rows, NameSet other_names);
   /// Puts the rows into the project.
   virtual bool Store(const Rows& rows) = 0;
+  [[nodiscard]] project::ProjectContext& Context() noexcept { return context_; }
+  [[nodiscard]] int Form() const noexcept { return form_; }
 
  private:
   const MenuDesign& design_;
+  project::ProjectContext& context_;
+  History& steps_;
+  int form_;
   RowList list_;
   NameSet other_names_;
 };
@@ -68,28 +72,24 @@ class MenuDesigner {
 class FormMenu final : public MenuDesigner {
  public:
   /// Opens with the rows of the form's own menu bar.
-  FormMenu(project::ProjectContext& context, int form);
+  FormMenu(project::ProjectContext& context, History& steps, int form);
 
  private:
   bool Store(const Rows& rows) override;
-
-  project::ProjectContext& context_;
-  int form_;
 };
 
 /// The designer of one popup menu of a form.
 class FormPopUp final : public MenuDesigner {
  public:
   /// Opens with the rows stored under the popup's number.
-  FormPopUp(project::ProjectContext& context, CodeOpener& code, int form, int index);
+  FormPopUp(project::ProjectContext& context, History& steps, CodeOpener& code, int form,
+            int index);
   bool Subroutines() override;
 
  private:
   bool Store(const Rows& rows) override;
 
-  project::ProjectContext& context_;
   CodeOpener& code_;
-  int form_;
   int index_;
 };
 

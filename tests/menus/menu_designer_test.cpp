@@ -32,12 +32,13 @@ class Designers : public ::testing::Test {
   Designers() { project.Load(kFormText); }
   FakeProject project;
   ProjectTables& tables = project.Tables;
+  History steps{tables, project.Observer};
   FakeOpener code{tables};
 };
 
 TEST_F(Designers, TheMenuBarOpensWithTheFormsOwnRows) {
   tables.ClearMenuArrays();
-  const FormMenu designer(project.Context, 1);
+  const FormMenu designer(project.Context, steps, 1);
   EXPECT_EQ(designer.List().ListMenu(),
             (Rows{"&File    (mnuFile)", "...&New    (mnuNew)", "", ""}));
   EXPECT_EQ(designer.Design().Title, "Menu Edit");
@@ -46,7 +47,7 @@ TEST_F(Designers, TheMenuBarOpensWithTheFormsOwnRows) {
 
 TEST_F(Designers, AFormWithoutAMenuOpensWithTwoEmptyRows) {
   project.Load("[Form](1) {Main}\r\n");
-  EXPECT_EQ(FormMenu(project.Context, 1).List().ListMenu(), (Rows{"", ""}));
+  EXPECT_EQ(FormMenu(project.Context, steps, 1).List().ListMenu(), (Rows{"", ""}));
 }
 
 TEST_F(Designers, CancelTouchesNothing) {
@@ -55,9 +56,9 @@ TEST_F(Designers, CancelTouchesNothing) {
   const DesignForm* window = tables.CurrentForm;
   project.Ports.Log.Clear();
   {
-    FormMenu designer(project.Context, 1);
+    FormMenu designer(project.Context, steps, 1);
     designer.List().Example();
-    FormPopUp popup(project.Context, code, 1, 1);
+    FormPopUp popup(project.Context, steps, code, 1, 1);
     popup.List().DeleteAll();
   }
   EXPECT_EQ(project.Saved(), saved);
@@ -67,7 +68,7 @@ TEST_F(Designers, CancelTouchesNothing) {
 }
 
 TEST_F(Designers, OkOfTheMenuBarTakesTheRowsWithoutTheEmptyOnes) {
-  FormMenu designer(project.Context, 1);
+  FormMenu designer(project.Context, steps, 1);
   designer.List().Select(2);
   designer.List().SetTexts({"&Open", "mnuOpen"});
   designer.List().Enter();
@@ -77,21 +78,21 @@ TEST_F(Designers, OkOfTheMenuBarTakesTheRowsWithoutTheEmptyOnes) {
 }
 
 TEST_F(Designers, TypedTextThatWasNotAddedYetGoesIntoItsRowAtOk) {
-  FormMenu designer(project.Context, 1);
+  FormMenu designer(project.Context, steps, 1);
   designer.List().SetTexts({"&Data", "mnuData"});
   ASSERT_TRUE(designer.Ok());
   EXPECT_EQ(RowsOfFormMenu(project.User()).front(), "&Data    (mnuData)");
 }
 
 TEST_F(Designers, DelAllAndOkTakesTheMenuAway) {
-  FormMenu designer(project.Context, 1);
+  FormMenu designer(project.Context, steps, 1);
   designer.List().DeleteAll();
   ASSERT_TRUE(designer.Ok());
   EXPECT_FALSE(project.User().MenuBarVisible());
 }
 
 TEST_F(Designers, ARowWithoutANameIsTakenAllTheSame) {
-  FormMenu designer(project.Context, 1);
+  FormMenu designer(project.Context, steps, 1);
   designer.List().SetTexts({"&File", ""});
   designer.List().Enter();
   EXPECT_EQ(designer.Faults().front(), "The name is empty.");
@@ -101,11 +102,12 @@ TEST_F(Designers, ARowWithoutANameIsTakenAllTheSame) {
 }
 
 TEST_F(Designers, RowsOfAMenuBarAreNoNamesakesOfThemselves) {
-  for (const std::string& fault : FormMenu(project.Context, 1).Faults()) EXPECT_EQ(fault, "");
+  for (const std::string& fault : FormMenu(project.Context, steps, 1).Faults())
+    EXPECT_EQ(fault, "");
 }
 
 TEST_F(Designers, ThePopUpOpensWithItsRowsAndTheSubItemsBehindEach) {
-  const FormPopUp designer(project.Context, code, 1, 1);
+  const FormPopUp designer(project.Context, steps, code, 1, 1);
   EXPECT_EQ(designer.List().ListMenu(), (Rows{"&Copy    (ppCopy)", "...Sub    (ppSub)", "", ""}));
   EXPECT_EQ(designer.Design().Title, "PopUpMenu Edit");
   EXPECT_TRUE(designer.Design().Subroutines);
@@ -113,11 +115,11 @@ TEST_F(Designers, ThePopUpOpensWithItsRowsAndTheSubItemsBehindEach) {
 
 TEST_F(Designers, APopUpWithoutStoredRowsOpensWithTwoEmptyOnes) {
   tables.PopUpMenus.Clear();
-  EXPECT_EQ(FormPopUp(project.Context, code, 1, 1).List().ListMenu(), (Rows{"", ""}));
+  EXPECT_EQ(FormPopUp(project.Context, steps, code, 1, 1).List().ListMenu(), (Rows{"", ""}));
 }
 
 TEST_F(Designers, OkOfThePopUpStoresRowsAndLevelsAndRebuildsNothing) {
-  FormPopUp designer(project.Context, code, 1, 1);
+  FormPopUp designer(project.Context, steps, code, 1, 1);
   designer.List().Example();
   const DesignForm* window = tables.CurrentForm;
   project.Ports.Log.Clear();
@@ -133,7 +135,7 @@ TEST_F(Designers, OkOfThePopUpStoresRowsAndLevelsAndRebuildsNothing) {
 }
 
 TEST_F(Designers, APopUpWithNoRowsKeepsASingleEmptyEntriesList) {
-  FormPopUp designer(project.Context, code, 1, 1);
+  FormPopUp designer(project.Context, steps, code, 1, 1);
   designer.List().DeleteAll();
   ASSERT_TRUE(designer.Ok());
   const PopUpFormRec& popup = *tables.PopUpMenus.At(1);
@@ -144,24 +146,24 @@ TEST_F(Designers, APopUpWithNoRowsKeepsASingleEmptyEntriesList) {
 }
 
 TEST_F(Designers, OkOfAPopUpThatIsGoneStoresNothing) {
-  FormPopUp designer(project.Context, code, 1, 1);
+  FormPopUp designer(project.Context, steps, code, 1, 1);
   designer.List().Example();
   project.User().UnloadAll(Kind::PopUpMenu);
   EXPECT_FALSE(designer.Ok());
   EXPECT_EQ(tables.PopUpMenus.At(1)->Items.size(), 2U);
-  EXPECT_FALSE(FormPopUp(project.Context, code, 1, 0).Ok());
-  EXPECT_FALSE(FormPopUp(project.Context, code, 9, 1).Ok());
+  EXPECT_FALSE(FormPopUp(project.Context, steps, code, 1, 0).Ok());
+  EXPECT_FALSE(FormPopUp(project.Context, steps, code, 9, 1).Ok());
 }
 
 TEST_F(Designers, SubroutinesSetsTheJumpKeyOfTheItemAndOpensTheEditor) {
-  FormPopUp designer(project.Context, code, 1, 1);
+  FormPopUp designer(project.Context, steps, code, 1, 1);
   designer.List().Select(1);
   EXPECT_TRUE(designer.Subroutines());
   EXPECT_EQ(code.Opened, std::vector<std::string>{"Form1.ppSub"});
 }
 
 TEST_F(Designers, SubroutinesWithoutANameDoesNothing) {
-  FormPopUp designer(project.Context, code, 1, 1);
+  FormPopUp designer(project.Context, steps, code, 1, 1);
   designer.List().Select(2);
   EXPECT_FALSE(designer.Subroutines());
   EXPECT_TRUE(code.Opened.empty());
@@ -169,15 +171,50 @@ TEST_F(Designers, SubroutinesWithoutANameDoesNothing) {
 }
 
 TEST_F(Designers, TheMenuBarHasNoSubroutines) {
-  FormMenu designer(project.Context, 1);
+  FormMenu designer(project.Context, steps, 1);
   EXPECT_FALSE(designer.Subroutines());
 }
 
 TEST_F(Designers, TheExampleTakesTheFormsNameAsItIsNow) {
   project.Form().Name = "Renamed";
-  FormMenu designer(project.Context, 1);
+  FormMenu designer(project.Context, steps, 1);
   designer.List().Example();
   EXPECT_EQ(designer.List().Texts().Name, "RenamedmnuFile");
+}
+
+TEST_F(Designers, OkOfTheMenuBarIsOneStepThatUndoTakesBack) {
+  tables.EventTable.Replace("Form1.mnuNew.OnClick", "New");
+  const std::string before = project.Saved();
+  FormMenu designer(project.Context, steps, 1);
+  designer.List().Example();
+  ASSERT_TRUE(designer.Ok());
+  const std::string after = project.Saved();
+  const auto items = tables.MenuItems.size();
+  EXPECT_EQ(steps.UndoName(), "Menu Edit");
+  ASSERT_TRUE(steps.Undo().has_value());
+  EXPECT_EQ(project.Saved(), before);
+  EXPECT_EQ(RowsOfFormMenu(project.User()), (Rows{"&File    (mnuFile)", "...&New    (mnuNew)"}));
+  EXPECT_EQ(tables.MenuItems.size(), 2U);
+  ASSERT_TRUE(steps.Redo().has_value());
+  EXPECT_EQ(project.Saved(), after);
+  EXPECT_EQ(tables.MenuItems.size(), items);
+}
+
+TEST_F(Designers, OkOfAPopUpIsOneStepThatUndoTakesBack) {
+  FormPopUp designer(project.Context, steps, code, 1, 1);
+  designer.List().Example();
+  ASSERT_TRUE(designer.Ok());
+  EXPECT_EQ(steps.UndoName(), "PopUpMenu Edit");
+  ASSERT_TRUE(steps.Undo().has_value());
+  EXPECT_EQ(RowsOfPopUp(*tables.PopUpMenus.At(1)),
+            (Rows{"&Copy    (ppCopy)", "...Sub    (ppSub)"}));
+  ASSERT_TRUE(steps.Redo().has_value());
+  EXPECT_EQ(tables.PopUpMenus.At(1)->Items.size(), 8U);
+}
+
+TEST_F(Designers, CancelMakesNoStep) {
+  { FormMenu(project.Context, steps, 1).List().Example(); }
+  EXPECT_FALSE(steps.CanUndo());
 }
 
 }  // namespace

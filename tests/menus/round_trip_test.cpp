@@ -69,7 +69,8 @@ TEST(MenuRoundTrip, RowsOfAMenuBarComeBackFromArraysAndFile) {
     FakeProject opened;
     opened.Load(project.Saved());
     ASSERT_EQ(RowsOfFormMenu(opened.User()), rows);
-    EXPECT_EQ(FormMenu(opened.Context, 1).List().HasText(), !rows.empty());
+    History steps(opened.Tables, opened.Observer);
+    EXPECT_EQ(FormMenu(opened.Context, steps, 1).List().HasText(), !rows.empty());
     // The arrays of the project that was opened are those of the rows.
     ProjectTables parsed;
     ParseMenuRows(parsed, rows);

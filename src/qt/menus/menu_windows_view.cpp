@@ -34,7 +34,7 @@ class HideWatch final : public QObject {
 void MenuWindowsView::OpenMenuEdit() {
   const DesignForm* form = shell_.Tables().CurrentForm;
   if (form == nullptr || dialog_ != nullptr) return;
-  menus::FormMenu designer(shell_.Context(), form->Number());
+  menus::FormMenu designer(shell_.Context(), shell_.Steps(), form->Number());
   Run(designer);
 }
 
@@ -44,7 +44,7 @@ void MenuWindowsView::OpenPopUpEdit(int form, int index) {
     code_.BringCodeToFront();
     return;
   }
-  menus::FormPopUp designer(shell_.Context(), *this, form, index);
+  menus::FormPopUp designer(shell_.Context(), shell_.Steps(), *this, form, index);
   Run(designer);
 }
 
