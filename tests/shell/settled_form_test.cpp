@@ -90,7 +90,7 @@ TEST_P(SettledForm, EveryObjectKeepsItsOwnValuesAndCode) {
   GeneratorState state;
   const std::string program = GenerateSource(tables(), state);
   for (const auto& [name, own] : before) {
-    const std::size_t sub = program.find("Sub " + name + "_");
+    const std::size_t sub = program.find("\nSub " + name + "_");
     ASSERT_NE(sub, std::string::npos) << name << ", seed " << GetParam();
     const std::size_t code = program.find(own.Code, sub);
     const std::size_t end = program.find("End Sub", sub);
