@@ -180,6 +180,8 @@ TEST_F(Focus, TheRowThatRemovesAFormShowsTheAmpersandOfItsName) {
 
 TEST_F(Focus, TheWindowFitsTheScreenAndComesBackAsItWasLeft) {
   const QRect free = program.Window().screen()->availableGeometry();
+  program.Window().TakePlacement({});
+  Program::Settle();
   EXPECT_TRUE(free.contains(program.Window().geometry()));
   program.Window().setGeometry(free.x() + 40, free.y() + 50, 700, 520);
   Program::Settle();

@@ -125,6 +125,8 @@ Program::Program(FileDialogs dialogs) {
   view_ = std::make_unique<MainView>(*window_, *shell_);
   window_->show();
   view_->Load();
+  // Of one size whatever the screen: the tests press places of it.
+  window_->resize(1400, 900);
   EXPECT_TRUE(QTest::qWaitFor(
       [this] {
         return shell_->Tables().CurrentForm != nullptr &&

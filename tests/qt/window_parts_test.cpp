@@ -51,6 +51,9 @@ const std::vector<Column>& ExpectedMenus() {
        {{"mnuUndo", "&Undo", "Ctrl+Z"},
         {"mnuRedo", "&Redo", "Ctrl+Y"},
         line,
+        {"mnuUndo", "&Undo", "Ctrl+Z"},
+        {"mnuRedo", "&Redo", "Ctrl+Y"},
+        line,
         {"mnuCut", "Cu&t", "Ctrl+X"},
         {"mnuCopy", "&Copy", "Ctrl+C"},
         {"mnuPaste", "&Paste", "Ctrl+V"},
@@ -174,13 +177,15 @@ TEST(Menus, OnAFreshFormObjectCommandsAreOffAndOthersOn) {
   Program program;
   EXPECT_FALSE(program.Action(QStringLiteral("mnuFrente")).isEnabled());
   EXPECT_FALSE(program.Action(QStringLiteral("mnuFondo")).isEnabled());
+  EXPECT_FALSE(program.Action(QStringLiteral("mnuUndo")).isEnabled());
+  EXPECT_FALSE(program.Action(QStringLiteral("mnuRedo")).isEnabled());
   for (const Column& column : ExpectedMenus()) {
     for (const Row& row : column.Rows) {
       const QString name = QString::fromLatin1(row.Name);
-      if (name.isEmpty() || name == QLatin1String("mnuFrente") ||
-          name == QLatin1String("mnuFondo")) {
-        continue;
-      }
+      // Nothing is selected, and no step has been made.
+      const bool off = name == QLatin1String("mnuFrente") || name == QLatin1String("mnuFondo") ||
+                       name == QLatin1String("mnuUndo") || name == QLatin1String("mnuRedo");
+      if (name.isEmpty() || off) continue;
       EXPECT_TRUE(program.Action(name).isEnabled()) << row.Name;
     }
   }
