@@ -362,7 +362,10 @@ class RandomUser {
       ASSERT_EQ(program_.Window().Forms().Window(form) != nullptr, is_live) << form;
     }
     ASSERT_EQ(program_.Find<QListWidget>(QStringLiteral("ListaFrms")).count(), live);
-    ASSERT_EQ(HasForm(), live > 0);
+    // With all windows closed there are forms and no current one.
+    if (HasForm()) {
+      ASSERT_GT(live, 0);
+    }
     ASSERT_EQ(program_.Find<QLabel>(QStringLiteral("SelectionText")).text().toStdString().empty(),
               !HasForm());
     if (!HasForm()) return;

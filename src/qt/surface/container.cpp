@@ -43,8 +43,9 @@ DesignWindow& Container::Open(int form, DesignForm& design, DesignWindowDoors do
   const std::optional<QPoint> stood = before == nullptr || before->State() == WindowState::Maximised
                                           ? std::nullopt
                                           : std::optional(before->pos());
+  const bool shown = before != nullptr && !before->isHidden();
   Close(form);
-  doors.Visible = [this] { return VisiblePart(); };
+  doors.Visible = [this] { return RoomToFill(); };
   auto* window = new DesignWindow(design, pictures_, texts_, std::move(doors), canvas_);
   if (stood) {
     window->move(*stood);
@@ -54,6 +55,10 @@ DesignWindow& Container::Open(int form, DesignForm& design, DesignWindowDoors do
   }
   window->installEventFilter(this);
   windows_[form] = window;
+  if (shown) {
+    window->show();
+    window->raise();
+  }
   return *window;
 }
 
@@ -123,6 +128,24 @@ QRect Container::VisiblePart() const {
   return {-canvas_->pos(), viewport()->size()};
 }
 
+QRect Container::RoomToFill() const {
+  // Scroll bars that no window needs any more go with the next event only.
+  const QSize whole = maximumViewportSize();
+  const QSize needed = NeededByWindows();
+  const bool all_fits = needed.width() <= whole.width() && needed.height() <= whole.height();
+  return all_fits ? QRect(QPoint(0, 0), whole) : VisiblePart();
+}
+
+QSize Container::NeededByWindows() const {
+  QSize size(0, 0);
+  for (const auto& [number, window] : windows_) {
+    if (window->isHidden() || window->State() == WindowState::Maximised) continue;
+    const QRect place = window->geometry();
+    size = size.expandedTo(QSize(place.right() + kMargin, place.bottom() + kMargin));
+  }
+  return size;
+}
+
 void Container::FitMaximised() {
   for (const auto& [number, window] : windows_) {
     if (window->State() == WindowState::Maximised) window->Fill(VisiblePart());
@@ -138,12 +161,7 @@ void Container::LookAtFilesAgain() {
 }
 
 void Container::FitCanvas() {
-  QSize size = viewport()->size();
-  for (const auto& [number, window] : windows_) {
-    if (window->isHidden() || window->State() == WindowState::Maximised) continue;
-    const QRect place = window->geometry();
-    size = size.expandedTo(QSize(place.right() + kMargin, place.bottom() + kMargin));
-  }
+  const QSize size = viewport()->size().expandedTo(NeededByWindows());
   if (size != canvas_->size()) canvas_->resize(size);
 }
 

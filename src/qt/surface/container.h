@@ -41,6 +41,10 @@ class Container final : public QScrollArea {
 
  private:
   void FitCanvas();
+  /// The rectangle of the canvas that a maximised window fills.
+  [[nodiscard]] QRect RoomToFill() const;
+  /// The size up to the last pixel of the windows that are not maximised.
+  [[nodiscard]] QSize NeededByWindows() const;
   void FitMaximised();
   void LookAtFilesAgain();
 
