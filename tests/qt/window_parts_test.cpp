@@ -110,7 +110,9 @@ TEST(Menus, EveryCommandIsThereWithCaptionAndKey) {
       const QAction* row = rows[static_cast<qsizetype>(j)];
       EXPECT_EQ(row->isSeparator(), *want.Name == '\0') << want.Caption;
       if (row->isSeparator()) continue;
-      EXPECT_EQ(row->objectName(), QString::fromLatin1(want.Name));
+      // The row of a menu within the menu has the name of that.
+      const QString name = row->menu() != nullptr ? row->menu()->objectName() : row->objectName();
+      EXPECT_EQ(name, QString::fromLatin1(want.Name));
       EXPECT_EQ(row->text(), QString::fromLatin1(want.Caption));
       EXPECT_EQ(row->shortcut(), QKeySequence(QString::fromLatin1(want.Key))) << want.Caption;
     }
@@ -185,7 +187,8 @@ TEST(Menus, OnAFreshFormObjectCommandsAreOffAndOthersOn) {
       // Nothing is selected, and no step has been made.
       const bool off = name == QLatin1String("mnuFrente") || name == QLatin1String("mnuFondo") ||
                        name == QLatin1String("mnuUndo") || name == QLatin1String("mnuRedo");
-      if (name.isEmpty() || off) continue;
+      const bool is_menu = name == QLatin1String("mnuRecent");
+      if (name.isEmpty() || off || is_menu) continue;
       EXPECT_TRUE(program.Action(name).isEnabled()) << row.Name;
     }
   }

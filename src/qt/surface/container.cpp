@@ -44,6 +44,8 @@ DesignWindow& Container::Open(int form, DesignForm& design, DesignWindowDoors do
                                           ? std::nullopt
                                           : std::optional(before->pos());
   const bool shown = before != nullptr && !before->isHidden();
+  const QWidget* const focus = before == nullptr ? nullptr : before->window()->focusWidget();
+  const bool focused = focus != nullptr && before->isAncestorOf(focus);
   Close(form);
   doors.Visible = [this] { return RoomToFill(); };
   auto* window = new DesignWindow(design, pictures_, texts_, std::move(doors), canvas_);
@@ -59,6 +61,7 @@ DesignWindow& Container::Open(int form, DesignForm& design, DesignWindowDoors do
     window->show();
     window->raise();
   }
+  if (focused) window->Surface().setFocus();
   return *window;
 }
 
@@ -148,7 +151,7 @@ QSize Container::NeededByWindows() const {
 
 void Container::FitMaximised() {
   for (const auto& [number, window] : windows_) {
-    if (window->State() == WindowState::Maximised) window->Fill(VisiblePart());
+    if (window->State() == WindowState::Maximised) window->Fill(RoomToFill());
   }
 }
 
