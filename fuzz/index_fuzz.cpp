@@ -13,6 +13,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   project.LoadIndex(std::string(reinterpret_cast<const char*>(data), size));
   // Whatever the index says, there is a project to work on, and it can be saved.
   if (project.Tables.FormsCount < 1 || project.Tables.LoadingProject != 0) std::abort();
-  tarnwick::SaveProject(project.Context, project.Tables.ProjectFile);
+  tarnwick::project::SaveProject(project.Context, project.Tables.ProjectFile);
   return 0;
 }
