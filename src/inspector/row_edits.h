@@ -13,7 +13,7 @@
 namespace tarnwick {
 
 /// Stores values and sets going what follows from them: the window is painted again, pictures are
-/// loaded, handles move, views are told. Each method returns whether something was stored.
+/// loaded, handles move, views are notified. Each method returns whether something was stored.
 class RowEdits {
  public:
   RowEdits(ProjectTables& tables, ProjectObserver& observer, InspectorHost& host)
@@ -31,7 +31,7 @@ class RowEdits {
   void Font(const RowTarget& target, const FontChoice& font);
   /// Takes the picture off a control.
   void RemovePicture(const RowTarget& target);
-  /// Gives an object, or a form, another name; whatever shows the old one is told.
+  /// Gives an object, or a form, another name; all views of the old one are notified.
   void Rename(const RowTarget& target, const std::string& name);
 
  private:

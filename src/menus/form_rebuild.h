@@ -6,7 +6,7 @@
 
 namespace tarnwick::menus {
 
-/// Gives a form the menu of the rows. The menu arrays are filled anew; the form is written, with
+/// Gives a form the menu of the rows. The menu arrays are refilled; the form is written, with
 /// this menu, to "\~1.txt" in the program folder, and read back into its own number, so that it is
 /// then what its saved file would make of it. No row with text means no menu.
 ///

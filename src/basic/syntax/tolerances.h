@@ -26,7 +26,7 @@ enum class Tolerance : std::uint8_t {
   UnboundPicture,
 };
 
-/// Name of the row (its golden case has the same), what the user is told ("" for nothing), and what
+/// Name of the row (its golden case has the same), the message to the user ("" for none), and what
 /// he can do.
 struct ToleranceRow {
   Tolerance Which;

@@ -10,7 +10,7 @@
 namespace tarnwick::basic {
 
 /// A value with its kind. Copies share the body and count it; a copy of a Text behaves like a
-/// copy of its bytes, as nobody changes a shared body.
+/// copy of its bytes, because a shared body never changes.
 class Value {
  public:
   Value() = default;
