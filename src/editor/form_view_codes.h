@@ -25,6 +25,8 @@ class FormViewCodes {
   /// Shows the declarations of a form; false, and nothing changed, for a form that is not there.
   bool Open(int form);
   [[nodiscard]] bool IsOpen() const noexcept { return form_ != 0; }
+  /// Number of the form that is open; 0 while the window is closed.
+  [[nodiscard]] int Form() const noexcept { return form_; }
   /// "Form: Main  (Public Declarations)".
   [[nodiscard]] const std::string& Caption() const noexcept { return caption_; }
   /// `Command1`: stores the text and closes.

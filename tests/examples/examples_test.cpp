@@ -16,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include "codegen/program_source.h"
+#include "editor/code_marks.h"
 #include "fakes/build_paths.h"
 #include "fakes/fake_ports.h"
 #include "fakes/golden_text.h"
@@ -152,6 +153,27 @@ TEST_P(ExampleProject, FindsItsPicturesBesideTheProject) {
     const std::size_t open = line.find('"') + 1;
     EXPECT_TRUE(example.Files.Exists(std::string(line.substr(open, line.rfind('"') - open))))
         << line;
+  }
+}
+
+TEST_P(ExampleProject, HasNoMarkInItsCode) {
+  Example example(kExamples / GetParam());
+  example.Load(GetParam() + ".tnp");
+  editor::CodeMarks marks(example.Tables, example.Files);
+  std::size_t bodies = 0;
+  example.Tables.EventTable.ForEach([&](const std::string& key, const std::string& code) {
+    for (const editor::CodeMark& mark : marks.OfEvent(code)) {
+      ADD_FAILURE() << key << " line " << mark.Line << ": " << mark.Text;
+    }
+    ++bodies;
+  });
+  EXPECT_GE(bodies, 1U);
+  for (int form = 1; form <= example.Tables.FormsCount; ++form) {
+    for (const editor::CodeMark& mark :
+         marks.OfDeclarations(form, example.Tables.Form(form)->DeclarePbl)) {
+      ADD_FAILURE() << "declarations of form " << form << " line " << mark.Line << ": "
+                    << mark.Text;
+    }
   }
 }
 

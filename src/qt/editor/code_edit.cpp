@@ -93,7 +93,7 @@ void CodeEdit::SetUp(std::string_view font_name) {
   setLexer(lexer_);
   setMarginType(kNumberMargin, NumberMargin);
   setMarginLineNumbers(kNumberMargin, true);
-  setMarginWidth(1, 0);
+  setMarginWidth(kSignMargin, 0);
   setMarginsFont(font);
   SetColors();
   FitLineNumbers();

@@ -22,6 +22,9 @@ class CodeEdit final : public QsciScintilla, public editor::EditWidget {
   Q_OBJECT
 
  public:
+  /// The margin between line numbers and text, for signs that stand beside a line.
+  static constexpr int kSignMargin = 1;
+
   /// `font_name` may name no font at all: the widget falls back to its default one.
   CodeEdit(const QString& name, const std::vector<std::string>& keywords,
            const editor::MemberLookup& lookup, std::string_view font_name, QWidget* parent);

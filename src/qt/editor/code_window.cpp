@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <array>
 
+#include "qt/editor/code_marks_view.h"
 #include "qt/editor/find_dialog.h"
 #include "qt/editor/function_panel_view.h"
 #include "qt/kit/icon_set.h"
@@ -73,6 +74,10 @@ CodeWindow::CodeWindow(editor::FormCodigo& logic, CodeEdit& code, const CodeWind
       parts_(new QSplitter(Qt::Horizontal)),
       functions_(new FunctionPanelView(logic.Functions(), nullptr)),
       find_(new FindDialog(code, this)),
+      mark_text_(new QLabel),
+      marks_(new CodeMarksView(
+          code, *mark_text_,
+          [this](const std::string& text) { return ports_.Marks.OfEvent(text); })),
       bar_(new QToolBar) {
   setObjectName(QStringLiteral("FormCodigo"));
   setWindowIcon(IconOf(QStringLiteral("code")));
@@ -82,6 +87,7 @@ CodeWindow::CodeWindow(editor::FormCodigo& logic, CodeEdit& code, const CodeWind
   connect(events_, &QComboBox::activated, this, [this](int row) {
     logic_.Events_Click(row);
     Refresh();
+    marks_->Restart();
     code_.SetFocus();
   });
   connect(functions_, &FunctionPanelView::CloseWanted, this, [this] {
@@ -122,6 +128,7 @@ void CodeWindow::BuildTools() {
   key(QKeySequence(Qt::Key_F3), [this] { find_->Find(true); });
   key(QKeySequence(Qt::SHIFT | Qt::Key_F3), [this] { find_->Find(false); });
   key(QKeySequence(Qt::CTRL | Qt::Key_S), [this] { ports_.Commands.Run(Command::Save); });
+  key(QKeySequence(Qt::Key_F8), [this] { marks_->GoToNext(); });
   key(QKeySequence(Qt::Key_F5), [this] { ports_.Commands.Run(Command::Compile); });
   key(QKeySequence(Qt::CTRL | Qt::Key_Return), [this] { logic_.Accept(); });
   key(QKeySequence(Qt::CTRL | Qt::Key_Enter), [this] { logic_.Accept(); });
@@ -176,7 +183,8 @@ void CodeWindow::BuildLayout() {
   connect(cancel, &QPushButton::clicked, this, [this] { logic_.Cancel(); });
   auto* buttons = new QHBoxLayout;
   buttons->setContentsMargins(kRoom, 0, kRoom, kRoom);
-  buttons->addStretch(1);
+  mark_text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  buttons->addWidget(mark_text_, 1);
   buttons->addWidget(ok);
   buttons->addWidget(cancel);
   auto* head = new QVBoxLayout;
@@ -209,6 +217,8 @@ void CodeWindow::ShowOpened() {
   Refresh();
   functions_->Refresh(logic_.ComboSearch());
   ShowFunctions(logic_.WndFuncVisible());
+  ports_.Marks.ForgetFiles();
+  marks_->Restart();
   BringToFront();
   code_.SetFocus();
 }

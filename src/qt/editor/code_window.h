@@ -4,17 +4,20 @@
 #include <QWidget>
 #include <memory>
 
+#include "editor/code_marks.h"
 #include "editor/form_codigo.h"
 #include "qt/editor/code_edit.h"
 #include "qt/editor/code_tools.h"
 
 class QComboBox;
 class QFrame;
+class QLabel;
 class QSplitter;
 class QToolBar;
 
 namespace tarnwick {
 
+class CodeMarksView;
 class CommandCenter;
 class FindDialog;
 class FunctionPanelView;
@@ -25,6 +28,7 @@ struct CodeWindowPorts {
   DialogPort& Dialogs;
   Settings& SettingsFile;
   CommandCenter& Commands;
+  editor::CodeMarks& Marks;
 };
 
 /// Shows one event's code with its list of events, the function panel, and the commands of a text.
@@ -67,6 +71,8 @@ class CodeWindow final : public QWidget {
   QSplitter* parts_;
   FunctionPanelView* functions_;
   FindDialog* find_;
+  QLabel* mark_text_;
+  CodeMarksView* marks_;
   QToolBar* bar_;
   std::unique_ptr<CodeTools> tools_;
 };

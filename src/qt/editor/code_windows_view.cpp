@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+#include "editor/code_marks.h"
 #include "qt/editor/code_edit.h"
 #include "qt/editor/code_window.h"
 #include "qt/editor/declarations_window.h"
@@ -31,11 +32,13 @@ struct CodeWindowsView::Parts {
                                  DeclareLookup, editor::kDeclarationsFont, nullptr)),
         Codigo(shell.Tables(), shell.Support(), shell.SettingsFile(), *CodeText, CodeHost),
         Declarations(shell.Tables(), *DeclareText, DeclareHost),
+        Marks(shell.Tables(), shell.Context().Files),
         Code(new CodeWindow(Codigo, *CodeText,
                             {shell.Context().Files, shell.Context().Dialogs, shell.SettingsFile(),
-                             shell.Commands()},
+                             shell.Commands(), Marks},
                             &parent)),
-        Declare(new DeclarationsWindow(Declarations, *DeclareText, shell.Commands(), &parent)) {}
+        Declare(
+            new DeclarationsWindow(Declarations, *DeclareText, Marks, shell.Commands(), &parent)) {}
 
   editor::MemberLookup CodeLookup;
   editor::MemberLookup DeclareLookup;
@@ -46,6 +49,7 @@ struct CodeWindowsView::Parts {
   CodeEdit* DeclareText;
   editor::FormCodigo Codigo;
   editor::FormViewCodes Declarations;
+  editor::CodeMarks Marks;
   CodeWindow* Code;
   DeclarationsWindow* Declare;
 };

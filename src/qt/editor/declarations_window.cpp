@@ -1,6 +1,7 @@
 #include "qt/editor/declarations_window.h"
 
 #include <QCloseEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
@@ -8,6 +9,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "qt/editor/code_marks_view.h"
 #include "qt/editor/find_dialog.h"
 #include "qt/kit/icon_set.h"
 #include "qt/kit/text_bridge.h"
@@ -34,10 +36,12 @@ constexpr QSize kStartSize(700, 460);
 }  // namespace
 
 DeclarationsWindow::DeclarationsWindow(editor::FormViewCodes& logic, CodeEdit& code,
-                                       CommandCenter& commands, QWidget* parent)
+                                       editor::CodeMarks& marks, CommandCenter& commands,
+                                       QWidget* parent)
     : QWidget(parent, Qt::Window),
       logic_(logic),
       code_(code),
+      checks_(marks),
       find_(new FindDialog(code, this)),
       bar_(new QToolBar) {
   setObjectName(QStringLiteral("FormViewCodes"));
@@ -62,7 +66,13 @@ DeclarationsWindow::DeclarationsWindow(editor::FormViewCodes& logic, CodeEdit& c
   connect(ok, &QPushButton::clicked, this, [this] { logic_.Accept(); });
   auto* buttons = new QHBoxLayout;
   buttons->setContentsMargins(kRoom, 0, kRoom, kRoom);
-  buttons->addStretch(1);
+  auto* mark_text = new QLabel;
+  mark_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  marks_ = new CodeMarksView(code_, *mark_text, [this](const std::string& text) {
+    return checks_.OfDeclarations(logic_.Form(), text);
+  });
+  key(QKeySequence(Qt::Key_F8), [this] { marks_->GoToNext(); });
+  buttons->addWidget(mark_text, 1);
   buttons->addWidget(ok);
   code_.setFrameShape(QFrame::NoFrame);
   auto* whole = new QVBoxLayout(this);
@@ -84,6 +94,8 @@ DeclarationsWindow::~DeclarationsWindow() = default;
 
 void DeclarationsWindow::ShowOpened() {
   setWindowTitle(ToQString(logic_.Caption()));
+  checks_.ForgetFiles();
+  marks_->Restart();
   if (isMinimized()) showNormal();
   show();
   raise();

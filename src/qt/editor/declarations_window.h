@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <memory>
 
+#include "editor/code_marks.h"
 #include "editor/form_view_codes.h"
 #include "qt/editor/code_edit.h"
 #include "qt/editor/code_tools.h"
@@ -12,6 +13,7 @@ class QToolBar;
 
 namespace tarnwick {
 
+class CodeMarksView;
 class CommandCenter;
 class FindDialog;
 
@@ -21,8 +23,8 @@ class DeclarationsWindow final : public QWidget {
 
  public:
   /// Takes `code`, which `logic` works on, as the child that shows the text.
-  DeclarationsWindow(editor::FormViewCodes& logic, CodeEdit& code, CommandCenter& commands,
-                     QWidget* parent);
+  DeclarationsWindow(editor::FormViewCodes& logic, CodeEdit& code, editor::CodeMarks& marks,
+                     CommandCenter& commands, QWidget* parent);
   ~DeclarationsWindow() override;
 
   void ShowOpened();
@@ -34,7 +36,9 @@ class DeclarationsWindow final : public QWidget {
  private:
   editor::FormViewCodes& logic_;
   CodeEdit& code_;
+  editor::CodeMarks& checks_;
   FindDialog* find_;
+  CodeMarksView* marks_;
   QToolBar* bar_;
   std::unique_ptr<CodeTools> tools_;
 };
