@@ -13,11 +13,12 @@ namespace tarnwick::objects {
 /// What a class is; joined with `|`.
 enum class ClassFlag : std::uint8_t {
   Plain = 0,
-  Widget = 1,   ///< shown: it is realised with its form
-  Window = 2,   ///< a window of its own
-  Parent = 4,   ///< may be the Parent of others
-  Values = 8,   ///< `x = y` copies the values
-  BuiltIn = 16  ///< there without a DIM, and only once
+  Widget = 1,    ///< shown: it is realised with its form
+  Window = 2,    ///< a window of its own
+  Parent = 4,    ///< may be the Parent of others
+  Values = 8,    ///< `x = y` copies the values
+  BuiltIn = 16,  ///< there without a DIM, and only once
+  AtOnce = 32    ///< realised as soon as it is made
 };
 [[nodiscard]] constexpr ClassFlag operator|(ClassFlag a, ClassFlag b) noexcept {
   return static_cast<ClassFlag>(static_cast<unsigned>(a) | static_cast<unsigned>(b));

@@ -71,10 +71,11 @@ struct Panels {
 
 /// What a form keeps besides its properties.
 struct FormState {
-  bool Centered = false;   ///< placed in the middle of the screen when it is shown
-  bool Modal = false;      ///< ShowModal waits for it
-  bool Shown = false;      ///< has been shown once
-  std::int64_t Icons = 7;  ///< buttons of its title bar, bit n: icon n
+  bool Centered = false;           ///< placed in the middle of the screen when it is shown
+  bool Modal = false;              ///< ShowModal waits for it
+  bool Shown = false;              ///< has been shown once
+  ObjectId Menu = ObjectId::None;  ///< the main menu that hangs on it
+  std::int64_t Icons = 7;          ///< buttons of its title bar, bit n: icon n
 };
 
 using ObjectState = std::variant<std::monostate, ListItems, MenuRows, StreamState, PickedFiles,
@@ -90,7 +91,9 @@ struct ObjectRecord {
   std::vector<ObjectId> Children;       ///< in the order in which they got this parent
   std::vector<Value> Values;            ///< of the properties, by `MemberInfo::Slot`
   std::vector<basic::EventHook> Hooks;  ///< of the events, by `MemberInfo::Slot`
+  std::uint64_t Order = 0;              ///< grows with each object that is made
   int Handlers = 0;                     ///< handlers of its events that are running
+  bool Drawn = false;                   ///< a drawing method was called
   bool Realised = false;                ///< a widget shows it
   ObjectState State;
 

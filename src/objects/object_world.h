@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -135,6 +136,7 @@ class ObjectWorld final : public basic::ObjectHost {
   void FormVisible(bool visible) { visible_forms_ += visible ? 1 : -1; }
   /// Waits for the user while a form is shown modal; false when no event will ever come.
   bool WaitForUser();
+  /// Windows that wait inside each other now.
   int& ModalLoops() { return modal_loops_; }
 
  private:
@@ -150,6 +152,7 @@ class ObjectWorld final : public basic::ObjectHost {
   ProgramFacts facts_;
   std::vector<Cell> cells_;
   std::vector<std::uint32_t> free_cells_;
+  std::uint64_t made_ = 0;
   std::vector<ObjectId> built_in_;  ///< by class
   std::string reason_;
   int visible_forms_ = 0;

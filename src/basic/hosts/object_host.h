@@ -2,6 +2,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "basic/vm/value.h"
@@ -61,6 +62,8 @@ class EventSink {
   /// the procedure leaves in its parameters flows back into `arguments`. False when the program is
   /// ending (END, error, stop): nested event loops then return at once.
   virtual bool Raise(ObjectId sender, const EventHook& hook, std::span<Value> arguments) = 0;
+  /// A note for the user about the instruction that is running.
+  virtual void Note(std::string text) = 0;
   /// Application.Terminate: the program ends at the next instruction.
   virtual void Terminate() = 0;
   /// True from the moment the program is to end.

@@ -43,6 +43,7 @@ void MachineState::ReadArguments(const Instruction* words, std::vector<Value>& a
     } else {
       arguments.push_back(Value::OfSlot(argument.Kind, slot));
     }
+    if (argument.Reference) arguments.back().SetStored(argument.Stored);
   }
 }
 

@@ -124,6 +124,11 @@ bool Machine::Raise(ObjectId sender, const EventHook& hook, std::span<Value> arg
   return !state.Ending;
 }
 
+void Machine::Note(std::string text) {
+  state_->Library.Notes.push_back(std::move(text));
+  if (!state_->Frames.empty()) state_->TakeNotes();
+}
+
 void Machine::Terminate() {
   state_->EndWith(RunEnd::Ended);
 }

@@ -36,6 +36,7 @@ class Machine : public EventSink {
   void Stop();
 
   bool Raise(ObjectId sender, const EventHook& hook, std::span<Value> arguments) override;
+  void Note(std::string text) override;
   void Terminate() override;
   [[nodiscard]] bool Ending() const override;
 

@@ -14,13 +14,16 @@ namespace tarnwick::basic {
 class Value {
  public:
   Value() = default;
-  Value(const Value& other) : kind_(other.kind_), slot_(other.slot_) {
+  Value(const Value& other) : kind_(other.kind_), stored_(other.stored_), slot_(other.slot_) {
     if (IsCounted(kind_)) Retain(slot_.B);
   }
   Value(Value&& other) noexcept
-      : kind_(std::exchange(other.kind_, SlotKind::Empty)), slot_(std::exchange(other.slot_, {})) {}
+      : kind_(std::exchange(other.kind_, SlotKind::Empty)),
+        stored_(other.stored_),
+        slot_(std::exchange(other.slot_, {})) {}
   Value& operator=(Value other) noexcept {
     std::swap(kind_, other.kind_);
+    std::swap(stored_, other.stored_);
     std::swap(slot_, other.slot_);
     return *this;
   }
@@ -47,6 +50,9 @@ class Value {
   [[nodiscard]] static Value TakeSlot(SlotKind kind, Slot slot) { return {kind, slot}; }
 
   [[nodiscard]] SlotKind Kind() const { return kind_; }
+  /// Width of the variable whose value it is, where it was handed over by reference; else None.
+  [[nodiscard]] Storage Stored() const { return stored_; }
+  void SetStored(Storage stored) { stored_ = stored; }
   [[nodiscard]] Slot Raw() const { return slot_; }
   /// Gives the slot with its count away; the value is Empty afterwards.
   [[nodiscard]] Slot Give() {
@@ -85,6 +91,7 @@ class Value {
   Value(SlotKind kind, Slot slot) : kind_(kind), slot_(slot) {}
 
   SlotKind kind_ = SlotKind::Empty;
+  Storage stored_ = Storage::None;
   Slot slot_{0};
 };
 
