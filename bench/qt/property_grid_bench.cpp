@@ -57,8 +57,8 @@ struct Desk {
   }
   void Press(const ControlRef& control) {
     FormUser& surface = *Shell.CurrentUser();
-    surface.ObjectMouseDown(control, kLeftButton, 0, kPixel, kPixel);
-    surface.MouseUp();
+    surface.Gestures().ObjectMouseDown(control, kLeftButton, 0, kPixel, kPixel);
+    surface.Gestures().MouseUp();
     QApplication::processEvents();
   }
 };

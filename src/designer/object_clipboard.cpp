@@ -146,9 +146,4 @@ void ObjectClipboard::NumberMoved(Kind kind, int index, bool back) noexcept {
   if (!back && CopyIndex > index) --CopyIndex;
 }
 
-void ObjectClipboard::ForgetSource() noexcept {
-  CopySource = nullptr;
-  last_pasted_ = nullptr;
-}
-
 }  // namespace tarnwick

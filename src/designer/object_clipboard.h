@@ -20,15 +20,13 @@ class ObjectClipboard {
 
   /// Remembers the selection of the form.
   void Copy(const DesignForm& form);
-  /// Makes a new object like the source and answers it, visible and not yet selected. Null when
+  /// Makes a new object like the source and returns it, visible and not yet selected. Null when
   /// nothing was copied or its kind has no copies.
   ControlRef Paste(ProjectTables& tables, DesignForm& form);
   /// True when the source still stands on the form.
   [[nodiscard]] bool SourceIsLive(const DesignForm& form) const noexcept;
   /// An object's number was taken out of its kind, or put back: the number of the source follows.
   void NumberMoved(Kind kind, int index, bool back) noexcept;
-  /// Forgets the source; what is `CopyReady` stays.
-  void ForgetSource() noexcept;
 
  private:
   ControlRef last_pasted_;

@@ -5,10 +5,9 @@
 
 namespace tarnwick {
 
-/// For runs without windows: a screen of common height, and nothing to repaint.
+/// For runs without windows: there is nothing to repaint.
 class NativeScreen final : public ScreenPort {
  public:
-  [[nodiscard]] int HeightPixels() override { return 768; }
   void Yield() override {}
 };
 

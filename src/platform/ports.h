@@ -100,11 +100,10 @@ class DialogPort {
   virtual std::optional<std::string> PickFolder(const std::string& start) = 0;
 };
 
-/// Screen metrics and the message loop.
+/// The message loop.
 class ScreenPort {
  public:
   virtual ~ScreenPort() = default;
-  [[nodiscard]] virtual int HeightPixels() = 0;
   /// Lets the windows repaint during a long loop.
   virtual void Yield() = 0;
 };

@@ -61,15 +61,10 @@ std::string CompilerCommandLine(const ProjectTables& tables, FilePort& files,
 
 CompileOutcome GenerateProgram(ProjectTables& tables, GeneratorState& state, CompileHost& host,
                                const Ports& ports, const std::string& source_file) {
-  // How far below the screen the container waits while the forms are read.
-  constexpr int kBelowScreen = 1000;
-
   CheckMainForm(tables);
   host.SaveProject();
 
   host.HideContainer();
-  host.MoveContainer(ports.Screen.HeightPixels() + kBelowScreen);
-  host.ShowContainer();
   SetFormVisible(host, tables.CurrentForm, false);
 
   const std::string text = GenerateSource(tables, state);
@@ -81,8 +76,6 @@ CompileOutcome GenerateProgram(ProjectTables& tables, GeneratorState& state, Com
     outcome.Source = {source_file, ports.Files.WhyNotReplaced()};
   }
 
-  host.HideContainer();
-  host.MoveContainer(0);
   SetFormVisible(host, tables.CurrentForm, true);
   host.ShowContainer();
 

@@ -32,8 +32,6 @@ class CompileHost {
   virtual void SaveProject() = 0;
   virtual void ShowContainer() = 0;
   virtual void HideContainer() = 0;
-  /// Moves the form container; pixels from the top of the screen.
-  virtual void MoveContainer(int top) = 0;
   /// Shows or hides a design form; its own `Visible` has been set already.
   virtual void ShowDesignForm(DesignForm& form, bool visible) = 0;
 };

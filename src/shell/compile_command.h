@@ -18,7 +18,6 @@ class CompileCommand final : public project::CompileHost {
   void SaveProject() override { project_.Save(); }
   void ShowContainer() override { state_.View->ShowContainer(); }
   void HideContainer() override { state_.View->HideContainer(); }
-  void MoveContainer(int top) override { state_.View->MoveContainer(top); }
   void ShowDesignForm(DesignForm& form, bool visible) override {
     state_.View->SetFormVisible(form.Number(), visible);
   }

@@ -33,7 +33,8 @@ void DesignSurfaces::FormOpened(int form) {
 
 void DesignSurfaces::ControlsChanged(int form) {
   const auto slot = static_cast<std::size_t>(form);
-  if (form >= 1 && slot < surfaces_.size() && surfaces_[slot]) surfaces_[slot]->ControlsMoved();
+  if (form >= 1 && slot < surfaces_.size() && surfaces_[slot])
+    surfaces_[slot]->Selection().ControlsMoved();
 }
 
 void DesignSurfaces::FormClosing(int form) {

@@ -24,7 +24,7 @@ void InspectorLink::SelectObject(DesignForm& form, const ControlRef& control) {
 }
 
 void InspectorLink::borderstylea(DesignForm& form, std::int16_t style) {
-  if (FormUser* surface = surfaces_.Of(form.Number())) surface->borderstylea(style);
+  if (FormUser* surface = surfaces_.Of(form.Number())) surface->Frame().borderstylea(style);
 }
 
 void InspectorLink::FormRecolored(DesignForm& form) {
@@ -38,7 +38,7 @@ void InspectorLink::PlaceChanged(DesignForm& form) {
   FormUser* surface = surfaces_.Of(form.Number());
   const ControlRef handle = form.Element(Kind::Handle, 0);
   if (surface == nullptr || handle == nullptr || !handle->Visible) return;
-  surface->ShowHandles(true);
+  surface->Selection().ShowHandles(true);
   state_.Observer.SelectionChanged(form.Number());
 }
 

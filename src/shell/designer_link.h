@@ -1,4 +1,4 @@
-// What design surfaces and property sheet ask of the rest, answered by the main window.
+// What design surfaces and property sheet ask of the rest, served by the main window.
 #pragma once
 
 #include "designer/designer_host.h"
@@ -11,7 +11,7 @@ namespace tarnwick {
 class DesignSurfaces;
 
 /// The design surfaces' door to the other rooms. Which buttons and tools are on follows from the
-/// tables, so being told of a change there only has the view look again.
+/// tables, so a change there only makes the view read their states again.
 class DesignerLink final : public DesignerHost {
  public:
   explicit DesignerLink(ShellState& state) : state_(state) {}
@@ -28,21 +28,14 @@ class DesignerLink final : public DesignerHost {
   }
   void RemoveHeadRow(const DesignControl& object) override { sheet_->RemoveComboRow(object); }
 
-  void EnableCopyPasteButtons(bool /*on*/) override { state_.View->CommandsChanged(); }
-  void EnableTool(int /*tool*/, bool /*on*/) override { state_.View->CommandsChanged(); }
-  void ArmedToolChanged() override { state_.View->CommandsChanged(); }
-  void LockChanged() override { state_.View->CommandsChanged(); }
+  void CommandsChanged() override { state_.View->CommandsChanged(); }
   void SetStatus(std::string_view text) override { state_.View->SetStatus(text); }
-  void OpenObjectPopUp(const ObjectPopUp& /*entries*/) override { state_.View->ShowObjectPopUp(); }
+  void OpenObjectPopUp() override { state_.View->ShowObjectPopUp(); }
 
   void NumberMoved(const ObjectPlace& object, bool back) override;
   bool RaiseOpenCodeEditor() override;
   void OpenCode() override { state_.Run(Command::Code); }
   void CompileAndRun() override { state_.Run(Command::Compile); }
-
-  [[nodiscard]] bool ContainerMinimised() override { return false; }
-  /// The container grows with its windows by itself.
-  void GrowContainer(float /*width*/, float /*height*/) override {}
 
  private:
   ShellState& state_;

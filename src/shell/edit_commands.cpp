@@ -27,28 +27,28 @@ void EditCommands::Run(Command command) {
   switch (command) {
     // The menu's Cut is the key Ctrl+X, which deletes and copies nothing.
     case Command::Cut:
-      surface->DeletObject(keys::kX, kCtrlBit);
+      surface->Commands().DeletObject(keys::kX, kCtrlBit);
       break;
     case Command::Copy:
-      surface->CopyObject(keys::kC, kCtrlBit);
+      surface->Commands().CopyObject(keys::kC, kCtrlBit);
       break;
     case Command::Paste:
-      surface->PasteObject(keys::kV, kCtrlBit);
+      surface->Commands().PasteObject(keys::kV, kCtrlBit);
       break;
     case Command::Delete:
-      surface->CutObject(keys::kDelete);
+      surface->Commands().CutObject(keys::kDelete);
       break;
     case Command::BringToFront:
-      surface->BringToFront();
+      surface->Commands().BringToFront();
       break;
     case Command::StayBack:
-      surface->SendToBack();
+      surface->Commands().SendToBack();
       break;
     case Command::AlignToGrid:
-      surface->aligngrid();
+      surface->Commands().aligngrid();
       break;
     case Command::Lock:
-      surface->ToggleLock();
+      surface->Commands().ToggleLock();
       break;
     default:
       return;

@@ -53,9 +53,6 @@ class ShellView {
   virtual void ShowContainerAt(int width, int height) = 0;
   virtual void HideContainer() = 0;
   virtual void ShowContainer() = 0;
-  /// Moves the container's top edge to `top` pixels of the screen: the generator works behind a
-  /// container that stands off it.
-  virtual void MoveContainer(int top) = 0;
   /// Takes a design window into the container: it is shown, in front, also when it was rolled up.
   /// The keyboard focus stays where it is.
   virtual void BringFormUp(int form) = 0;

@@ -27,12 +27,12 @@ class FormUserRandom : public SurfaceTest, public ::testing::WithParamInterface<
     const Hit hit = HitTest(form, Twips(x), Twips(y));
     Point(x, y);
     if (hit.Handle >= 0) {
-      user.HandleMouseDown(hit.Handle, button);
+      gestures.HandleMouseDown(hit.Handle, button);
     } else if (hit.Object) {
-      user.ObjectMouseDown(hit.Object, button, 0, Twips(x) - hit.Object->Left,
-                           Twips(y) - hit.Object->Top);
+      gestures.ObjectMouseDown(hit.Object, button, 0, Twips(x) - hit.Object->Left,
+                               Twips(y) - hit.Object->Top);
     } else {
-      user.Form_MouseDown(button, 0, Twips(x), Twips(y));
+      gestures.Form_MouseDown(button, 0, Twips(x), Twips(y));
     }
   }
   void Step() {
@@ -56,15 +56,15 @@ class FormUserRandom : public SurfaceTest, public ::testing::WithParamInterface<
         return MoveTo(Number(2000) - 800, Number(2000) - 800);
       case 6:
       case 7:
-        return user.MouseUp();
+        return gestures.MouseUp();
       case 8:
       case 9:
-        user.KeyDown(kKeys[static_cast<std::size_t>(Number(10))], Number(4));
+        user.Keys().KeyDown(kKeys[static_cast<std::size_t>(Number(10))], Number(4));
         return;
       case 10:
-        if (Number(3) == 0) return user.ToggleLock();
-        if (Number(2) == 0) return user.aligngrid();
-        return Number(2) == 0 ? user.BringToFront() : user.SendToBack();
+        if (Number(3) == 0) return commands.ToggleLock();
+        if (Number(2) == 0) return commands.aligngrid();
+        return Number(2) == 0 ? commands.BringToFront() : commands.SendToBack();
       default:
         if (Number(4) == 0) return user.SelectForm();
         return user.SelectObject(AnyObject());
@@ -81,7 +81,7 @@ class FormUserRandom : public SurfaceTest, public ::testing::WithParamInterface<
     }
   }
   void CheckGesture() {
-    const bool running = user.GestureMode() != DragMode::None;
+    const bool running = gestures.Mode() != DragMode::None;
     ASSERT_EQ(ports.Gestures.Captured, running);
     ASSERT_EQ(ports.Gestures.Confined, running);
     if (running) {
@@ -123,7 +123,7 @@ TEST_P(FormUserRandom, SelectionGestureAndControlsStayInStep) {
     CheckControls();
     if (HasFatalFailure()) FAIL() << "seed " << GetParam() << " step " << step;
   }
-  EXPECT_EQ(ports.Log.Count("band") % 2, user.GestureMode() == DragMode::None ? 0U : 1U);
+  EXPECT_EQ(ports.Log.Count("band") % 2, gestures.Mode() == DragMode::None ? 0U : 1U);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, FormUserRandom, ::testing::Range(0U, 20U));

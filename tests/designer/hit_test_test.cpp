@@ -11,7 +11,7 @@ TEST_F(HitTesting, TheTopmostObjectTakesThePress) {
   const ControlRef below = Place("RichTextBox", 10, 10);
   form.Objeto = "Button";
   Press(300, 300);
-  user.MouseUp();
+  gestures.MouseUp();
   const ControlRef above = form.ControlSel;
   above->Left = below->Left;
   above->Top = below->Top;

@@ -8,18 +8,18 @@ namespace {
 class Clipboard : public SurfaceTest {
  protected:
   ControlRef CopyAndPaste() {
-    user.CopyObject(keys::kC, kCtrlBit);
+    commands.CopyObject(keys::kC, kCtrlBit);
     return Paste();
   }
   ControlRef Paste() {
-    user.PasteObject(keys::kV, kCtrlBit);
+    commands.PasteObject(keys::kV, kCtrlBit);
     return form.ControlSel;
   }
 };
 
 TEST_F(Clipboard, ACopyIsReadAtThePaste) {
   const ControlRef source = Place("Button", 10, 10);
-  user.CopyObject(keys::kC, kCtrlBit);
+  commands.CopyObject(keys::kC, kCtrlBit);
   source->Caption = "Later";
   record.Buttons.At(1)->Cursor = 4;
   const ControlRef copy = Paste();
@@ -36,7 +36,7 @@ TEST_F(Clipboard, APastedObjectIsSelectedWithHandlesAndProperties) {
   EXPECT_EQ(form.IndexObjet, 2);
   EXPECT_TRUE(copy->Visible);
   EXPECT_TRUE(HandleVisible(0));
-  EXPECT_EQ(user.GestureMode(), DragMode::None);
+  EXPECT_EQ(gestures.Mode(), DragMode::None);
   EXPECT_FALSE(ports.Gestures.Captured);
   EXPECT_EQ(ports.Log.Count("band"), 2U) << "the outline is drawn and erased";
   EXPECT_EQ(Log().back(), "properties Button2 Form1Btn2");
@@ -216,9 +216,9 @@ TEST_F(Clipboard, WinSockAndTransparentFrameHaveNoCopies) {
 
 TEST_F(Clipboard, ACopyOfTheFormPastesNothing) {
   Place("Button", 10, 10);
-  user.CopyObject(keys::kC, kCtrlBit);
+  commands.CopyObject(keys::kC, kCtrlBit);
   user.SelectForm();
-  user.CopyObject(keys::kC, kCtrlBit);
+  commands.CopyObject(keys::kC, kCtrlBit);
   Paste();
   EXPECT_EQ(form.UBound(Kind::Button), 1);
 }
@@ -260,8 +260,8 @@ TEST_F(Clipboard, ADeletedSourceGivesAnObjectWithTheTemplatesValues) {
   const ControlRef source = Place("Button", 10, 10);
   source->Caption = "Gone";
   source->Width = 9000;
-  user.CopyObject(keys::kC, kCtrlBit);
-  user.CutObject(keys::kDelete);
+  commands.CopyObject(keys::kC, kCtrlBit);
+  commands.CutObject(keys::kDelete);
   const ControlRef made = Paste();
   ASSERT_NE(made, nullptr);
   EXPECT_NE(made, source);
@@ -280,14 +280,6 @@ TEST_F(Clipboard, AListShowsTheSourcesItemsOnceItHasSome) {
       "a\x95"
       "b\x95";
   EXPECT_EQ(CopyAndPaste()->Items, (std::vector<std::string>{"a", "b"}));
-}
-
-TEST_F(Clipboard, RebuiltControlsAreForgotten) {
-  Place("Button", 10, 10);
-  user.CopyObject(keys::kC, kCtrlBit);
-  user.ForgetReferences();
-  Paste();
-  EXPECT_EQ(form.UBound(Kind::Button), 1);
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ class Settle : public SurfaceTest {
   }
   void Delete(const ControlRef& control) {
     Click(control);
-    user.CutObject(keys::kDelete);
+    commands.CutObject(keys::kDelete);
   }
 };
 
@@ -113,9 +113,9 @@ TEST_F(Settle, TheCopySourceIsFollowed) {
   Place("Button", 10, 10);
   const ControlRef second = Place("Button", 110, 10);
   record.Buttons.At(2)->Cursor = 7;
-  user.CopyObject(keys::kC, kCtrlBit);
+  commands.CopyObject(keys::kC, kCtrlBit);
   Delete(form.Element(Kind::Button, 1));
-  user.PasteObject(keys::kV, kCtrlBit);
+  commands.PasteObject(keys::kV, kCtrlBit);
   EXPECT_EQ(form.ControlSel->Index, 2);
   EXPECT_EQ(record.Buttons.At(2)->Cursor, 7);
   EXPECT_EQ(second->Index, 1);

@@ -14,15 +14,13 @@
 namespace tarnwick {
 
 /// Log entries: "clear panel", "properties WORD NAME", "sync WORD ROW", "head - NAME",
-/// "copy-paste on", "tool N off", "armed", "lock", "pop-up", "code", "compile", "grow W,H",
-/// "status TEXT", "number out Button2", "number back Button2".
+/// "commands", "pop-up", "code", "compile", "status TEXT", "number out Button2",
+/// "number back Button2".
 class RecordingHost final : public DesignerHost {
  public:
   explicit RecordingHost(CallLog& log) : log_(&log) {}
   bool PanelVisible = true;
   bool EditorOpen = false;
-  bool Minimised = false;
-  ObjectPopUp LastPopUp;
 
   [[nodiscard]] bool PropertyPanelVisible() override { return PanelVisible; }
   void ClearPanel() override { log_->Add("clear panel"); }
@@ -33,18 +31,8 @@ class RecordingHost final : public DesignerHost {
     log_->Add("sync " + std::string(name_objet) + " " + std::string(row));
   }
   void RemoveHeadRow(const DesignControl& object) override { log_->Add("head - " + object.Tag); }
-  void EnableCopyPasteButtons(bool on) override {
-    log_->Add(std::string("copy-paste ") + (on ? "on" : "off"));
-  }
-  void EnableTool(int tool, bool on) override {
-    log_->Add("tool " + std::to_string(tool) + (on ? " on" : " off"));
-  }
-  void ArmedToolChanged() override { log_->Add("armed"); }
-  void LockChanged() override { log_->Add("lock"); }
-  void OpenObjectPopUp(const ObjectPopUp& entries) override {
-    log_->Add("pop-up");
-    LastPopUp = entries;
-  }
+  void CommandsChanged() override { log_->Add("commands"); }
+  void OpenObjectPopUp() override { log_->Add("pop-up"); }
   void SetStatus(std::string_view text) override { log_->Add("status " + std::string(text)); }
   void NumberMoved(const ObjectPlace& object, bool back) override {
     log_->Add(std::string(back ? "number back " : "number out ") +
@@ -56,11 +44,6 @@ class RecordingHost final : public DesignerHost {
   }
   void OpenCode() override { log_->Add("code"); }
   void CompileAndRun() override { log_->Add("compile"); }
-  [[nodiscard]] bool ContainerMinimised() override { return Minimised; }
-  void GrowContainer(float width, float height) override {
-    log_->Add("grow " + std::to_string(static_cast<int>(width)) + "," +
-              std::to_string(static_cast<int>(height)));
-  }
 
  private:
   CallLog* log_;
@@ -91,37 +74,37 @@ class SurfaceTest : public ::testing::Test {
   /// A press on the window itself.
   void Press(int x, int y, int button = kLeftButton) {
     Point(x, y);
-    user.Form_MouseDown(button, 0, Twips(x), Twips(y));
+    gestures.Form_MouseDown(button, 0, Twips(x), Twips(y));
   }
   /// A press on an object, at a place of the object.
   void PressOn(const ControlRef& control, int x = 1, int y = 1, int button = kLeftButton) {
     Point(static_cast<int>(control->Left) / kTwipsPerPixel + x,
           static_cast<int>(control->Top) / kTwipsPerPixel + y);
-    user.ObjectMouseDown(control, button, 0, Twips(x), Twips(y));
+    gestures.ObjectMouseDown(control, button, 0, Twips(x), Twips(y));
   }
   void MoveTo(int x, int y) {
     Point(x, y);
-    user.MouseMove();
+    gestures.MouseMove();
   }
-  /// Arms a kind, presses, releases, and answers the selection.
+  /// Arms a kind, presses, releases, and returns the selection.
   ControlRef Place(std::string_view kind, int x, int y) {
     form.Objeto = kind;
     Press(x, y);
-    user.MouseUp();
+    gestures.MouseUp();
     return form.ControlSel;
   }
   void Click(const ControlRef& control) {
     PressOn(control);
-    user.MouseUp();
+    gestures.MouseUp();
   }
   /// Drags a handle from where it is to a place of the window.
   void DragHandle(int handle, int x, int y) {
     const ControlRef grip = form.Element(Kind::Handle, handle);
     Point(static_cast<int>(grip->Left) / kTwipsPerPixel + 3,
           static_cast<int>(grip->Top) / kTwipsPerPixel + 3);
-    user.HandleMouseDown(handle, kLeftButton);
+    gestures.HandleMouseDown(handle, kLeftButton);
     MoveTo(x, y);
-    user.MouseUp();
+    gestures.MouseUp();
   }
   [[nodiscard]] bool HandleVisible(int handle) const {
     return form.Element(Kind::Handle, handle)->Visible;
@@ -139,6 +122,8 @@ class SurfaceTest : public ::testing::Test {
   FormUser user{
       form, tables,
       DesignerPorts{ports.Gestures, ports.Messages, ports.Screen, observer, host, history}};
+  FormGestures& gestures = user.Gestures();
+  ObjectCommands& commands = user.Commands();
 };
 
 }  // namespace tarnwick

@@ -158,11 +158,9 @@ class FakeDialogs final : public DialogPort {
 /// Counts yields; they make no log entry, since long loops make many.
 class FakeScreen final : public ScreenPort {
  public:
-  int Height = 768;
   int Yields = 0;
   std::function<void()> OnYield;
 
-  [[nodiscard]] int HeightPixels() override { return Height; }
   void Yield() override {
     ++Yields;
     if (OnYield) OnYield();

@@ -53,7 +53,6 @@ class FakeShellView final : public ShellView {
   }
   void HideContainer() override { Say("container hidden"); }
   void ShowContainer() override { Say("container shown"); }
-  void MoveContainer(int top) override { Say("container moved", std::to_string(top)); }
   void BringFormUp(int form) override {
     Say("form up", std::to_string(form));
     FormInFront = form;

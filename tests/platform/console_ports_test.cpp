@@ -32,9 +32,5 @@ TEST(ConsolePorts, DialogsAreCancelled) {
   EXPECT_FALSE(dialogs.PickFolder("x").has_value());
 }
 
-TEST(ConsolePorts, TheScreenHasAHeight) {
-  EXPECT_EQ(NativeScreen().HeightPixels(), 768);
-}
-
 }  // namespace
 }  // namespace tarnwick

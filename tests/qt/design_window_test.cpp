@@ -140,7 +140,7 @@ TEST(DesignWindows, HandlesFollowAnEditOfThePlace) {
   static_cast<void>(cell);
   DesignControl& button = *program.Selected();
   button.Left = 30 * 15;
-  program.Shell().User(1)->ControlsMoved();
+  program.Shell().User(1)->Selection().ControlsMoved();
   EXPECT_NEAR(program.Form().Element(Kind::Handle, 0)->Left, 30 * 15, 60);
 }
 

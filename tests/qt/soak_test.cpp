@@ -370,7 +370,7 @@ class RandomUser {
               !HasForm());
     if (!HasForm()) return;
     const DesignForm& form = program_.Form();
-    ASSERT_EQ(program_.Shell().CurrentUser()->GestureMode(), DragMode::None);
+    ASSERT_EQ(program_.Shell().CurrentUser()->Gestures().Mode(), DragMode::None);
     ASSERT_EQ(QWidget::mouseGrabber(), nullptr);
     if (form.ControlSel == nullptr) {
       ASSERT_EQ(form.NameObjet, "Form");

@@ -73,7 +73,7 @@ TEST_F(EditCommandsTest, LockTogglesAndMarksItsEntries) {
 TEST_F(EditCommandsTest, ABlockedFormPlacesNothing) {
   main.Commands().Run(Command::Lock);
   form().Objeto = "Button";
-  surface().Form_MouseDown(kLeftButton, 0, Twips(10), Twips(10));
+  surface().Gestures().Form_MouseDown(kLeftButton, 0, Twips(10), Twips(10));
   EXPECT_FALSE(form().HasObjects(Kind::Button));
 }
 
@@ -131,14 +131,15 @@ TEST_F(EditCommandsTest, CodeIsOffForKindsWithoutEvents) {
   for (const Case& c : kCases) {
     Place(c.Tool, x += 20, 300);
     EXPECT_EQ(main.Commands().State(Command::Code).Enabled, c.HasCode) << form().NameObjet;
-    // The pop-up of the surface and the commands it runs say the same.
-    const ObjectPopUp entries = surface().PopUpEntries();
-    EXPECT_EQ(main.Commands().State(Command::Code).Enabled, entries.Code);
-    EXPECT_EQ(main.Commands().State(Command::Copy).Enabled, entries.Copy);
-    EXPECT_EQ(main.Commands().State(Command::Paste).Enabled, entries.Paste);
-    EXPECT_EQ(main.Commands().State(Command::BringToFront).Enabled, entries.Front);
-    EXPECT_EQ(main.Commands().State(Command::Lock).Checked, entries.Locked);
-    EXPECT_EQ(main.Commands().State(Command::Properties).Checked, entries.PropertiesChecked);
+    EXPECT_EQ(main.Commands().State(Command::Copy).Enabled, c.Tool != kTransparentFrameTool);
+    EXPECT_EQ(main.Commands().State(Command::Paste).Enabled, c.Tool != kTransparentFrameTool);
+    EXPECT_TRUE(main.Commands().State(Command::Cut).Enabled);
+    EXPECT_TRUE(main.Commands().State(Command::BringToFront).Enabled);
+    EXPECT_TRUE(main.Commands().State(Command::StayBack).Enabled);
+    // A double click on the object opens the code just where the command does.
+    surface().Gestures().DoubleClick();
+    EXPECT_EQ(windows.CodeOpen, c.HasCode) << form().NameObjet;
+    windows.CodeOpen = false;
     main.Commands().Run(Command::Delete);
   }
 }
@@ -163,20 +164,20 @@ TEST_F(EditCommandsTest, WhileTheEditorIsOpenItsObjectCannotGo) {
 TEST_F(EditCommandsTest, TheRightButtonOpensThePopUp) {
   Place(0, 10, 10);
   log().Clear();
-  surface().ObjectMouseDown(form().Element(Kind::Button, 1), kRightButton, 0, 5, 5);
+  surface().Gestures().ObjectMouseDown(form().Element(Kind::Button, 1), kRightButton, 0, 5, 5);
   EXPECT_EQ(log().Count("view pop-up"), 1U);
 }
 
 TEST_F(EditCommandsTest, ACommandChosenInThePopUpRuns) {
   Place(0, 10, 10);
   view.OnObjectPopUp = [this] { main.Commands().Run(Command::Delete); };
-  surface().ObjectMouseDown(form().Element(Kind::Button, 1), kRightButton, 0, 5, 5);
+  surface().Gestures().ObjectMouseDown(form().Element(Kind::Button, 1), kRightButton, 0, 5, 5);
   EXPECT_FALSE(form().HasObjects(Kind::Button));
 }
 
 TEST_F(EditCommandsTest, DoubleClickOpensTheCode) {
   Place(0, 10, 10);
-  surface().DoubleClick();
+  surface().Gestures().DoubleClick();
   EXPECT_TRUE(windows.CodeOpen);
 }
 

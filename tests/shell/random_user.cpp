@@ -86,9 +86,9 @@ void RandomUser::PutObject() {
   if (surface == nullptr) return;
   const int x = Below(380);
   const int y = Below(300);
-  surface->Form_MouseDown(kLeftButton, 0, static_cast<float>(x) * kTwips,
-                          static_cast<float>(y) * kTwips);
-  surface->MouseUp();
+  surface->Gestures().Form_MouseDown(kLeftButton, 0, static_cast<float>(x) * kTwips,
+                                     static_cast<float>(y) * kTwips);
+  surface->Gestures().MouseUp();
   Did("place " + std::string(tool.Tip) + " at " + std::to_string(x) + "," + std::to_string(y));
 }
 
@@ -98,8 +98,9 @@ void RandomUser::PressObject() {
   const ControlRef object =
       objects[static_cast<std::size_t>(Below(static_cast<int>(objects.size())))];
   FormUser* surface = main_.CurrentUser();
-  surface->ObjectMouseDown(object, Below(8) == 0 ? kRightButton : kLeftButton, 0, 30, 30);
-  surface->MouseUp();
+  surface->Gestures().ObjectMouseDown(object, Below(8) == 0 ? kRightButton : kLeftButton, 0, 30,
+                                      30);
+  surface->Gestures().MouseUp();
   Did("press " + object->Tag);
 }
 
@@ -111,14 +112,14 @@ void RandomUser::DragObject() {
   FormUser* surface = main_.CurrentUser();
   const int form = surface->Number();
   SetCursor(form, {100, 100});
-  surface->ObjectMouseDown(object, kLeftButton, 0, 30, 30);
+  surface->Gestures().ObjectMouseDown(object, kLeftButton, 0, 30, 30);
   if (Below(2) == 0) {
-    surface->MouseUp();
-    surface->HandleMouseDown(Below(8), kLeftButton);
+    surface->Gestures().MouseUp();
+    surface->Gestures().HandleMouseDown(Below(8), kLeftButton);
   }
   SetCursor(form, {Below(300), Below(300)});
-  surface->MouseMove();
-  surface->MouseUp();
+  surface->Gestures().MouseMove();
+  surface->Gestures().MouseUp();
   Did("drag " + object->Tag);
 }
 
@@ -136,7 +137,7 @@ void RandomUser::PressKey() {
       {keys::kV, kCtrlBit},  {keys::kX, kCtrlBit},      {keys::kDelete, 0}};
   const Key& key = kKeys[static_cast<std::size_t>(Below(static_cast<int>(std::size(kKeys))))];
   if (key.Code == keys::kV && Objects().size() >= kMostObjects) return;
-  surface->KeyDown(key.Code, key.Shift);
+  surface->Keys().KeyDown(key.Code, key.Shift);
   Did("key " + std::to_string(key.Code) + " with " + std::to_string(key.Shift));
 }
 

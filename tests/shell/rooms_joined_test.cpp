@@ -35,10 +35,10 @@ class RoomsJoinedTest : public ShellTest {
   void Drag(const ControlRef& control, int dx, int dy) {
     FakeGestures& gestures = view.GesturesOf(form().Number());
     gestures.Cursor = {100, 100};
-    surface().ObjectMouseDown(control, kLeftButton, 0, 15, 15);
+    surface().Gestures().ObjectMouseDown(control, kLeftButton, 0, 15, 15);
     gestures.Cursor = {100 + dx, 100 + dy};
-    surface().MouseMove();
-    surface().MouseUp();
+    surface().Gestures().MouseMove();
+    surface().Gestures().MouseUp();
   }
 };
 
@@ -122,7 +122,7 @@ TEST_F(RoomsJoinedTest, RenamingAFormChangesNoObjectAlreadyPlaced) {
 
 TEST_F(RoomsJoinedTest, AResizedWindowShowsInTheSheetOfTheForm) {
   sheet().ShowSelection();
-  surface().Form_Resize(Twips(500), Twips(200), WindowState::Normal);
+  surface().Frame().Form_Resize(Twips(500), Twips(200), WindowState::Normal);
   EXPECT_EQ(tables().Form(1)->Width, 500);
   EXPECT_EQ(Value("Width"), "500");
 }

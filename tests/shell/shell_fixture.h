@@ -58,8 +58,8 @@ class ShellTest : public ::testing::Test {
   /// Arms a tool and presses and releases on the form, both at the same place in pixels.
   void Place(int tool, int x, int y) {
     main.Commands().PressTool(tool);
-    surface().Form_MouseDown(kLeftButton, 0, Twips(x), Twips(y));
-    surface().MouseUp();
+    surface().Gestures().Form_MouseDown(kLeftButton, 0, Twips(x), Twips(y));
+    surface().Gestures().MouseUp();
   }
   /// Saves the project and its forms under names of the folder, the log is empty afterwards.
   void SaveUnder(const std::string& path, std::initializer_list<std::string> forms) {

@@ -43,7 +43,6 @@ TEST_F(StartUpTest, TheLogoTextsComeInTheirOrderAroundTheSteps) {
 class LoggingScreen final : public ScreenPort {
  public:
   explicit LoggingScreen(CallLog& log) : log_(&log) {}
-  [[nodiscard]] int HeightPixels() override { return 768; }
   void Yield() override {
     if (log_->Entries().empty() || log_->Entries().back() != "yield") log_->Add("yield");
   }

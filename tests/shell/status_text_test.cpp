@@ -23,7 +23,7 @@ TEST_F(StatusTextTest, OfAnObjectItTellsPixels) {
 TEST_F(StatusTextTest, ItFollowsTheObject) {
   Place(0, 20, 30);
   main.Commands().Run(Command::AlignToGrid);
-  surface().KeyDown(keys::kRight, kCtrlBit);
+  surface().Keys().KeyDown(keys::kRight, kCtrlBit);
   EXPECT_EQ(view.SelectionText, "Form1Btn1   Left 21  Top 30  Width 75  Height 25");
   main.Commands().Run(Command::Delete);
   EXPECT_EQ(view.SelectionText, "Form1   Left 0  Top 0  Width 400  Height 333");

@@ -45,15 +45,15 @@ TEST_F(ToolBoxTest, EachNumberArmsItsKind) {
 TEST_F(ToolBoxTest, TheArmedToolStaysDownUntilTheObjectIsPlaced) {
   main.Commands().PressTool(3);
   EXPECT_EQ(Down(), std::vector<int>{3});
-  surface().Form_MouseDown(kLeftButton, 0, Twips(10), Twips(10));
+  surface().Gestures().Form_MouseDown(kLeftButton, 0, Twips(10), Twips(10));
   EXPECT_EQ(Down(), std::vector<int>{kArrowTool});
   EXPECT_TRUE(form().HasObjects(Kind::Label));
 }
 
 TEST_F(ToolBoxTest, OneToolPlacesOneObjectWhateverThePresses) {
   Place(3, 10, 10);
-  surface().Form_MouseDown(kLeftButton, 0, Twips(200), Twips(200));
-  surface().MouseUp();
+  surface().Gestures().Form_MouseDown(kLeftButton, 0, Twips(200), Twips(200));
+  surface().Gestures().MouseUp();
   EXPECT_EQ(form().UBound(Kind::Label), 1);
   EXPECT_EQ(form().NameObjet, "Form");
 }

@@ -155,10 +155,6 @@ void MainView::ShowContainer() {
   window_.Forms().widget()->setUpdatesEnabled(true);
 }
 
-void MainView::MoveContainer(int top) {
-  window_.Forms().widget()->setUpdatesEnabled(top >= 0 && top < window_.height());
-}
-
 void MainView::BringFormUp(int form) {
   window_.Forms().BringUp(form);
 }

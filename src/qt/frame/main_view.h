@@ -42,7 +42,6 @@ class MainView final : public ShellView, public ProjectObserver {
   void ShowContainerAt(int width, int height) override;
   void HideContainer() override;
   void ShowContainer() override;
-  void MoveContainer(int top) override;
   void BringFormUp(int form) override;
   void FocusForm(int form) override;
   void HoldFocus() override;

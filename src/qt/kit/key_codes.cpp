@@ -2,7 +2,7 @@
 
 #include <QKeyEvent>
 
-#include "designer/form_user.h"
+#include "designer/input_codes.h"
 
 namespace tarnwick {
 

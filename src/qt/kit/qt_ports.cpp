@@ -6,7 +6,6 @@
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QScreen>
 
 #include "looks/platform_colors.h"
 #include "platform/native_path.h"
@@ -159,11 +158,6 @@ std::optional<FontChoice> QtDialogs::PickFont(const FontChoice& start) {
 std::optional<std::string> QtDialogs::PickFolder(const std::string& start) {
   return Chosen(
       QFileDialog::getExistingDirectory(Above(), QStringLiteral("Folder"), NativeFolder(start)));
-}
-
-int QtScreen::HeightPixels() {
-  const QScreen* screen = QApplication::primaryScreen();
-  return screen != nullptr ? screen->size().height() : 768;
 }
 
 void QtScreen::Yield() {

@@ -32,7 +32,6 @@ class QtDialogs final : public DialogPort {
 
 class QtScreen final : public ScreenPort {
  public:
-  [[nodiscard]] int HeightPixels() override;
   /// Repaints at most once a frame: long loops call this at every step. Input waits, so that no
   /// command starts within another.
   void Yield() override;

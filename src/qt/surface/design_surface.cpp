@@ -180,12 +180,12 @@ void DesignSurface::mousePressEvent(QMouseEvent* event) {
   const float y = Twips(event->position().y());
   const Hit hit = HitTest(*form_, x, y);
   if (hit.Handle >= 0) {
-    user->HandleMouseDown(hit.Handle, ButtonOf(*event));
+    user->Gestures().HandleMouseDown(hit.Handle, ButtonOf(*event));
   } else if (hit.Object) {
-    user->ObjectMouseDown(hit.Object, ButtonOf(*event), 0, x - hit.Object->Left,
-                          y - hit.Object->Top);
+    user->Gestures().ObjectMouseDown(hit.Object, ButtonOf(*event), 0, x - hit.Object->Left,
+                                     y - hit.Object->Top);
   } else {
-    user->Form_MouseDown(ButtonOf(*event), 0, x, y);
+    user->Gestures().Form_MouseDown(ButtonOf(*event), 0, x, y);
   }
   pointer_.reset();
 }
@@ -194,7 +194,7 @@ void DesignSurface::mouseMoveEvent(QMouseEvent* event) {
   FormUser* user = doors_.User();
   if (form_ == nullptr || user == nullptr) return;
   NotePointer(*event);
-  user->MouseMove();
+  user->Gestures().MouseMove();
   pointer_.reset();
   if (!confined_) ShowPointerOver(event->position());
   doors_.PointerMoved(event->position().toPoint());
@@ -204,7 +204,7 @@ void DesignSurface::mouseReleaseEvent(QMouseEvent* event) {
   FormUser* user = doors_.User();
   if (form_ == nullptr || user == nullptr) return;
   NotePointer(*event);
-  user->MouseUp();
+  user->Gestures().MouseUp();
   pointer_.reset();
   if (form_ != nullptr) ShowPointerOver(event->position());
 }
@@ -212,7 +212,7 @@ void DesignSurface::mouseReleaseEvent(QMouseEvent* event) {
 void DesignSurface::mouseDoubleClickEvent(QMouseEvent* event) {
   FormUser* user = doors_.User();
   if (form_ == nullptr || user == nullptr || event->button() != Qt::LeftButton) return;
-  user->DoubleClick();
+  user->Gestures().DoubleClick();
 }
 
 void DesignSurface::ShowPointerOver(const QPointF& place) {
@@ -233,15 +233,15 @@ void DesignSurface::keyPressEvent(QKeyEvent* event) {
   FormUser* user = doors_.User();
   if (form_ == nullptr || user == nullptr) return;
   if (event->key() == Qt::Key_Escape) {
-    if (user->GestureMode() != DragMode::None) {
-      user->Escape();
+    if (user->Gestures().Mode() != DragMode::None) {
+      user->Gestures().Escape();
     } else {
       doors_.Escape();
     }
     return;
   }
   const int code = KeyCodeOf(*event);
-  if (code == 0 || !user->KeyDown(code, ShiftBitsOf(*event))) event->ignore();
+  if (code == 0 || !user->Keys().KeyDown(code, ShiftBitsOf(*event))) event->ignore();
 }
 
 void DesignSurface::focusInEvent(QFocusEvent* event) {

@@ -82,7 +82,7 @@ WindowFrame DesignWindow::FrameOf() const {
   const FormUser* user = doors_.User();
   if (user == nullptr) return frame;
   using FrameMember = clsStyle::Member;
-  const clsStyle& style = user->FormStyle();
+  const clsStyle& style = user->Frame().Style();
   frame.Metrics.Title = style.Get(FrameMember::Titlebar);
   frame.Metrics.Sizable = style.Get(FrameMember::Sizable);
   frame.Metrics.Tool = style.Get(FrameMember::ToolWindow);
@@ -248,15 +248,15 @@ int DesignWindow::RolledUpHeight() const {
 }
 
 void DesignWindow::EndSizing() {
-  if (FormUser* const user = doors_.User()) user->ResizeEnded();
+  if (FormUser* const user = doors_.User()) user->Frame().ResizeEnded();
 }
 
 void DesignWindow::TellSize() {
   FormUser* user = doors_.User();
   if (form_ == nullptr || user == nullptr) return;
   if (state_ != WindowState::Minimised) told_ = size();
-  user->Form_Resize(static_cast<float>(width() * kTwipsPerPixel),
-                    static_cast<float>(height() * kTwipsPerPixel), state_);
+  user->Frame().Form_Resize(static_cast<float>(width() * kTwipsPerPixel),
+                            static_cast<float>(height() * kTwipsPerPixel), state_);
   doors_.Resized();
 }
 

@@ -45,17 +45,17 @@ TEST_F(HistoryTest, EachDeedOfTheSurfaceIsOneStep) {
   ExpectStep("Move Form1List1", [&] {
     PressOn(list);
     MoveTo(60, 150);
-    user.MouseUp();
+    gestures.MouseUp();
   });
   ExpectStep("Size Form1List1", [&] { DragHandle(4, 200, 260); });
-  ExpectStep("Move Form1List1", [&] { user.KeyDown(keys::kRight, kCtrlBit); });
-  ExpectStep("Size Form1List1", [&] { user.KeyDown(keys::kDown, kShiftBit); });
-  ExpectStep("Align To Grid", [&] { user.aligngrid(); });
-  user.CopyObject(keys::kC, kCtrlBit);
-  ExpectStep("Paste Form1List2", [&] { user.PasteObject(keys::kV, kCtrlBit); });
-  ExpectStep("Stay back Form1List2", [&] { user.SendToBack(); });
-  ExpectStep("Bring to front Form1List2", [&] { user.BringToFront(); });
-  ExpectStep("Delete Form1List2", [&] { user.CutObject(keys::kDelete); });
+  ExpectStep("Move Form1List1", [&] { user.Keys().KeyDown(keys::kRight, kCtrlBit); });
+  ExpectStep("Size Form1List1", [&] { user.Keys().KeyDown(keys::kDown, kShiftBit); });
+  ExpectStep("Align To Grid", [&] { commands.aligngrid(); });
+  commands.CopyObject(keys::kC, kCtrlBit);
+  ExpectStep("Paste Form1List2", [&] { commands.PasteObject(keys::kV, kCtrlBit); });
+  ExpectStep("Stay back Form1List2", [&] { commands.SendToBack(); });
+  ExpectStep("Bring to front Form1List2", [&] { commands.BringToFront(); });
+  ExpectStep("Delete Form1List2", [&] { commands.CutObject(keys::kDelete); });
 }
 
 TEST_F(HistoryTest, PlacingAndDraggingAtOnceIsOneStep) {
@@ -63,7 +63,7 @@ TEST_F(HistoryTest, PlacingAndDraggingAtOnceIsOneStep) {
   ExpectStep("Place Form1Btn1", [&] {
     Press(20, 20);
     MoveTo(90, 90);
-    user.MouseUp();
+    gestures.MouseUp();
   });
   EXPECT_EQ(form.Element(Kind::Button, 1)->Left, Twips(90));
 }
@@ -84,7 +84,7 @@ TEST_F(HistoryTest, EveryKindComesBackWithItsRecordEntriesAndNumbers) {
     history.Begin(number, "Code");
     history.End();
     Click(first);
-    ExpectStep("Delete " + first->Tag, [&] { user.CutObject(keys::kDelete); });
+    ExpectStep("Delete " + first->Tag, [&] { commands.CutObject(keys::kDelete); });
     history.Undo();
     EXPECT_EQ(form.ControlSel, first) << "the very object, selected";
     EXPECT_EQ(*tables.EventTable.Find(key), "code of the first");
@@ -97,9 +97,9 @@ TEST_F(HistoryTest, AStepThatChangesNothingLeavesNoEntry) {
   const std::size_t size = history.Size();
   Click(button);
   user.SelectForm();
-  user.ToggleLock();
-  user.ToggleLock();
-  user.KeyDown(keys::kTab, 0);
+  commands.ToggleLock();
+  commands.ToggleLock();
+  user.Keys().KeyDown(keys::kTab, 0);
   EXPECT_EQ(history.Size(), size);
 }
 
@@ -135,7 +135,7 @@ TEST_F(HistoryTest, AnotherStepEndsAStay) {
   const ControlRef button = Place("Button", 20, 20);
   history.Stay(number, "caption", "Caption");
   button->Caption = "Ok";
-  user.KeyDown(keys::kRight, kCtrlBit);
+  user.Keys().KeyDown(keys::kRight, kCtrlBit);
   EXPECT_EQ(history.UndoName(), "Move Form1Btn1");
   history.Undo();
   EXPECT_EQ(button->Caption, "Ok");
@@ -187,7 +187,8 @@ TEST_F(HistoryTest, ClearForgetsEverything) {
 
 TEST_F(HistoryTest, TheOldestStepsAreForgotten) {
   const ControlRef button = Place("Button", 20, 20);
-  for (std::size_t i = 0; i < History::kMostSteps + 20; ++i) user.KeyDown(keys::kDown, kCtrlBit);
+  for (std::size_t i = 0; i < History::kMostSteps + 20; ++i)
+    user.Keys().KeyDown(keys::kDown, kCtrlBit);
   EXPECT_EQ(history.Size(), History::kMostSteps);
   while (history.Undo()) {
   }
@@ -252,9 +253,9 @@ TEST_F(HistoryTest, MenusAndPopupsComeBack) {
 
 TEST_F(HistoryTest, TheFormsOwnValuesComeBack) {
   ExpectStep("Size Form1", [&] {
-    user.Form_Resize(9000, 8000, WindowState::Normal);
-    user.Form_Resize(9900, 8100, WindowState::Normal);
-    user.ResizeEnded();
+    user.Frame().Form_Resize(9000, 8000, WindowState::Normal);
+    user.Frame().Form_Resize(9900, 8100, WindowState::Normal);
+    user.Frame().ResizeEnded();
   });
   ExpectStep("Values", [&] {
     const HistoryStep step(history, number, "Values");
@@ -272,11 +273,11 @@ TEST_F(HistoryTest, ACopySourceThatComesBackCanBePastedFromAgain) {
     const HistoryStep step(history, number, "Caption");
     button->Caption = "Copy me";
   }
-  user.CopyObject(keys::kC, kCtrlBit);
-  user.CutObject(keys::kDelete);
+  commands.CopyObject(keys::kC, kCtrlBit);
+  commands.CutObject(keys::kDelete);
   history.Undo();
   user.Restored();
-  user.PasteObject(keys::kV, kCtrlBit);
+  commands.PasteObject(keys::kV, kCtrlBit);
   EXPECT_EQ(form.ControlSel->Caption, "Copy me");
 }
 
@@ -284,7 +285,7 @@ TEST_F(HistoryTest, AfterAnUndoTheHandlesStandOnTheSelection) {
   const ControlRef button = Place("Button", 20, 20);
   PressOn(button);
   MoveTo(100, 100);
-  user.MouseUp();
+  gestures.MouseUp();
   history.Undo();
   user.Restored();
   EXPECT_TRUE(HandleVisible(0));

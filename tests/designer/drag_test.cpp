@@ -1,20 +1,21 @@
-// Handles, moving, sizing, and the size of the window itself.
+// Handles, moving and sizing.
 #include "designer/drag.h"
+
 #include "surface_fixture.h"
 
 namespace tarnwick {
 namespace {
 
-using FormUserDrag = SurfaceTest;
+using DragTest = SurfaceTest;
 using Entries = std::vector<std::string>;
 
-TEST_F(FormUserDrag, AMoveFollowsThisOrder) {
+TEST_F(DragTest, AMoveFollowsThisOrder) {
   const ControlRef button = Place("Button", 10, 20);
   ports.Log.Clear();
   PressOn(button, 5, 5);
   MoveTo(45, 65);
-  user.MouseUp();
-  EXPECT_EQ(Log(), (Entries{"copy-paste on",
+  gestures.MouseUp();
+  EXPECT_EQ(Log(), (Entries{"commands",
                             "paint",
                             "selection",
                             "band 110,70,185,95",
@@ -23,7 +24,7 @@ TEST_F(FormUserDrag, AMoveFollowsThisOrder) {
                             "confine",
                             "band 110,70,185,95",
                             "band 140,110,215,135",
-                            "copy-paste on",
+                            "commands",
                             "band 140,110,215,135",
                             "free",
                             "release",
@@ -41,7 +42,7 @@ TEST_F(FormUserDrag, AMoveFollowsThisOrder) {
   EXPECT_EQ(button->Height, Twips(25));
 }
 
-TEST_F(FormUserDrag, TheControlStaysWhereItIsUntilTheRelease) {
+TEST_F(DragTest, TheControlStaysWhereItIsUntilTheRelease) {
   const ControlRef button = Place("Button", 10, 20);
   PressOn(button);
   MoveTo(200, 200);
@@ -49,12 +50,12 @@ TEST_F(FormUserDrag, TheControlStaysWhereItIsUntilTheRelease) {
   EXPECT_EQ(button->Top, Twips(20));
 }
 
-TEST_F(FormUserDrag, APressWithoutAMoveLeavesTheObjectAndShowsHandlesAndProperties) {
+TEST_F(DragTest, APressWithoutAMoveLeavesTheObjectAndShowsHandlesAndProperties) {
   const ControlRef button = Place("Button", 10, 20);
   button->Left = 187.5F;  // twelve and a half pixels, as a typed value can be
   button->Width = 1000.5F;
   Press(300, 300);
-  user.MouseUp();
+  gestures.MouseUp();
   ports.Log.Clear();
   Click(button);
   EXPECT_EQ(button->Left, 187.5F);
@@ -63,23 +64,23 @@ TEST_F(FormUserDrag, APressWithoutAMoveLeavesTheObjectAndShowsHandlesAndProperti
   EXPECT_EQ(Log().back(), "properties Button1 Form1Btn1");
 }
 
-TEST_F(FormUserDrag, CaptureAndConfinedCursorLastAsLongAsTheGesture) {
+TEST_F(DragTest, CaptureAndConfinedCursorLastAsLongAsTheGesture) {
   const ControlRef button = Place("Button", 10, 20);
   EXPECT_FALSE(ports.Gestures.Captured);
   PressOn(button);
   EXPECT_TRUE(ports.Gestures.Captured);
   EXPECT_TRUE(ports.Gestures.Confined) << "the mouse cannot leave the window";
-  user.MouseUp();
+  gestures.MouseUp();
   EXPECT_FALSE(ports.Gestures.Captured);
   EXPECT_FALSE(ports.Gestures.Confined);
-  user.HandleMouseDown(4, kLeftButton);
+  gestures.HandleMouseDown(4, kLeftButton);
   EXPECT_TRUE(ports.Gestures.Captured);
   EXPECT_TRUE(ports.Gestures.Confined);
-  user.MouseUp();
+  gestures.MouseUp();
   EXPECT_FALSE(ports.Gestures.Confined);
 }
 
-TEST_F(FormUserDrag, TheHandlesSitOnTheBorder) {
+TEST_F(DragTest, TheHandlesSitOnTheBorder) {
   Place("Button", 10, 20);  // 150, 300, 1125 by 375 twips
   const auto at = [this](int i) {
     const ControlRef handle = form.Element(Kind::Handle, i);
@@ -95,7 +96,7 @@ TEST_F(FormUserDrag, TheHandlesSitOnTheBorder) {
   EXPECT_EQ(at(7), std::make_pair(150.F - 52 + 8, 300.F + 187.5F - 52));
 }
 
-TEST_F(FormUserDrag, HandlesHavePointersForTheirEdges) {
+TEST_F(DragTest, HandlesHavePointersForTheirEdges) {
   const int pointers[] = {8, 7, 6, 9, 8, 7, 6, 9};
   for (std::size_t i = 0; i < 8; ++i) EXPECT_EQ(Handles()[i].Pointer, pointers[i]);
 }
@@ -105,7 +106,7 @@ struct EdgeCase {
   int Left, Top, Right, Bottom;  ///< edges after a drag to (60, 70), pixels
 };
 
-TEST_F(FormUserDrag, EachHandleMovesItsEdges) {
+TEST_F(DragTest, EachHandleMovesItsEdges) {
   const EdgeCase cases[] = {
       {0, 60, 70, 300, 250}, {1, 100, 70, 300, 250}, {2, 100, 70, 60, 250}, {3, 100, 100, 60, 250},
       {4, 100, 100, 60, 70}, {5, 100, 100, 300, 70}, {6, 60, 100, 300, 70}, {7, 60, 100, 300, 250},
@@ -124,7 +125,7 @@ TEST_F(FormUserDrag, EachHandleMovesItsEdges) {
   }
 }
 
-TEST_F(FormUserDrag, DraggingTheLastCornerPastTheFirstGivesNoNegativeSize) {
+TEST_F(DragTest, DraggingTheLastCornerPastTheFirstGivesNoNegativeSize) {
   const ControlRef button = Place("Button", 100, 100);
   DragHandle(4, 40, 30);
   EXPECT_EQ(button->Left, Twips(40));
@@ -133,7 +134,7 @@ TEST_F(FormUserDrag, DraggingTheLastCornerPastTheFirstGivesNoNegativeSize) {
   EXPECT_EQ(button->Height, Twips(70));
 }
 
-TEST_F(FormUserDrag, AnyHandleOfATimeMovesItAndLeavesItsSize) {
+TEST_F(DragTest, AnyHandleOfATimeMovesItAndLeavesItsSize) {
   const ControlRef time = Place("Time", 100, 100);
   DragHandle(4, 300, 300);
   EXPECT_EQ(time->Left, Twips(100));
@@ -145,7 +146,7 @@ TEST_F(FormUserDrag, AnyHandleOfATimeMovesItAndLeavesItsSize) {
   EXPECT_EQ(time->Height, Twips(28));
 }
 
-TEST_F(FormUserDrag, ABottomHandleChangesNothingInATextBoxButMakesARichTextBoxHigher) {
+TEST_F(DragTest, ABottomHandleChangesNothingInATextBoxButMakesARichTextBoxHigher) {
   const ControlRef text = Place("TextBox", 10, 10);
   DragHandle(5, 20, 200);
   EXPECT_EQ(text->Height, Twips(21));
@@ -154,7 +155,7 @@ TEST_F(FormUserDrag, ABottomHandleChangesNothingInATextBoxButMakesARichTextBoxHi
   EXPECT_EQ(rich->Height, Twips(200));
 }
 
-TEST_F(FormUserDrag, AComboBoxKeepsTheHeightOfItsBox) {
+TEST_F(DragTest, AComboBoxKeepsTheHeightOfItsBox) {
   const ControlRef combo = Place("ComboBox", 10, 10);
   const float height = combo->Height;
   DragHandle(4, 300, 300);
@@ -162,29 +163,29 @@ TEST_F(FormUserDrag, AComboBoxKeepsTheHeightOfItsBox) {
   EXPECT_EQ(combo->Height, height);
 }
 
-TEST_F(FormUserDrag, AResizeHidesTheHandlesUntilTheRelease) {
+TEST_F(DragTest, AResizeHidesTheHandlesUntilTheRelease) {
   Place("Button", 10, 10);
-  user.HandleMouseDown(4, kLeftButton);
-  EXPECT_EQ(user.GestureMode(), DragMode::Resize);
+  gestures.HandleMouseDown(4, kLeftButton);
+  EXPECT_EQ(gestures.Mode(), DragMode::Resize);
   for (int i = 0; i < 8; ++i) EXPECT_FALSE(HandleVisible(i));
-  user.MouseUp();
+  gestures.MouseUp();
   for (int i = 0; i < 8; ++i) EXPECT_TRUE(HandleVisible(i));
 }
 
-TEST_F(FormUserDrag, AfterAReleaseOnTheEmptyFormTheHandlesRemainHidden) {
+TEST_F(DragTest, AfterAReleaseOnTheEmptyFormTheHandlesRemainHidden) {
   Place("Button", 10, 10);
   Press(300, 300);
-  user.MouseUp();
+  gestures.MouseUp();
   EXPECT_FALSE(HandleVisible(0));
   EXPECT_EQ(ports.Log.Count("focus"), 1U) << "only the gesture took the focus";
 }
 
-TEST_F(FormUserDrag, EveryOutlineIsErasedInTheEnd) {
+TEST_F(DragTest, EveryOutlineIsErasedInTheEnd) {
   const ControlRef button = Place("Button", 10, 10);
   PressOn(button);
   MoveTo(30, 40);
   MoveTo(80, 90);
-  user.MouseUp();
+  gestures.MouseUp();
   DragHandle(2, 200, 5);
   std::vector<std::string> drawn;
   for (const std::string& entry : Log()) {
@@ -198,94 +199,57 @@ TEST_F(FormUserDrag, EveryOutlineIsErasedInTheEnd) {
   EXPECT_TRUE(drawn.empty());
 }
 
-TEST_F(FormUserDrag, AMoveOutsideAGestureDoesNothing) {
+TEST_F(DragTest, AMoveOutsideAGestureDoesNothing) {
   Place("Button", 10, 10);
   ports.Log.Clear();
   MoveTo(100, 100);
   EXPECT_TRUE(Log().empty());
 }
 
-TEST_F(FormUserDrag, AHandlePressNeedsDesignModeAndALiveControl) {
-  user.HandleMouseDown(0, kLeftButton);
-  EXPECT_EQ(user.GestureMode(), DragMode::None);
+TEST_F(DragTest, AHandlePressNeedsDesignModeAndALiveControl) {
+  gestures.HandleMouseDown(0, kLeftButton);
+  EXPECT_EQ(gestures.Mode(), DragMode::None);
   const ControlRef button = Place("Button", 10, 10);
   form.m_bDesignMode = false;
-  user.HandleMouseDown(0, kLeftButton);
-  EXPECT_EQ(user.GestureMode(), DragMode::None);
+  gestures.HandleMouseDown(0, kLeftButton);
+  EXPECT_EQ(gestures.Mode(), DragMode::None);
   form.m_bDesignMode = true;
   form.Unload(button);
-  user.HandleMouseDown(0, kLeftButton);
-  EXPECT_EQ(user.GestureMode(), DragMode::None);
+  gestures.HandleMouseDown(0, kLeftButton);
+  EXPECT_EQ(gestures.Mode(), DragMode::None);
   EXPECT_FALSE(ports.Gestures.Captured);
 }
 
-TEST_F(FormUserDrag, HandlesAskedForWithoutAControlComeUpAtTheirOldPlaces) {
+TEST_F(DragTest, HandlesAskedForWithoutAControlComeUpAtTheirOldPlaces) {
   Place("Button", 10, 20);
   const float left = form.Element(Kind::Handle, 0)->Left;
-  user.DragEnd();
-  user.ShowHandles(false);
+  gestures.DragEnd();
+  user.Selection().ShowHandles(false);
   form.ControlSel->Left = Twips(200);
-  user.ShowHandles(true);
+  user.Selection().ShowHandles(true);
   EXPECT_TRUE(HandleVisible(0));
   EXPECT_EQ(form.Element(Kind::Handle, 0)->Left, left);
 }
 
-TEST_F(FormUserDrag, AGestureGivenUpLeavesTheControlAndFreesTheMouse) {
+TEST_F(DragTest, AGestureGivenUpLeavesTheControlAndFreesTheMouse) {
   const ControlRef button = Place("Button", 10, 20);
   PressOn(button);
   MoveTo(200, 200);
-  user.DragEnd();
+  gestures.DragEnd();
   EXPECT_EQ(button->Left, Twips(10));
   EXPECT_FALSE(ports.Gestures.Captured);
   EXPECT_FALSE(ports.Gestures.Confined);
-  EXPECT_EQ(user.GestureMode(), DragMode::None);
+  EXPECT_EQ(gestures.Mode(), DragMode::None);
 }
 
-TEST_F(FormUserDrag, ASecondPressEndsTheGestureBeforeItBeginsAnother) {
+TEST_F(DragTest, ASecondPressEndsTheGestureBeforeItBeginsAnother) {
   const ControlRef button = Place("Button", 10, 20);
   PressOn(button);
   MoveTo(51, 61);
   PressOn(button, 5, 5, kRightButton);
   EXPECT_EQ(button->Left, Twips(50)) << "the first gesture ended where the mouse had been";
-  EXPECT_EQ(user.GestureMode(), DragMode::None);
+  EXPECT_EQ(gestures.Mode(), DragMode::None);
   EXPECT_FALSE(ports.Gestures.Captured);
-}
-
-TEST_F(FormUserDrag, AResizeOfTheWindowGrowsTheContainerAndSyncsTheForm) {
-  ports.Log.Clear();
-  user.Form_Resize(7500, 4500, WindowState::Normal);
-  EXPECT_EQ(Log(), (Entries{"grow 1500,-500", "sync Form height", "sync Form width"}));
-  EXPECT_EQ(form.oldWidth, 7500);
-  EXPECT_EQ(form.oldHeight, 4500);
-  EXPECT_EQ(record.Width, 500);
-  EXPECT_EQ(record.Height, 300);
-  EXPECT_EQ(record.Left, 0);
-  EXPECT_EQ(record.Top, 0);
-}
-
-TEST_F(FormUserDrag, ASameSizeOrAMinimisedContainerGrowsNothing) {
-  user.Form_Resize(6000, 5000, WindowState::Normal);
-  host.Minimised = true;
-  user.Form_Resize(7000, 5000, WindowState::Normal);
-  EXPECT_EQ(ports.Log.Count("grow"), 0U);
-  EXPECT_EQ(form.oldWidth, 7000);
-}
-
-TEST_F(FormUserDrag, MaximisingIsRecordedOnceAndUndoneOnTheReturn) {
-  user.Form_Resize(9000, 8000, WindowState::Maximised);
-  EXPECT_EQ(record.Width, 600);
-  ports.Log.Clear();
-  user.Form_Resize(12000, 11000, WindowState::Maximised);
-  EXPECT_TRUE(Log().empty()) << "the recorded state takes no part";
-  user.Form_Resize(6000, 5000, WindowState::Normal);
-  EXPECT_EQ(record.Width, 400);
-}
-
-TEST_F(FormUserDrag, AMinimisedWindowKeepsItsSize) {
-  user.Form_Resize(100, 100, WindowState::Minimised);
-  EXPECT_EQ(form.Width, 6000);
-  EXPECT_EQ(record.Width, 400);
-  EXPECT_TRUE(Log().empty());
 }
 
 }  // namespace
