@@ -11,6 +11,9 @@ namespace tarnwick::editor {
 /// opening on the same key offers it; an accepted text drops it. It lives as long as the project.
 class CodeDrafts {
  public:
+  /// Texts by the key of their code.
+  using Texts = std::map<std::string, std::string>;
+
   void Keep(std::string key, std::string text) {
     texts_.insert_or_assign(std::move(key), std::move(text));
   }
@@ -22,10 +25,10 @@ class CodeDrafts {
   void Drop(const std::string& key) { texts_.erase(key); }
   void Clear() { texts_.clear(); }
   /// All of them, for what keeps unsaved work.
-  [[nodiscard]] const std::map<std::string, std::string>& All() const noexcept { return texts_; }
+  [[nodiscard]] const Texts& All() const noexcept { return texts_; }
 
  private:
-  std::map<std::string, std::string> texts_;
+  Texts texts_;
 };
 
 }  // namespace tarnwick::editor

@@ -200,6 +200,23 @@ void FormCodigo::RestoreLost() {
   DiscardLost();
 }
 
+CodeDrafts::Texts FormCodigo::NotAccepted() const {
+  CodeDrafts::Texts texts = drafts_.All();
+  if (IsOpen() && event_row_ >= 0) {
+    if (std::string text = editor_.Text(); text != shown_text_) {
+      texts.insert_or_assign(ShownKey(), std::move(text));
+    }
+  }
+  return texts;
+}
+
+void FormCodigo::KeepDrafts(const CodeDrafts::Texts& texts) {
+  for (const auto& [key, text] : texts) {
+    const std::string* const stored = project_.EventTable.Find(key);
+    if (stored == nullptr ? !text.empty() : *stored != text) drafts_.Keep(key, text);
+  }
+}
+
 void FormCodigo::DiscardLost() {
   if (IsOpen()) drafts_.Drop(ShownKey());
 }

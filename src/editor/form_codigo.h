@@ -68,6 +68,13 @@ class FormCodigo {
   void RestoreLost();
   void DiscardLost();
   [[nodiscard]] CodeDrafts& Drafts() noexcept { return drafts_; }
+  /// What would be lost if the program ended now: the text that is shown, when it differs from its
+  /// entry, and all drafts. To be kept with the unsaved project, and handed to KeepDrafts when that
+  /// is had back.
+  [[nodiscard]] CodeDrafts::Texts NotAccepted() const;
+  /// Offers texts at the next opening on their keys. One that is the same as its entry is not
+  /// offered.
+  void KeepDrafts(const CodeDrafts::Texts& texts);
 
   /// `WndFunc`, the function panel.
   [[nodiscard]] FunctionPanel& Functions() noexcept { return functions_; }

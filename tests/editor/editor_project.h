@@ -22,6 +22,7 @@ struct EditorProject {
     main.Add(Kind::Button, "Ok");
     main.Add(Kind::Label, "my_label");
     main.Add(Kind::Image, "Pic");
+    main.Add(Kind::Image, "Images3");
     main.Add(Kind::PopUpMenu, "Pop");
     BuildMenuControls(Tables, main.User());
     Builder.AddForm("Other").Add(Kind::ListBox, "Ok");
@@ -37,6 +38,8 @@ struct EditorProject {
     Members("popupmnu", {"Popup"});
     Members("screen", {"Width"});
     Members("application", {"Title"});
+    Members("clipboard", {"Open"});
+    Members("font", {"Bold"});
     Language.EventLists.Add("button", {"OnClick", "OnKeyUp"});
     Language.EventLists.Add("label", {"OnClick", "OnDblClick"});
     Language.EventLists.Add("images", {"OnPaint"});

@@ -379,6 +379,48 @@ TEST_F(FormCodigoTest, WhatWasLostCanBeDiscarded) {
   EXPECT_TRUE(codigo_.Drafts().All().empty());
 }
 
+TEST_F(FormCodigoTest, WhatIsNotAcceptedIsTheShownTextAndAllThatWasLost) {
+  Select(Kind::Button, 1);
+  SetCode("Form1.Button1.OnClick", "kept");
+  codigo_.Open();
+  EXPECT_TRUE(codigo_.NotAccepted().empty());
+  editor_.SetSelText("a");
+  codigo_.Cancel();
+  codigo_.Open();
+  codigo_.Events_Click(1);
+  editor_.SetSelText("b");
+  const editor::CodeDrafts::Texts expected{{"Form1.Button1.OnClick", "akept"},
+                                           {"Form1.Button1.OnKeyDown", "b"}};
+  EXPECT_EQ(codigo_.NotAccepted(), expected);
+  EXPECT_EQ(Code("Form1.Button1.OnKeyDown"), "(none)");
+}
+
+TEST_F(FormCodigoTest, WhatIsShownTakesThePlaceOfWhatWasLostThere) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  editor_.SetSelText("old");
+  codigo_.Cancel();
+  codigo_.Open();
+  editor_.SetSelText("new");
+  const editor::CodeDrafts::Texts expected{{"Form1.Button1.OnClick", "new"}};
+  EXPECT_EQ(codigo_.NotAccepted(), expected);
+}
+
+TEST_F(FormCodigoTest, TextsOfAnEarlierRunAreOfferedAtTheNextOpeningOnTheirKey) {
+  SetCode("Form1.Button1.OnKeyUp", "same");
+  codigo_.KeepDrafts({{"Form1.Button1.OnClick", "typed"},
+                      {"Form1.Button1.OnKeyDown", ""},
+                      {"Form1.Button1.OnKeyUp", "same"}});
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  ASSERT_NE(codigo_.Lost(), nullptr);
+  EXPECT_EQ(*codigo_.Lost(), "typed");
+  codigo_.Events_Click(1);
+  EXPECT_EQ(codigo_.Lost(), nullptr);
+  codigo_.Events_Click(3);
+  EXPECT_EQ(codigo_.Lost(), nullptr);
+}
+
 TEST_F(FormCodigoTest, ARenameShowsInTheOpenWindow) {
   Select(Kind::Button, 1);
   codigo_.Open();

@@ -8,6 +8,8 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include <Qsci/qscicommandset.h>
+
 #include "editor/form_view_codes.h"
 #include "qt/editor/code_lexer.h"
 #include "qt/editor/member_list_popup.h"
@@ -79,9 +81,10 @@ void CodeEdit::SetUp(std::string_view font_name) {
   setBraceMatching(SloppyBraceMatch);
   setCaretLineVisible(true);
   setAccessibleName(QStringLiteral("Code"));
-  // The windows around have menus and keys of their own for these.
-  for (const int key : {int{SCK_ADD} + (SCMOD_CTRL << 16), int{'L'} + (SCMOD_CTRL << 16)}) {
-    SendScintilla(SCI_CLEARCMDKEY, static_cast<unsigned long>(key));
+  // The windows around have commands of their own for these keys, and the toolkit's widget would
+  // keep every key that it has a command for.
+  for (const int key : {int{Qt::CTRL} | Qt::Key_D, int{Qt::CTRL} | Qt::Key_L}) {
+    if (QsciCommand* command = standardCommands()->boundTo(key)) command->setKey(0);
   }
   SendScintilla(SCI_ASSIGNCMDKEY, static_cast<unsigned long>(SCK_ADD + (SCMOD_CTRL << 16)),
                 static_cast<long>(SCI_ZOOMIN));

@@ -88,8 +88,10 @@ CodeWindow::CodeWindow(editor::FormCodigo& logic, CodeEdit& code, const CodeWind
     logic_.Events_Click(row);
     Refresh();
     marks_->Restart();
-    code_.SetFocus();
+    // Keys walk through the events; a choice by the mouse goes on to the text.
+    if (!events_by_key_) code_.SetFocus();
   });
+  events_->installEventFilter(this);
   connect(functions_, &FunctionPanelView::CloseWanted, this, [this] {
     ShowFunctions(false);
     code_.SetFocus();
@@ -282,6 +284,20 @@ void CodeWindow::SaveFile() {
   const auto path = ports_.Dialogs.SaveFile({"SAVE FILE - Tarnwick -", "All Files|*.*", "", ""});
   if (path && !path->empty()) ports_.Files.Replace(*path, code_.Text());
   code_.SetFocus();
+}
+
+bool CodeWindow::eventFilter(QObject* object, QEvent* event) {
+  if (object != events_) return QWidget::eventFilter(object, event);
+  if (event->type() == QEvent::MouseButtonPress) events_by_key_ = false;
+  if (event->type() == QEvent::KeyPress) {
+    events_by_key_ = true;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+      code_.SetFocus();
+      return true;
+    }
+  }
+  return QWidget::eventFilter(object, event);
 }
 
 bool CodeWindow::event(QEvent* event) {

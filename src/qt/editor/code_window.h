@@ -51,6 +51,7 @@ class CodeWindow final : public QWidget {
  protected:
   void closeEvent(QCloseEvent* event) override;
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   void BuildTools();
@@ -75,6 +76,7 @@ class CodeWindow final : public QWidget {
   CodeMarksView* marks_;
   QToolBar* bar_;
   std::unique_ptr<CodeTools> tools_;
+  bool events_by_key_ = false;  ///< the last choice among the events began with a key
 };
 
 }  // namespace tarnwick

@@ -6,6 +6,7 @@
 #include "qt/editor/code_edit.h"
 #include "qt/editor/code_window.h"
 #include "qt/editor/declarations_window.h"
+#include "qt/kit/above_modal.h"
 #include "shell/events_bar.h"
 #include "shell/mdi_form.h"
 
@@ -109,6 +110,7 @@ void CodeWindowsView::OpenPublicDeclarations() {
   LoadCodeWindows();
   const DesignForm* current = shell_.Tables().CurrentForm;
   if (current != nullptr && parts_->Declarations.Open(current->Number())) {
+    LetWorkAboveModal(*parts_->Declare, main_window_);
     parts_->Declare->ShowOpened();
   }
 }

@@ -11,6 +11,7 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include "qt/kit/above_modal.h"
 #include "qt/kit/icon_set.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
@@ -54,6 +55,7 @@ void FillList(QListWidget& list, const std::vector<std::string>& rows) {
 ObjectsExaminerWindow::ObjectsExaminerWindow(FormViewObjects& logic, QWidget* parent)
     : QWidget(parent, Qt::Window),
       logic_(logic),
+      home_(parent),
       find_(new QLineEdit),
       kinds_(MakeList("Lista")),
       members_(MakeList("ListaPro")),
@@ -127,6 +129,7 @@ void ObjectsExaminerWindow::OpenExaminer() {
   }
   find_->clear();
   ShowKind();
+  if (home_ != nullptr) LetWorkAboveModal(*this, *home_);
   show();
   raise();
   activateWindow();

@@ -40,6 +40,7 @@ class ObjectsExaminerWindow final : public QWidget, public ExaminerWindow {
   bool PressInSearch(QKeyEvent& event);
 
   FormViewObjects& logic_;
+  QWidget* home_;  ///< the parent, but for the time of a modal dialog
   QLineEdit* find_;
   QListWidget* kinds_;
   QListWidget* members_;
