@@ -1,0 +1,45 @@
+#include "hosts/prepared_program.h"
+
+#include <filesystem>
+
+#include "platform/native_files.h"
+#include "text/path_text.h"
+
+namespace tarnwick::hosts {
+namespace {
+
+class DiskSources final : public basic::SourceReader {
+ public:
+  std::optional<std::string> ReadSource(const std::string& path) override {
+    return files_.Read(path);
+  }
+
+ private:
+  NativeFiles files_;
+};
+
+}  // namespace
+
+PreparedProgram PrepareProgram(const std::string& path, const basic::ClassCatalog& classes,
+                               const basic::FrontEndOptions& options) {
+  std::error_code ignored;
+  const std::string full = PathFromNative(std::filesystem::absolute(path, ignored).string());
+  DiskSources sources;
+  basic::FrontEndResult checked = basic::CheckProgram(full, sources, classes, options);
+  PreparedProgram prepared;
+  prepared.Found = std::move(checked.Found);
+  if (checked.Checked) {
+    for (const basic::Resource& resource : checked.Checked->Resources) {
+      prepared.Resources.emplace_back(resource.File);
+    }
+    basic::EmitResult emitted = basic::Emit(*checked.Checked);
+    prepared.Good = emitted.Error.empty();
+    if (!prepared.Good) prepared.Found.Error(emitted.At, emitted.Error);
+    prepared.Code = std::move(emitted.Made);
+  }
+  // The code names its texts and places by itself: only the files are still of use.
+  prepared.Files = std::move(checked.Files);
+  return prepared;
+}
+
+}  // namespace tarnwick::hosts
