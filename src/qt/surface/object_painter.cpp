@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "looks/classic_look.h"
+#include "looks/object_faces.h"
 #include "looks/platform_colors.h"
 #include "model/units.h"
 #include "qt/kit/icon_set.h"
@@ -13,10 +14,6 @@ namespace tarnwick {
 
 namespace {
 
-constexpr int kMarkSize = 13;
-constexpr int kMarkGap = 4;
-constexpr int kPictureGap = 4;
-constexpr int kArrowButton = 16;
 constexpr int kSmallPicture = 20;
 constexpr qreal kFaint = 0.4;
 
@@ -143,86 +140,40 @@ void ObjectPainter::DrawCaption(QPainter& painter, const QRect& area, const Desi
 void ObjectPainter::DrawText(QPainter& painter, const QRect& area, const DesignControl& control,
                              std::string_view text, const QColor& color, Qt::Alignment alignment,
                              TextFlow flow) {
-  if (text.empty() || area.isEmpty()) return;
-  const FormFont& font = texts_.FontOf(control);
-  const LaidText& laid = texts_.Lay(text, font, flow, area.width());
-  int x = area.x();
-  int y = area.y();
-  if (alignment & Qt::AlignHCenter) x += (area.width() - laid.Width) / 2;
-  if (alignment & Qt::AlignVCenter) y += (area.height() - laid.Height) / 2;
-  const bool clipped = laid.Width > area.width() || laid.Height > area.height();
-  if (clipped) {
-    painter.save();
-    painter.setClipRect(area, Qt::IntersectClip);
-  }
-  painter.setFont(font.Font);
-  const auto draw = [&](int dx, const QColor& ink) {
-    painter.setPen(ink);
-    painter.drawStaticText(x + dx, y + dx, laid.Text);
-    if (laid.KeyWidth > 0) {
-      painter.fillRect(x + dx + laid.KeyLeft, y + dx + laid.KeyTop, laid.KeyWidth, 1, ink);
-    }
-  };
-  if (enabled_) {
-    draw(0, color);
-  } else {
-    draw(1, looks::kLight);
-    draw(0, looks::kGreyText);
-  }
-  if (clipped) painter.restore();
+  looks::DrawFaceText(painter, texts_, area, {text, texts_.FontOf(control), color, enabled_},
+                      alignment, flow);
 }
 
 void ObjectPainter::PaintButton(QPainter& painter, const QRect& rect, const DesignControl& control,
                                 const ObjectRec* record) {
-  QRect face = rect;
-  if (control.Default) {
-    looks::DrawFrame(painter, rect, looks::kDarkShadow, looks::kDarkShadow);
-    face.adjust(1, 1, -1, -1);
-  }
-  // The program's buttons have the colour of the face, whatever colour was set.
-  looks::DrawRaised(painter, face, looks::kFace);
-  QRect inside = face.adjusted(3, 3, -3, -3);
-  const QPixmap* picture = control.Picture.empty() ? nullptr : &pictures_.At(control.Picture);
-  if (picture != nullptr && !picture->isNull()) {
-    // The generated program sets every button's Layout to the picture above the caption, the two
-    // centred together.
-    const int width = std::min(picture->width(), inside.width());
-    const int height = std::min(picture->height(), inside.height());
-    const int below =
-        control.Caption.empty() ? 0 : kPictureGap + texts_.FontOf(control).Metrics.height();
-    const int top = inside.y() + std::max(0, (inside.height() - height - below) / 2);
-    painter.drawPixmap(inside.x() + (inside.width() - width) / 2, top, *picture, 0, 0, width,
-                       height);
-    inside = QRect(inside.x(), top + height, inside.width(), below) & inside;
-  }
-  DrawCaption(painter, inside, control, looks::ColorOf(record != nullptr ? record->FontColor : 0),
-              Qt::AlignCenter, TextFlow::Line);
+  // The program's buttons have the colour of the face, whatever colour was set, and the generated
+  // program sets every button's Layout to the picture above the caption.
+  looks::ButtonFace face;
+  face.Default = control.Default;
+  if (!control.Picture.empty()) face.Picture = &pictures_.At(control.Picture);
+  const QColor ink = looks::ColorOf(record != nullptr ? record->FontColor : 0);
+  looks::DrawButtonFace(painter, texts_, rect,
+                        {control.Caption, texts_.FontOf(control), ink, enabled_}, face);
 }
 
 void ObjectPainter::PaintLabel(QPainter& painter, const QRect& rect, const DesignControl& control) {
+  const FormFont& font = texts_.FontOf(control);
   QRect area = rect;
   if (control.AutoSize) {
     // The label of the generated program takes the size of its text.
-    const FormFont& font = texts_.FontOf(control);
-    const LaidText& laid = texts_.Lay(
-        control.Caption, font, control.WordWrap ? TextFlow::Wrapped : TextFlow::Line, rect.width());
-    area.setSize(QSize(laid.Width, laid.Height));
+    area.setSize(looks::LabelSize(texts_, control.Caption, font, control.WordWrap, rect.width()));
   }
-  if (control.BackStyle != 0) painter.fillRect(area, looks::ColorOf(control.BackColor));
-  DrawCaption(painter, area, control, looks::ColorOf(control.ForeColor), Qt::AlignLeft,
-              control.WordWrap ? TextFlow::Wrapped : TextFlow::Line);
+  looks::LabelFace face;
+  face.Wraps = control.WordWrap;
+  if (control.BackStyle != 0) face.Ground = looks::ColorOf(control.BackColor);
+  looks::DrawLabelFace(painter, texts_, area,
+                       {control.Caption, font, looks::ColorOf(control.ForeColor), enabled_}, face);
 }
 
 void ObjectPainter::PaintImage(QPainter& painter, const QRect& rect, const DesignControl& control) {
   const QPixmap* picture = control.Picture.empty() ? nullptr : &pictures_.At(control.Picture);
   if (picture != nullptr && !picture->isNull()) {
-    if (control.Stretch) {
-      painter.drawPixmap(rect, *picture);
-    } else {
-      const int width = std::min(picture->width(), rect.width());
-      const int height = std::min(picture->height(), rect.height());
-      painter.drawPixmap(rect.x(), rect.y(), *picture, 0, 0, width, height);
-    }
+    looks::DrawImageFace(painter, rect, *picture, control.Stretch);
     return;
   }
   // Nothing to see in the program; here it must be found. A picture whose file is gone is crossed.
@@ -237,40 +188,32 @@ void ObjectPainter::PaintImage(QPainter& painter, const QRect& rect, const Desig
 
 void ObjectPainter::PaintMark(QPainter& painter, const QRect& rect, const DesignControl& control,
                               bool option) {
-  painter.fillRect(rect, looks::kFace);
-  const QPoint mark(rect.x(), rect.y() + (rect.height() - kMarkSize) / 2);
-  if (option) {
-    looks::DrawOption(painter, mark, control.Value != 0, enabled_);
-  } else {
-    looks::DrawCheckBox(painter, mark, control.Value != 0, enabled_);
-  }
-  DrawCaption(painter, rect.adjusted(kMarkSize + kMarkGap, 0, 0, 0), control,
-              looks::ColorOf(control.ForeColor), Qt::AlignVCenter, TextFlow::Line);
+  const QColor ink = looks::ColorOf(control.ForeColor);
+  looks::DrawMarkFace(painter, texts_, rect,
+                      {control.Caption, texts_.FontOf(control), ink, enabled_}, option,
+                      control.Value != 0);
 }
 
 void ObjectPainter::PaintText(QPainter& painter, const QRect& rect, const DesignControl& control) {
-  const QColor paper = looks::ColorOf(control.BackColor);
-  if (control.BorderStyle == 0) {
-    painter.fillRect(rect, paper);
-  } else if (control.Appearance == 0) {
-    looks::DrawFlat(painter, rect, paper);
-  } else {
-    looks::DrawSunken(painter, rect, paper);
-  }
+  looks::FieldEdge edge =
+      control.Appearance == 0 ? looks::FieldEdge::Flat : looks::FieldEdge::Sunken;
+  if (control.BorderStyle == 0) edge = looks::FieldEdge::None;
+  looks::DrawField(painter, rect, edge, looks::ColorOf(control.BackColor));
   const bool rich = control.Id == Kind::RichTextBox;
-  DrawCaption(painter, rect.adjusted(4, 3, -4, -3), control, looks::ColorOf(control.ForeColor),
-              Qt::AlignLeft, rich ? TextFlow::Block : TextFlow::Plain);
+  const QRect inside =
+      rect.adjusted(looks::kFieldLeft, looks::kFieldTop, -looks::kFieldLeft, -looks::kFieldTop);
+  DrawCaption(painter, inside, control, looks::ColorOf(control.ForeColor), Qt::AlignLeft,
+              rich ? TextFlow::Block : TextFlow::Plain);
 }
 
 void ObjectPainter::PaintList(QPainter& painter, const QRect& rect, const DesignControl& control) {
-  if (control.Appearance == 0) {
-    looks::DrawFlat(painter, rect, looks::ColorOf(control.BackColor));
-  } else {
-    looks::DrawSunken(painter, rect, looks::ColorOf(control.BackColor));
-  }
+  const bool flat = control.Appearance == 0;
+  looks::DrawField(painter, rect, flat ? looks::FieldEdge::Flat : looks::FieldEdge::Sunken,
+                   looks::ColorOf(control.BackColor));
   const FormFont& font = texts_.FontOf(control);
   const int row = font.Metrics.height();
-  const QRect inside = rect.adjusted(2, 2, -2, -2);
+  constexpr int kEdge = looks::kListEdge;
+  const QRect inside = rect.adjusted(kEdge, kEdge, -kEdge, -kEdge);
   painter.save();
   painter.setClipRect(inside, Qt::IntersectClip);
   painter.setFont(font.Font);
@@ -278,21 +221,17 @@ void ObjectPainter::PaintList(QPainter& painter, const QRect& rect, const Design
   int y = inside.y();
   for (const std::string& item : control.Items) {
     if (y > inside.bottom()) break;
-    painter.drawStaticText(inside.x() + 2, y, texts_.Lay(item, font, TextFlow::Plain, 0).Text);
+    painter.drawStaticText(inside.x() + looks::kListTextLeft, y,
+                           texts_.Lay(item, font, TextFlow::Plain, 0).Text);
     y += row;
   }
   painter.restore();
 }
 
 void ObjectPainter::PaintCombo(QPainter& painter, const QRect& rect, const DesignControl& control) {
-  looks::DrawSunken(painter, rect, enabled_ ? looks::ColorOf(control.BackColor) : looks::kFace);
-  const QRect inside = rect.adjusted(2, 2, -2, -2);
-  const int width = std::min(kArrowButton, inside.width());
-  const QRect button(inside.right() - width + 1, inside.y(), width, inside.height());
-  looks::DrawRaised(painter, button, looks::kFace);
-  looks::DrawDropArrow(painter, button, enabled_ ? looks::kDarkShadow : looks::kGreyText);
-  DrawCaption(painter, inside.adjusted(2, 0, -width - 1, 0), control,
-              looks::ColorOf(control.ForeColor), Qt::AlignVCenter, TextFlow::Plain);
+  looks::DrawComboFace(painter, rect, looks::ColorOf(control.BackColor), enabled_);
+  DrawCaption(painter, looks::ComboTextOf(rect), control, looks::ColorOf(control.ForeColor),
+              Qt::AlignVCenter, TextFlow::Plain);
 }
 
 void ObjectPainter::PaintHtml(QPainter& painter, const QRect& rect, const DesignControl& control,

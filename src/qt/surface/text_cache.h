@@ -1,49 +1,24 @@
 // Fonts and laid-out texts of design forms.
 #pragma once
 
-#include <QStaticText>
-#include <cstdint>
-#include <string>
-#include <string_view>
-#include <unordered_map>
-
-#include "looks/form_fonts.h"
+#include "looks/form_texts.h"
 #include "model/design_control.h"
 
 namespace tarnwick {
 
 using looks::FormFont;
+using looks::LaidText;
+using looks::TextFlow;
 
-/// How a text is laid out.
-enum class TextFlow : std::uint8_t {
-  Line,     ///< one line, "&" marks the access key
-  Wrapped,  ///< wrapped at the width, "&" marks the access key
-  Plain,    ///< one line, every character as it stands
-  Block,    ///< several lines, wrapped at the width, every character as it stands
-};
-
-struct LaidText {
-  QStaticText Text;
-  int Width = 0;
-  int Height = 0;
-  int KeyLeft = 0;  ///< underline of the access key; no width, no underline
-  int KeyWidth = 0;
-  int KeyTop = 0;
-};
-
-/// Laying out text is what painting a form costs most: fonts and layouts are kept, and thrown away
-/// together when they become many.
-class TextCache {
+/// The texts of the open forms, by what their controls say.
+class TextCache : public looks::FormTexts {
  public:
-  [[nodiscard]] const FormFont& FontOf(const DesignControl& control);
-  /// The layout of a text of the code page; `width` counts only where the text wraps.
-  [[nodiscard]] const LaidText& Lay(std::string_view text, const FormFont& font, TextFlow flow,
-                                    int width);
-
- private:
-  looks::FormFonts fonts_;
-  std::unordered_map<std::string, LaidText> texts_;
-  std::string key_;
+  using looks::FormTexts::FontOf;
+  [[nodiscard]] const FormFont& FontOf(const DesignControl& control) {
+    return FontOf(looks::FontWish{control.FontName, control.FontSize, control.FontBold,
+                                  control.FontItalic, control.FontUnderline,
+                                  control.FontStrikethru});
+  }
 };
 
 }  // namespace tarnwick
