@@ -7,24 +7,13 @@
 #include <algorithm>
 
 #include "looks/classic_look.h"
+#include "looks/menu_look.h"
 #include "model/menu_row.h"
 #include "qt/kit/text_bridge.h"
 
 namespace tarnwick {
 
 namespace {
-
-constexpr int kTitleRoom = 7;
-constexpr int kFontPixels = 11;
-
-/// The menus of a design form keep the colours of the program that is being made.
-constexpr auto kMenuSheet =
-    "QMenu { background: #C0C0C0; color: black; border: 1px solid #808080; padding: 2px; "
-    "font-size: 11px; }"
-    "QMenu::item { padding: 3px 24px 3px 20px; border-radius: 0; }"
-    "QMenu::item:selected:enabled { background: #000080; color: white; }"
-    "QMenu::item:disabled { color: #808080; }"
-    "QMenu::separator { height: 1px; background: #808080; margin: 3px 1px; }";
 
 /// The caption as it is read out, without the marks of access keys.
 QString Spoken(const QString& caption) {
@@ -45,7 +34,7 @@ class FormMenuTitle final : public QAbstractButton {
       : QAbstractButton(parent), caption_(std::move(caption)) {
     setFocusPolicy(Qt::NoFocus);
     setAccessibleName(Spoken(caption_));
-    resize(fontMetrics().size(Qt::TextShowMnemonic, caption_).width() + 2 * kTitleRoom,
+    resize(fontMetrics().size(Qt::TextShowMnemonic, caption_).width() + 2 * looks::kMenuTitleRoom,
            FormMenuStrip::HeightPixels() - 1);
     setAttribute(Qt::WA_Hover);
     show();
@@ -73,7 +62,7 @@ FormMenuStrip::FormMenuStrip(std::function<void(const ControlRef&)> chosen, QWid
   setAccessibleName(QStringLiteral("Menu bar"));
   setFixedHeight(HeightPixels());
   QFont shown = font();
-  shown.setPixelSize(kFontPixels);
+  shown.setPixelSize(looks::kMenuFontPixels);
   setFont(shown);
 }
 
@@ -97,7 +86,7 @@ void FormMenuStrip::Rebuild(const DesignForm& form) {
     left += title.Button->width();
     title.Items = new QMenu(this);
     title.Items->setAccessibleName(title.Button->accessibleName());
-    title.Items->setStyleSheet(QString::fromLatin1(kMenuSheet));
+    title.Items->setStyleSheet(QString::fromLatin1(looks::kMenuSheet));
     title.Items->installEventFilter(this);
     menus[static_cast<std::size_t>(i)] = title.Items;
     const int place = static_cast<int>(titles_.size());
