@@ -1,5 +1,6 @@
-// Any bytes as a RapidQ program, run within limits under both ways of dispatching: the same text
-// comes out, and the same end.
+// Any bytes as a RapidQ program with objects, run within limits under both ways of dispatching: the
+// same text comes out, the same happens to its windows, and it ends alike. What stands behind a
+// line of three apostrophes is what the user does.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -11,14 +12,21 @@
 #include "basic/program_world.h"
 #include "basic/source_text.h"
 #include "basic/vm/machine.h"
-#include "cli/no_classes.h"
+#include "objects/object_world.h"
+#include "objects/scripted_widgets.h"
 
 namespace {
 
 using namespace tarnwick;
 
-std::string Run(const basic::Code& code, basic::Dispatch how) {
+std::string Run(const basic::Code& code, const std::string& script, basic::Dispatch how) {
   basic::ProgramWorld world;
+  std::string trace;
+  objects::ScriptedWidgets widgets(script);
+  widgets.Trace = [&](std::string_view line) { trace += std::string(line) + "\n"; };
+  objects::ObjectWorld objects(widgets, &world.Files, {"C:\\Work\\main.exe", "main", {}});
+  widgets.Play(objects);
+  world.Host.Objects = &objects;
   basic::RunOptions options;
   options.MaxSteps = 20'000;
   options.How = how;
@@ -26,9 +34,10 @@ std::string Run(const basic::Code& code, basic::Dispatch how) {
   options.ArrayLimit = 20'000;
   options.StackSlots = 20'000;
   basic::Machine machine(code, world.Host, options);
+  objects.Connect(machine);
   const basic::RunResult result = machine.Run();
-  return world.Log + "\n" + std::to_string(static_cast<int>(result.End)) + result.Text + "\n" +
-         std::to_string(result.Steps);
+  return world.Log + "\n" + trace + std::to_string(static_cast<int>(result.End)) + result.Text +
+         "\n" + std::to_string(result.Steps);
 }
 
 }  // namespace
@@ -36,14 +45,19 @@ std::string Run(const basic::Code& code, basic::Dispatch how) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   basic::test::MemorySources sources;
   sources.Files["C:\\Work\\main.bas"] = std::string(reinterpret_cast<const char*>(data), size);
-  const NoClasses classes;
+  const std::string& text = sources.Files["C:\\Work\\main.bas"];
+  constexpr std::string_view kScript = "'''\n";
+  const std::size_t at = text.find(kScript);
+  const std::string script = at == std::string::npos ? "" : text.substr(at + kScript.size());
+  const objects::ClassTable classes;
   const basic::FrontEndResult checked =
       basic::CheckProgram("C:\\Work\\main.bas", sources, classes, {});
   if (!checked.Checked) return 0;
   const basic::EmitResult emitted = basic::Emit(*checked.Checked);
   if (!emitted.Error.empty()) return 0;
   if (basic::DumpCode(emitted.Made).empty()) std::abort();
-  if (Run(emitted.Made, basic::Dispatch::Threaded) != Run(emitted.Made, basic::Dispatch::Switch)) {
+  if (Run(emitted.Made, script, basic::Dispatch::Threaded) !=
+      Run(emitted.Made, script, basic::Dispatch::Switch)) {
     std::abort();
   }
   return 0;

@@ -28,7 +28,7 @@ constexpr std::array<CommandInfo, 5> kCommands{{
     {Command::Check, "check", 1, "check PROJECT.tnp",
      "name what is wrong in a project and what to do, a line each; 1 when there is anything"},
     {Command::Run, "run", 0, "run [OPTIONS] PROGRAM [ARGUMENTS]",
-     "run a RapidQ program that has no windows"},
+     "run a RapidQ program without showing its windows"},
 }};
 
 constexpr std::string_view kProgram = "tarnwick-cli";

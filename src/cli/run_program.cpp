@@ -2,16 +2,25 @@
 
 #include <atomic>
 #include <csignal>
+#include <exception>
+#include <filesystem>
 
 #include "basic/code/dump.h"
 #include "basic/vm/machine.h"
-#include "cli/no_classes.h"
+#include "cli/supported_list.h"
 #include "hosts/disk_files.h"
 #include "hosts/local_clock.h"
 #include "hosts/local_system.h"
 #include "hosts/prepared_program.h"
+#include "hosts/profile_calls.h"
 #include "hosts/stream_console.h"
+#include "objects/class_table.h"
+#include "objects/scripted_widgets.h"
+#include "platform/native_files.h"
+#include "platform/profile_files.h"
+#include "platform/program_folder.h"
 #include "text/code_page.h"
+#include "text/path_text.h"
 
 namespace tarnwick {
 namespace {
@@ -23,29 +32,107 @@ void StopRunning(int) {
   if (basic::Machine* const machine = g_running.load()) machine->Stop();
 }
 
-basic::RunResult RunCode(const hosts::PreparedProgram& program, const RunArguments& arguments,
-                         std::FILE* in, std::FILE* out, std::FILE* err) {
+/// What the program is told of itself; the program it would be compiled to lies beside its source.
+objects::ProgramFacts FactsOf(const hosts::PreparedProgram& program) {
+  const std::string_view path = program.Files.File(0).Path;
+  const std::string_view name = BareName(path);
+  const std::string stem(name.substr(0, name.rfind('.')));
+  return {std::string(FolderOf(path)) + stem + ".exe", stem, program.Resources};
+}
+
+struct Streams {
+  std::FILE* In;
+  std::FILE* Out;
+  std::FILE* Err;
+};
+
+basic::RunResult RunCode(const hosts::PreparedProgram& program, objects::ScriptedWidgets& widgets,
+                         const RunArguments& arguments, const Streams& streams) {
   std::vector<std::string> words;
   for (const std::string& word : arguments.Arguments) words.push_back(Utf8ToCodePage(word));
-  hosts::StreamConsole console(in, out);
+  hosts::StreamConsole console(streams.In, streams.Out);
   hosts::DiskFiles files;
   hosts::LocalClock clock(arguments.Clock);
-  hosts::LocalSystem system(std::move(words), err);
-  basic::Hosts all;
-  all.Console = &console;
-  all.Files = &files;
-  all.Clock = &clock;
-  all.System = &system;
-  basic::Machine machine(program.Code, all, arguments.Options());
+  hosts::LocalSystem system(std::move(words), streams.Err);
+  NativeFiles disk;
+  ProfileFiles profiles(disk);
+  hosts::ProfileCalls natives(profiles);
+  objects::ObjectWorld world(widgets, &files, FactsOf(program));
+  widgets.Play(world);
+  basic::Machine machine(program.Code, {&console, &world, &files, &clock, &system, &natives},
+                         arguments.Options());
   machine.SetResources(program.Resources);
+  world.Connect(machine);
   clock.Ending = [&] { return machine.Ending(); };
   g_running = &machine;
   auto* const before = std::signal(SIGINT, StopRunning);
   basic::RunResult result = machine.Run();
   std::signal(SIGINT, before);
   g_running = nullptr;
-  std::fflush(out);
+  std::fflush(streams.Out);
   return result;
+}
+
+void WriteText(std::FILE* out, std::string_view text) {
+  const std::string utf8 = CodePageToUtf8(text);
+  std::fwrite(utf8.data(), 1, utf8.size(), out);
+}
+
+/// The options that are not the same for all programs that run RapidQ.
+hosts::Taken TakeOption(RunArguments& arguments, const std::string& name,
+                        const std::string& value) {
+  const std::pair<std::string_view, bool*> flags[] = {{"--dump", &arguments.Dump},
+                                                      {"--trace", &arguments.Trace},
+                                                      {"--supported", &arguments.Supported}};
+  for (const auto& [flag, target] : flags) {
+    if (flag != name) continue;
+    *target = true;
+    return hosts::Taken::Alone;
+  }
+  if (name == "--events") {
+    arguments.Events = value;
+  } else if (name == "--program-folder") {
+    arguments.ProgramFolder = Utf8ToCodePage(value);
+  } else {
+    return hosts::TakeSetting(arguments, name, value);
+  }
+  return value.empty() ? hosts::Taken::Wrong : hosts::Taken::Value;
+}
+
+RunExit CheckAndRun(const RunArguments& arguments, const Streams& streams) {
+  basic::FrontEndOptions options;
+  options.Strict = arguments.Strict;
+  options.Source.ProgramFolder =
+      arguments.ProgramFolder.empty() ? ExecutableFolder() : arguments.ProgramFolder;
+  const hosts::PreparedProgram program =
+      hosts::PrepareProgram(arguments.Program, objects::ClassTable(), options);
+  hosts::RunReport report(streams.Err, hosts::ReportForm::People, "tarnwick-cli");
+  report.SetFiles(program.Files);
+  report.SayAll(program.Found);
+  if (!program.Good) return RunExit::Faulty;
+  if (arguments.Dump) {
+    WriteText(streams.Out, basic::DumpCode(program.Code));
+    return RunExit::Ended;
+  }
+  std::optional<std::string> script = std::string();
+  if (!arguments.Events.empty()) {
+    std::error_code ignored;
+    script = NativeFiles().Read(
+        PathFromNative(std::filesystem::absolute(arguments.Events, ignored).string()));
+  }
+  if (!script) {
+    report.Say({}, "error", "The events cannot be read: " + Utf8ToCodePage(arguments.Events));
+    return RunExit::Usage;
+  }
+  objects::ScriptedWidgets widgets(*script);
+  if (arguments.Trace) {
+    widgets.Trace = [&](std::string_view line) {
+      WriteText(streams.Out, std::string(line) + "\n");
+    };
+  }
+  const basic::RunResult result = RunCode(program, widgets, arguments, streams);
+  for (const std::string& fault : widgets.Faults) report.Say({}, "note", fault);
+  return report.SayResult(result);
 }
 
 }  // namespace
@@ -55,10 +142,6 @@ std::optional<RunArguments> ParseRunArguments(const std::vector<std::string>& wo
   RunArguments arguments;
   std::size_t at = 0;
   for (; at < words.size() && words[at].starts_with("-") && words[at] != "--"; ++at) {
-    if (words[at] == "--dump") {
-      arguments.Dump = true;
-      continue;
-    }
     const std::size_t equal = words[at].find('=');
     const bool joined = equal != std::string::npos;
     const std::string name = words[at].substr(0, equal);
@@ -68,7 +151,7 @@ std::optional<RunArguments> ParseRunArguments(const std::vector<std::string>& wo
     } else if (at + 1 < words.size()) {
       value = words[at + 1];
     }
-    switch (hosts::TakeSetting(arguments, name, value)) {
+    switch (TakeOption(arguments, name, value)) {
       case hosts::Taken::No:
         wrong = "unknown option \"" + name + "\"";
         return std::nullopt;
@@ -83,6 +166,7 @@ std::optional<RunArguments> ParseRunArguments(const std::vector<std::string>& wo
     }
   }
   if (at < words.size() && words[at] == "--") ++at;
+  if (at >= words.size() && arguments.Supported) return arguments;
   if (at >= words.size()) {
     wrong = "an argument is missing";
     return std::nullopt;
@@ -94,25 +178,27 @@ std::optional<RunArguments> ParseRunArguments(const std::vector<std::string>& wo
 
 std::string RunOptionsHelp() {
   return std::string("\nOptions of run, in front of PROGRAM:\n") + hosts::RunSettingsHelp() +
+         "  --events FILE           what the user does, a line each: click Button1, key Text1 65,\n"
+         "                          type Text1 words, pick List1 2, tick Time1, close Form1\n"
+         "  --trace                 print what the windows are told\n"
+         "  --program-folder TEXT   where the include file of generated programs lies\n"
+         "  --supported             list what is supported, and leave\n"
          "  --dump                  print the bytecode and do not run it\n"
-         "  Exit codes: 0 ended, 1 source faulty, 2 usage, 3 run-time error, 4 limit, 5 stopped\n";
+         "  Exit codes: 0 ended, 1 source faulty, 2 usage, 3 run-time error, 4 limit,\n"
+         "  5 stopped, 6 fault of the runner\n";
 }
 
 RunExit RunProgram(const RunArguments& arguments, std::FILE* in, std::FILE* out, std::FILE* err) {
-  basic::FrontEndOptions options;
-  options.Strict = arguments.Strict;
-  const hosts::PreparedProgram program =
-      hosts::PrepareProgram(arguments.Program, NoClasses(), options);
-  hosts::RunReport report(err, hosts::ReportForm::People, "tarnwick-cli");
-  report.SetFiles(program.Files);
-  report.SayAll(program.Found);
-  if (!program.Good) return RunExit::Faulty;
-  if (arguments.Dump) {
-    const std::string text = CodePageToUtf8(basic::DumpCode(program.Code));
-    std::fwrite(text.data(), 1, text.size(), out);
+  if (arguments.Supported) {
+    WriteText(out, SupportedList());
     return RunExit::Ended;
   }
-  return report.SayResult(RunCode(program, arguments, in, out, err));
+  try {
+    return CheckAndRun(arguments, {in, out, err});
+  } catch (const std::exception& fault) {
+    std::fprintf(err, "tarnwick-cli: fault of the runner: %s\n", fault.what());
+    return RunExit::Fault;
+  }
 }
 
 }  // namespace tarnwick

@@ -58,7 +58,7 @@ void RunReport::Write(const std::string& line) const {
 void RunReport::Say(basic::SourcePlace at, std::string_view kind, std::string_view text,
                     std::string_view remedy) const {
   std::string words = OneField(text);
-  if (!remedy.empty()) words += " " + OneField(remedy);
+  if (!remedy.empty()) words += (words.ends_with('.') ? " " : ". ") + OneField(remedy);
   if (form_ == ReportForm::People) {
     Write(PlaceText(at) + ": " + std::string(kind) + ": " + words + "\n");
   } else {

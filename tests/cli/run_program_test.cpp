@@ -94,5 +94,49 @@ TEST(RunProgramTest, FaultyOptionsAreNamed) {
   EXPECT_EQ(wrong, "unknown option \"--fast\"");
 }
 
+TEST(RunProgramTest, WindowsAreThereAndTheEventsOfAScriptArePlayed) {
+  const TemporaryFolder folder;
+  RunArguments arguments;
+  arguments.Events = folder.Native("events.txt");
+  std::ofstream(arguments.Events, std::ios::binary) << "click B\nclick Nobody\nclick B\n";
+  const Outcome outcome = RunText(
+      "DIM F AS QFORM, B AS QBUTTON\nB.Parent = F\nSUB Press\nPRINT \"pressed\"\n"
+      "END SUB\nB.OnClick = Press\nF.ShowModal\nPRINT \"over\"\n",
+      arguments);
+  EXPECT_EQ(outcome.Exit, RunExit::Ended);
+  EXPECT_EQ(outcome.Out, "pressed\npressed\nover\n");
+  EXPECT_NE(outcome.Err.find("click Nobody: there is no object of this name"), std::string::npos);
+}
+
+TEST(RunProgramTest, ATraceTellsWhatTheWindowsShow) {
+  RunArguments arguments;
+  arguments.Trace = true;
+  const Outcome outcome = RunText("DIM F AS QFORM\nF.Caption = \"A\"\nF.Show\n", arguments);
+  EXPECT_EQ(outcome.Out, "realise F QFORM\nF.Visible = 1\n");
+}
+
+TEST(RunProgramTest, EventsThatCannotBeReadAreAFaultOfUse) {
+  RunArguments arguments;
+  arguments.Events = "/nowhere/events.txt";
+  EXPECT_EQ(RunText("PRINT 1\n", arguments).Exit, RunExit::Usage);
+}
+
+TEST(RunProgramTest, TextAndRemedyAreTwoSentences) {
+  const Outcome outcome = RunText("DIM B AS QBUTTON\nB.Captoin = 1\n");
+  EXPECT_NE(outcome.Err.find("no member \"Captoin\". Did you mean Caption?\n"), std::string::npos)
+      << outcome.Err;
+}
+
+TEST(RunProgramTest, WhatIsSupportedIsListed) {
+  std::string wrong;
+  const auto arguments = ParseRunArguments({"--supported"}, wrong);
+  ASSERT_TRUE(arguments.has_value()) << wrong;
+  const Outcome outcome = RunText("", *arguments);
+  EXPECT_EQ(outcome.Exit, RunExit::Ended);
+  EXPECT_NE(outcome.Out.find("QFORM\n  works: "), std::string::npos);
+  EXPECT_NE(outcome.Out.find("passed over: "), std::string::npos);
+  EXPECT_NE(outcome.Out.find("LPRINT: "), std::string::npos);
+}
+
 }  // namespace
 }  // namespace tarnwick

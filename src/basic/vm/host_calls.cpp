@@ -125,7 +125,7 @@ bool MachineState::CallDll(const Instruction* call) {
   std::vector<Value> arguments;
   ReadArguments(call + 1, arguments);
   Value result;
-  const bool done = Host.Natives->Call(*DllEntries[call->B], arguments, result);
+  const bool done = Host.Natives->Call(*DllEntries[call->B], arguments, Library.Memory, result);
   if (Ending) return false;
   if (!done) return Fail(entry.Name + ": " + std::string(Host.Natives->Reason()));
   WriteArguments(call + 1, arguments);
