@@ -1,6 +1,7 @@
 // A program with objects, run in memory on recording widgets.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -18,7 +19,9 @@ namespace tarnwick::test {
 /// Checks a program at once; `Run` runs it. Records and widgets stay until this goes.
 class ObjectProgram : public basic::SourceReader {
  public:
-  explicit ObjectProgram(std::string text) : text_(std::move(text)) {
+  explicit ObjectProgram(std::string text, std::map<std::string, std::string> includes = {})
+      : sources_(std::move(includes)) {
+    sources_["C:\\main.bas"] = std::move(text);
     checked_ = basic::CheckProgram("C:\\main.bas", *this, Classes, {});
     for (const basic::Message& message : checked_->Found.All()) {
       const bool error = message.Level == basic::Severity::Error;
@@ -28,8 +31,9 @@ class ObjectProgram : public basic::SourceReader {
   }
 
   std::optional<std::string> ReadSource(const std::string& path) override {
-    if (path != "C:\\main.bas") return std::nullopt;
-    return text_;
+    const auto found = sources_.find(path);
+    if (found == sources_.end()) return std::nullopt;
+    return found->second;
   }
 
   /// Runs the program and returns what it printed; with an error in the check that one.
@@ -80,7 +84,7 @@ class ObjectProgram : public basic::SourceReader {
   std::unique_ptr<objects::ObjectWorld> World;
 
  private:
-  std::string text_;
+  std::map<std::string, std::string> sources_;
   std::optional<basic::FrontEndResult> checked_;
   basic::EmitResult code_;
   LogConsole console_{Printed};
