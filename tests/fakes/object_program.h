@@ -47,11 +47,13 @@ class ObjectProgram : public basic::SourceReader {
     for (const basic::Resource& resource : checked_->Checked->Resources) {
       facts.Resources.emplace_back(resource.File);
     }
+    std::vector<std::string> resources = facts.Resources;
     World = std::make_unique<objects::ObjectWorld>(Widgets, &Files, std::move(facts));
     basic::Hosts hosts{&console_, World.get(), &Files, &clock_, &system_, nullptr};
     basic::RunOptions options;
     options.MaxSteps = 5'000'000;
     machine_ = std::make_unique<basic::Machine>(code_.Made, hosts, options);
+    machine_->SetResources(std::move(resources));
     World->Connect(*machine_);
     Result = machine_->Run();
     return Printed + (Result.Text.empty() ? "" : "error: " + Result.Text);

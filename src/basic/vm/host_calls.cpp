@@ -52,7 +52,9 @@ void MachineState::WriteArguments(const Instruction* words, std::vector<Value>& 
   const Slot* const base = Frames.back().Base;
   for (std::size_t i = 0; i < shape.Arguments.size(); ++i) {
     const ArgumentShape& argument = shape.Arguments[i];
-    if (!argument.Reference || !CanBecome(arguments[i].Kind(), argument.Kind)) continue;
+    // Arrays and records are references by themselves: what was written to them is there.
+    const bool whole = argument.Kind == SlotKind::Array || argument.Kind == SlotKind::Record;
+    if (!argument.Reference || whole || !CanBecome(arguments[i].Kind(), argument.Kind)) continue;
     Slot& variable = *base[ArgumentRegister(words + 1, i)].R;
     const Slot fitted =
         FitTo(argument.Stored, Converted(std::move(arguments[i]), argument.Kind).Give());
