@@ -1,14 +1,18 @@
 #include "inspector/form_add_items.h"
 
+#include "designer/history/history.h"
+#include "inspector/row_edits.h"
 #include "persistence/stored_text.h"
 #include "text/code_page.h"
 #include "text/strings.h"
 
 namespace tarnwick {
 
-FormAddItems::FormAddItems(ProjectTables& tables, ProjectObserver& observer, DesignForm& form)
+FormAddItems::FormAddItems(ProjectTables& tables, ProjectObserver& observer, History& steps,
+                           DesignForm& form)
     : tables_(tables),
       observer_(observer),
+      steps_(steps),
       form_(form.Number()),
       is_list_box_(Contains(form.NameObjet, InfoOf(Kind::ListBox).NameWord)),
       index_(form.IndexObjet),
@@ -27,6 +31,7 @@ std::string FormAddItems::Storable(std::string_view text) {
 bool FormAddItems::Ok(std::string_view text) {
   ObjectRec* record = Record();
   if (record == nullptr) return false;
+  const HistoryStep step(steps_, form_, EditStepName("AddItems", control_.lock()->Tag));
   std::string lines = Storable(text);
   if (!lines.empty() && !lines.ends_with('\n')) lines.append(kLineEnd);
   record->Items =

@@ -1,6 +1,7 @@
 // Edits of the property sheet: what a typed text, a picked value or a dialog does.
 #include <utility>
 
+#include "designer/history/history.h"
 #include "inspector/control_font.h"
 #include "inspector/property_sheet.h"
 #include "inspector/row_store.h"
@@ -19,18 +20,33 @@ bool PropertySheet::ApplyText(std::string_view text) {
   return ApplyToRow(OneLineText(text));
 }
 
+std::string PropertySheet::StepName() const {
+  return EditStepName(Label(RowIndex_), SelName_);
+}
+
 /// Takes a text into the selected row and applies it; the row shows it even where it is refused.
 bool PropertySheet::ApplyToRow(std::string text) {
-  const int row = RowIndex_;
   const std::optional<RowTarget> target = Target();
-  SetText(row, text);
+  SetText(RowIndex_, text);
   if (!target) return false;
+  const int form = target->Window.Number();
+  const std::string key = subject_.Key().append(".").append(Label(RowIndex_));
+  const bool goes_on = steps_.InStay(form, key);
+  steps_.Stay(form, key, StepName());
+  const bool is_stored = StoreTyped(*target, text);
+  // A stay in which nothing was stored so far is not offered for undo.
+  if (!is_stored && !goes_on) steps_.Leave();
+  return is_stored;
+}
+
+bool PropertySheet::StoreTyped(const RowTarget& target, const std::string& text) {
+  const int row = RowIndex_;
   if (row == 0) {
-    Rename(*target, text);
+    Rename(target, text);
     return true;
   }
   const RowBinding* binding = BindingAt(row);
-  if (binding == nullptr || !ApplyTyped(*binding, *target, text)) return false;
+  if (binding == nullptr || !ApplyTyped(*binding, target, text)) return false;
   faults_.reset();
   RereadRowsBut(row);
   return true;
@@ -50,7 +66,7 @@ bool PropertySheet::ApplyTyped(const RowBinding& binding, const RowTarget& targe
     case RowShape::Text:
       return edits_.Text(binding, target, text);
     case RowShape::File:
-      return edits_.Text(binding, target, FileRowText(text));
+      return edits_.Text(binding, target, FileRowText(text, target.Id));
     default:
       return false;
   }
@@ -88,9 +104,9 @@ bool PropertySheet::ApplyChoice(std::string_view text, int index) {
   SetText(row, value);
   const std::optional<RowTarget> target = Target();
   const RowBinding* binding = BindingAt(row);
-  if (!target || binding == nullptr || !edits_.Choice(*binding, *target, value, index)) {
-    return false;
-  }
+  if (!target || binding == nullptr) return false;
+  const HistoryStep step(steps_, target->Window.Number(), StepName());
+  if (!edits_.Choice(*binding, *target, value, index)) return false;
   faults_.reset();
   RereadRowsBut(row);
   TellRow(row);
@@ -168,6 +184,7 @@ void PropertySheet::PickFont(const RowTarget& target) {
   // The dialog ran a loop of its own: look again whether the object is still there.
   const std::optional<RowTarget> now = Target();
   if (!font || !now || now->Control != target.Control) return;
+  const HistoryStep step(steps_, now->Window.Number(), StepName());
   edits_.Font(*now, *font);
   RereadRowsBut(0);
   // Size and style are shown beside the name, which may be the same.
@@ -192,13 +209,16 @@ void PropertySheet::OpenDesigner(const RowTarget& target) {
 /// A picker filled the row. Even the text that stood there is applied again: the file behind it
 /// may be another now.
 void PropertySheet::Picked(const std::optional<std::string>& text) {
-  if (text && IsEditable()) ApplyToRow(*text);
+  if (!text || !IsEditable()) return;
+  const HistoryStep step(steps_, subject_.FormNumber(), StepName());
+  ApplyToRow(*text);
 }
 
 void PropertySheet::ResetValue() {
   const RowBinding* binding = BindingAt(RowIndex_);
   if (!IsEditable() || binding == nullptr || !binding->HasReset) return;
-  Picked(std::string{subject_.Id() == Kind::Form ? kDefaultFile : kNoPicture});
+  const HistoryStep step(steps_, subject_.FormNumber(), StepName());
+  Picked(std::string{NeutralFile(subject_.Id())});
   const std::optional<RowTarget> target = Target();
   if (target && target->Control != nullptr) edits_.RemovePicture(*target);
 }

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "designer/history/history.h"
 #include "inspector/control_font.h"
 #include "inspector/row_help.h"
 #include "inspector/row_store.h"
@@ -13,11 +14,13 @@
 namespace tarnwick {
 
 PropertySheet::PropertySheet(ProjectTables& tables, const language::SupportTables& support,
-                             Ports& ports, ProjectObserver& observer, InspectorHost& host)
+                             Ports& ports, ProjectObserver& observer, InspectorHost& host,
+                             History& steps)
     : tables_(tables),
       support_(support),
       ports_(ports),
       host_(host),
+      steps_(steps),
       edits_(tables, observer, host),
       pickers_(tables, ports),
       head_(tables, host) {}
@@ -54,6 +57,7 @@ void PropertySheet::ShowSelection() {
 
 void PropertySheet::ClearPanel() {
   CloseList();
+  steps_.Leave();
   is_row_selected_ = false;
   if (view_ != nullptr) view_->RowSelected();
 }
@@ -262,6 +266,7 @@ int PropertySheet::RowToEnter() const noexcept {
 }
 
 void PropertySheet::LeaveRow() {
+  steps_.Leave();
   if (is_filling_ || !is_row_live_) return;
   RereadRow(RowIndex_);
 }

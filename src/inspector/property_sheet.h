@@ -22,6 +22,8 @@
 
 namespace tarnwick {
 
+class History;
+
 /// The logic of the panel; a view paints what it says and forwards what the user does:
 ///
 ///   sheet.ShowProperties("Button3", "Form1Btn3");  // at the end of a press
@@ -30,13 +32,16 @@ namespace tarnwick {
 ///   sheet.LeaveRow();                              // the focus goes elsewhere
 ///   sheet.PickValue();                             // Boton1 or Boton2
 ///
+/// All that is typed into a row until it is left is one step of the history, named after row and
+/// object ("Edit Caption of Button3"). A picked value, a reset and a dialog are a step each.
+///
 /// An edit goes to the object for which the rows were built, also when the selection has moved
 /// on meanwhile; once that object is gone it goes nowhere. While a row is being typed in it shows
 /// what was typed; a row that is left shows what is stored.
 class PropertySheet {
  public:
   PropertySheet(ProjectTables& tables, const language::SupportTables& support, Ports& ports,
-                ProjectObserver& observer, InspectorHost& host);
+                ProjectObserver& observer, InspectorHost& host, History& steps);
   /// The view that hears of changes; null for none.
   void SetView(PropertySheetView* view) noexcept;
 
@@ -99,7 +104,7 @@ class PropertySheet {
   /// The row at which a user starts who goes to the grid: that of the name last selected, else row
   /// 0.
   [[nodiscard]] int RowToEnter() const noexcept;
-  /// The selected row is left: it shows what is stored.
+  /// The selected row is left: it shows what is stored, and what was typed in it is a step.
   void LeaveRow();
   /// Puts back the value that the selected row had when it was selected. False when it has it.
   bool Revert();
@@ -156,7 +161,9 @@ class PropertySheet {
   [[nodiscard]] const std::vector<project::Finding>& Faults() const;
   [[nodiscard]] bool IsEditable() const noexcept;
 
+  [[nodiscard]] std::string StepName() const;
   bool ApplyToRow(std::string text);
+  bool StoreTyped(const RowTarget& target, const std::string& text);
   bool ApplyTyped(const RowBinding& binding, const RowTarget& target, const std::string& text);
   bool ApplyNumber(const RowBinding& binding, const RowTarget& target, const std::string& text);
   void Rename(const RowTarget& target, const std::string& name);
@@ -170,6 +177,7 @@ class PropertySheet {
   const language::SupportTables& support_;
   Ports& ports_;
   InspectorHost& host_;
+  History& steps_;
   PropertySheetView* view_ = nullptr;
 
   RowSubject subject_;

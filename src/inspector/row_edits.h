@@ -12,6 +12,11 @@
 
 namespace tarnwick {
 
+/// What an edit of a row is called in the history.
+[[nodiscard]] inline std::string EditStepName(std::string_view row, std::string_view object) {
+  return std::string("Edit ").append(row).append(" of ").append(object);
+}
+
 /// Stores values and sets going what follows from them: the window is painted again, pictures are
 /// loaded, handles move, views are notified. Each method returns whether something was stored.
 class RowEdits {

@@ -31,6 +31,11 @@ std::optional<RowTarget> RowSubject::In(ProjectTables& tables) const {
   return RowTarget{window, record, control.get(), id_, control->Index};
 }
 
+std::string RowSubject::Key() const {
+  const ControlRef control = control_.lock();
+  return control ? control->ArrayAndIndex() : std::string(InfoOf(Kind::Form).NameWord);
+}
+
 bool RowSubject::IsSame(const RowSubject& other) const noexcept {
   return window_ == other.window_ && id_ == other.id_ && control_.lock() == other.control_.lock();
 }

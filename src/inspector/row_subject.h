@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "inspector/row_bindings.h"
@@ -22,6 +23,8 @@ class RowSubject {
   /// True when both are the same object, or the same form.
   [[nodiscard]] bool IsSame(const RowSubject& other) const noexcept;
   [[nodiscard]] Kind Id() const noexcept { return id_; }
+  /// A text for the object within its form: array and index ("Button3"), or "Form".
+  [[nodiscard]] std::string Key() const;
   /// The number of its form; 0 for none.
   [[nodiscard]] int FormNumber() const noexcept { return form_; }
 

@@ -76,11 +76,14 @@ TypedNumber ReadTypedNumber(RowShape shape, std::string_view text) {
   return Number(Val(text));
 }
 
-std::string FileRowText(std::string_view text) {
-  for (const std::string_view word : {kNoPicture, kDefaultFile}) {
-    if (EqualsFolded(text, word)) return std::string{word};
-  }
-  return std::string{text};
+std::string_view NeutralFile(Kind kind) noexcept {
+  return kind == Kind::Form ? kDefaultFile : kNoPicture;
+}
+
+std::string FileRowText(std::string_view text, Kind kind) {
+  const bool is_neutral = EqualsFolded(text, kNoPicture) || EqualsFolded(text, kDefaultFile) ||
+                          (text.empty() && kind == Kind::Form);
+  return std::string{is_neutral ? NeutralFile(kind) : text};
 }
 
 }  // namespace tarnwick

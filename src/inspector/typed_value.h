@@ -26,7 +26,10 @@ struct TypedNumber {
 /// that is no colour is unfinished there.
 [[nodiscard]] TypedNumber ReadTypedNumber(RowShape shape, std::string_view text);
 
-/// The text of a file row: "(none)" and "(default)" in any case are the fixed words.
-[[nodiscard]] std::string FileRowText(std::string_view text);
+/// What a file row of a kind holds when it names no file: "(Default)" on a form, else "(None)".
+[[nodiscard]] std::string_view NeutralFile(Kind kind) noexcept;
+/// The text of a file row: "(none)" and "(default)" in any case are the neutral word of the kind,
+/// and so is the emptied row of a form, which has an icon in any case.
+[[nodiscard]] std::string FileRowText(std::string_view text, Kind kind);
 
 }  // namespace tarnwick

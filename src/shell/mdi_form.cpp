@@ -33,7 +33,7 @@ struct MDIForm1::Rooms {
         Surfaces(State, Designer),
         Bar(State, Surfaces),
         Inspector(State, Surfaces),
-        Sheet(State.Tables, State.Support, State.Ports, State.Observer, Inspector),
+        Sheet(State.Tables, State.Support, State.Ports, State.Observer, Inspector, State.Steps),
         Forms(State, Sheet),
         Context{State.Tables,
                 State.Ports.Files,

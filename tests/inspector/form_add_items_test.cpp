@@ -13,7 +13,7 @@ namespace {
 using Rows = std::vector<std::string>;
 
 struct ItemsBench : SheetBench {
-  FormAddItems Open() { return FormAddItems{Tables, Observer, Form()}; }
+  FormAddItems Open() { return FormAddItems{Tables, Observer, Steps, Form()}; }
 };
 
 TEST(FormAddItems, ItemsOpenOneALine) {

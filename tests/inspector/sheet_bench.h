@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "designer/history/history.h"
 #include "designer/object_kinds.h"
 #include "designer/selection.h"
 #include "fakes/build_paths.h"
@@ -100,10 +101,11 @@ struct SheetBench {
   RecordingHost Host{Fakes.Log};
   RecordingObserver Observer{Fakes.Log};
   CountingView View;
+  History Steps{Tables, Observer};
   PropertySheet Sheet;
 
   explicit SheetBench(const SupportTables& support = DeliveredRows())
-      : Sheet(Tables, support, Given, Observer, Host) {
+      : Sheet(Tables, support, Given, Observer, Host, Steps) {
     Tables.ProgramFolder = "C:\\T";
     Tables.ProjectFile = "C:\\P\\a.tnp";
     Tables.CurrentForm = Tables.User(AddForm(Tables));

@@ -1,6 +1,4 @@
 // An edit of every row of every kind as delivered: it is saved, read again and generated.
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <ostream>
 #include <set>
@@ -10,7 +8,7 @@
 
 #include "codegen/generator_state.h"
 #include "codegen/program_source.h"
-#include "fakes/build_paths.h"
+#include "delivered_files.h"
 #include "inspector/form_add_items.h"
 #include "inspector/row_bindings.h"
 #include "project/compile.h"
@@ -23,27 +21,11 @@ constexpr std::string_view kPicture = "Z:\\p\\other.bmp";
 constexpr std::string_view kIcon = "Z:\\p\\other.ico";
 constexpr std::string_view kPage = "Z:\\p\\page.htm";
 
-std::string Delivered(std::string_view name) {
-  std::ifstream file(test::ProgramFolder() + "/" + std::string(name), std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
-const std::map<std::string, std::string>& DeliveredFiles() {
-  static const std::map<std::string, std::string> files = [] {
-    std::map<std::string, std::string> read;
-    for (const char* name : {"Add001.tn", "Add002.tn", "Add003.tn", "Add004.tn"}) {
-      read[std::string(kProgram) + "\\" + name] = Delivered(name);
-    }
-    return read;
-  }();
-  return files;
-}
-
 /// The whole program on fakes, over the delivered support files, with one object of a kind.
 class Bench final : public ShellTest {
  public:
   Bench(int tool, int tool_before) {
-    for (const auto& [path, bytes] : DeliveredFiles()) ports.Files.Put(path, bytes);
+    PutDeliveredFiles(ports.Files, std::string(kProgram));
     for (const std::string_view path : {kPicture, kIcon, kPage}) {
       ports.Files.Put(std::string(path), "any bytes");
     }
@@ -153,7 +135,7 @@ void Bench::EditItems() {
   Sheet().PickValue();
   DesignForm& form = *tables().CurrentForm;
   if (form.ControlSel->Id == Kind::PopUpMenu) return;
-  FormAddItems dialog(tables(), main.Context().Observer, form);
+  FormAddItems dialog(tables(), main.Context().Observer, main.Steps(), form);
   EXPECT_TRUE(dialog.Ok("Apple\r\nPear\r\n"));
 }
 

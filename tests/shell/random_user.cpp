@@ -1,8 +1,12 @@
 #include "random_user.h"
 
 #include <algorithm>
+#include <fstream>
+#include <iterator>
 
 #include "designer/tool_box.h"
+#include "fakes/build_paths.h"
+#include "inspector/form_add_items.h"
 #include "project/save_project.h"
 #include "text/numbers.h"
 
@@ -180,19 +184,69 @@ void RandomUser::EditCode() {
   Did("code of " + owner + std::string(InfoOf(event).Suffix));
 }
 
+/// Edits a row in one of the ways that its type has.
 void RandomUser::EditProperty() {
   PropertySheet& sheet = main_.Sheet();
   if (Form() == nullptr || !main_.Commands().PanelShown(Panel::Properties)) return;
-  const int rows = sheet.RowCount();
-  if (rows == 0) return;
-  const int row = Below(rows);
+  if (sheet.RowCount() == 0) return;
+  const int row = Below(sheet.RowCount());
   sheet.SelectRow(row);
-  const std::string text =
-      row == 0 ? "Name" + std::to_string(++names_given_) : std::to_string(10 + Below(200));
-  if (RecordsItsEdits) main_.Steps().Begin(Form()->Number(), "Row");
-  sheet.ApplyText(text);
-  if (RecordsItsEdits) main_.Steps().End();
-  Did("row " + std::string(sheet.Label(row)) + " of " + sheet.SelName() + " to " + text);
+  const std::string label = std::string(sheet.Label(row)) + " of " + sheet.SelName();
+  const std::vector<std::string> values = sheet.List().Values();
+  if (!values.empty() && Below(4) != 0) {
+    const int place = Below(static_cast<int>(values.size()));
+    sheet.ApplyChoice(values[static_cast<std::size_t>(place)], place);
+    return Did("choose in " + label + " " + std::to_string(place));
+  }
+  switch (sheet.RowMark(row)) {
+    case row_mark::kFont:
+      ports_.Dialogs.FontAnswers.push_back(FontChoice{"Font " + std::to_string(Below(3)),
+                                                      static_cast<float>(8 + Below(4)),
+                                                      Below(2) == 0, Below(2) == 0, Below(1000)});
+      sheet.PickValue();
+      return Did("pick " + label);
+    case row_mark::kColor:
+      if (Below(2) == 0) break;
+      ports_.Dialogs.ColorAnswers.push_back(Below(0xFFFFFF));
+      sheet.PickValue();
+      return Did("pick " + label);
+    case row_mark::kItems:
+      EditItems();
+      return Did("items of " + sheet.SelName());
+    default:
+      break;
+  }
+  if (sheet.Boton3Shown() && Below(3) == 0) {
+    sheet.ResetValue();
+    return Did("reset " + label);
+  }
+  TypeIntoRow(row);
+  Did("type into " + label + ": " + sheet.Text(row));
+}
+
+/// Types key by key; the user may put the value back, or stay in the row.
+void RandomUser::TypeIntoRow(int row) {
+  PropertySheet& sheet = main_.Sheet();
+  if (!sheet.TakesTyping(row)) return;
+  static constexpr std::string_view kTexts[]{"10",     "57",        "140",    "99999999999",
+                                             "-3",     "Two words", "clRed",  "$00FF80",
+                                             "&HFF00", "True",      "(none)", "a, b and c"};
+  std::string text(kTexts[static_cast<std::size_t>(Below(static_cast<int>(std::size(kTexts))))]);
+  if (row == 0) text = "Name" + std::to_string(++names_given_);
+  // A path within the project is stored whole by reading.
+  if (sheet.IsPath(row)) text = Below(3) == 0 ? "(none)" : "Z:\\soak\\" + text;
+  for (std::size_t keys = 1; keys <= text.size(); ++keys) sheet.ApplyText(text.substr(0, keys));
+  if (Below(6) == 0) sheet.Revert();
+  if (Below(3) != 0) sheet.LeaveRow();
+}
+
+void RandomUser::EditItems() {
+  const ControlRef& list = Form()->ControlSel;
+  if (!list || list->Id == Kind::PopUpMenu) return;
+  FormAddItems dialog(main_.Tables(), main_.Context().Observer, main_.Steps(), *Form());
+  std::string lines;
+  for (int i = Below(4); i >= 0; --i) lines += "Item " + std::to_string(Below(100)) + "\r\n";
+  dialog.Ok(lines);
 }
 
 void RandomUser::ChooseForm() {
@@ -271,19 +325,8 @@ std::map<std::string, std::string> RandomUser::SavedFiles() const {
 }
 
 std::string RandomUser::GridFile() {
-  std::string text;
-  for (const std::string_view kind :
-       {"FORM", "BUTTON", "LABEL", "IMAGE", "CHECKBOX", "OPTIONBUTTON", "TEXTBOX", "RICHTEXTBOX",
-        "LISTBOX", "COMBOBOX", "TIME", "OPENDIALOG", "SAVEDIALOG", "TRANSPARENTFRAME"}) {
-    text.append("[").append(kind).append("]\x8D");
-    text +=
-        "Caption\x95Text\x95Left\x95Top\x95Width\x95Height\x95Hint\x95TabOrder\x95"
-        "Color\x95"
-        "FontColor\x95Interval\x95Title\x95"
-        "Filter\x95"
-        "Columns\x8E\r\n";
-  }
-  return text;
+  std::ifstream file(test::ProgramFolder() + "/Add004.tn", std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 std::map<std::string, std::string> RandomUser::Saved() {

@@ -43,11 +43,10 @@ class RandomUser {
 
   /// Saves and returns the bytes of the project's files by path.
   [[nodiscard]] std::map<std::string, std::string> Saved();
-  /// Grid rows enough to type into, for every kind that has a caption, a text or a place: the text
-  /// of a support file.
+  /// The support file of the grid rows as it is delivered.
   [[nodiscard]] static std::string GridFile();
 
-  /// Code and properties that are changed here without a window are steps of their own.
+  /// Code that is changed here without a window is a step of its own.
   bool RecordsItsEdits = false;
   /// Whether a new project may be started, and whether forms may be added and removed.
   bool StartsAnew = true;
@@ -72,6 +71,8 @@ class RandomUser {
   void RunCommand();
   void EditCode();
   void EditProperty();
+  void TypeIntoRow(int row);
+  void EditItems();
   void ChooseForm();
   void AddOrRemoveForm();
   void SaveOrStartAnew();

@@ -163,6 +163,7 @@ TEST_P(RandomUndo, AfterAnyStepAndItsUndoTheProjectIsWhatItWas) {
   user.SetCursor = [this](int form, ScreenPoint place) { view.GesturesOf(form).Cursor = place; };
   user.RecordsItsEdits = true;
   for (int i = 0; i < kDeeds; ++i) {
+    main.Steps().Leave();
     const std::string before = Text();
     const std::size_t size = main.Steps().Size();
     user.Act();

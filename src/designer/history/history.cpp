@@ -96,11 +96,15 @@ void History::NameStep(std::string_view name) {
 
 bool History::Stay(int form, std::string_view key, std::string_view name) {
   if (depth_ > 0) return false;
-  if (running_ && running_->Form == form && running_->Key == key) return true;
+  if (InStay(form, key)) return true;
   Leave();
   Start(form, key, name);
   Tell();
   return true;
+}
+
+bool History::InStay(int form, std::string_view key) const noexcept {
+  return depth_ == 0 && running_ && running_->Form == form && running_->Key == key;
 }
 
 void History::Leave() {

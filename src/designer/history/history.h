@@ -53,6 +53,8 @@ class History {
   /// ahead of each edit; a further call with the same form and key changes nothing. False within a
   /// step, whose part the edit is then.
   bool Stay(int form, std::string_view key, std::string_view name);
+  /// True while the stay of this form and key goes on.
+  [[nodiscard]] bool InStay(int form, std::string_view key) const noexcept;
   void Leave();
 
   [[nodiscard]] bool CanUndo() const noexcept;

@@ -20,6 +20,11 @@ namespace tarnwick {
 
 namespace {
 
+/// Commands whose caption follows the state of the project.
+bool NamesWhatItDoes(Command command) {
+  return command == Command::Remove || command == Command::Undo || command == Command::Redo;
+}
+
 constexpr int kToolbarIcon = 20;
 
 /// Commands that stay on until they are run again.
@@ -186,6 +191,17 @@ CommandState CommandActions::StateOf(Command command) const {
   return state;
 }
 
+/// The caption of a command that names what it is about: a form, or a step of the history. An "&"
+/// of such a name is no access key.
+QString CommandActions::CaptionOf(Command command) const {
+  if (command != Command::Remove && FocusedText() != nullptr) {
+    return ToQString(MenuRowOf(command)->Caption);
+  }
+  const QString caption = ToQString(commands_.Caption(command));
+  const qsizetype key = command == Command::Remove ? 0 : 1;
+  return caption.left(key) + caption.mid(key).replace(u'&', QStringLiteral("&&"));
+}
+
 void CommandActions::RefreshRecent() {
   recent_->clear();
   int number = 1;
@@ -210,11 +226,7 @@ void CommandActions::Refresh() {
     if (entry.Action != nullptr) {
       entry.Action->setEnabled(state.Enabled);
       if (entry.Action->isCheckable()) entry.Action->setChecked(state.Checked);
-      if (entry.Does == Command::Remove) {
-        // An "&" in a form's name is no access key.
-        entry.Action->setText(
-            ToQString(commands_.Caption(entry.Does)).replace(u'&', QStringLiteral("&&")));
-      }
+      if (NamesWhatItDoes(entry.Does)) entry.Action->setText(CaptionOf(entry.Does));
     }
     if (entry.Button != nullptr) {
       entry.Button->setEnabled(state.Enabled);

@@ -52,6 +52,7 @@ class CommandActions final : public QObject {
   void Run(Command command);
   /// The command's state; that of the focused text where the command would act on one.
   [[nodiscard]] CommandState StateOf(Command command) const;
+  [[nodiscard]] QString CaptionOf(Command command) const;
   void PressTool(int number);
 
   CommandCenter& commands_;

@@ -266,7 +266,7 @@ void MainView::RunFormMain() {
 void MainView::RunItemDialog(int form) {
   DesignForm* design = shell_.Tables().User(form);
   if (design == nullptr) return;
-  FormAddItems logic(shell_.Tables(), shell_.Context().Observer, *design);
+  FormAddItems logic(shell_.Tables(), shell_.Context().Observer, shell_.Steps(), *design);
   tarnwick::RunItemDialog(logic, &window_);
 }
 
