@@ -61,6 +61,8 @@ bool WidgetMethod(ObjectWorld& world, ObjectRecord& object, const MemberInfo& me
                   std::span<Value> arguments, Value& result);
 /// Shows a form and raises what showing raises.
 void ShowForm(ObjectWorld& world, ObjectId form);
+/// Shows the main menu of a form that is realised.
+void RealiseMenu(ObjectWorld& world, const ObjectRecord& form);
 /// Takes an object that is about to go out of all menus and off all forms.
 void LeaveMenus(ObjectWorld& world, ObjectId object);
 /// Gives a label with AutoSize the size of its text; nothing for other objects, and for one that is

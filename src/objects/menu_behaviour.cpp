@@ -6,11 +6,11 @@
 namespace tarnwick::objects {
 namespace {
 
-/// Tells the menus at the top of every tree that an item is part of.
+/// Tells the widgets of the menu at the top of the tree that an item is part of, once it is shown.
 void Changed(ObjectWorld& world, ObjectRecord& row) {
   const ObjectRecord* top = &row;
   while (const ObjectRecord* const above = world.Find(top->Parent)) top = above;
-  if (!top->Is(ObjectClass::QMenuItem)) world.Widgets().MenuChanged(*top);
+  if (top->Realised) world.Widgets().MenuChanged(*top);
 }
 
 /// Puts an item into a menu. One that stands elsewhere moves here.
@@ -100,7 +100,7 @@ bool SetForm(ObjectWorld& world, ObjectRecord& menu, const MemberInfo&, std::spa
   }
   state->Menu = menu.Id;
   menu.As<MenuRows>()->Forms.push_back(form->Id);
-  world.Widgets().MenuChanged(menu);
+  if (form->Realised) RealiseMenu(world, *form);
   return true;
 }
 
@@ -200,6 +200,14 @@ constexpr BehaviourRow kRows[] = {
 
 }  // namespace
 
+void RealiseMenu(ObjectWorld& world, const ObjectRecord& form) {
+  const auto* const state = form.As<FormState>();
+  ObjectRecord* const menu = state == nullptr ? nullptr : world.Find(state->Menu);
+  if (menu == nullptr) return;
+  menu->Realised = true;
+  world.Widgets().MenuChanged(*menu);
+}
+
 void LeaveMenus(ObjectWorld& world, ObjectId object) {
   ObjectRecord* const record = world.Find(object);
   if (record == nullptr) return;
@@ -216,7 +224,7 @@ void LeaveMenus(ObjectWorld& world, ObjectId object) {
     if (ObjectRecord* const form = world.Find(id)) form->As<FormState>()->Menu = ObjectId::None;
   }
   rows->Rows.clear();
-  if (!rows->Forms.empty()) world.Widgets().MenuChanged(*record);
+  if (!rows->Forms.empty() && record->Realised) world.Widgets().MenuChanged(*record);
   rows->Forms.clear();
   ObjectRecord* const above = world.Find(record->Parent);
   if (above == nullptr || above->As<MenuRows>() == nullptr) return;

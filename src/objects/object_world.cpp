@@ -277,6 +277,7 @@ void ObjectWorld::Realise(ObjectRecord& object) {
       if (record != nullptr && !record->Info().Has(ClassFlag::Window)) waiting.push_back(*child);
     }
   }
+  RealiseMenu(*this, object);
 }
 
 bool ObjectWorld::SetParent(ObjectRecord& object, ObjectId parent) {

@@ -86,7 +86,7 @@ class ObjectWorld final : public basic::ObjectHost {
   /// while its own handler runs.
   void Tick(ObjectId timer);
   /// A popup menu is about to be shown: raises OnPopup.
-  void PopupShows(ObjectId menu) { Raise(menu, Word::OnPopup); }
+  void PopupShows(ObjectId menu);
 
   // --- For all
   /// The record of an object; null when it is gone or was none.

@@ -31,15 +31,18 @@ class WidgetPort {
 
   /// Makes the widget of an object from its record. A form is realised when it is first shown,
   /// its children straight after it, parents first; later ones when they get a realised parent.
-  /// Timers are realised when they are made. Menus are not: see `MenuChanged`.
+  /// Timers are realised when they are made. Menus are not: see `MenuChanged`. A form is realised
+  /// hidden: `Apply` of Visible shows it.
   virtual void Realise(const ObjectRecord& object) = 0;
   /// A property of a realised object has another value. Of a font that an object owns: the member
   /// Font of that object. `Parent`: it moved to another parent. Menu items: see `MenuChanged`.
   virtual void Apply(const ObjectRecord& object, const MemberInfo& member) = 0;
   /// Entries of a realised list changed.
   virtual void ItemsChanged(const ObjectRecord& list, const ItemsChange& change) = 0;
-  /// Something in the tree below a main menu or popup menu changed, or a main menu was hung on
-  /// another form. Comes once for each change: the menu is best rebuilt before it is next shown.
+  /// Something in the tree below a main menu changed, or it was hung on another form; or below a
+  /// popup menu. Comes for a main menu when its form is realised, straight behind the children, and
+  /// for a popup menu from its first `ObjectWorld::PopupShows` on; then once for each change, so
+  /// the widget is best made again before it is next shown.
   virtual void MenuChanged(const ObjectRecord& menu) = 0;
   /// Calls a method of which only the widget knows the effect: drawing, focus, Undo. Drawing
   /// methods also come for objects that are not realised: the port keeps a surface for them.

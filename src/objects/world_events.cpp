@@ -66,6 +66,12 @@ void ObjectWorld::Click(ObjectId object) {
   if (form != nullptr) UserSet(form->Id, Word::ModalResult, Value::Integer(result));
 }
 
+void ObjectWorld::PopupShows(ObjectId menu) {
+  ObjectRecord* const record = Find(menu);
+  if (record != nullptr) record->Realised = true;
+  Raise(menu, Word::OnPopup);
+}
+
 void ObjectWorld::CloseForm(ObjectId form) {
   constexpr std::int64_t kKeep = 0;
   constexpr std::int64_t kHide = 1;

@@ -72,12 +72,15 @@ TEST(Menus, AnItemCannotBeARowOfItself) {
 }
 
 TEST(Menus, OneMenuHangsOnSeveralForms) {
-  ObjectProgram program("DIM A AS QFORM, B AS QFORM, M AS QMAINMENU\nM.Parent = A\nM.Parent = B\n");
+  ObjectProgram program(
+      "DIM A AS QFORM, B AS QFORM, M AS QMAINMENU\nM.Parent = A\nM.Parent = B\n"
+      "A.Show\nB.Show");
   program.Run();
   const ObjectRecord& menu = *program.Object("M");
   EXPECT_EQ(menu.As<MenuRows>()->Forms, (std::vector<ObjectId>{program.Id("A"), program.Id("B")}));
   EXPECT_EQ(program.Object("A")->As<FormState>()->Menu, menu.Id);
-  EXPECT_EQ(program.Widgets.Log, "menu M\nmenu M\n");
+  EXPECT_EQ(program.Widgets.Log,
+            "realise A\nmenu M\napply A.Visible = 1\nrealise B\nmenu M\napply B.Visible = 1\n");
 }
 
 TEST(Menus, OfTheRadioItemsOfAGroupOneIsChecked) {
