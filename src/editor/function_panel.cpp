@@ -34,7 +34,9 @@ void FunctionPanel::EditSearchChanged(FunctionListId list, std::string_view text
   const auto match =
       std::find_if(shown.Rows.begin(), shown.Rows.end(),
                    [text](const std::string& row) { return StartsWithFolded(row, text); });
-  if (match != shown.Rows.end()) shown.Row = static_cast<int>(match - shown.Rows.begin());
+  if (match == shown.Rows.end()) return;
+  shown.Row = static_cast<int>(match - shown.Rows.begin());
+  if (!text.empty()) ShowHelpOf(*match);
 }
 
 void FunctionPanel::AddFound(const std::string& name) {

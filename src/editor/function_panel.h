@@ -54,7 +54,8 @@ class FunctionPanel {
   [[nodiscard]] const std::string& EditHelp() const noexcept { return help_; }
 
   /// The text of an `EditSearch` beside a list changed: the first row that begins with it is
-  /// selected, in any letters; none changes nothing. The tab of the search finds nothing by itself.
+  /// selected, in any letters, and its help shows; none changes nothing. The tab of the search
+  /// finds nothing by itself.
   void EditSearchChanged(FunctionListId list, std::string_view text);
   /// `btnSearch`: fills the list of what was found, each name once, or its only row is
   /// `kNotFound`. Nothing for an empty text.

@@ -61,6 +61,15 @@ TEST_F(FunctionPanelTest, TheFirstRowThatBeginsWithTheTextIsSelectedInAnyLetters
   EXPECT_EQ(panel_.RowOf(FunctionListId::Main), 0);
 }
 
+TEST_F(FunctionPanelTest, TheHelpOfTheRowThatIsFoundShows) {
+  panel_.EditSearchChanged(FunctionListId::Main, "");
+  EXPECT_EQ(panel_.EditHelp(), "");
+  panel_.EditSearchChanged(FunctionListId::Main, "mi");
+  EXPECT_EQ(panel_.EditHelp(), "MID$\r\nA piece of a text");
+  panel_.EditSearchChanged(FunctionListId::Main, "zz");
+  EXPECT_EQ(panel_.EditHelp(), "MID$\r\nA piece of a text");
+}
+
 TEST_F(FunctionPanelTest, TheFieldOfTheSearchFindsNothingByItself) {
   panel_.Search("e", SearchIn::Names);
   panel_.EditSearchChanged(FunctionListId::Found, "b");

@@ -159,7 +159,8 @@ TEST_F(CodeMarksWindow, SignsFollowTheTheme) {
   ASSERT_TRUE(Marked(1));
   const auto sign = [this] {
     const QImage image = Editor().viewport()->grab().toImage();
-    const QPoint at(PlaceOf(0, 0).x() - 9, PlaceOf(0, 0).y() + 4);
+    // Beside the exclamation mark in the middle of the disc.
+    const QPoint at(PlaceOf(0, 0).x() - 19, PlaceOf(0, 0).y() + 4);
     return image.pixelColor(at * image.devicePixelRatio());
   };
   ApplyTheme(*qApp, Theme::Light);

@@ -1,6 +1,7 @@
 #include "qt/editor/code_window.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QInputMethodEvent>
@@ -8,14 +9,18 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSpinBox>
 #include <QTest>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <string>
 
+#include <Qsci/qscilexer.h>
 #include <gtest/gtest.h>
 
 #include "codegen/program_source.h"
@@ -243,6 +248,160 @@ TEST_F(CodeWindowTest, FindAndReplaceAllTellTheCount) {
             QStringLiteral("Nothing was found."));
   Editor().undo();
   EXPECT_EQ(Editor().Text(), "one two one");
+}
+
+TEST_F(CodeWindowTest, ReplaceTakesWholeWordsAloneWhenAsked) {
+  OpenCodeOfNewButton();
+  Editor().SetText("bone one One");
+  program.Key(Qt::Key_F, Qt::ControlModifier);
+  program.Find<QLineEdit>(QStringLiteral("FindText")).setText(QStringLiteral("one"));
+  program.Find<QLineEdit>(QStringLiteral("ReplaceText")).setText(QStringLiteral("two"));
+  auto& dialog = program.Find<QDialog>(QStringLiteral("FindDialog"));
+  const auto boxes = dialog.findChildren<QCheckBox*>();
+  for (QCheckBox* box : boxes) box->setChecked(box->text() != QStringLiteral("Match &case"));
+  Editor().SetSel({0, 1, 0, 4});
+  auto& replace = program.Find<QPushButton>(QStringLiteral("Replace"));
+  replace.click();
+  EXPECT_EQ(Editor().Text(), "bone one One");
+  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 5, 0, 8}));
+  replace.click();
+  EXPECT_EQ(Editor().Text(), "bone two One");
+  for (QCheckBox* box : boxes) box->setChecked(true);
+  replace.click();
+  EXPECT_EQ(Editor().Text(), "bone two One");
+  Editor().SetText("one One");
+  Editor().SetCaretPos(0, 4);
+  program.Find<QPushButton>(QStringLiteral("FindNext")).click();
+  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 0, 0, 3}));
+  for (QCheckBox* box : boxes) box->setChecked(false);
+  Editor().SetCaretPos(0, 7);
+  program.Find<QPushButton>(QStringLiteral("FindNext")).click();
+  EXPECT_EQ(program.Find<QLabel>(QStringLiteral("FindResult")).text(),
+            QStringLiteral("Nothing was found."));
+}
+
+TEST_F(CodeWindowTest, TheFindDialogStandsAsideAndGivesTheKeysBack) {
+  OpenCodeOfNewButton();
+  Editor().SetText("one");
+  program.Key(Qt::Key_F, Qt::ControlModifier);
+  auto& dialog = program.Find<QDialog>(QStringLiteral("FindDialog"));
+  const QRect first_line(Editor().mapToGlobal(QPoint(0, 0)), QSize(Editor().width(), 40));
+  EXPECT_FALSE(dialog.geometry().intersects(first_line));
+  program.Key(Qt::Key_Escape);
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::focusWidget() == &Editor(); }));
+}
+
+TEST_F(CodeWindowTest, ASelectionBecomesTheTextToFind) {
+  OpenCodeOfNewButton();
+  Editor().SetText("one two");
+  Editor().SetSel({0, 4, 0, 7});
+  program.Key(Qt::Key_F, Qt::ControlModifier);
+  EXPECT_EQ(program.Find<QLineEdit>(QStringLiteral("FindText")).text(), QStringLiteral("two"));
+}
+
+TEST_F(CodeWindowTest, F3FindsTheNextAndShiftF3TheOneBeforeWithoutTheDialog) {
+  OpenCodeOfNewButton();
+  Editor().SetText("a b a b");
+  program.Find<QLineEdit>(QStringLiteral("FindText")).setText(QStringLiteral("b"));
+  program.Key(Qt::Key_F3);
+  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 2, 0, 3}));
+  program.Key(Qt::Key_F3);
+  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 6, 0, 7}));
+  program.Key(Qt::Key_F3, Qt::ShiftModifier);
+  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 2, 0, 3}));
+}
+
+TEST_F(CodeWindowTest, ZoomWidensTheLineNumbersWithTheText) {
+  OpenCodeOfNewButton();
+  const int before = Editor().marginWidth(0);
+  Editor().zoomIn(6);
+  Program::Settle();
+  EXPECT_GT(Editor().marginWidth(0), before);
+  Editor().zoomTo(0);
+  Program::Settle();
+  EXPECT_EQ(Editor().marginWidth(0), before);
+}
+
+TEST_F(CodeWindowTest, TabIndentsTheSelectedLinesAndShiftTabTakesItBack) {
+  OpenCodeOfNewButton();
+  Editor().SetText("a\r\nb\r\nc");
+  Editor().SetSel({0, 0, 1, 1});
+  KeyInCode(Qt::Key_Tab);
+  EXPECT_EQ(Editor().Text(), "    a\r\n    b\r\nc");
+  KeyInCode(Qt::Key_Backtab);
+  EXPECT_EQ(Editor().Text(), "a\r\nb\r\nc");
+}
+
+TEST_F(CodeWindowTest, GoToLineAsksForTheNumber) {
+  OpenCodeOfNewButton();
+  Editor().SetText("a\r\nb\r\nc");
+  program.User.Do([](QDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Go to Line"));
+    auto* number = dialog.findChild<QSpinBox*>();
+    EXPECT_EQ(number->maximum(), 3);
+    number->setValue(3);
+    dialog.accept();
+  });
+  KeyInCode(Qt::Key_G, Qt::ControlModifier);
+  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{2, 0, 2, 0}));
+}
+
+TEST_F(CodeWindowTest, CtrlDOpensTheDeclarationsFromTheText) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("Beep"));
+  program.Key(Qt::Key_D, Qt::ControlModifier);
+  EXPECT_TRUE(program.Find<QWidget>(QStringLiteral("FormViewCodes")).isVisible());
+  EXPECT_EQ(Editor().Text(), "Beep");
+}
+
+TEST_F(CodeWindowTest, TheContextMenuHasItsRowsInOrderAndHelpDoesNothing) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("Beep"));
+  QStringList rows;
+  QTimer::singleShot(0, [&rows] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (menu == nullptr) return;
+    for (const QAction* row : menu->actions()) {
+      rows.append(row->isSeparator() ? QStringLiteral("-") : row->text());
+    }
+    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
+                      menu->actionGeometry(menu->actions().at(13)).center());
+  });
+  Q_EMIT Editor().customContextMenuRequested(QPoint(60, 20));
+  const QStringList expected{QStringLiteral("UnDo"),
+                             QStringLiteral("ReDo"),
+                             QStringLiteral("-"),
+                             QStringLiteral("Copy"),
+                             QStringLiteral("Cut"),
+                             QStringLiteral("Paste"),
+                             QStringLiteral("-"),
+                             QStringLiteral("Search"),
+                             QStringLiteral("-"),
+                             QStringLiteral("Public Declarations"),
+                             QStringLiteral("Functions and Examples"),
+                             QStringLiteral("Objets Properties"),
+                             QStringLiteral("-"),
+                             QStringLiteral("Help")};
+  EXPECT_EQ(rows, expected);
+  EXPECT_EQ(Editor().Text(), "Beep");
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(CodeWindowTest, TheWindowRemembersItsSize) {
+  OpenCodeOfNewButton();
+  Window().resize(720, 500);
+  QTest::keyClick(&Window(), Qt::Key_Escape);
+  const std::string kept = program.Shell().SettingsFile().Read("Window", "FormCodigo");
+  EXPECT_TRUE(Contains(kept, ",720,500")) << kept;
+}
+
+TEST_F(CodeWindowTest, TheFontOfTheCodeIsAskedForByItsName) {
+  OpenCodeOfNewButton();
+  EXPECT_EQ(Editor().lexer()->font(0).family(), QStringLiteral("Courier New"));
+  EXPECT_EQ(Editor().lexer()->font(0).pointSize(), 10);
+  EXPECT_EQ(program.Find<CodeEdit>(QStringLiteral("EditorPublic")).lexer()->font(0).family(),
+            QStringLiteral("Courdir new"));
 }
 
 TEST_F(CodeWindowTest, F1ShowsTheHelpOfTheWord) {

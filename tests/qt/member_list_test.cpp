@@ -78,6 +78,11 @@ TEST_F(MemberList, StaysOnTheScreen) {
   EXPECT_LE(Frame().geometry().bottom(), CaretPlace().y());
 }
 
+TEST_F(MemberList, ShowsWholeRows) {
+  Type("Ok.");
+  EXPECT_EQ(List().viewport()->height(), 3 * List().visualItemRect(List().item(0)).height());
+}
+
 TEST_F(MemberList, NeverTakesTheFocus) {
   Type("Ok.");
   EXPECT_EQ(QApplication::focusWidget(), code_);

@@ -63,6 +63,7 @@ CodeEdit::CodeEdit(const QString& name, const std::vector<std::string>& keywords
   });
   connect(this, &QsciScintilla::textChanged, this, [this] { changed_ = true; });
   connect(this, &QsciScintilla::linesChanged, this, [this] { FitLineNumbers(); });
+  connect(this, &QsciScintillaBase::SCN_ZOOM, this, [this] { FitLineNumbers(); });
   connect(this, &QsciScintillaBase::SCN_UPDATEUI, this, [this](int) { Sync(); });
   connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { list_.HideList(); });
   connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { list_.HideList(); });
@@ -98,6 +99,7 @@ void CodeEdit::SetUp(std::string_view font_name) {
   setMarginLineNumbers(kNumberMargin, true);
   setMarginWidth(kSignMargin, 0);
   setMarginsFont(font);
+  SendScintilla(SCI_SETMARGINLEFT, 0UL, static_cast<long>(kGap));
   SetColors();
   FitLineNumbers();
 }

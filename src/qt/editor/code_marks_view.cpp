@@ -2,7 +2,9 @@
 
 #include <QElapsedTimer>
 #include <QHelpEvent>
+#include <QImage>
 #include <QLabel>
+#include <QPainter>
 #include <QToolTip>
 #include <algorithm>
 #include <utility>
@@ -22,7 +24,8 @@ using Base = QsciScintillaBase;
 constexpr int kPause = 300;
 /// Checks take at most this part of the time.
 constexpr int kPauseByDuration = 10;
-constexpr int kMarginWidth = 14;
+constexpr int kMarginWidth = 18;
+constexpr int kSignSide = 14;
 constexpr int kErrorSign = 1;
 constexpr int kNoteSign = 2;
 constexpr int kErrorWave = 9;
@@ -33,6 +36,33 @@ QColor ColorOf(CodeMark::Sort sort, Theme theme) {
     return theme == Theme::Dark ? QColor(0xFF, 0x8A, 0x80) : QColor(0xC6, 0x28, 0x28);
   }
   return theme == Theme::Dark ? QColor(0xFF, 0xCA, 0x28) : QColor(0xB2, 0x6A, 0x00);
+}
+
+/// A disc for an error and a triangle for a note, each with an exclamation mark.
+QImage SignOf(CodeMark::Sort sort, Theme theme, qreal ratio) {
+  QImage image(QSize(kSignSide, kSignSide) * ratio, QImage::Format_ARGB32_Premultiplied);
+  image.setDevicePixelRatio(ratio);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QColor ground = ColorOf(sort, theme);
+  painter.setPen(QPen(ground, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(ground);
+  const QRectF room(1.5, 1.5, kSignSide - 3, kSignSide - 3);
+  const bool error = sort == CodeMark::Sort::Error;
+  if (error) {
+    painter.drawEllipse(room);
+  } else {
+    painter.drawPolygon(
+        QPolygonF({QPointF(room.center().x(), room.top()), room.bottomRight(), room.bottomLeft()}));
+  }
+  painter.setPen(
+      QPen(theme == Theme::Dark ? Qt::black : Qt::white, 1.6, Qt::SolidLine, Qt::RoundCap));
+  const qreal x = room.center().x();
+  const qreal top = error ? 4 : 6;
+  painter.drawLine(QPointF(x, top), QPointF(x, error ? 7.5 : 8.5));
+  painter.drawPoint(QPointF(x, error ? 10 : 11));
+  return image;
 }
 
 }  // namespace
@@ -57,14 +87,12 @@ void CodeMarksView::SetUp() {
   code_.setMarginType(CodeEdit::kSignMargin, QsciScintilla::SymbolMargin);
   code_.setMarginWidth(CodeEdit::kSignMargin, kMarginWidth);
   code_.setMarginMarkerMask(CodeEdit::kSignMargin, (1 << kErrorSign) | (1 << kNoteSign));
-  code_.markerDefine(QsciScintilla::Circle, kErrorSign);
-  code_.markerDefine(QsciScintilla::SmallRectangle, kNoteSign);
+  const qreal ratio = code_.devicePixelRatioF();
+  code_.SendScintilla(Base::SCI_RGBAIMAGESETSCALE, static_cast<unsigned long>(ratio * 100));
   const auto colored = [&](CodeMark::Sort sort, int sign, int wave) {
-    const QColor color = ColorOf(sort, theme);
-    code_.setMarkerBackgroundColor(color, sign);
-    code_.setMarkerForegroundColor(color, sign);
+    code_.markerDefine(SignOf(sort, theme, ratio), sign);
     code_.indicatorDefine(QsciScintilla::SquiggleIndicator, wave);
-    code_.setIndicatorForegroundColor(color, wave);
+    code_.setIndicatorForegroundColor(ColorOf(sort, theme), wave);
   };
   colored(CodeMark::Sort::Error, kErrorSign, kErrorWave);
   colored(CodeMark::Sort::Note, kNoteSign, kNoteWave);
@@ -170,7 +198,9 @@ bool CodeMarksView::eventFilter(QObject* object, QEvent* event) {
     ShowTip(*static_cast<QHelpEvent*>(event));
     return true;
   }
-  if (event->type() == QEvent::PaletteChange && object == &code_) SetUp();
+  const bool looks_other =
+      event->type() == QEvent::PaletteChange || event->type() == QEvent::ScreenChangeInternal;
+  if (looks_other && object == &code_) SetUp();
   return QObject::eventFilter(object, event);
 }
 

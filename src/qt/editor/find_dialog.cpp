@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QHideEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -78,11 +79,29 @@ void FindDialog::Open() {
   const QString selected = code_.selectedText();
   if (!selected.isEmpty() && !selected.contains(u'\n')) find_->setText(selected);
   said_->clear();
+  if (!isVisible()) MoveAside();
   show();
   raise();
   activateWindow();
   find_->setFocus();
   find_->selectAll();
+}
+
+/// To the lower right of its window, where it hides the least of the text.
+void FindDialog::MoveAside() {
+  adjustSize();
+  const QWidget& window = *parentWidget();
+  const QRect text(code_.mapTo(&window, QPoint(0, 0)), code_.size());
+  const QPoint corner = window.mapToGlobal(QPoint(window.width(), text.bottom()));
+  move(corner - QPoint(width() + 2 * kRoom, height() + 2 * kRoom));
+}
+
+void FindDialog::hideEvent(QHideEvent* event) {
+  QDialog::hideEvent(event);
+  if (event->spontaneous() || !parentWidget()->isVisible()) return;
+  // Not every desktop gives the keys back by itself.
+  parentWidget()->activateWindow();
+  code_.SetFocus();
 }
 
 int FindDialog::SearchFlags() const {
@@ -112,10 +131,18 @@ bool FindDialog::Find(bool forward) {
 }
 
 bool FindDialog::SelectionMatches() const {
-  return code_.hasSelectedText() &&
-         code_.selectedText().compare(
-             find_->text(), match_case_->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive) ==
-             0;
+  const QByteArray wanted = find_->text().toUtf8();
+  if (wanted.isEmpty() || !code_.hasSelectedText()) return false;
+  const long begin = code_.SendScintilla(QsciScintillaBase::SCI_GETSELECTIONSTART);
+  const long end = code_.SendScintilla(QsciScintillaBase::SCI_GETSELECTIONEND);
+  code_.SendScintilla(QsciScintillaBase::SCI_SETSEARCHFLAGS,
+                      static_cast<unsigned long>(SearchFlags()));
+  code_.SendScintilla(QsciScintillaBase::SCI_SETTARGETRANGE, static_cast<unsigned long>(begin),
+                      end);
+  const long at =
+      code_.SendScintilla(QsciScintillaBase::SCI_SEARCHINTARGET,
+                          static_cast<unsigned long>(wanted.size()), wanted.constData());
+  return at == begin && code_.SendScintilla(QsciScintillaBase::SCI_GETTARGETEND) == end;
 }
 
 void FindDialog::Replace() {

@@ -25,8 +25,12 @@ class FindDialog final : public QDialog {
   /// Goes to the next or the one before, from the selection on; false when there is none.
   bool Find(bool forward);
 
+ protected:
+  void hideEvent(QHideEvent* event) override;
+
  private:
   void Build();
+  void MoveAside();
   void Replace();
   void ReplaceAll();
   [[nodiscard]] bool SelectionMatches() const;

@@ -131,6 +131,7 @@ void FunctionPanelView::BuildTab(int tab) {
     panel_.EditSearchChanged(id, FromQString(text));
     const QSignalBlocker quiet(parts_[static_cast<std::size_t>(tab)].List);
     parts_[static_cast<std::size_t>(tab)].List->setCurrentRow(panel_.RowOf(id));
+    ShowHelp();
   });
   connect(part.List, &QListWidget::currentRowChanged, this, [this, id](int row) {
     panel_.Click(id, row);

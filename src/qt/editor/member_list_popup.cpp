@@ -53,6 +53,9 @@ void MemberListPopup::showintellisense(const std::vector<std::string>& rows) {
   Place({width, shown * row_height + frame});
   show();
   raise();
+  // Whole rows: what frame and style sheet take is known once the list is laid out.
+  const int taken = list_->height() - list_->viewport()->height();
+  Place({width, shown * row_height + taken});
 }
 
 void MemberListPopup::Place(const QSize& size) {
