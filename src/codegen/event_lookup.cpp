@@ -16,8 +16,10 @@ OwnerCode EventLookup::OfForm() const {
   return OwnerCode(table_.OwnerOf(FormKey(form_)));
 }
 
-OwnerCode EventLookup::OfObject(Kind kind, int ordinal) const {
-  return OwnerCode(table_.OwnerOf(ObjectKey(form_, kind, ordinal)));
+OwnerCode EventLookup::OfObject(Kind kind, int ordinal) {
+  key_.clear();
+  AppendObjectKey(key_, form_, kind, ordinal);
+  return OwnerCode(table_.OwnerOf(key_));
 }
 
 OwnerCode EventLookup::OfName(std::string_view name) const {
@@ -28,7 +30,7 @@ std::string_view EventLookup::OnClickOf(std::string_view item) const {
   return OfName(item).Of(Event::OnClick);
 }
 
-std::string_view EventLookup::OnPopUpOf(std::string_view name, int number) const {
+std::string_view EventLookup::OnPopUpOf(std::string_view name, int number) {
   const std::string_view code = OfName(name).Of(Event::OnPopUp);
   if (!code.empty()) return code;
   return OfObject(Kind::PopUpMenu, number).Of(Event::OnPopUp);

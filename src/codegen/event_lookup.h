@@ -60,12 +60,12 @@ class EventLookup {
   /// Code of the form itself.
   [[nodiscard]] OwnerCode OfForm() const;
   /// Code of the object with this running number in its kind.
-  [[nodiscard]] OwnerCode OfObject(Kind kind, int ordinal) const;
+  [[nodiscard]] OwnerCode OfObject(Kind kind, int ordinal);
   /// OnClick code of a menu or popup item.
   [[nodiscard]] std::string_view OnClickOf(std::string_view item) const;
   /// OnPopUp code of a popup menu: under its name or else under its array name and number, which
   /// is where editor and reader put it.
-  [[nodiscard]] std::string_view OnPopUpOf(std::string_view name, int number) const;
+  [[nodiscard]] std::string_view OnPopUpOf(std::string_view name, int number);
 
  private:
   /// Code under a name of the user's choice.
@@ -73,6 +73,7 @@ class EventLookup {
 
   const EventCodeTable& table_;
   int form_ = 0;
+  std::string key_;  ///< of the last object, whose memory the next one takes over
 };
 
 }  // namespace tarnwick

@@ -1,6 +1,8 @@
 #include "codegen/object_lines.h"
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -57,7 +59,7 @@ constexpr std::array kCommonLines{
     CommonLine{".ShowHint = ", Derived::On},
 };
 
-bool Writes(Kind kind, const CommonLine& line) {
+constexpr bool Writes(Kind kind, const CommonLine& line) {
   const KindInfo& info = InfoOf(kind);
   const auto* const member = std::get_if<Member>(&line.Value);
   const std::optional<Member> needs = member != nullptr ? *member : line.Needs;
@@ -68,6 +70,24 @@ bool Writes(Kind kind, const CommonLine& line) {
   }
   return member == nullptr || !Holds(info.Program.HeldBack, *member);
 }
+
+/// The lines that a kind writes, by their numbers.
+struct LinesOfKind {
+  std::array<std::uint8_t, kCommonLines.size()> Lines{};
+  std::size_t Count = 0;
+};
+constexpr std::array<LinesOfKind, kKindCount> kLinesByKind = [] {
+  std::array<LinesOfKind, kKindCount> kinds{};
+  for (std::size_t kind = 0; kind < kKindCount; ++kind) {
+    for (std::size_t line = 0; line < kCommonLines.size(); ++line) {
+      LinesOfKind& list = kinds[kind];
+      if (Writes(static_cast<Kind>(kind), kCommonLines[line])) {
+        list.Lines[list.Count++] = static_cast<std::uint8_t>(line);
+      }
+    }
+  }
+  return kinds;
+}();
 
 /// Writes the lines of one object.
 class LineWriter {
@@ -145,9 +165,8 @@ class LineWriter {
 
 void WriteCommonLines(Generation& gen, const DesignControl& control, std::int16_t& button_count) {
   LineWriter writer(gen, control, button_count);
-  for (const CommonLine& line : kCommonLines) {
-    if (Writes(control.Id, line)) writer.Write(line);
-  }
+  const LinesOfKind& lines = kLinesByKind[static_cast<std::size_t>(control.Id)];
+  for (std::size_t i = 0; i < lines.Count; ++i) writer.Write(kCommonLines[lines.Lines[i]]);
 }
 
 }  // namespace tarnwick

@@ -1,7 +1,9 @@
 // The generated text while it grows: whole lines.
 #pragma once
 
+#include <algorithm>
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -36,26 +38,60 @@ class SourceText {
  public:
   template <class... Parts>
   void Line(const Parts&... parts) {
-    (Append(parts), ...);
-    text_ += kLineEnd;
+    // Room is made for the whole line, so that its parts need no check each.
+    MakeRoom((MostBytes(parts) + ... + kLineEnd.size()));
+    char* at = bytes_.data() + size_;
+    ((at = Put(at, parts)), ...);
+    at = Put(at, kLineEnd);
+    size_ = static_cast<std::size_t>(at - bytes_.data());
   }
   void Blank() { Line(); }
 
-  [[nodiscard]] const std::string& Text() const noexcept { return text_; }
+  /// Prepares for a text of about so many bytes.
+  void Expect(std::size_t bytes) { MakeRoom(bytes); }
+  /// The bytes of all lines so far.
+  [[nodiscard]] std::size_t Size() const noexcept { return size_; }
+  [[nodiscard]] std::string_view Text() const noexcept {
+    return std::string_view(bytes_).substr(0, size_);
+  }
   /// Moves the text out.
-  [[nodiscard]] std::string Take() noexcept { return std::move(text_); }
-
- private:
-  void Append(std::string_view text) { text_ += text; }
-  void Append(WholeNumber auto number) { AppendNumber(text_, static_cast<std::int64_t>(number)); }
-  void Append(float number) { AppendNumber(text_, number); }
-  void Append(const Quoted& quoted) { text_.append(1, '"').append(quoted.Text).append(1, '"'); }
-  void Append(const Numbered& numbered) {
-    text_ += numbered.Text;
-    if (numbered.HasNumber) Append(numbered.Number);
+  [[nodiscard]] std::string Take() {
+    bytes_.resize(std::exchange(size_, 0));
+    return std::exchange(bytes_, {});
   }
 
-  std::string text_;
+ private:
+  void MakeRoom(std::size_t bytes) {
+    if (bytes_.size() - size_ < bytes) bytes_.resize(size_ + std::max(bytes, size_));
+  }
+
+  static std::size_t MostBytes(std::string_view text) noexcept { return text.size(); }
+  static std::size_t MostBytes(WholeNumber auto /*number*/) noexcept { return kMostNumberBytes; }
+  static std::size_t MostBytes(float /*number*/) noexcept { return kMostNumberBytes; }
+  static std::size_t MostBytes(const Quoted& quoted) noexcept { return quoted.Text.size() + 2; }
+  static std::size_t MostBytes(const Numbered& numbered) noexcept {
+    return numbered.Text.size() + kMostNumberBytes;
+  }
+
+  // Each writes a part and returns its end.
+  static char* Put(char* at, std::string_view text) noexcept {
+    return std::copy(text.begin(), text.end(), at);
+  }
+  static char* Put(char* at, WholeNumber auto number) noexcept {
+    return WriteNumber(at, static_cast<std::int64_t>(number));
+  }
+  static char* Put(char* at, float number) noexcept { return WriteNumber(at, number); }
+  static char* Put(char* at, const Quoted& quoted) noexcept {
+    at = Put(Put(at, "\""), quoted.Text);
+    return Put(at, "\"");
+  }
+  static char* Put(char* at, const Numbered& numbered) noexcept {
+    at = Put(at, numbered.Text);
+    return numbered.HasNumber ? Put(at, numbered.Number) : at;
+  }
+
+  std::string bytes_;     ///< the text and free room behind it
+  std::size_t size_ = 0;  ///< of the text
 };
 
 }  // namespace tarnwick

@@ -7,12 +7,17 @@
 namespace tarnwick {
 
 std::string ObjectKey(int form, Kind kind, int number) {
-  std::string key(InfoOf(Kind::Form).Name);
-  AppendNumber(key, std::int64_t{form});
-  key += '.';
-  key += InfoOf(kind).Array;
-  AppendNumber(key, std::int64_t{number});
+  std::string key;
+  AppendObjectKey(key, form, kind, number);
   return key;
+}
+
+void AppendObjectKey(std::string& out, int form, Kind kind, int number) {
+  out += InfoOf(Kind::Form).Name;
+  AppendNumber(out, std::int64_t{form});
+  out += '.';
+  out += InfoOf(kind).Array;
+  AppendNumber(out, std::int64_t{number});
 }
 
 const std::string* EventCodeTable::Owner::FindSlot(std::size_t slot) const noexcept {
@@ -24,7 +29,8 @@ const std::string* EventCodeTable::Owner::FindSlot(std::size_t slot) const noexc
 
 bool EventCodeTable::Owner::AddSlot(std::size_t slot, std::string_view code) {
   if (present_[slot]) return false;
-  SetSlot(slot, code);
+  present_.set(slot);
+  if (!code.empty()) codes_.emplace(slot, code);
   return true;
 }
 
@@ -57,13 +63,11 @@ const EventCodeTable::Owner* EventCodeTable::OwnerOf(std::string_view owner) con
 }
 
 EventCodeTable::Owner& EventCodeTable::OwnerFor(std::string_view owner) {
-  const auto found = owners_.find(owner);
-  KeyedOwner& wanted =
-      found != owners_.end() ? *found : *owners_.try_emplace(std::string(owner)).first;
-  if (found == owners_.end()) order_.push_back(&wanted);
+  const auto [wanted, made] = owners_.try_emplace(std::string(owner));
+  if (made) order_.push_back(&*wanted);
   // Whoever asks for it is about to change it.
-  Note(wanted.first, wanted.second);
-  return wanted.second;
+  Note(wanted->first, wanted->second);
+  return wanted->second;
 }
 
 const std::string* EventCodeTable::Find(std::string_view key) const noexcept {

@@ -24,6 +24,8 @@ struct ObjectPlace {
 
 /// The owner key of an object: "Form1.Button2".
 [[nodiscard]] std::string ObjectKey(int form, Kind kind, int number);
+/// Appends the same.
+void AppendObjectKey(std::string& out, int form, Kind kind, int number);
 
 /// A keyed collection of texts; keys are unique and compare without regard to case. A key is an
 /// owner ("Form1.Button2") and an event suffix (".OnClick"). The entries of one owner lie together,

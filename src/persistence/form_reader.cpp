@@ -193,11 +193,19 @@ void FormReader::Take(Object& object, Tag tag, Member member) {
       return ReadLength(scanner_.Stored(tag), control.Width);
     case Member::Height:
       return ReadLength(scanner_.Stored(tag), control.Height);
-    default:
+    case Member::Value:
+      // The state of a check or option object is kept both on the control and in its record.
       control.Set(member, scanner_.Value(tag));
+      return Take(object, tag, &ObjectRec::Checked);
+    default:
+      std::visit(
+          [&](auto field) {
+            if constexpr (!std::is_same_v<decltype(field), std::monostate>) {
+              Put(tag, control.*field);
+            }
+          },
+          FieldOf(member));
   }
-  // The state of a check or option object is kept both on the control and in its record.
-  if (member == Member::Value) Take(object, tag, &ObjectRec::Checked);
 }
 
 void FormReader::Take(Object& object, Tag tag, Event event) {

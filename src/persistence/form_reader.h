@@ -76,7 +76,11 @@ class FormReader {
   /// Puts a value into a field: a text restored, a number by the digits at its head.
   template <class T>
   void Put(Tag tag, T& field) {
-    SetFromText(field, scanner_.Value(tag));
+    if (InfoOf(tag).How == Restore::Plain) {
+      SetFromText(field, scanner_.Stored(tag));
+    } else {
+      SetFromText(field, scanner_.Value(tag));
+    }
   }
 
   void TellBar(std::string name, Event event);

@@ -15,6 +15,19 @@ std::string WithByte(std::string_view text, char from, char to) {
   return replaced;
 }
 
+std::string RestoredLines(std::string_view stored) {
+  std::string text;
+  text.reserve(stored.size());
+  for (const char c : stored) {
+    if (c == kStoredLineBreak) {
+      text += kLineEnd;
+    } else {
+      text += c == kStoredComma ? ',' : c;
+    }
+  }
+  return text;
+}
+
 }  // namespace
 
 void AppendStoredText(std::string& out, std::string_view text) {
@@ -39,13 +52,13 @@ std::string RestoredValue(std::string_view stored, Restore how) {
     case Restore::Plain:
       return std::string(stored);
     case Restore::Lines:
-      return ReplaceAll(WithByte(stored, kStoredComma, ','), kLineBreak, kLineEnd);
+      return RestoredLines(stored);
     case Restore::Commas:
       return WithByte(stored, kStoredComma, ',');
     case Restore::Items:
       return WithByte(stored, kStoredListComma, ',');
     case Restore::Code:
-      return std::string(Trim(RestoredValue(stored, Restore::Lines)));
+      return std::string(Trim(RestoredLines(stored)));
   }
   return std::string(stored);
 }

@@ -1,5 +1,6 @@
 #include "persistence/tag_scanner.h"
 
+#include <algorithm>
 #include <bitset>
 #include <cstddef>
 #include <cstdint>
@@ -13,47 +14,74 @@ namespace {
 
 constexpr std::size_t kNone = std::string_view::npos;
 
-/// Tag numbers by a letter of their words, so that a bracket is compared with a few words only.
-class TagsByLetter {
- public:
-  enum class Letter : std::uint8_t { First, Last };
+/// Every tag has at least so many letters.
+constexpr std::size_t kFewestLetters = 3;
 
-  explicit constexpr TagsByLetter(Letter which) {
+/// Tag numbers by three letters of their words, so that a bracket is compared with a word or two.
+class TagsByLetters {
+ public:
+  enum class End : std::uint8_t { Head, Tail };
+
+  explicit constexpr TagsByLetters(End end) {
     for (std::size_t tag = 0; tag < kTagCount; ++tag) {
       const std::string_view word = kTags[tag].Word;
-      List& list = lists_[SlotOf(which == Letter::First ? word.front() : word.back())];
+      const std::size_t from = end == End::Head ? 0 : word.size() - kFewestLetters;
+      List& list = lists_[SlotOf(word.substr(from, kFewestLetters))];
       list.Tags[list.Count++] = static_cast<std::uint8_t>(tag);
     }
   }
 
-  /// Calls `use(tag number)` for each tag with that letter; letters are equal in both cases.
+  /// Calls `use(tag number)` for each tag with these letters at that end, and for a few others;
+  /// letters are equal in both cases.
   template <class Use>
-  void ForEach(char letter, Use use) const {
-    const List& list = lists_[SlotOf(letter)];
+  void ForEach(std::string_view letters, Use use) const {
+    const List& list = lists_[SlotOf(letters)];
     for (std::size_t i = 0; i < list.Count; ++i) use(std::size_t{list.Tags[i]});
   }
 
  private:
-  static constexpr std::size_t kSlots = 32;
-  static constexpr std::size_t kMostPerLetter = 12;
+  static constexpr std::size_t kSlots = 128;
+  static constexpr std::size_t kMostPerSlot = 8;
   struct List {
-    std::array<std::uint8_t, kMostPerLetter> Tags{};
-    std::size_t Count = 0;
+    std::array<std::uint8_t, kMostPerSlot> Tags{};
+    std::uint8_t Count = 0;
   };
 
-  /// The low five bits of a letter are its number in the alphabet.
-  static constexpr std::size_t SlotOf(char letter) {
-    return static_cast<unsigned char>(letter) % kSlots;
+  static constexpr std::size_t SlotOf(std::string_view letters) {
+    // The low five bits of a letter are its number in the alphabet, in either case.
+    const auto number = [&](std::size_t i) { return static_cast<unsigned char>(letters[i]) % 32U; };
+    return (number(0) * 4 + number(1) * 2 + number(2)) % kSlots;
   }
 
   std::array<List, kSlots> lists_{};
 };
 
-constexpr TagsByLetter kByFirst(TagsByLetter::Letter::First);
-constexpr TagsByLetter kByLast(TagsByLetter::Letter::Last);
+constexpr TagsByLetters kByHead(TagsByLetters::End::Head);
+constexpr TagsByLetters kByTail(TagsByLetters::End::Tail);
 
-bool EndsWithFolded(std::string_view text, std::string_view end) {
-  return text.size() >= end.size() && EqualsFolded(text.substr(text.size() - end.size()), end);
+static_assert(
+    [] {
+      for (const TagInfo& tag : kTags) {
+        if (tag.Word.size() < kFewestLetters) return false;
+        for (const TagInfo& other : kTags) {
+          if (other.Id != tag.Id && other.Word.starts_with(tag.Word)) return false;
+        }
+      }
+      return true;
+    }(),
+    "behind a bracket at most one tag stands, and it has three letters");
+
+/// True when a text begins with a tag's word.
+bool StartsWithTag(std::string_view text, std::size_t tag) {
+  const std::string_view word = kTags[tag].Word;
+  return text.size() >= word.size() &&
+         std::equal(word.begin(), word.end(), text.begin(),
+                    [](char lower, char c) { return LowerByte(c) == lower; });
+}
+
+bool EndsWithTag(std::string_view text, std::size_t tag) {
+  const std::size_t size = kTags[tag].Word.size();
+  return text.size() >= size && StartsWithTag(text.substr(text.size() - size), tag);
 }
 
 /// Finds the first start and the first end of every tag in a line.
@@ -63,32 +91,47 @@ class TagFinder {
       : line_(line), values_(values) {}
 
   void Run() {
-    for (std::size_t at = 0; at < line_.size(); ++at) {
-      if (line_[at] == '<') NoteStart(at);
-      if (line_[at] == '>') NoteEnd(at);
+    std::size_t start = line_.find('<');
+    std::size_t end = line_.find('>');
+    while (start != end) {  // both are kNone behind the last bracket
+      if (start < end) {
+        NoteStart(start);
+        start = line_.find('<', start + 1);
+      } else {
+        NoteEnd(end);
+        end = line_.find('>', end + 1);
+      }
     }
   }
 
  private:
   void NoteStart(std::size_t bracket) {
-    if (bracket == 0) return;
+    if (bracket < kFewestLetters) return;
     const std::string_view before = line_.substr(0, bracket);
-    kByLast.ForEach(before.back(), [&](std::size_t tag) {
-      if (starts_[tag] != kNotFound || !EndsWithFolded(before, kTags[tag].Word)) return;
+    kByTail.ForEach(before.substr(bracket - kFewestLetters), [&](std::size_t tag) {
+      if (starts_[tag] != kNotFound || !EndsWithTag(before, tag)) return;
       starts_[tag] = bracket + 1;
+      open_ = tag;
+      open_word_ = before.substr(bracket - kTags[tag].Word.size());
     });
   }
 
   void NoteEnd(std::size_t bracket) {
     const std::string_view behind = line_.substr(bracket + 1);
-    if (behind.empty()) return;
-    kByFirst.ForEach(behind.front(), [&](std::size_t tag) {
-      if (ended_[tag] || !StartsWithFolded(behind, kTags[tag].Word)) return;
-      ended_.set(tag);
-      // Only the first end counts. Ahead of the start it leaves the tag without a value.
-      if (starts_[tag] == kNotFound) return;
-      values_[tag] = line_.substr(starts_[tag], bracket - starts_[tag]);
+    if (behind.size() < kFewestLetters) return;
+    // Nearly every bracket closes the tag that was opened last, in the same letters.
+    if (!open_word_.empty() && behind.starts_with(open_word_)) return NoteEnd(bracket, open_);
+    kByHead.ForEach(behind, [&](std::size_t tag) {
+      if (StartsWithTag(behind, tag)) NoteEnd(bracket, tag);
     });
+  }
+
+  void NoteEnd(std::size_t bracket, std::size_t tag) {
+    if (ended_[tag]) return;
+    ended_.set(tag);
+    // Only the first end counts. Ahead of the start it leaves the tag without a value.
+    if (starts_[tag] == kNotFound) return;
+    values_[tag] = line_.substr(starts_[tag], bracket - starts_[tag]);
   }
 
   static constexpr std::size_t kNotFound = 0;  // no value starts at the head of a line
@@ -97,6 +140,8 @@ class TagFinder {
   std::array<std::string_view, kTagCount>& values_;
   std::array<std::size_t, kTagCount> starts_{};
   std::bitset<kTagCount> ended_;
+  std::size_t open_ = 0;        ///< the tag that was opened last
+  std::string_view open_word_;  ///< its word in the line
 };
 
 /// Takes the text between the first opening and the first closing bracket; leaves `value` alone

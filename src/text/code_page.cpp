@@ -129,7 +129,8 @@ std::string Upper(std::string_view text) {
 }
 
 bool EqualsFolded(std::string_view a, std::string_view b) noexcept {
-  return a.size() == b.size() && StartsWithFolded(a, b);
+  // Names are mostly written the same way everywhere.
+  return a == b || (a.size() == b.size() && StartsWithFolded(a, b));
 }
 
 bool StartsWithFolded(std::string_view text, std::string_view start) noexcept {
@@ -146,7 +147,7 @@ std::size_t FindFolded(std::string_view text, std::string_view part, std::size_t
   return static_cast<std::size_t>(found - text.begin());
 }
 
-std::size_t FoldedHash::operator()(std::string_view text) const noexcept {
+std::size_t FoldedHash::operator()(std::string_view text) const {
   // FNV-1a over the lower-case bytes.
   std::uint64_t hash = 0xCBF29CE484222325U;
   for (const char c : text) hash = (hash ^ Index(LowerByte(c))) * 0x100000001B3U;

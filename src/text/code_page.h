@@ -45,7 +45,9 @@ extern const std::array<char, 256> kUpperBytes;
 /// Hash and equality that ignore case, for keyed tables looked up by string_view.
 struct FoldedHash {
   using is_transparent = void;
-  [[nodiscard]] std::size_t operator()(std::string_view text) const noexcept;
+  /// Not noexcept, so that the library's tables keep the hashes and do not compute them again
+  /// while they search.
+  [[nodiscard]] std::size_t operator()(std::string_view text) const;
 };
 struct FoldedEqual {
   using is_transparent = void;

@@ -38,6 +38,18 @@ std::string_view NumberHead(std::string_view text) noexcept {
   return text.substr(0, end);
 }
 
+/// The value of a text that is a few digits and nothing else, as nearly all are.
+std::optional<std::int64_t> ShortWhole(std::string_view text) noexcept {
+  constexpr std::size_t kMostDigits = 15;  // a double holds all whole numbers of that length
+  if (text.empty() || text.size() > kMostDigits) return std::nullopt;
+  std::int64_t value = 0;
+  for (const char c : text) {
+    if (!IsDigit(c)) return std::nullopt;
+    value = value * 10 + (c - '0');
+  }
+  return value;
+}
+
 /// What a number outside the range of a double is nearest to. Its size follows from the exponent
 /// and the position of its first digit that is not 0.
 double OutOfRange(std::string_view number) noexcept {
@@ -63,6 +75,9 @@ double OutOfRange(std::string_view number) noexcept {
 }  // namespace
 
 double Val(std::string_view text) noexcept {
+  if (const std::optional<std::int64_t> whole = ShortWhole(text)) {
+    return static_cast<double>(*whole);
+  }
   const std::size_t start = text.find_first_not_of(' ');
   if (start == std::string_view::npos) return 0;
   text.remove_prefix(start);
@@ -76,21 +91,32 @@ double Val(std::string_view text) noexcept {
   return negative ? -value : value;
 }
 
-void AppendNumber(std::string& out, std::int64_t value) {
-  std::array<char, 24> digits{};
-  const auto end = std::to_chars(digits.begin(), digits.end(), value);
-  out.append(digits.data(), end.ptr);
+char* WriteNumber(char* to, std::int64_t value) noexcept {
+  return std::to_chars(to, to + kMostNumberBytes, value).ptr;
 }
 
-void AppendNumber(std::string& out, float value) {
+char* WriteNumber(char* to, float value) noexcept {
   // Nearly every single is a whole number, which prints faster as one. Minus zero is 0 here.
   if (const auto whole = ToInt32(static_cast<double>(value));
       whole && std::abs(value) < 16777216.0F && static_cast<float>(*whole) == value) {
-    return AppendNumber(out, std::int64_t{*whole});
+    return WriteNumber(to, std::int64_t{*whole});
   }
-  std::array<char, 64> digits{};  // no single prints longer than "-0." and 47 places
-  const auto end = std::to_chars(digits.begin(), digits.end(), value, std::chars_format::fixed);
-  out.append(digits.data(), end.ptr);
+  // No single prints longer than "-0." and 47 places.
+  return std::to_chars(to, to + kMostNumberBytes, value, std::chars_format::fixed).ptr;
+}
+
+void AppendNumber(std::string& out, std::int64_t value) {
+  if (value >= 0 && value <= 9) {
+    out += static_cast<char>('0' + value);
+    return;
+  }
+  std::array<char, kMostNumberBytes> bytes{};
+  out.append(bytes.data(), WriteNumber(bytes.data(), value));
+}
+
+void AppendNumber(std::string& out, float value) {
+  std::array<char, kMostNumberBytes> bytes{};
+  out.append(bytes.data(), WriteNumber(bytes.data(), value));
 }
 
 std::string NumberText(std::int64_t value) {

@@ -49,6 +49,12 @@ bool ReadNumber(std::string_view text, Whole& field) noexcept {
   return whole.has_value();
 }
 
+/// The most bytes that a number prints as.
+inline constexpr std::size_t kMostNumberBytes = 64;
+/// Writes a number as AppendNumber prints it to where there is room for kMostNumberBytes. Returns
+/// the end of the text.
+char* WriteNumber(char* to, std::int64_t value) noexcept;
+char* WriteNumber(char* to, float value) noexcept;
 /// Appends decimal digits without blanks.
 void AppendNumber(std::string& out, std::int64_t value);
 /// Appends a single: the shortest decimal form that reads back to the same single, "." as
