@@ -118,6 +118,7 @@ void DeclareMenuBar(Generation& gen, const Declaration& row) {
 }  // namespace
 
 void WriteDeclarations(Generation& gen) {
+  gen.Mark({.Part = SourcePart::Dims});
   // The record is that of the number in the window's label, not that of the loop.
   static const FormRec empty{};
   const FormRec* record = gen.Tables.Form(gen.User().Number());

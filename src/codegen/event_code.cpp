@@ -10,7 +10,7 @@ void WriteBody(Generation& gen, std::string_view code) {
   if (gen.Bodies != nullptr) gen.Bodies->insert(code.data());
 }
 
-/// Calls `write(sub_name, event, code)` for every event of every object that has code.
+/// Calls `write(kind, sub_name, event, code)` for every event of every object that has code.
 template <class Write>
 void ForEachObjectEvent(Generation& gen, Write write) {
   GeneratorState& state = gen.State;
@@ -22,7 +22,7 @@ void ForEachObjectEvent(Generation& gen, Write write) {
     if (walk == EventWalk::Numbered) state.CurrentOrdinal = state.KindCounters.Step(kind);
     const OwnerCode code = gen.Code.OfObject(kind, state.CurrentOrdinal);
     code.ForEach(kObjectEvents, [&](Event event, std::string_view text) {
-      write(SubNameOf(control->Tag, state.CurrentOrdinal), event, text);
+      write(kind, SubNameOf(control->Tag, state.CurrentOrdinal), event, text);
     });
   }
 }
@@ -63,10 +63,11 @@ void DeclarePopUpSubs(Generation& gen) {
   }
 }
 
-void WritePopUpBody(Generation& gen, std::string_view name, std::string_view event,
+void WritePopUpBody(Generation& gen, std::string_view name, const SourcePlace& place,
                     std::string_view code) {
   if (code.empty()) return;
-  gen.Out.Line("Sub ", name, event);
+  gen.Mark(place);
+  gen.Out.Line("Sub ", name, "_", InfoOf(place.Of).Name);
   WriteBody(gen, code);
   gen.Out.Line("End Sub");
 }
@@ -74,17 +75,24 @@ void WritePopUpBody(Generation& gen, std::string_view name, std::string_view eve
 void WritePopUpBodies(Generation& gen) {
   const int highest = gen.User().UBound(Kind::PopUpMenu);
   for (int p = 1; p <= highest; ++p) {
+    SourcePlace place{.Part = SourcePart::Body,
+                      .Id = Kind::PopUpMenu,
+                      .Of = Event::OnPopUp,
+                      .Number = static_cast<std::int16_t>(p)};
     if (const ControlRef popup = gen.User().Element(Kind::PopUpMenu, p)) {
-      WritePopUpBody(gen, popup->Tag, "_OnPopUp", gen.Code.OnPopUpOf(popup->Tag, p));
+      WritePopUpBody(gen, popup->Tag, place, gen.Code.OnPopUpOf(popup->Tag, p));
     }
+    place.Of = Event::OnClick;
     ForEachPopUpItem(gen, p, 0, [&](std::string_view name) {
-      WritePopUpBody(gen, name, "_OnClick", gen.Code.OnClickOf(name));
+      StepOrdinal(place.Item);
+      WritePopUpBody(gen, name, place, gen.Code.OnClickOf(name));
     });
   }
 }
 
 void WriteFormBodies(Generation& gen) {
   gen.Code.OfForm().ForEach(kFormSubEvents, [&](Event event, std::string_view code) {
+    gen.Mark({.Part = SourcePart::Body, .Of = event});
     gen.Out.Line("Sub ", gen.Record().Name, "_", InfoOf(event).Signature);
     WriteBody(gen, code);
     gen.Out.Line("End Sub");
@@ -95,12 +103,13 @@ void WriteFormBodies(Generation& gen) {
 }  // namespace
 
 void WriteSubDeclares(Generation& gen) {
+  gen.Mark({.Part = SourcePart::Declares});
   gen.Code.OfForm().ForEach(kFormSubEvents, [&](Event event, std::string_view) {
     // The bare event name: only the Sub line has the parameters.
     gen.Out.Line("Declare Sub ", gen.Record().Name, "_", InfoOf(event).Name);
   });
   gen.Out.Blank();
-  ForEachObjectEvent(gen, [&](const Numbered& sub, Event event, std::string_view) {
+  ForEachObjectEvent(gen, [&](Kind, const Numbered& sub, Event event, std::string_view) {
     gen.Out.Line("Declare Sub ", sub, "_", InfoOf(event).Signature);
   });
   DeclarePopUpSubs(gen);
@@ -109,6 +118,7 @@ void WriteSubDeclares(Generation& gen) {
     gen.Out.Line("Declare Sub ", SubNameOf(name, n), "_OnClick");
   });
   gen.Out.Blank();
+  gen.Mark({.Part = SourcePart::PublicDeclarations});
   gen.Out.Line("'---Public Declarations");
   gen.Out.Line(gen.Record().DeclarePbl);
   gen.Out.Blank();
@@ -118,7 +128,9 @@ void WriteSubDeclares(Generation& gen) {
 void WriteEventSubs(Generation& gen) {
   gen.State.KindCounters.Reset(CounterLife::Walk);
   WriteFormBodies(gen);
-  ForEachObjectEvent(gen, [&](const Numbered& sub, Event event, std::string_view code) {
+  ForEachObjectEvent(gen, [&](Kind kind, const Numbered& sub, Event event, std::string_view code) {
+    gen.Mark(
+        {.Part = SourcePart::Body, .Id = kind, .Of = event, .Number = gen.State.CurrentOrdinal});
     gen.Out.Line("Sub ", sub, "_", InfoOf(event).Signature);
     WriteBody(gen, code);
     gen.Out.Line("End Sub");
@@ -131,6 +143,8 @@ void WriteEventSubs(Generation& gen) {
   ForEachMenuItem(gen, [&](std::string_view name, int n) {
     const std::string_view code = gen.Code.OnClickOf(name);
     if (code.empty()) return;
+    gen.Mark(
+        {.Part = SourcePart::Body, .Id = Kind::MenuItem, .Number = static_cast<std::int16_t>(n)});
     gen.Out.Line("Sub ", SubNameOf(name, n), "_OnClick");
     WriteBody(gen, code);
     gen.Out.Line("End Sub");

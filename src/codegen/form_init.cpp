@@ -56,6 +56,7 @@ void WriteFormPlace(Generation& gen) {
 }
 
 void WriteFormInit(Generation& gen) {
+  gen.Mark({.Part = SourcePart::FormLines});
   WriteFormLines(gen);
   WriteFormHooks(gen);
   gen.Out.Blank();
@@ -68,7 +69,12 @@ void WriteFormInit(Generation& gen) {
   bool menu_bar_done = false;
   for (const ControlRef& control : gen.User().Controls()) {
     if (!control->Visible) continue;
-    switch (InfoOf(control->Id).Program.SetUp) {
+    const SetUpRule rule = InfoOf(control->Id).Program.SetUp;
+    if (rule == SetUpRule::None) continue;
+    gen.Mark({.Part = rule == SetUpRule::MenuBar ? SourcePart::MenuLines : SourcePart::ObjectLines,
+              .Id = control->Id,
+              .Number = static_cast<std::int16_t>(control->Index)});
+    switch (rule) {
       case SetUpRule::None:
         break;
       case SetUpRule::OwnLines:

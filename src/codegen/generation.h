@@ -11,6 +11,7 @@
 #include "codegen/event_lookup.h"
 #include "codegen/generator_state.h"
 #include "codegen/image_index.h"
+#include "codegen/source_map.h"
 #include "codegen/source_text.h"
 #include "model/project_records.h"
 #include "text/strings.h"
@@ -41,6 +42,15 @@ class Generation {
   EventLookup Code;
   /// Collects the addresses of the code texts that become a Sub; null to collect none.
   std::unordered_set<const char*>* Bodies = nullptr;
+  /// Collects where the parts of the text start; null to collect nothing.
+  SourceMap* Map = nullptr;
+
+  /// The lines from here on are those of a place of the selected form.
+  void Mark(SourcePlace place) {
+    if (Map == nullptr) return;
+    place.Form = State.i;
+    Map->Begin(Out.Size(), place);
+  }
 
  private:
   struct FormImages {

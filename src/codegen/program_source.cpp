@@ -1,6 +1,7 @@
 #include "codegen/program_source.h"
 
 #include <string>
+#include <vector>
 
 #include "codegen/declarations.h"
 #include "codegen/event_code.h"
@@ -32,6 +33,7 @@ bool HasTransparentFrame(const ProjectTables& tables, int form) {
 void WriteIncludeLine(Generation& gen) {
   // Asked of the form, not of the project: without a form in slot 1 there is no such line.
   if (gen.State.i != 1) return;
+  gen.Mark({.Part = SourcePart::Include});
   gen.Out.Line("$Include \"", gen.Tables.ProgramFolder, "\\Tarnwick1.lib\"");
 }
 
@@ -45,6 +47,7 @@ void WriteStartLine(Generation& gen) {
 }
 
 void WriteFreeLines(Generation& gen) {
+  gen.Mark({.Part = SourcePart::Free});
   const int highest = gen.User().UBound(Kind::HtmlViewer);
   for (int j = 1; j <= highest; ++j) {
     if (const ControlRef viewer = gen.User().Element(Kind::HtmlViewer, j)) {
@@ -53,8 +56,24 @@ void WriteFreeLines(Generation& gen) {
   }
 }
 
-std::string WriteSections(ProjectTables& tables, GeneratorState& state) {
+/// About as many bytes as the program takes.
+std::size_t ExpectedSize(const ProjectTables& tables) {
+  constexpr std::size_t kBytesPerObject = 512;
+  std::size_t objects = 1;
+  for (const auto& window : tables.FormsUser) {
+    if (window) objects += window->Controls().size();
+  }
+  return objects * kBytesPerObject;
+}
+
+std::string WriteSections(ProjectTables& tables, GeneratorState& state, SourceMap* map) {
   Generation gen(tables, state);
+  gen.Map = map;
+  gen.Out.Expect(ExpectedSize(tables));
+  const auto mark_whole = [&](SourcePart part) {
+    if (map != nullptr) map->Begin(gen.Out.Size(), {.Part = part});
+  };
+  mark_whole(SourcePart::Dims);
   gen.Out.Line("Dim Font As QFont");
   ForEachForm(gen, [&] { WriteDeclarations(gen); });
   ForEachForm(gen, [&] {
@@ -70,6 +89,7 @@ std::string WriteSections(ProjectTables& tables, GeneratorState& state) {
     WriteFormInit(gen);
   });
   gen.Out.Blank();
+  mark_whole(SourcePart::Start);
   WriteStartLine(gen);
   ForEachForm(gen, [&] { WriteFreeLines(gen); });
   return gen.Out.Take();
@@ -77,17 +97,21 @@ std::string WriteSections(ProjectTables& tables, GeneratorState& state) {
 
 }  // namespace
 
-std::string GenerateSource(ProjectTables& tables, GeneratorState& state) {
+std::string GenerateSource(ProjectTables& tables, GeneratorState& state, SourceMap* map) {
   state.KindCounters.Reset(CounterLife::Form);
   state.DefaultIconDone = false;
-  std::string text = WriteSections(tables, state);
+  std::string text = WriteSections(tables, state, map);
   // Forms with a transparent frame are not shown by their own name.
   for (int i = 1; i <= tables.FormsCount; ++i) {
     if (!tables.IsLive(i) || !HasTransparentFrame(tables, i)) continue;
-    text = RewriteShowCalls(text, tables.Form(i)->Name + ".show", TransparentFrameSubName(i));
+    std::vector<TextChange> changes;
+    text = RewriteShowCalls(text, tables.Form(i)->Name + ".show", TransparentFrameSubName(i),
+                            map == nullptr ? nullptr : &changes);
+    if (map != nullptr) map->Follow(changes);
   }
   // The text is printed whole, as one more line.
-  return text.append(kLineEnd);
+  text += kLineEnd;
+  return text;
 }
 
 }  // namespace tarnwick

@@ -4,13 +4,16 @@
 #include <string>
 
 #include "codegen/generator_state.h"
+#include "codegen/source_map.h"
 #include "model/project_records.h"
 
 namespace tarnwick {
 
 /// The generated program as one text, its calls of Show rewritten, as the source file holds it.
 /// Reads the tables; only missing design windows are added to them on first
-/// access. `state` goes on from one compilation to the next.
-[[nodiscard]] std::string GenerateSource(ProjectTables& tables, GeneratorState& state);
+/// access. `state` goes on from one compilation to the next. An empty `map` is filled with what the
+/// lines come from, its lines not counted yet; null for a caller who does not care.
+[[nodiscard]] std::string GenerateSource(ProjectTables& tables, GeneratorState& state,
+                                         SourceMap* map = nullptr);
 
 }  // namespace tarnwick

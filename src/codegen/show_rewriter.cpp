@@ -49,10 +49,18 @@ class WorkingText {
   }
   /// Takes `size` bytes out from here on, or as many as are left.
   void Drop(std::size_t size) noexcept {
-    for (; size > 0 && !AtEnd(); --size) Take();
+    for (; size > 0 && !AtEnd(); --size) {
+      const char byte = Take();
+      line_end_gone_ = line_end_gone_ || byte == '\n' || (byte == '\r' && At(0) != '\n');
+    }
   }
   /// Puts bytes in here.
   void Insert(std::string_view bytes) { pending_.append(bytes.rbegin(), bytes.rend()); }
+
+  /// Where the given text goes on in the new one, as things stand.
+  [[nodiscard]] TextChange Change() noexcept {
+    return {at_, done_.size() + pending_.size(), std::exchange(line_end_gone_, false)};
+  }
 
   [[nodiscard]] std::string Finish() {
     done_.append(pending_.rbegin(), pending_.rend());
@@ -86,12 +94,13 @@ class WorkingText {
   std::size_t at_ = 0;   ///< offset in it
   std::string pending_;  ///< bytes in front of that offset, last one first
   std::string done_;
+  bool line_end_gone_ = false;  ///< since Change() was last called
 };
 
 }  // namespace
 
 std::string RewriteShowCalls(std::string_view text, std::string_view pattern,
-                             std::string_view replacement) {
+                             std::string_view replacement, std::vector<TextChange>* changes) {
   if (pattern.empty()) return std::string(text);
   const std::string wanted = Lower(pattern);
   WorkingText work(text);
@@ -106,6 +115,7 @@ std::string RewriteShowCalls(std::string_view text, std::string_view pattern,
       work.Drop(wanted.size() + 1);
       work.Insert(replacement);
     }
+    if (changes != nullptr) changes->push_back(work.Change());
     work.Step();
   }
   return work.Finish();

@@ -11,6 +11,7 @@ std::string TransparentFrameSubName(int form) {
 void WriteTransparentFrameSub(Generation& gen) {
   SourceText& out = gen.Out;
   const FormRec& form = gen.Record();
+  gen.Mark({.Part = SourcePart::FrameSub});
   out.Line("Sub ", TransparentFrameSubName(gen.State.i));
   // Lines with the frame's name are left out when frame number 1 was deleted and another stayed.
   if (const ControlRef frame = gen.User().Element(Kind::TransparentFrame, 1)) {
