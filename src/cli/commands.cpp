@@ -28,7 +28,7 @@ int Fail(std::FILE* err, const std::string& what, const std::string& path) {
 
 /// 0 when every form that the index names was read. The forms that were read are generated in any
 /// case.
-int TellUnread(LoadedProject& loaded, std::FILE* err) {
+int ReportUnread(LoadedProject& loaded, std::FILE* err) {
   const std::vector<std::string> unread = project::UnreadForms(loaded.Tables, loaded.Files);
   for (const std::string& path : unread) Fail(err, "no form was read from", CodePageToUtf8(path));
   return unread.empty() ? 0 : 1;
@@ -40,11 +40,11 @@ int Generate(LoadedProject& loaded, const Arguments& arguments, std::FILE* out, 
   const std::string source = GenerateSource(loaded.Tables, state);
   if (!arguments.OutputFile) {
     const bool written = Print(out, source) && std::fflush(out) == 0;
-    return written ? TellUnread(loaded, err) : Fail(err, "cannot write to", "standard output");
+    return written ? ReportUnread(loaded, err) : Fail(err, "cannot write to", "standard output");
   }
   const std::string path = WindowsPathOf(*arguments.OutputFile);
   if (!loaded.Files.Replace(path, source)) return Fail(err, "cannot write", *arguments.OutputFile);
-  return TellUnread(loaded, err);
+  return ReportUnread(loaded, err);
 }
 
 int Resave(LoadedProject& project, const Arguments& arguments, std::FILE* err) {

@@ -32,7 +32,7 @@ void StopRunning(int) {
   if (basic::Machine* const machine = g_running.load()) machine->Stop();
 }
 
-/// What the program is told of itself; the program it would be compiled to lies beside its source.
+/// What the program can ask about itself; the program it would be compiled to lies beside its source.
 objects::ProgramFacts FactsOf(const hosts::PreparedProgram& program) {
   const std::string_view path = program.Files.File(0).Path;
   const std::string_view name = BareName(path);

@@ -17,7 +17,7 @@ struct RunArguments : hosts::RunSettings {
   std::string Program;  ///< path of this machine
   std::vector<std::string> Arguments;
   bool Dump = false;          ///< print the bytecode instead of running it
-  bool Trace = false;         ///< print what the widgets are told
+  bool Trace = false;         ///< print the calls to the widgets
   bool Supported = false;     ///< list what is supported and leave
   std::string Events;         ///< path of this machine of a script of what the user does; "": none
   std::string ProgramFolder;  ///< where the include file of generated programs lies; "": beside us

@@ -150,7 +150,7 @@ void FormReader::ReadItemCode() {
   const std::string code = scanner_.Value(Tag::Click);
   const std::string owner = form_key_ + "." + std::string(scanner_.Name());
   tables_.EventTable.Replace(owner, Event::OnClick, code);
-  if (!code.empty()) TellBar(std::string(scanner_.Name()), Event::OnClick);
+  if (!code.empty()) AddToBar(std::string(scanner_.Name()), Event::OnClick);
 }
 
 void FormReader::ReadDeclarations() {
@@ -158,7 +158,7 @@ void FormReader::ReadDeclarations() {
   if (!text.empty()) record_->DeclarePbl = std::move(text);
 }
 
-void FormReader::TellBar(std::string name, Event event) {
+void FormReader::AddToBar(std::string name, Event event) {
   FrmBarra* const bar = tables_.Bar(form_);
   if (bar != nullptr) bar->Entries.push_back({std::move(name), std::string(InfoOf(event).Name)});
 }
@@ -218,12 +218,12 @@ void FormReader::Take(Object& object, Tag tag, Event event) {
   if (code.empty()) return;
   std::string name(InfoOf(object.Control.Id).Array);
   AppendNumber(name, std::int64_t{*object.Number});
-  TellBar(std::move(name), event);
+  AddToBar(std::move(name), event);
 }
 
 void FormReader::TakeFormCode(Tag tag, Event event) {
   const std::string code = scanner_.Value(tag);
-  if (!code.empty()) TellBar("Form", event);
+  if (!code.empty()) AddToBar("Form", event);
   tables_.EventTable.Replace(form_key_, event, code);
 }
 

@@ -83,7 +83,7 @@ class FormReader {
     }
   }
 
-  void TellBar(std::string name, Event event);
+  void AddToBar(std::string name, Event event);
 
   ProjectTables& tables_;
   TagScanner scanner_;

@@ -56,7 +56,7 @@ class FormChecker {
   }
 
  private:
-  void Tell(FaultSort sort, std::string what) {
+  void Add(FaultSort sort, std::string what) {
     faults_.push_back({sort, line_, std::string(scanner_.KindWord()), std::string(scanner_.Name()),
                        std::move(what)});
   }
@@ -67,7 +67,7 @@ class FormChecker {
     const std::optional<Kind> kind = is_form ? std::optional(Kind::Form) : scanner_.ObjectKind();
     if (IsOtherRecord(line, scanner_.KindWord()) && !is_form) return;
     if (!kind) {
-      Tell(FaultSort::NoRecord,
+      Add(FaultSort::NoRecord,
            scanner_.KindWord().empty() ? "the line is no record" : "the kind is not known");
       return;
     }
@@ -80,14 +80,14 @@ class FormChecker {
                           std::get<Special>(layout.Fields.front().Value) == Special::Number;
     const std::optional<std::int16_t> number = ToInt16(Val(scanner_.Number()));
     if (numbered && (!number || *number < 0)) {
-      Tell(FaultSort::Number, "the number (" + std::string(scanner_.Number()) +
+      Add(FaultSort::Number, "the number (" + std::string(scanner_.Number()) +
                                   ") cannot be used; its properties are lost");
     }
     for (const LayoutField& field : layout.Fields) {
       if (field.In == Tag::None || Fits(field.Value, scanner_.Stored(field.In))) continue;
       std::string what = "the value of ";
       what.append(InfoOf(field.In).Word).append(" is out of range: ");
-      Tell(FaultSort::Value, what.append(scanner_.Stored(field.In)));
+      Add(FaultSort::Value, what.append(scanner_.Stored(field.In)));
     }
   }
 

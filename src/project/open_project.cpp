@@ -26,7 +26,7 @@ void ReadListedForm(ProjectContext& context, const std::string& path) {
   }
 }
 
-void TellRead(ProjectContext& context, int first) {
+void NotifyRead(ProjectContext& context, int first) {
   for (int form = first; form <= context.Tables.FormsCount; ++form) {
     context.Observer.FormOpened(form);
     context.Observer.EventsBarChanged(form);
@@ -49,7 +49,7 @@ FormReadResult ReadFormText(ProjectContext& context, std::string_view text,
   if (result == FormReadResult::Refused) {
     context.Messages.Show(reader.RefusedName() + " already exist!", "Tarnwick");
   }
-  TellRead(context, first);
+  NotifyRead(context, first);
   return result;
 }
 
@@ -97,7 +97,7 @@ bool LoadProject(ProjectContext& context, const std::string& path) {
     std::string named = tables.MainFormName;
     AddForm(tables);
     if (index.MainForm) tables.MainFormName = std::move(named);
-    TellRead(context, 1);
+    NotifyRead(context, 1);
   }
   // The index names the main form after the forms, which the list shows already.
   if (index.MainForm) context.Observer.FormListChanged();
