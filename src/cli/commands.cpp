@@ -4,8 +4,10 @@
 #include <string>
 #include <string_view>
 
+#include "cli/check_code.h"
 #include "cli/loaded_project.h"
 #include "codegen/program_source.h"
+#include "platform/program_folder.h"
 #include "project/check.h"
 #include "project/compile.h"
 #include "project/convert_project.h"
@@ -79,14 +81,24 @@ int Convert(const Arguments& arguments, std::FILE* err) {
 
 int Check(LoadedProject& loaded, std::FILE* out) {
   bool found = false;
-  const auto print = [&](const std::vector<project::Finding>& findings) {
+  bool compiles = true;
+  const auto print = [&](const std::string& line) {
+    Print(out, CodePageToUtf8(line) + "\n");
+    found = true;
+  };
+  const auto print_all = [&](const std::vector<project::Finding>& findings) {
     for (const project::Finding& finding : findings) {
-      Print(out, CodePageToUtf8(finding.Line()) + "\n");
-      found = true;
+      print(finding.Line());
+      compiles = compiles && finding.How() != project::Severity::Error;
     }
   };
-  print(project::CheckFiles(loaded.Tables, loaded.Files));
-  print(project::CheckProject(loaded.Tables, loaded.Files));
+  print_all(project::CheckFiles(loaded.Tables, loaded.Files));
+  print_all(project::CheckProject(loaded.Tables, loaded.Files));
+  // What is wrong with names and texts makes lines that are faulty too.
+  if (!compiles) return 1;
+  for (const std::string& fault : CodeFaults(loaded.Tables, loaded.Files, ExecutableFolder())) {
+    print(fault);
+  }
   return found ? 1 : 0;
 }
 

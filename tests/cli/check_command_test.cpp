@@ -69,5 +69,19 @@ TEST_F(CheckTest, AProjectThatCannotBeReadIsNoFindingButAnError) {
   EXPECT_EQ(result.Err, "tarnwick-cli: cannot read " + folder_.PathOf("none.tnp") + "\n");
 }
 
+TEST_F(CheckTest, FaultsOfTheCodeAreNamedByFormObjectEventAndLine) {
+  folder_.Put("Tarnwick1.lib", "' nothing\r\n");
+  folder_.Put("f.ftn", std::string(kHead) +
+                           "[Button] (1) {Ok} Image<(None)>Image Click<Dim n As Integer\x95"
+                           "Ok.Captoin = \"x\">Click\r\n");
+  const CallResult result = Call({"check", "--program-folder", PathFromNative(folder_.PathOf("")),
+                                  folder_.Put("p.tnp",
+                                              "1\x95"
+                                              "f.ftn\r\n")});
+  EXPECT_EQ(result.Exit, 1);
+  EXPECT_EQ(result.Out,
+            "Form1.Ok.OnClick, line 2: QBUTTON has no member \"Captoin\"; did you mean Caption?\n");
+}
+
 }  // namespace
 }  // namespace tarnwick

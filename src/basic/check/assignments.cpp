@@ -169,7 +169,7 @@ void Checker::AssignMember(const MemberUse& use, tree::NodeList indexes, const t
   const std::string written =
       std::string(classes_.ClassName(use.Class)) + '.' + std::string(facts.Name);
   if (facts.Level == SupportLevel::None) {
-    Note(at, written + " is not supported by the runner: the line is passed over",
+    Note(at, written + std::string(kNotSupported) + ": the line is passed over",
          std::string(facts.Note));
     return;
   }

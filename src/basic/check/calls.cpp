@@ -125,8 +125,8 @@ const Expression* Checker::CallBuiltIn(std::string_view name, tree::NodeList arg
   if (rows.empty()) return nullptr;
   if (const LeftOut* left_out = FindLeftOut(name)) {
     return Fail(at,
-                std::string(left_out->Name) +
-                    " is not supported by the runner: " + std::string(left_out->Reason),
+                std::string(left_out->Name) + std::string(kNotSupported) + ": " +
+                    std::string(left_out->Reason),
                 left_out->Instead.empty() ? "" : "Use " + std::string(left_out->Instead));
   }
   if (rows[0].Form == FunctionForm::Intrinsic) return CallIntrinsic(rows[0].Id, arguments, at);

@@ -179,7 +179,7 @@ void Checker::CheckPrint(const tree::PrintLine& line, SourcePlace at, Statements
   if (line.Printer) {
     const LeftOut* left_out = FindLeftOut("LPRINT");
     if (left_out != nullptr) {
-      Error(at, "LPRINT is not supported by the runner: " + std::string(left_out->Reason),
+      Error(at, "LPRINT" + std::string(kNotSupported) + ": " + std::string(left_out->Reason),
             "Use " + std::string(left_out->Instead));
     }
     return;

@@ -168,11 +168,11 @@ const Expression* Checker::UseValue(const MemberUse& use, tree::NodeList argumen
       std::string(classes_.ClassName(use.Class)) + '.' + std::string(facts.Name);
   if (facts.Level == SupportLevel::None) {
     if (as_statement) {
-      Note(at, written + " is not supported by the runner: the line is passed over",
+      Note(at, written + std::string(kNotSupported) + ": the line is passed over",
            std::string(facts.Note));
       return nullptr;
     }
-    return Fail(at, written + " is not supported by the runner", std::string(facts.Note));
+    return Fail(at, written + std::string(kNotSupported), std::string(facts.Note));
   }
   switch (facts.Kind) {
     case MemberKind::Event:

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "basic/source/source_place.h"
@@ -25,6 +26,9 @@ struct Message {
 inline constexpr std::size_t kMaxErrors = 50;
 /// Notes kept at most.
 inline constexpr std::size_t kMaxNotes = 1000;
+
+/// What messages say of a word that only the compiler carries out.
+inline constexpr std::string_view kNotSupported = " is not supported by the runner";
 
 /// Collects the messages of a check, in the order in which they were found.
 class Messages {
