@@ -1,5 +1,7 @@
 #include "project/compile.h"
 
+#include <utility>
+
 #include "codegen/program_source.h"
 #include "text/code_page.h"
 
@@ -60,18 +62,19 @@ std::string CompilerCommandLine(const ProjectTables& tables, FilePort& files,
 }
 
 CompileOutcome GenerateProgram(ProjectTables& tables, GeneratorState& state, CompileHost& host,
-                               const Ports& ports, const std::string& source_file) {
+                               const Ports& ports, const std::string& source_file,
+                               const CompileOptions& options) {
   CheckMainForm(tables);
   host.SaveProject();
 
   host.HideContainer();
   SetFormVisible(host, tables.CurrentForm, false);
 
-  const std::string text = GenerateSource(tables, state);
+  CompileOutcome outcome;
+  std::string text = GenerateSource(tables, state, options.WantsMap ? &outcome.Map : nullptr);
   for (int i = 1; i <= tables.FormsCount; ++i) {
     if (tables.IsLive(i)) SetFormVisible(host, tables.User(i), false);
   }
-  CompileOutcome outcome;
   if (!ports.Files.Replace(source_file, text)) {
     outcome.Source = {source_file, ports.Files.WhyNotReplaced()};
   }
@@ -80,8 +83,12 @@ CompileOutcome GenerateProgram(ProjectTables& tables, GeneratorState& state, Com
   host.ShowContainer();
 
   outcome.CompilerFound = ports.Files.Exists(CompilerPath(tables, ports.Files));
-  outcome.Started =
-      ports.Processes.StartHidden(CompilerCommandLine(tables, ports.Files, source_file));
+  outcome.Started = options.StartsCompiler && ports.Processes.StartHidden(CompilerCommandLine(
+                                                  tables, ports.Files, source_file));
+  if (options.WantsMap) {
+    outcome.Map.CountLines(text);
+    outcome.Text = std::move(text);
+  }
   return outcome;
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "codegen/generator_state.h"
+#include "codegen/source_map.h"
 #include "model/project_records.h"
 #include "platform/ports.h"
 #include "project/write_outcome.h"
@@ -36,17 +37,26 @@ class CompileHost {
   virtual void ShowDesignForm(DesignForm& form, bool visible) = 0;
 };
 
+/// What a compilation does beside writing the source.
+struct CompileOptions {
+  bool StartsCompiler = true;
+  bool WantsMap = false;  ///< the outcome is to have the text and what its lines come from
+};
+
 /// What became of a compilation.
 struct CompileOutcome {
   WriteOutcome Source;        ///< of the generated source
   bool CompilerFound = true;  ///< `Rc.exe` lies in the program folder or beside the program
   bool Started = true;        ///< it was started
+  std::string Text;           ///< the generated source, when it is wanted
+  SourceMap Map;              ///< of its lines, likewise
 };
 
 /// "Compile and Run": checks the main form, saves, writes the generated program to `source_file`
 /// and starts the compiler on it, hidden, without waiting. Every step runs even if the one
 /// before failed; nothing is shown. The forms end hidden but for the current one.
 CompileOutcome GenerateProgram(ProjectTables& tables, GeneratorState& state, CompileHost& host,
-                               const Ports& ports, const std::string& source_file);
+                               const Ports& ports, const std::string& source_file,
+                               const CompileOptions& options = {});
 
 }  // namespace tarnwick::project

@@ -11,9 +11,11 @@
 #include "qt/frame/main_window.h"
 #include "qt/kit/icon_set.h"
 #include "qt/kit/qt_ports.h"
+#include "qt/kit/runner_process.h"
 #include "qt/kit/theme.h"
 #include "shell/mdi_form.h"
 #include "shell/program_setup.h"
+#include "shell/run_command.h"
 #include "text/path_text.h"
 
 int main(int argc, char** argv) {
@@ -39,7 +41,9 @@ int main(int argc, char** argv) {
   FillProgramFolder(files, executable + R"(\..\share\tarnwick)", folder);
 
   NativeInstanceFolders instances;
+  RunnerProcess runner;
   MDIForm1 shell(ports, instances, folder, executable);
+  shell.Runner().Use(runner);
   MainWindow window(shell, files);
   MainView view(window, shell);
   if (const QStringList words = QApplication::arguments(); words.size() > 1) {

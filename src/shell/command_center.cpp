@@ -5,6 +5,7 @@
 #include "shell/edit_commands.h"
 #include "shell/form_commands.h"
 #include "shell/project_commands.h"
+#include "shell/run_command.h"
 #include "shell/shell_state.h"
 #include "shell/status_text.h"
 
@@ -68,6 +69,8 @@ void CommandCenter::Dispatch(Command command) {
       return state_.Menus->OpenMenuEdit();
     case Command::Compile:
       return compile_.Run();
+    case Command::Stop:
+      return run_.Stop();
     case Command::Help:
       return OpenHelp();
     case Command::Restore:
@@ -105,6 +108,7 @@ CommandState CommandCenter::State(Command command) const {
   if (command == Command::Redo) {
     return {state_.Flags.CommandsEnabled && state_.Steps.CanRedo(), false};
   }
+  if (command == Command::Stop) return {run_.Running(), false};
   return StateOf(command, state_.Tables, state_.Flags);
 }
 

@@ -14,6 +14,7 @@ class EditCommands;
 class FormCommands;
 class ProjectCommands;
 class PropertySheet;
+class RunCommand;
 struct ShellState;
 
 /// What menus, toolbars, tool boxes and keys run:
@@ -25,12 +26,13 @@ struct ShellState;
 class CommandCenter {
  public:
   CommandCenter(ShellState& state, ProjectCommands& project, FormCommands& forms,
-                EditCommands& edit, CompileCommand& compile, PropertySheet& sheet)
+                EditCommands& edit, CompileCommand& compile, RunCommand& run, PropertySheet& sheet)
       : state_(state),
         project_(project),
         forms_(forms),
         edit_(edit),
         compile_(compile),
+        run_(run),
         sheet_(sheet) {}
 
   /// Runs a command; nothing while it is off or another one runs.
@@ -59,6 +61,7 @@ class CommandCenter {
   FormCommands& forms_;
   EditCommands& edit_;
   CompileCommand& compile_;
+  RunCommand& run_;
   PropertySheet& sheet_;
 };
 

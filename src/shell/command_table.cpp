@@ -63,6 +63,7 @@ constexpr std::array kProjectRows{
 
 constexpr std::array kRunRows{
     MenuRow{"mnuCompile", "&Compile and Run", "F5", Command::Compile},
+    MenuRow{"mnuStop", "&Stop", "Shift+F5", Command::Stop},
 };
 
 constexpr std::array kHelpRows{

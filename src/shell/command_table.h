@@ -41,6 +41,7 @@ enum class Command : std::uint8_t {
   SelectMainForm,
   MenuEdit,
   Compile,
+  Stop,
   Help,
   About,
 };

@@ -3,6 +3,7 @@
 
 #include "project/compile.h"
 #include "shell/project_commands.h"
+#include "shell/run_command.h"
 #include "shell/shell_state.h"
 
 namespace tarnwick {
@@ -10,9 +11,11 @@ namespace tarnwick {
 /// Starts the compile driver and lends it the windows.
 class CompileCommand final : public project::CompileHost {
  public:
-  CompileCommand(ShellState& state, ProjectCommands& project) : state_(state), project_(project) {}
+  CompileCommand(ShellState& state, ProjectCommands& project, RunCommand& run)
+      : state_(state), project_(project), run_(run) {}
 
-  /// Saves, generates and starts the compiler. The arrow pointer stands meanwhile.
+  /// Saves, generates and starts the compiler, or the runner where that could not be started or
+  /// the user wants it. The arrow pointer stands meanwhile. A program that runs is stopped first.
   void Run();
 
   void SaveProject() override { project_.Save(); }
@@ -25,6 +28,7 @@ class CompileCommand final : public project::CompileHost {
  private:
   ShellState& state_;
   ProjectCommands& project_;
+  RunCommand& run_;
   GeneratorState generator_;
 };
 

@@ -16,6 +16,7 @@
 #include "shell/form_commands.h"
 #include "shell/local_time.h"
 #include "shell/project_commands.h"
+#include "shell/run_command.h"
 #include "shell/shell_state.h"
 #include "shell/start_up.h"
 #include "shell/status_follower.h"
@@ -46,8 +47,9 @@ struct MDIForm1::Rooms {
                  [this] { return State.Now(); }),
         Project(State, Context, Files, Recovery, Forms),
         Edit(State, Surfaces, Forms),
-        Compile(State, Project),
-        Commands(State, Project, Forms, Edit, Compile, Sheet),
+        Run(State, {Forms, Surfaces, Bar, Sheet}),
+        Compile(State, Project, Run),
+        Commands(State, Project, Forms, Edit, Compile, Run, Sheet),
         Examiner(State.Support, Sheet),
         Start(State, Forms),
         Status(State) {
@@ -79,6 +81,7 @@ struct MDIForm1::Rooms {
   project::Recovery Recovery;
   ProjectCommands Project;
   EditCommands Edit;
+  RunCommand Run;
   CompileCommand Compile;
   CommandCenter Commands;
   FormViewObjects Examiner;
@@ -185,6 +188,10 @@ ProjectCommands& MDIForm1::Projects() noexcept {
 
 PropertySheet& MDIForm1::Sheet() noexcept {
   return rooms_->Sheet;
+}
+
+RunCommand& MDIForm1::Runner() noexcept {
+  return rooms_->Run;
 }
 
 EventsBar& MDIForm1::Bar() noexcept {

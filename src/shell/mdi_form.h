@@ -22,6 +22,7 @@ class FormViewObjects;
 class History;
 class ProjectCommands;
 class PropertySheet;
+class RunCommand;
 
 /// Owns the one `ProjectTables`, the design surfaces and the logic of every panel for the life of
 /// the process. It is built before any window and goes after the last one:
@@ -65,6 +66,8 @@ class MDIForm1 {
   [[nodiscard]] FormCommands& Forms() noexcept;
   [[nodiscard]] ProjectCommands& Projects() noexcept;
   [[nodiscard]] PropertySheet& Sheet() noexcept;
+  /// The running program. Without a runner, which is given to it at the start, there is none.
+  [[nodiscard]] RunCommand& Runner() noexcept;
   /// The events bars of all forms.
   [[nodiscard]] EventsBar& Bar() noexcept;
   /// The Objects Examiner.

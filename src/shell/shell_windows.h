@@ -28,6 +28,9 @@ class CodeWindows {
   virtual void CloseCode() = 0;
   /// Opens `FormViewCodes` on the current form.
   virtual void OpenPublicDeclarations() = 0;
+  /// Puts the caret of the editor that was opened last at a line, from 1; nothing while none is
+  /// open.
+  virtual void ShowLine(int line) = 0;
   /// Object or form was renamed: the names that the editors show follow.
   virtual void NameChanged(int form, std::string_view old_name, std::string_view new_name) = 0;
 };

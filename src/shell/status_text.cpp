@@ -52,6 +52,13 @@ std::string CompileStatus(const ProjectTables& tables, const project::CompileOut
   return "Rc.exe started. Source text: " + tables.SourceFile;
 }
 
+std::string NothingStartedStatus(const ProjectTables& tables,
+                                 const project::CompileOutcome& outcome) {
+  std::string text = "Source text: " + tables.SourceFile + ". No compiler or runner found";
+  if (!outcome.CompilerFound) text.append("; Rc.exe belongs into ").append(tables.ProgramFolder);
+  return text;
+}
+
 std::string SavedStatus(std::string_view now) {
   constexpr std::size_t kTime = 11;
   constexpr std::size_t kTimeLength = 5;

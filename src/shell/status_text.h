@@ -14,6 +14,9 @@ namespace tarnwick {
 [[nodiscard]] std::string SelectionStatus(const ProjectTables& tables);
 /// "X 12  Y 30": a place on a design form, twips in, pixels out.
 [[nodiscard]] std::string PointerStatus(float x, float y);
+/// That there is neither a compiler nor a runner, or none that can be started.
+[[nodiscard]] std::string NothingStartedStatus(const ProjectTables& tables,
+                                               const project::CompileOutcome& outcome);
 /// What Compile and Run started, or why it started nothing.
 [[nodiscard]] std::string CompileStatus(const ProjectTables& tables,
                                         const project::CompileOutcome& outcome);

@@ -146,6 +146,7 @@ class FakeSideWindows final : public CodeWindows, public MenuWindows, public Exa
     CodeOpen = false;
   }
   void OpenPublicDeclarations() override { Say("declarations"); }
+  void ShowLine(int line) override { Say("line " + std::to_string(line)); }
   void OpenMenuEdit() override { Say("menu edit"); }
   void OpenPopUpEdit(int form, int index) override {
     Say("popup edit " + std::to_string(form) + "," + std::to_string(index));

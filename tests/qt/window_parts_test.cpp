@@ -89,7 +89,7 @@ const std::vector<Column>& ExpectedMenus() {
                     {"mnuItemObj_14", "FileStream", ""},  {"mnuItemObj_15", "TransparentFrame", ""},
                     {"mnuItemObj_16", "HtmlViewer", ""},  {"mnuItemObj_18", "WinSock", ""},
                     {"mnuItemObj_19", "PopUpMenu", ""},   {"mnuItemObj_8", "Menu", ""}}},
-      {"&Run", {{"mnuCompile", "&Compile and Run", "F5"}}},
+      {"&Run", {{"mnuCompile", "&Compile and Run", "F5"}, {"mnuStop", "&Stop", "Shift+F5"}}},
       {"&Help", {{"mnuHelp", "&Contents", "F1"}, {"mnuAbout", "&About Tarnwick", ""}}},
   };
   return menus;

@@ -73,6 +73,7 @@ void CodeWindowsView::OpenCode() {
   LoadCodeWindows();
   const ProjectTables& project = shell_.Tables();
   if (project.CurrentForm == nullptr) return;
+  code_was_last_ = true;
   editor::FormCodigo& codigo = parts_->Codigo;
   const bool jumps = !project.JumpKey.empty();
   if (codigo.IsOpen()) {
@@ -112,7 +113,14 @@ void CodeWindowsView::OpenPublicDeclarations() {
   if (current != nullptr && parts_->Declarations.Open(current->Number())) {
     LetWorkAboveModal(*parts_->Declare, main_window_);
     parts_->Declare->ShowOpened();
+    code_was_last_ = false;
   }
+}
+
+void CodeWindowsView::ShowLine(int line) {
+  if (parts_ == nullptr) return;
+  CodeEdit* const text = code_was_last_ ? parts_->CodeText : parts_->DeclareText;
+  if (text->isVisible()) text->SetCaretPos(line - 1, 0);
 }
 
 void CodeWindowsView::NameChanged(int form, std::string_view old_name, std::string_view new_name) {

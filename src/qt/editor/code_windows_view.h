@@ -35,6 +35,7 @@ class CodeWindowsView final : public CodeWindows {
   void StoreShownCode() override;
   void CloseCode() override;
   void OpenPublicDeclarations() override;
+  void ShowLine(int line) override;
   void NameChanged(int form, std::string_view old_name, std::string_view new_name) override;
 
  private:
@@ -56,6 +57,7 @@ class CodeWindowsView final : public CodeWindows {
   MDIForm1& shell_;
   QWidget& main_window_;
   std::unique_ptr<Parts> parts_;  ///< null until the windows are loaded
+  bool code_was_last_ = false;    ///< of the two windows, `FormCodigo` was opened last
 };
 
 }  // namespace tarnwick

@@ -15,6 +15,7 @@
 #include "qt/frame/icon_display.h"
 #include "qt/frame/object_bar.h"
 #include "qt/frame/objects_examiner_window.h"
+#include "qt/frame/output_panel.h"
 #include "qt/frame/tool_box_panel.h"
 #include "qt/grid/property_panel.h"
 #include "qt/kit/grip_splitter.h"
@@ -51,6 +52,7 @@ MainWindow::MainWindow(MDIForm1& shell, FilePort& files)
       object_bar_(new ObjectBar(shell.Commands(), this)),
       events_bar_(new EventsBarWindow(shell.Bar(), shell.Commands(), *container_, this)),
       examiner_(new ObjectsExaminerWindow(shell.Examiner(), this)),
+      output_(new OutputPanel(shell.Runner(), this)),
       right_(new QWidget(this)),
       panels_(new GripSplitter(Qt::Vertical, right_)),
       middle_(new GripSplitter(Qt::Horizontal, this)),
@@ -97,11 +99,15 @@ void MainWindow::BuildPanels() {
   middle_->setSizes({width() - kRightWidth, kRightWidth});
 
   auto* whole = new QWidget(this);
-  auto* row = new QHBoxLayout(whole);
-  row->setContentsMargins(kRoom, kRoom, kRoom, kRoom);
+  auto* column = new QVBoxLayout(whole);
+  column->setContentsMargins(kRoom, kRoom, kRoom, kRoom);
+  column->setSpacing(kRoom);
+  auto* row = new QHBoxLayout;
   row->setSpacing(kRoom);
   row->addWidget(tool_frame);
   row->addWidget(middle_, 1);
+  column->addLayout(row, 1);
+  column->addWidget(output_);
   setCentralWidget(whole);
 }
 

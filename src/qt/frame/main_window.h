@@ -21,6 +21,7 @@ class FilePort;
 class MDIForm1;
 class ObjectBar;
 class ObjectsExaminerWindow;
+class OutputPanel;
 class PropertyPanel;
 class ToolBoxPanel;
 
@@ -47,6 +48,7 @@ class MainWindow final : public QMainWindow {
   [[nodiscard]] ObjectBar& FloatingTools() { return *object_bar_; }
   [[nodiscard]] EventsBarWindow& EventButtons() { return *events_bar_; }
   [[nodiscard]] ObjectsExaminerWindow& Examiner() { return *examiner_; }
+  [[nodiscard]] OutputPanel& Output() { return *output_; }
   [[nodiscard]] CommandActions& Actions() { return *actions_; }
   [[nodiscard]] looks::PictureCache& Pictures() { return pictures_; }
   void SetStatus(const QString& text);
@@ -77,6 +79,7 @@ class MainWindow final : public QMainWindow {
   ObjectBar* object_bar_;
   EventsBarWindow* events_bar_;
   ObjectsExaminerWindow* examiner_;
+  OutputPanel* output_;
   QWidget* right_;
   QSplitter* panels_;
   QSplitter* middle_;

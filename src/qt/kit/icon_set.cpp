@@ -131,6 +131,7 @@ constexpr std::array<CommandIcon, kCommandCount> kCommandIcons{{
     {Command::SelectMainForm, "main-form"},
     {Command::MenuEdit, "menu-edit"},
     {Command::Compile, "compile"},
+    {Command::Stop, "stop"},
     {Command::Help, "help"},
     {Command::About, "about"},
 }};

@@ -1,0 +1,116 @@
+#include "qt/kit/runner_process.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTimer>
+#include <utility>
+
+#include "platform/run_report_reader.h"
+#include "qt/kit/text_bridge.h"
+
+namespace tarnwick {
+
+namespace {
+
+constexpr int kStartWait = 5000;  // milliseconds
+constexpr int kStopWait = 2000;
+constexpr int kLeaveWait = 200;
+
+QString FindRunner() {
+  const QString name = QStringLiteral("tarnwick-run");
+  const QString beside =
+      QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()});
+  return beside.isEmpty() ? QStandardPaths::findExecutable(name) : beside;
+}
+
+std::string_view ViewOf(const QByteArray& bytes) {
+  return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+}  // namespace
+
+/// One running program.
+struct RunnerProcess::Run {
+  explicit Run(RunListener& listener) : Listener(listener), Report(listener) {}
+
+  QProcess* Process = new QProcess;
+  RunListener& Listener;
+  RunReportReader Report;
+  Utf8Pieces Printed;
+  bool Stopped = false;  ///< it was asked to end
+};
+
+RunnerProcess::RunnerProcess(QString program) : program_(std::move(program)) {}
+
+RunnerProcess::~RunnerProcess() {
+  if (run_ == nullptr) return;
+  // From here on the end of its input no longer means that it is to stop.
+  run_->Process->disconnect();
+  run_->Process->write("leave\n");
+  run_->Process->waitForBytesWritten(kLeaveWait);
+  // The process object would end the program, so it stays behind.
+}
+
+bool RunnerProcess::Start(const RunRequest& request, RunListener& listener) {
+  const QString program = program_.isEmpty() ? FindRunner() : program_;
+  if (run_ != nullptr || program.isEmpty()) return false;
+  auto run = std::make_unique<Run>(listener);
+  QProcess* const process = run->Process;
+  process->start(program, {QStringLiteral("--with-ide"), QStringLiteral("--report=tab"),
+                           QStringLiteral("--program-folder"), ToQString(request.ProgramFolder),
+                           QStringLiteral("--exe-name"), ToQString(request.ExeName),
+                           ToQString(request.Source)});
+  if (!process->waitForStarted(kStartWait)) {
+    delete process;
+    return false;
+  }
+  run_ = std::move(run);
+  // Queued, so that nothing is heard before this call has returned.
+  const auto read_report = [this] {
+    if (run_ != nullptr) run_->Report.Take(ViewOf(run_->Process->readAllStandardError()));
+  };
+  const auto read_output = [this] {
+    if (run_ == nullptr) return;
+    const std::string text = run_->Printed.Take(ViewOf(run_->Process->readAllStandardOutput()));
+    if (!text.empty()) run_->Listener.RunOutput(text);
+  };
+  QObject::connect(process, &QProcess::readyReadStandardError, process, read_report,
+                   Qt::QueuedConnection);
+  QObject::connect(process, &QProcess::readyReadStandardOutput, process, read_output,
+                   Qt::QueuedConnection);
+  QObject::connect(
+      process, &QProcess::finished, process,
+      [this, read_report, read_output](int code, QProcess::ExitStatus status) {
+        read_report();
+        read_output();
+        Ended(code, status == QProcess::CrashExit);
+      },
+      Qt::QueuedConnection);
+  // What came while the start was waited for, and a program that has ended already.
+  QTimer::singleShot(0, process, [read_report, read_output] {
+    read_report();
+    read_output();
+  });
+  return true;
+}
+
+void RunnerProcess::Stop() {
+  if (run_ == nullptr || std::exchange(run_->Stopped, true)) return;
+  QProcess* const process = run_->Process;
+  process->write("stop\n");
+  QTimer::singleShot(kStopWait, process, [process] { process->kill(); });
+}
+
+void RunnerProcess::Ended(int code, bool crashed) {
+  const std::unique_ptr<Run> run = std::move(run_);
+  if (run == nullptr) return;
+  run->Process->deleteLater();
+  const RunEnd how = crashed && run->Stopped ? RunEnd::Stopped
+                     : crashed               ? RunEnd::RunnerFault
+                                             : RunEndOf(code);
+  run->Listener.RunEnded(how);
+}
+
+}  // namespace tarnwick
