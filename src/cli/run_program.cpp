@@ -7,7 +7,7 @@
 
 #include "basic/code/dump.h"
 #include "basic/vm/machine.h"
-#include "cli/supported_list.h"
+#include "objects/supported_list.h"
 #include "hosts/disk_files.h"
 #include "hosts/local_clock.h"
 #include "hosts/local_system.h"
@@ -190,7 +190,7 @@ std::string RunOptionsHelp() {
 
 RunExit RunProgram(const RunArguments& arguments, std::FILE* in, std::FILE* out, std::FILE* err) {
   if (arguments.Supported) {
-    WriteText(out, SupportedList());
+    WriteText(out, objects::SupportedList());
     return RunExit::Ended;
   }
   try {

@@ -9,7 +9,7 @@
 namespace tarnwick::hosts {
 
 /// Message boxes go to a stream as text; their first button counts as pressed.
-class LocalSystem final : public basic::SystemHost {
+class LocalSystem : public basic::SystemHost {
  public:
   LocalSystem(std::vector<std::string> arguments, std::FILE* messages)
       : arguments_(std::move(arguments)), messages_(messages) {}

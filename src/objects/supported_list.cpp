@@ -1,4 +1,4 @@
-#include "cli/supported_list.h"
+#include "objects/supported_list.h"
 
 #include <vector>
 
@@ -6,14 +6,14 @@
 #include "objects/class_table.h"
 #include "text/strings.h"
 
-namespace tarnwick {
+namespace tarnwick::objects {
 namespace {
 
 using basic::SupportLevel;
 
-std::string NamesOf(const objects::ClassInfo& row, SupportLevel level) {
+std::string NamesOf(const ClassInfo& row, SupportLevel level) {
   std::vector<std::string> names;
-  for (const objects::MemberInfo& member : row.Members) {
+  for (const MemberInfo& member : row.Members) {
     if (member.Facts.Level == level) names.emplace_back(member.Facts.Name);
   }
   return Join(names, " ");
@@ -27,7 +27,7 @@ void Add(std::string& text, std::string_view head, const std::string& names) {
 
 std::string SupportedList() {
   std::string text;
-  for (const objects::ClassInfo& row : objects::ClassRows()) {
+  for (const ClassInfo& row : ClassRows()) {
     text += std::string(row.Name) + (row.Note.empty() ? "" : ". " + std::string(row.Note)) + "\n";
     Add(text, "works", NamesOf(row, SupportLevel::Full));
     Add(text, "kept without effect", NamesOf(row, SupportLevel::Stored));
@@ -41,4 +41,4 @@ std::string SupportedList() {
   return text;
 }
 
-}  // namespace tarnwick
+}  // namespace tarnwick::objects

@@ -1,0 +1,86 @@
+#include "run/file_dialogs.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <algorithm>
+
+#include "looks/text_bridge.h"
+#include "platform/native_path.h"
+#include "text/path_text.h"
+
+namespace tarnwick::run {
+namespace {
+
+constexpr int kOverwritePrompt = 1;
+constexpr int kMultiSelect = 6;
+constexpr int kFileMustExist = 9;
+
+bool HasOption(const ObjectRecord& dialog, int option) {
+  const auto* const picked = dialog.As<objects::PickedFiles>();
+  return picked != nullptr && (picked->Options >> option & 1) != 0;
+}
+
+/// The folder of this machine; that of the process when it is not there.
+QString NativeFolder(std::string_view folder) {
+  const auto native = FindNative(std::string(folder));
+  return native ? QString::fromStdString(*native) : QDir::currentPath();
+}
+
+}  // namespace
+
+QStringList DialogFilters(std::string_view filter) {
+  const QStringList parts = looks::ToQString(filter).split(u'|');
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    QString masks = parts.at(i + 1);
+    // "*.*" means every file, also one without a dot.
+    masks.replace(u';', u' ').replace(QStringLiteral("*.*"), QStringLiteral("*"));
+    QString name = parts.at(i);
+    const qsizetype bracket = name.lastIndexOf(u'(');
+    if (bracket >= 0 && name.endsWith(u')')) name.truncate(bracket);
+    filters << name.trimmed() + QStringLiteral(" (") + masks + u')';
+  }
+  return filters;
+}
+
+std::vector<std::string> PickFilesByDialog(const ObjectRecord& dialog, QWidget* parent) {
+  const bool save = dialog.Is(ObjectClass::QSaveDialog);
+  QFileDialog shown(parent);
+  shown.setObjectName(looks::ToQString(dialog.FullName()));
+  shown.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  if (save) {
+    shown.setFileMode(QFileDialog::AnyFile);
+    shown.setOption(QFileDialog::DontConfirmOverwrite, !HasOption(dialog, kOverwritePrompt));
+  } else if (HasOption(dialog, kMultiSelect)) {
+    shown.setFileMode(QFileDialog::ExistingFiles);
+  } else {
+    shown.setFileMode(HasOption(dialog, kFileMustExist) ? QFileDialog::ExistingFile
+                                                        : QFileDialog::AnyFile);
+  }
+  const QString caption = looks::ToQString(dialog.Text(Word::Caption));
+  if (!caption.isEmpty()) shown.setWindowTitle(caption);
+  const QStringList filters = DialogFilters(dialog.Text(Word::Filter));
+  if (!filters.isEmpty()) {
+    shown.setNameFilters(filters);
+    const std::int64_t index = dialog.Number(Word::FilterIndex) - 1;
+    const bool known = index >= 0 && index < filters.size();
+    shown.selectNameFilter(filters.at(known ? index : 0));
+  }
+  std::string_view extension = dialog.Text(Word::DefaultExt);
+  if (extension.starts_with('.')) extension.remove_prefix(1);
+  shown.setDefaultSuffix(looks::ToQString(extension));
+  const std::string name(dialog.Text(Word::FileName));
+  const std::string_view named_folder = FolderOf(name);
+  shown.setDirectory(
+      NativeFolder(named_folder.empty() ? dialog.Text(Word::InitialDir) : named_folder));
+  const std::string_view bare = BareName(name);
+  if (!bare.empty()) shown.selectFile(looks::ToQString(bare));
+  std::vector<std::string> files;
+  if (shown.exec() != QDialog::Accepted) return files;
+  for (const QString& file : shown.selectedFiles()) {
+    files.push_back(PathFromNative(QDir::cleanPath(file).toStdString()));
+  }
+  return files;
+}
+
+}  // namespace tarnwick::run

@@ -1,0 +1,21 @@
+// Dialogs in which the user picks files.
+#pragma once
+
+#include <QStringList>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "run/object_view.h"
+
+namespace tarnwick::run {
+
+/// The filters of a Filter text such as "Texts|*.txt;*.ini|All|*.*", as the toolkit's dialog takes
+/// them.
+[[nodiscard]] QStringList DialogFilters(std::string_view filter);
+/// Shows the dialog of a QOPENDIALOG or QSAVEDIALOG and returns the Windows paths picked; none when
+/// the user gave up.
+[[nodiscard]] std::vector<std::string> PickFilesByDialog(const ObjectRecord& dialog,
+                                                         QWidget* parent);
+
+}  // namespace tarnwick::run

@@ -1,0 +1,195 @@
+#include "run/session.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+#include <chrono>
+#include <memory>
+
+#include <unistd.h>
+
+#include "basic/vm/machine.h"
+#include "hosts/disk_files.h"
+#include "hosts/local_clock.h"
+#include "hosts/prepared_program.h"
+#include "hosts/profile_calls.h"
+#include "hosts/stream_console.h"
+#include "looks/text_bridge.h"
+#include "objects/class_table.h"
+#include "platform/native_files.h"
+#include "platform/profile_files.h"
+#include "run/desktop_system.h"
+#include "run/message_windows.h"
+#include "run/stage.h"
+#include "run/stop_listener.h"
+#include "text/code_page.h"
+#include "text/path_text.h"
+
+namespace tarnwick::run {
+namespace {
+
+using hosts::PreparedProgram;
+using hosts::RunExit;
+using hosts::RunReport;
+
+/// Between two repaints of windows while the program does not wait for events.
+constexpr auto kRepaintEvery = std::chrono::milliseconds(250);
+
+/// What the program is told of itself.
+objects::ProgramFacts FactsOf(const PreparedProgram& program, const RunnerArguments& arguments) {
+  const std::string_view path = program.Files.File(0).Path;
+  const std::string_view name = BareName(path);
+  const std::string stem(name.substr(0, name.rfind('.')));
+  std::string exe = arguments.ExeName;
+  const std::string folder = arguments.ProgramFolder.empty() ? std::string(FolderOf(path))
+                                                             : arguments.ProgramFolder + "\\";
+  if (exe.empty()) exe = std::string(FolderOf(path)) + stem + ".exe";
+  // A bare name is that of a file in the program folder.
+  if (exe.find('\\') == std::string::npos) exe.insert(0, folder);
+  const std::string_view title = BareName(exe);
+  return {exe, std::string(title.substr(0, title.rfind('.'))), program.Resources};
+}
+
+/// The machine ends when the user of a terminal, the program that started this one, or the time
+/// says so, also while it waits for events.
+class Stopping {
+ public:
+  Stopping(basic::Machine& machine, const RunnerArguments& arguments, std::FILE* in)
+      : machine_(machine) {
+    if (arguments.WithIde) {
+      listener_ = std::make_unique<StopListener>(::fileno(in), [this] { Stop(); });
+    }
+    if (arguments.MaxSeconds > 0) {
+      timer_.setSingleShot(true);
+      QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
+        late_ = true;
+        machine_.Stop();
+      });
+      timer_.start(std::chrono::milliseconds(static_cast<int>(arguments.MaxSeconds * 1000)));
+    }
+  }
+  /// What the end was, seen from outside.
+  [[nodiscard]] basic::RunEnd EndOf(basic::RunEnd end) const {
+    return end == basic::RunEnd::Stopped && late_ ? basic::RunEnd::TimeLimit : end;
+  }
+
+ private:
+  void Stop() {
+    machine_.Stop();
+    // Wakes a program that waits for events.
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [] {}, Qt::QueuedConnection);
+  }
+
+  basic::Machine& machine_;
+  QTimer timer_;
+  bool late_ = false;
+  std::unique_ptr<StopListener> listener_;
+};
+
+/// Lets windows repaint while the program sleeps.
+class SleepingWindows {
+ public:
+  explicit SleepingWindows(Stage& stage) : stage_(stage) {}
+  void Tick() {
+    const auto now = std::chrono::steady_clock::now();
+    if (now - last_ < kRepaintEvery) return;
+    last_ = now;
+    stage_.Repaint();
+  }
+
+ private:
+  Stage& stage_;
+  std::chrono::steady_clock::time_point last_ = std::chrono::steady_clock::now();
+};
+
+basic::RunResult RunCode(const PreparedProgram& program, const RunnerArguments& arguments,
+                         const RunStreams& streams) {
+  std::vector<std::string> words;
+  for (const std::string& word : arguments.Arguments) words.push_back(Utf8ToCodePage(word));
+  // Standard input belongs to the program that started this one, if there is one.
+  std::unique_ptr<std::FILE, int (*)(std::FILE*)> nothing(nullptr, &std::fclose);
+  if (arguments.WithIde) nothing.reset(std::fopen("/dev/null", "rb"));
+  hosts::StreamConsole console(nothing ? nothing.get() : streams.In, streams.Out);
+  hosts::DiskFiles files;
+  hosts::LocalClock clock(arguments.Clock);
+  DesktopSystem system(std::move(words), streams.Err);
+  NativeFiles disk;
+  ProfileFiles profiles(disk);
+  hosts::ProfileCalls natives(profiles);
+  Stage stage;
+  objects::ObjectWorld world(stage, &files, FactsOf(program, arguments));
+  stage.Connect(world);
+  basic::Machine machine(program.Code, {&console, &world, &files, &clock, &system, &natives},
+                         arguments.Options());
+  machine.SetResources(program.Resources);
+  world.Connect(machine);
+  SleepingWindows sleeping(stage);
+  clock.Ending = [&] {
+    sleeping.Tick();
+    return machine.Ending();
+  };
+  const Stopping stopping(machine, arguments, streams.In);
+  basic::RunResult result = machine.Run();
+  result.End = stopping.EndOf(result.End);
+  std::fflush(streams.Out);
+  return result;
+}
+
+QString FromUtf8(const std::string& text) {
+  return QString::fromStdString(text);
+}
+
+void ShowRunTimeError(const PreparedProgram& program, const RunReport& report,
+                      const basic::RunResult& result, const RunnerArguments& arguments) {
+  const basic::SourcePlace at =
+      result.Chain.empty() ? basic::SourcePlace{} : result.Chain.front().At;
+  FaultText fault;
+  fault.Title = looks::ToQString(BareName(program.Files.File(0).Path));
+  fault.What = looks::ToQString(result.Text);
+  fault.Place = FromUtf8(report.PlaceText(at));
+  fault.Line = looks::ToQString(program.Files.LineAt(at)).trimmed();
+  for (const std::string& line : ChainLines(report, result.Chain)) fault.Chain << FromUtf8(line);
+  if (ShowFault(fault, arguments.WithIde)) report.Show(at);
+}
+
+void ShowSourceErrors(const PreparedProgram& program, const RunReport& report,
+                      const std::string& source) {
+  QStringList errors;
+  for (const basic::Message& message : program.Found.All()) {
+    if (message.Level != basic::Severity::Error) continue;
+    const std::string text = message.Text + (message.Remedy.empty() ? "" : " " + message.Remedy);
+    errors << FromUtf8(report.PlaceText(message.At)) + QStringLiteral(": ") +
+                  looks::ToQString(text);
+  }
+  ShowErrors(FromUtf8(source), errors);
+}
+
+RunExit Run(const RunnerArguments& arguments, const RunStreams& streams, RunReport& report) {
+  basic::FrontEndOptions options;
+  options.Strict = arguments.Strict;
+  options.Source.ProgramFolder = arguments.ProgramFolder;
+  const PreparedProgram program =
+      hosts::PrepareProgram(arguments.Source, objects::ClassTable(), options);
+  report.SetFiles(program.Files);
+  report.SayAll(program.Found);
+  if (!program.Good) {
+    if (!arguments.WithIde) ShowSourceErrors(program, report, arguments.Source);
+    return RunExit::Faulty;
+  }
+  report.Signal("start");
+  const basic::RunResult result = RunCode(program, arguments, streams);
+  const RunExit exit = report.SayResult(result);
+  if (result.End == basic::RunEnd::Error) ShowRunTimeError(program, report, result, arguments);
+  return exit;
+}
+
+}  // namespace
+
+RunExit RunSession(const RunnerArguments& arguments, const RunStreams& streams) {
+  RunReport report(streams.Err, arguments.Report, "tarnwick-run");
+  const RunExit exit = Run(arguments, streams, report);
+  report.Signal("end", std::to_string(static_cast<int>(exit)));
+  return exit;
+}
+
+}  // namespace tarnwick::run

@@ -1,0 +1,22 @@
+// One run of a program with its windows.
+#pragma once
+
+#include <cstdio>
+
+#include "run/runner_arguments.h"
+
+namespace tarnwick::run {
+
+struct RunStreams {
+  std::FILE* In = stdin;
+  std::FILE* Out = stdout;
+  std::FILE* Err = stderr;
+};
+
+/// Checks and runs the program; windows need the toolkit's application. Its PRINT goes to `Out`,
+/// errors and notes to `Err` in the form that the arguments want. A run-time error and the errors
+/// of a source are shown in a window too, unless the program that started the runner shows them.
+[[nodiscard]] hosts::RunExit RunSession(const RunnerArguments& arguments,
+                                        const RunStreams& streams);
+
+}  // namespace tarnwick::run

@@ -1,0 +1,92 @@
+#include "run/views/face_views.h"
+
+#include <QPainter>
+
+#include "looks/object_faces.h"
+#include "looks/platform_colors.h"
+#include "looks/text_bridge.h"
+#include "run/drawing_surfaces.h"
+#include "run/stage.h"
+
+namespace tarnwick::run {
+namespace {
+
+/// A widget without a behaviour of its own that its view paints.
+template <class View>
+class Face final : public QWidget {
+ public:
+  explicit Face(View& view) : view_(view) {}
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    view_.Paint(painter);
+  }
+
+ private:
+  View& view_;
+};
+
+constexpr Qt::Alignment kAcross[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
+constexpr Qt::Alignment kDown[] = {Qt::AlignTop, Qt::AlignVCenter, Qt::AlignBottom};
+
+Qt::Alignment Picked(const Qt::Alignment (&from)[3], std::int64_t number) {
+  return from[number >= 0 && number < 3 ? number : 0];
+}
+
+}  // namespace
+
+LabelView::LabelView(Stage& stage, const ObjectRecord& label)
+    : TableView(stage, label, new Face<LabelView>(*this), WidgetEvents::Mouse::Plain) {}
+
+void LabelView::ShowCaption(const ObjectRecord& label) {
+  Widget()->setAccessibleName(looks::ToQString(label.Text(Word::Caption)));
+  Widget()->update();
+}
+
+void LabelView::Paint(QPainter& painter) const {
+  const ObjectRecord* const label = Record();
+  if (label == nullptr) return;
+  const QColor ink =
+      looks::ColorOf(static_cast<std::int32_t>(stage().World().FontOf(*label).Color));
+  looks::LabelFace face;
+  face.Wraps = label->Truth(Word::WordWrap);
+  face.Place =
+      Picked(kAcross, label->Number(Word::Alignment)) | Picked(kDown, label->Number(Word::Layout));
+  if (!label->Truth(Word::Transparent)) {
+    face.Ground = looks::ColorOf(static_cast<std::int32_t>(label->Number(Word::Color)));
+  }
+  looks::DrawLabelFace(
+      painter, stage().Texts(), Widget()->rect(),
+      {label->Text(Word::Caption), stage().FontOf(*label), ink, Widget()->isEnabled()}, face);
+}
+
+ImageView::ImageView(Stage& stage, const ObjectRecord& image)
+    : TableView(stage, image, new Face<ImageView>(*this), WidgetEvents::Mouse::Plain) {}
+
+void ImageView::ShowPicture(const ObjectRecord& image) {
+  Widget()->update();
+  if (!image.Truth(Word::AutoSize)) return;
+  const QPixmap picture = stage().Surfaces().Shown(image);
+  if (picture.isNull() || picture.size() == Widget()->size()) return;
+  Widget()->resize(picture.size());
+  stage().Report([this, size = picture.size()] {
+    stage().World().UserSet(Id(), Word::Width, Value::Integer(size.width()));
+    stage().World().UserSet(Id(), Word::Height, Value::Integer(size.height()));
+  });
+}
+
+void ImageView::Paint(QPainter& painter) const {
+  const ObjectRecord* const image = Record();
+  if (image == nullptr) return;
+  const QPixmap picture = stage().Surfaces().Shown(*image);
+  if (picture.isNull()) return;
+  QRect area = Widget()->rect();
+  if (image->Truth(Word::Center) && !image->Truth(Word::Stretch)) {
+    const QSize rest = (area.size() - picture.size()).expandedTo(QSize(0, 0));
+    area.translate(rest.width() / 2, rest.height() / 2);
+  }
+  looks::DrawImageFace(painter, area, picture, image->Truth(Word::Stretch));
+}
+
+}  // namespace tarnwick::run

@@ -1,0 +1,206 @@
+#include <QApplication>
+#include <QListWidget>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include "looks/classic_look.h"
+#include "looks/platform_colors.h"
+#include "looks/text_bridge.h"
+#include "run/stage.h"
+#include "run/views/fields.h"
+#include "run/views/list_views.h"
+
+namespace tarnwick::run {
+namespace {
+
+using objects::ItemsChange;
+using objects::ListItems;
+
+/// Rows as the design form paints them.
+class RowPainter final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    const bool chosen = (option.state & QStyle::State_Selected) != 0;
+    const bool enabled = (option.state & QStyle::State_Enabled) != 0;
+    const QPalette& palette = option.palette;
+    if (chosen) painter->fillRect(option.rect, palette.color(QPalette::Highlight));
+    painter->setFont(option.font);
+    painter->setPen(!enabled ? looks::kGreyText
+                             : palette.color(chosen ? QPalette::HighlightedText : QPalette::Text));
+    painter->drawText(option.rect.adjusted(looks::kListTextLeft, 0, 0, 0),
+                      Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, index.data().toString());
+  }
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return {
+        option.fontMetrics.horizontalAdvance(index.data().toString()) + 2 * looks::kListTextLeft,
+        option.fontMetrics.height()};
+  }
+};
+
+class ListField final : public QListWidget {
+ public:
+  explicit ListField(const ListView& view) : view_(view) {
+    setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    setLineWidth(looks::kListEdge);
+    viewport()->setAutoFillBackground(false);
+    setItemDelegate(new RowPainter(this));
+    setUniformItemSizes(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setEditTriggers(NoEditTriggers);
+  }
+
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() != QEvent::Paint) return QListWidget::event(event);
+    PaintField(*this, view_);
+    return true;
+  }
+
+ private:
+  const ListView& view_;
+};
+
+QListWidget* MakeListField(const ListView& view) {
+  return new ListField(view);
+}
+
+}  // namespace
+
+ListView::ListView(Stage& stage, const ObjectRecord& list)
+    : TableView(stage, list, MakeListField(*this), WidgetEvents::Mouse::Own) {
+  Events().Watch(List(), *List().viewport());
+  connect(&List(), &QListWidget::currentRowChanged, this, [this] { Picked(); });
+  connect(&List(), &QListWidget::itemSelectionChanged, this, [this] { SelectionChanged(); });
+  // A click on the entry that is picked already is a click too.
+  connect(&List(), &QListWidget::itemPressed, this, [this](QListWidgetItem* item) {
+    const ObjectRecord* const record = Record();
+    if (record == nullptr || picked_now_) {
+      picked_now_ = false;
+      return;
+    }
+    if (record->Number(Word::ItemIndex) != List().row(item)) return Picked();
+    Stage& on = this->stage();
+    on.Raise(Id(), Word::OnClick);
+  });
+}
+
+QListWidget& ListView::List() const {
+  return *static_cast<QListWidget*>(Widget());
+}
+
+void ListView::Picked() {
+  if (showing_ || List().currentRow() < 0) return;
+  picked_now_ = QApplication::mouseButtons() != Qt::NoButton;
+  stage().Report([this, row = List().currentRow()] {
+    stage().World().UserSet(Id(), Word::ItemIndex, Value::Integer(row));
+  });
+}
+
+void ListView::SelectionChanged() {
+  const ObjectRecord* const list = Record();
+  if (showing_ || list == nullptr || !list->Truth(Word::MultiSelect)) return;
+  const auto* const items = list->As<ListItems>();
+  const int count = items == nullptr ? 0 : static_cast<int>(items->Items.size());
+  for (int i = 0; i < count && i < List().count(); ++i) {
+    stage().World().UserSelect(Id(), static_cast<std::size_t>(i), List().item(i)->isSelected());
+  }
+}
+
+void ListView::ShowEntries(const ObjectRecord& list) {
+  const auto* const items = list.As<ListItems>();
+  if (items == nullptr) return;
+  showing_ = true;
+  List().clear();
+  QStringList texts;
+  for (const ListItems::Item& item : items->Items) texts << looks::ToQString(item.Text);
+  List().addItems(texts);
+  showing_ = false;
+  ShowPicked(list);
+}
+
+void ListView::ShowItems(const ObjectRecord& list, const ItemsChange& change) {
+  const auto* const items = list.As<ListItems>();
+  if (items == nullptr) return;
+  if (change.What == ItemsChange::Kind::All) return ShowEntries(list);
+  showing_ = true;
+  const auto first = static_cast<int>(change.First);
+  for (std::size_t i = 0; i < change.Count; ++i) {
+    const int row = first + static_cast<int>(i);
+    if (change.What == ItemsChange::Kind::Removed) {
+      delete List().takeItem(first);
+      continue;
+    }
+    const ListItems::Item& item = items->Items[change.First + i];
+    if (change.What == ItemsChange::Kind::Inserted) {
+      List().insertItem(row, looks::ToQString(item.Text));
+    } else if (QListWidgetItem* const shown = List().item(row)) {
+      shown->setText(looks::ToQString(item.Text));
+    }
+    if (List().item(row) != nullptr && list.Truth(Word::MultiSelect)) {
+      List().item(row)->setSelected(item.Selected);
+    }
+  }
+  showing_ = false;
+  ShowPicked(list);
+}
+
+void ListView::ShowMode(const ObjectRecord& list) {
+  const bool many = list.Truth(Word::MultiSelect);
+  const bool extended = list.Truth(Word::ExtendedSelect);
+  List().setSelectionMode(!many      ? QListWidget::SingleSelection
+                          : extended ? QListWidget::ExtendedSelection
+                                     : QListWidget::MultiSelection);
+  // Columns flow sideways, each as wide as its part of the list.
+  const auto columns =
+      static_cast<int>(std::clamp<std::int64_t>(list.Number(Word::Columns), 0, 64));
+  List().setFlow(QListWidget::TopToBottom);
+  List().setWrapping(columns > 0);
+  List().setHorizontalScrollBarPolicy(columns > 0 ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+  if (columns > 0) {
+    List().setGridSize(
+        QSize((List().width() - 2 * looks::kListEdge) / columns, List().fontMetrics().height()));
+  } else {
+    List().setGridSize(QSize());
+  }
+}
+
+void ListView::ShowPicked(const ObjectRecord& list) {
+  const auto row = static_cast<int>(list.Number(Word::ItemIndex));
+  if (List().currentRow() == row) return;
+  showing_ = true;
+  const bool many = list.Truth(Word::MultiSelect);
+  if (row < 0 && !many) List().clearSelection();
+  List().setCurrentRow(row,
+                       many ? QItemSelectionModel::NoUpdate : QItemSelectionModel::ClearAndSelect);
+  showing_ = false;
+}
+
+void ListView::ShowTop(const ObjectRecord& list) {
+  if (QListWidgetItem* const item = List().item(static_cast<int>(list.Number(Word::TopIndex)))) {
+    List().scrollToItem(item, QListWidget::PositionAtTop);
+  }
+}
+
+void ListView::ShowFont(const ObjectRecord& list) {
+  WidgetView::ShowFont(list);
+  if (list.Number(Word::Columns) > 0) ShowMode(list);
+}
+
+bool ListView::Live(const ObjectRecord& /*list*/, const MemberInfo& member,
+                    std::span<const Value> /*index*/, Value& out) {
+  if (member.Name == Word::TopIndex) {
+    out = Value::Integer(std::max(0, List().indexAt(QPoint(1, 1)).row()));
+    return true;
+  }
+  if (member.Name == Word::ItemHeight) {
+    out = Value::Integer(List().fontMetrics().height());
+    return true;
+  }
+  return false;
+}
+
+}  // namespace tarnwick::run

@@ -1,0 +1,62 @@
+// Lists of entries: list boxes and drop-down lists.
+#pragma once
+
+#include "run/widget_view.h"
+
+class QComboBox;
+class QListWidget;
+
+namespace tarnwick::run {
+
+class ListView final : public TableView<ListView> {
+ public:
+  ListView(Stage& stage, const ObjectRecord& list);
+  void ShowItems(const ObjectRecord& list, const objects::ItemsChange& change) override;
+  bool Live(const ObjectRecord& list, const MemberInfo& member, std::span<const Value> index,
+            Value& out) override;
+
+  void ShowEntries(const ObjectRecord& list);
+  void ShowMode(const ObjectRecord& list);
+  void ShowPicked(const ObjectRecord& list);
+  void ShowTop(const ObjectRecord& list);
+  static constexpr ShowRow<ListView> kRows[] = {
+      {Word::MultiSelect, &ListView::ShowMode}, {Word::ExtendedSelect, &ListView::ShowMode},
+      {Word::Columns, &ListView::ShowMode},     {Word::Sorted, &ListView::ShowEntries},
+      {Word::ItemIndex, &ListView::ShowPicked}, {Word::TopIndex, &ListView::ShowTop}};
+
+ protected:
+  void ShowFont(const ObjectRecord& list) override;
+
+ private:
+  [[nodiscard]] QListWidget& List() const;
+  void Picked();
+  void SelectionChanged();
+  bool showing_ = false;     ///< what changes now is no choice of the user
+  bool picked_now_ = false;  ///< the press that comes has picked another entry already
+};
+
+class ComboView final : public TableView<ComboView> {
+ public:
+  ComboView(Stage& stage, const ObjectRecord& combo);
+  void ShowItems(const ObjectRecord& combo, const objects::ItemsChange& change) override;
+
+  void ShowStyle(const ObjectRecord& combo);
+  void ShowEntries(const ObjectRecord& combo);
+  void ShowText(const ObjectRecord& combo);
+  void ShowCount(const ObjectRecord& combo);
+  static constexpr ShowRow<ComboView> kRows[] = {
+      {Word::Style, &ComboView::ShowStyle},     {Word::Sorted, &ComboView::ShowEntries},
+      {Word::ItemIndex, &ComboView::ShowText},  {Word::Text, &ComboView::ShowText},
+      {Word::MaxLength, &ComboView::ShowCount}, {Word::DropDownCount, &ComboView::ShowCount}};
+
+  void Paint(QWidget& widget, bool down) const;
+  void Opens();
+
+ private:
+  [[nodiscard]] QComboBox& Combo() const;
+  void Picked(int index);
+  void Typed(const QString& text);
+  bool showing_ = false;
+};
+
+}  // namespace tarnwick::run

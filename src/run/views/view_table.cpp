@@ -1,0 +1,42 @@
+// Which view shows which class.
+#include "run/stage.h"
+#include "run/views/button_view.h"
+#include "run/views/face_views.h"
+#include "run/views/form_view.h"
+#include "run/views/list_views.h"
+#include "run/views/other_views.h"
+#include "run/views/text_views.h"
+
+namespace tarnwick::run {
+namespace {
+
+template <class View>
+ObjectView* Make(Stage& stage, const ObjectRecord& object) {
+  return new View(stage, object);
+}
+
+struct ViewRow {
+  ObjectClass Class;
+  ObjectView* (*Make)(Stage&, const ObjectRecord&);
+};
+constexpr ViewRow kViews[] = {
+    {ObjectClass::QForm, Make<FormView>},         {ObjectClass::QButton, Make<ButtonView>},
+    {ObjectClass::QCoolBtn, Make<ButtonView>},    {ObjectClass::QOvalBtn, Make<ButtonView>},
+    {ObjectClass::QCheckBox, Make<MarkView>},     {ObjectClass::QRadioButton, Make<MarkView>},
+    {ObjectClass::QLabel, Make<LabelView>},       {ObjectClass::QImage, Make<ImageView>},
+    {ObjectClass::QCanvas, Make<ImageView>},      {ObjectClass::QEdit, Make<EditView>},
+    {ObjectClass::QRichEdit, Make<RichEditView>}, {ObjectClass::QListBox, Make<ListView>},
+    {ObjectClass::QComboBox, Make<ComboView>},    {ObjectClass::QTimer, Make<TimerView>},
+    {ObjectClass::QGlassFrame, Make<GlassView>},  {ObjectClass::QOleContainer, Make<PageView>},
+};
+
+}  // namespace
+
+ObjectView* MakeView(Stage& stage, const ObjectRecord& object) {
+  for (const ViewRow& row : kViews) {
+    if (object.Is(row.Class)) return row.Make(stage, object);
+  }
+  return nullptr;
+}
+
+}  // namespace tarnwick::run
