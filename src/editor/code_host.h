@@ -17,6 +17,9 @@ class CodeHost {
   virtual void PopBoockMarck(int form, std::string_view name) = 0;
   /// An event's text of the object became empty.
   virtual void DelBoockMarck(int form, std::string_view name) = 0;
+  /// Code of a form is about to be stored: a step that can be undone begins, with its name.
+  /// CodeAccepted ends it.
+  virtual void AcceptBegins(int form, std::string_view step) = 0;
   /// Accepted code changed the project.
   virtual void CodeAccepted(int form) = 0;
   /// Closes the window whose step this was; nothing is stored any more.

@@ -155,6 +155,7 @@ void FormCodigo::Accept() {
   if (!IsOpen()) return;
   const std::string text = editor_.Text();
   const int form = target_.Form;
+  host_.AcceptBegins(form, "Code " + caption_);
   StoreText(text);
   if (target_.What != CodeTarget::Sort::NamedItem) {
     if (event_row_ >= 0) {

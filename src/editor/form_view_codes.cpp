@@ -15,6 +15,7 @@ void FormViewCodes::Accept() {
   FormRec* record = IsOpen() ? project_.Form(form_) : nullptr;
   if (record == nullptr) return;
   const int form = form_;
+  host_.AcceptBegins(form, "Public Declarations");
   record->DeclarePbl = editor_.Text();
   host_.CodeAccepted(form);
   Close();

@@ -26,10 +26,14 @@ class FakeCodeHost final : public editor::CodeHost {
   void DelBoockMarck(int form, std::string_view name) override {
     Log.push_back("no code " + std::to_string(form) + " " + std::string(name));
   }
+  void AcceptBegins(int form, std::string_view step) override {
+    Steps.push_back(std::to_string(form) + " " + std::string(step));
+  }
   void CodeAccepted(int form) override { Log.push_back("accepted " + std::to_string(form)); }
   void Unload() override { Log.emplace_back("unload"); }
 
   Rows Log;
+  Rows Steps;  ///< "N NAME" of each step that began
 };
 
 class FormCodigoTest : public testing::Test {
@@ -138,6 +142,18 @@ TEST_F(FormCodigoTest, AcceptStoresRemembersTheEventTellsTheBarAndCloses) {
   codigo_.Open();
   EXPECT_EQ(codigo_.EventRowNo(), 2);
   EXPECT_EQ(editor_.Text(), "k");
+}
+
+TEST_F(FormCodigoTest, AnAcceptIsAStepThatIsNamedAfterWhatIsOpen) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  codigo_.Events_Click(2);
+  EXPECT_TRUE(host_.Steps.empty());
+  codigo_.Accept();
+  EXPECT_EQ(host_.Steps, Rows{"1 Code Ok"});
+  codigo_.Open();
+  codigo_.Cancel();
+  EXPECT_EQ(host_.Steps.size(), 1U);
 }
 
 TEST_F(FormCodigoTest, KeysOfAnySpellingAreOne) {
@@ -448,9 +464,11 @@ TEST_F(FormCodigoTest, DeclarationsAreStoredByAcceptAlone) {
   editor_.SetText("Dim b");
   codes.Cancel();
   EXPECT_EQ(project_.Tables.Form(2)->DeclarePbl, "Dim a");
+  EXPECT_TRUE(host_.Steps.empty());
   ASSERT_TRUE(codes.Open(2));
   editor_.SetText("Dim b");
   codes.Accept();
+  EXPECT_EQ(host_.Steps, Rows{"2 Public Declarations"});
   EXPECT_EQ(project_.Tables.Form(2)->DeclarePbl, "Dim b");
   EXPECT_FALSE(codes.Open(3));
 }

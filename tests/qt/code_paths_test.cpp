@@ -18,10 +18,12 @@
 
 #include "codegen/generator_state.h"
 #include "codegen/program_source.h"
+#include "designer/history/history.h"
 #include "program.h"
 #include "qt/editor/code_edit.h"
 #include "qt/frame/events_bar_window.h"
 #include "qt/surface/container.h"
+#include "shell/events_bar.h"
 #include "text/strings.h"
 
 namespace tarnwick {
@@ -225,6 +227,32 @@ TEST_F(CodePaths, TypedChangedCancelledAndReopenedOnlyTheEventBeforeIsKept) {
   DoubleClick({45, 65});
   EXPECT_EQ(Shown(), "Sub Form1Btn1_OnClick");
   EXPECT_EQ(Editor().Text(), "first");
+}
+
+TEST_F(CodePaths, AcceptedCodeIsOneStepOfTheHistory) {
+  program.Place(kButtonTool, {40, 60});
+  program.Key(Qt::Key_F7);
+  TypeAndAccept(QStringLiteral("Beep"));
+  program.Window().activateWindow();
+  ASSERT_TRUE(TakesKeys(program.Window()));
+  EXPECT_EQ(program.Shell().Steps().UndoName(), "Code Form1Btn1");
+  program.Choose(QStringLiteral("mnuUndo"));
+  EXPECT_EQ(Stored("Form1.Button1.OnClick"), "(none)");
+  EXPECT_TRUE(program.Shell().Bar().btncodigo(1).empty());
+  EXPECT_EQ(program.Form().UBound(Kind::Button), 1);
+  program.Choose(QStringLiteral("mnuRedo"));
+  EXPECT_EQ(Stored("Form1.Button1.OnClick"), "Beep");
+  EXPECT_EQ(program.Shell().Bar().btncodigo(1).size(), 1U);
+  program.Key(Qt::Key_D, Qt::ControlModifier);
+  QWidget* declare = TopLevel("FormViewCodes");
+  ASSERT_TRUE(TakesKeys(*declare));
+  program.Type(QStringLiteral("Dim a As Integer"));
+  program.Key(Qt::Key_Return, Qt::ControlModifier);
+  program.Window().activateWindow();
+  ASSERT_TRUE(TakesKeys(program.Window()));
+  EXPECT_EQ(program.Shell().Steps().UndoName(), "Public Declarations");
+  program.Choose(QStringLiteral("mnuUndo"));
+  EXPECT_EQ(program.Record().DeclarePbl, "");
 }
 
 TEST_F(CodePaths, WhileTheCodeIsOpenTheFormSelectsNothingAndTheCodeComesToTheFront) {

@@ -181,8 +181,10 @@ TEST_F(CodeWindowTest, UndoIsOffAtTheStartOfTheHistory) {
 TEST_F(CodeWindowTest, OpenCodeReplacesTheTextAndACancelledDialogLeavesIt) {
   OpenCodeOfNewButton();
   TypeCode(QStringLiteral("old"));
+  Events().setFocus();
   Tool(0).click();
   EXPECT_EQ(Editor().Text(), "old");
+  EXPECT_EQ(QApplication::focusWidget(), &Editor());
   EXPECT_EQ(program.Dialogs.LastRequest.Title, "OPEN FILE - Tarnwick -");
   program.Projects.Write("code.txt", "line 1\r\nline 2");
   program.Dialogs.OpenAnswers.push_back(program.Projects.Path("code.txt"));

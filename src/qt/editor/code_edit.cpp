@@ -81,6 +81,8 @@ void CodeEdit::SetUp(std::string_view font_name) {
   setBackspaceUnindents(false);
   setBraceMatching(SloppyBraceMatch);
   setCaretLineVisible(true);
+  // The line stays marked while find or the function panel has the keys.
+  SendScintilla(SCI_SETCARETLINEVISIBLEALWAYS, 1UL);
   setAccessibleName(QStringLiteral("Code"));
   // The windows around have commands of their own for these keys, and the toolkit's widget would
   // keep every key that it has a command for.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 #include <Qsci/qsciscintilla.h>
 
@@ -10,6 +11,9 @@
 namespace tarnwick {
 
 namespace {
+
+/// The signs that are operators, alone or together; all others are plain.
+constexpr std::string_view kOperators = "=><+-/*";
 
 using StyleColors = std::array<QColor, CodeLexer::kStyles>;
 
@@ -73,7 +77,8 @@ CodeLexer::Style CodeLexer::StyleOf(const language::Token& token, std::string_vi
     case TokenKind::Comment:
       return Comment;
     case TokenKind::Sign:
-      return text == "(" || text == ")" ? Scope : Operator;
+      if (text == "(" || text == ")") return Scope;
+      return text.find_first_not_of(kOperators) == std::string_view::npos ? Operator : Plain;
     default:
       return Plain;
   }

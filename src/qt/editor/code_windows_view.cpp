@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+#include "designer/history/history.h"
 #include "editor/code_marks.h"
 #include "qt/editor/code_edit.h"
 #include "qt/editor/code_window.h"
@@ -20,13 +21,21 @@ void CodeWindowsView::Host::DelBoockMarck(int form, std::string_view name) {
   bar_.DelBoockMarck(form, name);
 }
 
+void CodeWindowsView::Host::AcceptBegins(int form, std::string_view step) {
+  steps_.Begin(form, step);
+}
+
+void CodeWindowsView::Host::CodeAccepted(int /*form*/) {
+  steps_.End();
+}
+
 /// Each window: its look-up, its widget, its logic, and the window around them.
 struct CodeWindowsView::Parts {
   Parts(MDIForm1& shell, QWidget& parent)
       : CodeLookup(shell.Tables(), shell.Support(), editor::kFixedWordsOfCode),
         DeclareLookup(shell.Tables(), shell.Support(), editor::kFixedWordsOfDeclarations),
-        CodeHost(shell.Bar(), [this] { Code->hide(); }),
-        DeclareHost(shell.Bar(), [this] { Declare->hide(); }),
+        CodeHost(shell.Bar(), shell.Steps(), [this] { Code->hide(); }),
+        DeclareHost(shell.Bar(), shell.Steps(), [this] { Declare->hide(); }),
         CodeText(new CodeEdit(QStringLiteral("Editor"), shell.Support().Keywords, CodeLookup,
                               editor::kCodeFont, nullptr)),
         DeclareText(new CodeEdit(QStringLiteral("EditorPublic"), shell.Support().Keywords,

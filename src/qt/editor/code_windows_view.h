@@ -20,6 +20,7 @@ class CodeEdit;
 class CodeWindow;
 class DeclarationsWindow;
 class EventsBar;
+class History;
 class MDIForm1;
 
 /// Builds `FormCodigo` and `FormViewCodes` once and joins them with events bar and project.
@@ -39,17 +40,21 @@ class CodeWindowsView final : public CodeWindows {
   void NameChanged(int form, std::string_view old_name, std::string_view new_name) override;
 
  private:
-  /// Tells the events bars what a window has stored, and hides the window at its end.
+  /// Tells the events bars and the history what a window has stored, and hides the window at its
+  /// end.
   class Host final : public editor::CodeHost {
    public:
-    Host(EventsBar& bar, std::function<void()> unload) : bar_(bar), unload_(std::move(unload)) {}
+    Host(EventsBar& bar, History& steps, std::function<void()> unload)
+        : bar_(bar), steps_(steps), unload_(std::move(unload)) {}
     void PopBoockMarck(int form, std::string_view name) override;
     void DelBoockMarck(int form, std::string_view name) override;
-    void CodeAccepted(int /*form*/) override {}
+    void AcceptBegins(int form, std::string_view step) override;
+    void CodeAccepted(int form) override;
     void Unload() override { unload_(); }
 
    private:
     EventsBar& bar_;
+    History& steps_;
     std::function<void()> unload_;
   };
   struct Parts;
