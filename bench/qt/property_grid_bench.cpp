@@ -11,6 +11,7 @@
 #include "fakes/build_paths.h"
 #include "fakes/fake_instance_folders.h"
 #include "fakes/fake_ports.h"
+#include "inspector/property_sheet.h"
 #include "platform/native_files.h"
 #include "qt/frame/main_view.h"
 #include "qt/frame/main_window.h"
