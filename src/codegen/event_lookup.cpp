@@ -17,9 +17,14 @@ OwnerCode EventLookup::OfForm() const {
 }
 
 OwnerCode EventLookup::OfObject(Kind kind, int ordinal) {
+  auto& found = found_[static_cast<std::size_t>(kind)];
+  const auto row = static_cast<std::size_t>(ordinal) - 1;  // number 0 is past the end
+  if (row < found.size()) return OwnerCode(found[row]);
   key_.clear();
   AppendObjectKey(key_, form_, kind, ordinal);
-  return OwnerCode(table_.OwnerOf(key_));
+  const EventCodeTable::Owner* const owner = table_.OwnerOf(key_);
+  if (row == found.size()) found.push_back(owner);
+  return OwnerCode(owner);
 }
 
 OwnerCode EventLookup::OfName(std::string_view name) const {

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/event_table.h"
 #include "model/kinds.h"
@@ -51,11 +52,15 @@ class OwnerCode {
   const EventCodeTable::Owner* owner_ = nullptr;
 };
 
-/// Looks up code for one form at a time.
+/// Looks up code for one form at a time. The table must not change meanwhile.
 class EventLookup {
  public:
   explicit EventLookup(const EventCodeTable& table) noexcept : table_(table) {}
-  void SetForm(int form) { form_ = form; }
+  void SetForm(int form) {
+    if (form == form_) return;
+    form_ = form;
+    for (auto& found : found_) found.clear();
+  }
 
   /// Code of the form itself.
   [[nodiscard]] OwnerCode OfForm() const;
@@ -74,6 +79,9 @@ class EventLookup {
   const EventCodeTable& table_;
   int form_ = 0;
   std::string key_;  ///< of the last object, whose memory the next one takes over
+  /// What objects 1, 2, ... of each kind have. Several walks ask for the objects of a form in the
+  /// same order; the first one fills this, as long as it goes in steps of one.
+  std::array<std::vector<const EventCodeTable::Owner*>, kKindCount> found_;
 };
 
 }  // namespace tarnwick

@@ -20,6 +20,17 @@ std::size_t CountLineEnds(std::string_view text, std::size_t from, std::size_t t
 
 }  // namespace
 
+std::string_view LineOf(std::string_view text, std::size_t number) {
+  constexpr std::string_view kEnds = "\r\n";
+  if (number == 0) return {};
+  for (std::size_t n = 1; n < number; ++n) {
+    const std::size_t end = text.find_first_of(kEnds);
+    if (end == std::string_view::npos) return {};
+    text.remove_prefix(end + (text.substr(end).starts_with(kEnds) ? kEnds.size() : 1));
+  }
+  return text.substr(0, text.find_first_of(kEnds));
+}
+
 void SourceMap::Follow(const std::vector<TextChange>& changes) {
   std::vector<Stretch> moved;
   moved.reserve(stretches_.size());

@@ -56,6 +56,10 @@ struct TextChange {
   bool LineEndGone = false;  ///< the bytes that went held a line end
 };
 
+/// A line of a text, counted from 1, without its line end: CR LF, LF or CR. "" for one that the
+/// text has not.
+[[nodiscard]] std::string_view LineOf(std::string_view text, std::size_t number);
+
 /// The stretches of one generated program, in its order. While the text is made they are noted by
 /// offset; counting the lines is a step of its own, which only those pay for who look lines up.
 ///

@@ -22,17 +22,6 @@ std::string_view FileNameOf(std::string_view path) {
   return slash == std::string_view::npos ? path : path.substr(slash + 1);
 }
 
-/// A line of a text, from 1; "" for one that it has not.
-std::string_view LineOf(std::string_view text, int line) {
-  for (int n = 1; n < line; ++n) {
-    const std::size_t end = text.find_first_of("\r\n");
-    if (end == std::string_view::npos) return {};
-    const bool pair = text.substr(end).starts_with("\r\n");
-    text.remove_prefix(end + (pair ? 2 : 1));
-  }
-  return text.substr(0, text.find_first_of("\r\n"));
-}
-
 }  // namespace
 
 RunWith RunWithOf(const Settings& settings) {
@@ -103,18 +92,19 @@ void RunCommand::RunEnded(RunEnd how) {
   if (!state_.Busy) state_.Run(Command::Compile);
 }
 
-std::optional<RunPlace> RunCommand::PlaceOf(int source_line) const {
+std::optional<project::ProgramPlace> RunCommand::PlaceOf(int source_line) const {
   if (source_line <= 0) return std::nullopt;
   const auto line = map_.At(static_cast<std::size_t>(source_line));
   if (!line) return std::nullopt;
-  return PlaceOfLine(state_.Tables, *line, LineOf(text_, source_line));
+  return project::PlaceOfLine(state_.Tables, *line,
+                              LineOf(text_, static_cast<std::size_t>(source_line)));
 }
 
 std::string RunCommand::TextOf(const RunMessage& message) const {
   std::string text;
-  if (const std::optional<RunPlace> place =
+  if (const std::optional<project::ProgramPlace> place =
           IsOurs(message) ? PlaceOf(message.Line) : std::nullopt) {
-    text = PlaceText(state_.Tables, *place) + ": ";
+    text = project::PlaceText(state_.Tables, *place) + ": ";
   } else if (message.Line > 0) {
     text.append(FileNameOf(message.File)).append(", line ");
     text.append(NumberText(std::int64_t{message.Line})).append(": ");
@@ -156,7 +146,7 @@ bool RunCommand::Jump(std::size_t line) {
 
 bool RunCommand::GoToLine(int source_line) {
   if (state_.Busy) return false;
-  const std::optional<RunPlace> place = PlaceOf(source_line);
+  const std::optional<project::ProgramPlace> place = PlaceOf(source_line);
   if (place) {
     GoTo(*place);
   } else if (source_line > 0) {
@@ -165,15 +155,15 @@ bool RunCommand::GoToLine(int source_line) {
   return place.has_value();
 }
 
-void RunCommand::GoTo(const RunPlace& place) {
+void RunCommand::GoTo(const project::ProgramPlace& place) {
   if (state_.RaiseOpenCode()) return;
   ways_.Forms.BringUp(place.Form);
   switch (place.What) {
-    case RunPlace::Sort::Declarations:
+    case project::ProgramPlace::Sort::Declarations:
       state_.Run(Command::PublicDeclarations);
       state_.Code->ShowLine(place.Line);
       return;
-    case RunPlace::Sort::Code: {
+    case project::ProgramPlace::Sort::Code: {
       ways_.Bar.btncodigo_Click(place.Owner);
       const auto& rows = ways_.Bar.ProssItem();
       for (std::size_t row = 0; row < rows.size(); ++row) {
@@ -184,7 +174,7 @@ void RunCommand::GoTo(const RunPlace& place) {
       }
       return;
     }
-    case RunPlace::Sort::Property: {
+    case project::ProgramPlace::Sort::Property: {
       FormUser* const surface = ways_.Surfaces.Of(place.Form);
       if (surface == nullptr) return;
       if (place.Id == Kind::Form) {

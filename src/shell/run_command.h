@@ -8,8 +8,8 @@
 
 #include "codegen/source_map.h"
 #include "platform/runner_port.h"
+#include "project/program_place.h"
 #include "shell/run_lines.h"
-#include "shell/run_place.h"
 #include "shell/shell_state.h"
 
 namespace tarnwick {
@@ -71,10 +71,10 @@ class RunCommand final : public RunListener {
   /// True when a message is about the source that runs, not about a file that it includes.
   [[nodiscard]] bool IsOurs(const RunMessage& message) const;
   bool GoToLine(int source_line);
-  [[nodiscard]] std::optional<RunPlace> PlaceOf(int source_line) const;
+  [[nodiscard]] std::optional<project::ProgramPlace> PlaceOf(int source_line) const;
   [[nodiscard]] std::string TextOf(const RunMessage& message) const;
   [[nodiscard]] std::string EndText(RunEnd how) const;
-  void GoTo(const RunPlace& place);
+  void GoTo(const project::ProgramPlace& place);
   void ShowLines() {
     if (view_ != nullptr) view_->RunLinesChanged();
   }

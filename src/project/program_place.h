@@ -8,10 +8,10 @@
 #include "codegen/source_map.h"
 #include "model/project_records.h"
 
-namespace tarnwick {
+namespace tarnwick::project {
 
 /// A place of the project that a line of the program comes from.
-struct RunPlace {
+struct ProgramPlace {
   enum class Sort : std::uint8_t { Code, Declarations, Property };
   Sort What = Sort::Code;
   int Form = 0;
@@ -25,10 +25,10 @@ struct RunPlace {
 
 /// The place of a line of the program, whose text is `line_text`; null for lines that the user has
 /// no place for.
-[[nodiscard]] std::optional<RunPlace> PlaceOfLine(const ProjectTables& tables,
-                                                  const SourceLine& line,
-                                                  std::string_view line_text);
+[[nodiscard]] std::optional<ProgramPlace> PlaceOfLine(const ProjectTables& tables,
+                                                      const SourceLine& line,
+                                                      std::string_view line_text);
 /// A place as messages name it: "Form1.Button1.OnClick, line 3".
-[[nodiscard]] std::string PlaceText(const ProjectTables& tables, const RunPlace& place);
+[[nodiscard]] std::string PlaceText(const ProjectTables& tables, const ProgramPlace& place);
 
-}  // namespace tarnwick
+}  // namespace tarnwick::project

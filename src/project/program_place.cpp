@@ -1,4 +1,4 @@
-#include "shell/run_place.h"
+#include "project/program_place.h"
 
 #include <algorithm>
 #include <utility>
@@ -7,7 +7,7 @@
 #include "text/numbers.h"
 #include "text/strings.h"
 
-namespace tarnwick {
+namespace tarnwick::project {
 
 namespace {
 
@@ -44,7 +44,7 @@ std::string_view MemberOf(std::string_view line) {
 }
 
 /// The user's name of a control; "" for one that is gone.
-std::string NameOf(const ProjectTables& tables, const RunPlace& place) {
+std::string NameOf(const ProjectTables& tables, const ProgramPlace& place) {
   const DesignForm* const window = tables.UserIfAny(place.Form);
   const ControlRef control = window == nullptr ? nullptr : window->Element(place.Id, place.Index);
   return control == nullptr ? std::string() : control->Tag;
@@ -52,10 +52,10 @@ std::string NameOf(const ProjectTables& tables, const RunPlace& place) {
 
 }  // namespace
 
-std::optional<RunPlace> PlaceOfLine(const ProjectTables& tables, const SourceLine& line,
-                                    std::string_view line_text) {
+std::optional<ProgramPlace> PlaceOfLine(const ProjectTables& tables, const SourceLine& line,
+                                        std::string_view line_text) {
   const SourcePlace& from = line.Place;
-  RunPlace place;
+  ProgramPlace place;
   place.Form = from.Form;
   place.Id = from.Id;
   place.Of = from.Of;
@@ -69,15 +69,15 @@ std::optional<RunPlace> PlaceOfLine(const ProjectTables& tables, const SourceLin
       return place;
     }
     case SourcePart::PublicDeclarations:
-      place.What = RunPlace::Sort::Declarations;
+      place.What = ProgramPlace::Sort::Declarations;
       return place;
     case SourcePart::FormLines:
-      place.What = RunPlace::Sort::Property;
+      place.What = ProgramPlace::Sort::Property;
       place.Id = Kind::Form;
       place.Member = MemberOf(line_text);
       return place;
     case SourcePart::ObjectLines:
-      place.What = RunPlace::Sort::Property;
+      place.What = ProgramPlace::Sort::Property;
       place.Index = from.Number;
       place.Member = line_text.starts_with("Font.") ? "Font" : std::string(MemberOf(line_text));
       return place;
@@ -93,12 +93,12 @@ std::optional<RunPlace> PlaceOfLine(const ProjectTables& tables, const SourceLin
   return std::nullopt;
 }
 
-std::string PlaceText(const ProjectTables& tables, const RunPlace& place) {
+std::string PlaceText(const ProjectTables& tables, const ProgramPlace& place) {
   const FormRec* const form = tables.Form(place.Form);
   std::string text = form == nullptr ? std::string() : form->Name;
   const std::string line = ", line " + NumberText(std::int64_t{place.Line});
   switch (place.What) {
-    case RunPlace::Sort::Code: {
+    case ProgramPlace::Sort::Code: {
       if (place.Id != Kind::Form) {
         const std::string name = IsObjectKind(place.Id) ? NameOf(tables, place) : std::string();
         const bool item = place.Id == Kind::PopUpMenu && place.Of != Event::OnPopUp;
@@ -106,9 +106,9 @@ std::string PlaceText(const ProjectTables& tables, const RunPlace& place) {
       }
       return text.append(InfoOf(place.Of).Suffix).append(line);
     }
-    case RunPlace::Sort::Declarations:
+    case ProgramPlace::Sort::Declarations:
       return text.append(", public declarations").append(line);
-    case RunPlace::Sort::Property:
+    case ProgramPlace::Sort::Property:
       if (place.Id != Kind::Form) text.append(".").append(NameOf(tables, place));
       if (!place.Member.empty()) text.append(".").append(place.Member);
       return text;
@@ -116,4 +116,4 @@ std::string PlaceText(const ProjectTables& tables, const RunPlace& place) {
   return text;
 }
 
-}  // namespace tarnwick
+}  // namespace tarnwick::project
