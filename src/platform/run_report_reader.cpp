@@ -72,9 +72,9 @@ std::string Utf8Pieces::Take(std::string_view bytes) {
   return text;
 }
 
-RunEnd RunEndOf(int exit_code) noexcept {
-  const bool known = exit_code >= 0 && exit_code <= static_cast<int>(RunEnd::RunnerFault);
-  return known ? static_cast<RunEnd>(exit_code) : RunEnd::RunnerFault;
+RunnerEnd RunnerEndOf(int exit_code) noexcept {
+  const bool known = exit_code >= 0 && exit_code <= static_cast<int>(RunnerEnd::RunnerFault);
+  return known ? static_cast<RunnerEnd>(exit_code) : RunnerEnd::RunnerFault;
 }
 
 }  // namespace tarnwick

@@ -38,6 +38,6 @@ class Utf8Pieces {
 };
 
 /// How a run ended, by the runner's exit code.
-[[nodiscard]] RunEnd RunEndOf(int exit_code) noexcept;
+[[nodiscard]] RunnerEnd RunnerEndOf(int exit_code) noexcept;
 
 }  // namespace tarnwick

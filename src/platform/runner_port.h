@@ -27,7 +27,7 @@ struct RunMessage {
 };
 
 /// How a run ended, by the numbers that the runner exits with.
-enum class RunEnd : std::uint8_t {
+enum class RunnerEnd : std::uint8_t {
   Ended = 0,
   SourceFaulty = 1,
   BadUsage = 2,
@@ -49,7 +49,7 @@ class RunListener {
   /// The user asked the running program to show this place in the IDE.
   virtual void RunShows(const RunMessage& place) = 0;
   /// The last call of a run.
-  virtual void RunEnded(RunEnd how) = 0;
+  virtual void RunEnded(RunnerEnd how) = 0;
 };
 
 /// Starts and stops the runner, one program at a time.

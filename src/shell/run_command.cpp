@@ -84,7 +84,7 @@ bool RunCommand::IsOurs(const RunMessage& message) const {
   return EqualsFolded(FileNameOf(message.File), FileNameOf(source_));
 }
 
-void RunCommand::RunEnded(RunEnd how) {
+void RunCommand::RunEnded(RunnerEnd how) {
   state_.View->CommandsChanged();
   state_.Say(EndText(how));
   if (!std::exchange(compile_again_, false)) return;
@@ -112,13 +112,13 @@ std::string RunCommand::TextOf(const RunMessage& message) const {
   return text + message.Text;
 }
 
-std::string RunCommand::EndText(RunEnd how) const {
+std::string RunCommand::EndText(RunnerEnd how) const {
   const auto with_error = [&](std::string_view what) {
     return first_error_.empty() ? main_form_ + " stopped"
                                 : std::string(what).append(": ").append(first_error_);
   };
   switch (how) {
-    case RunEnd::Ended: {
+    case RunnerEnd::Ended: {
       std::string text = main_form_ + " ended";
       if (notes_ > 0) {
         text.append(". ").append(NumberText(std::int64_t{notes_}));
@@ -126,15 +126,15 @@ std::string RunCommand::EndText(RunEnd how) const {
       }
       return text;
     }
-    case RunEnd::SourceFaulty:
+    case RunnerEnd::SourceFaulty:
       return with_error("Not started");
-    case RunEnd::RunTimeError:
+    case RunnerEnd::RunTimeError:
       return with_error("Stopped");
-    case RunEnd::Limit:
-    case RunEnd::Stopped:
+    case RunnerEnd::Limit:
+    case RunnerEnd::Stopped:
       return main_form_ + " stopped";
-    case RunEnd::BadUsage:
-    case RunEnd::RunnerFault:
+    case RunnerEnd::BadUsage:
+    case RunnerEnd::RunnerFault:
       break;
   }
   return "The runner failed while " + main_form_ + " ran";

@@ -65,7 +65,7 @@ class RunCommand final : public RunListener {
   void RunOutput(std::string_view text) override;
   void RunMessaged(const RunMessage& message) override;
   void RunShows(const RunMessage& place) override;
-  void RunEnded(RunEnd how) override;
+  void RunEnded(RunnerEnd how) override;
 
  private:
   /// True when a message is about the source that runs, not about a file that it includes.
@@ -73,7 +73,7 @@ class RunCommand final : public RunListener {
   bool GoToLine(int source_line);
   [[nodiscard]] std::optional<project::ProgramPlace> PlaceOf(int source_line) const;
   [[nodiscard]] std::string TextOf(const RunMessage& message) const;
-  [[nodiscard]] std::string EndText(RunEnd how) const;
+  [[nodiscard]] std::string EndText(RunnerEnd how) const;
   void GoTo(const project::ProgramPlace& place);
   void ShowLines() {
     if (view_ != nullptr) view_->RunLinesChanged();

@@ -34,7 +34,7 @@ class FakeRunner final : public RunnerPort {
     listener_->RunMessaged({severity, Last.Source, line, 1, 1, std::move(text)});
   }
   void Tell(const RunMessage& message) { listener_->RunMessaged(message); }
-  void End(RunEnd how) { std::exchange(listener_, nullptr)->RunEnded(how); }
+  void End(RunnerEnd how) { std::exchange(listener_, nullptr)->RunEnded(how); }
 
  private:
   CallLog* log_;

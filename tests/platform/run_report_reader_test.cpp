@@ -24,7 +24,7 @@ class Listener final : public RunListener {
     Heard.emplace_back("show");
     Messages.push_back(place);
   }
-  void RunEnded(RunEnd /*how*/) override { Heard.emplace_back("end"); }
+  void RunEnded(RunnerEnd /*how*/) override { Heard.emplace_back("end"); }
 };
 
 TEST(RunReportReader, AMessageHasItsFields) {
@@ -84,12 +84,12 @@ TEST(Utf8Pieces, CutCharactersWaitForTheirRest) {
             "c");
 }
 
-TEST(RunEnd, UnknownCodesAreFaultsOfTheRunner) {
-  EXPECT_EQ(RunEndOf(0), RunEnd::Ended);
-  EXPECT_EQ(RunEndOf(3), RunEnd::RunTimeError);
-  EXPECT_EQ(RunEndOf(6), RunEnd::RunnerFault);
-  EXPECT_EQ(RunEndOf(127), RunEnd::RunnerFault);
-  EXPECT_EQ(RunEndOf(-1), RunEnd::RunnerFault);
+TEST(RunnerEnd, UnknownCodesAreFaultsOfTheRunner) {
+  EXPECT_EQ(RunnerEndOf(0), RunnerEnd::Ended);
+  EXPECT_EQ(RunnerEndOf(3), RunnerEnd::RunTimeError);
+  EXPECT_EQ(RunnerEndOf(6), RunnerEnd::RunnerFault);
+  EXPECT_EQ(RunnerEndOf(127), RunnerEnd::RunnerFault);
+  EXPECT_EQ(RunnerEndOf(-1), RunnerEnd::RunnerFault);
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ class Listener final : public RunListener {
   std::string Output;
   std::vector<std::string> Messages;
   bool Started = false;
-  std::vector<RunEnd> Ends;
+  std::vector<RunnerEnd> Ends;
   std::function<void()> OnEnded;
 
   void RunStarted() override { Started = true; }
@@ -30,7 +30,7 @@ class Listener final : public RunListener {
   void RunShows(const RunMessage& place) override {
     Messages.push_back("show " + std::to_string(place.Line));
   }
-  void RunEnded(RunEnd how) override {
+  void RunEnded(RunnerEnd how) override {
     Ends.push_back(how);
     if (OnEnded) OnEnded();
   }
@@ -69,7 +69,7 @@ TEST_F(RunnerProcessTest, ReportOutputAndEndReachTheListener) {
   EXPECT_TRUE(listener.Started);
   EXPECT_EQ(listener.Output, "h\xE9llo\n");
   EXPECT_EQ(listener.Messages, std::vector<std::string>{"/p/a.com:3:some text"});
-  EXPECT_EQ(listener.Ends, std::vector<RunEnd>{RunEnd::RunTimeError});
+  EXPECT_EQ(listener.Ends, std::vector<RunnerEnd>{RunnerEnd::RunTimeError});
   EXPECT_FALSE(runner.Running());
 }
 
@@ -80,7 +80,7 @@ TEST_F(RunnerProcessTest, TheWordsOfTheCommandLineAreThoseOfTheRunner) {
   EXPECT_EQ(listener.Output,
             "--with-ide|--report=tab|--program-folder|Z:\\opt\\t|--exe-name|Z:\\p\\a.exe|"
             "Z:\\p\\a.com|");
-  EXPECT_EQ(listener.Ends, std::vector<RunEnd>{RunEnd::Ended});
+  EXPECT_EQ(listener.Ends, std::vector<RunnerEnd>{RunnerEnd::Ended});
 }
 
 TEST_F(RunnerProcessTest, StopIsAWordOnItsInput) {
@@ -88,7 +88,7 @@ TEST_F(RunnerProcessTest, StopIsAWordOnItsInput) {
   ASSERT_TRUE(runner.Start(request, listener));
   runner.Stop();
   ASSERT_TRUE(WaitForEnd());
-  EXPECT_EQ(listener.Ends, std::vector<RunEnd>{RunEnd::Stopped});
+  EXPECT_EQ(listener.Ends, std::vector<RunnerEnd>{RunnerEnd::Stopped});
 }
 
 TEST_F(RunnerProcessTest, AProgramThatDoesNotStopIsEndedAfterTwoSeconds) {
@@ -99,14 +99,14 @@ TEST_F(RunnerProcessTest, AProgramThatDoesNotStopIsEndedAfterTwoSeconds) {
   runner.Stop();
   ASSERT_TRUE(WaitForEnd());
   EXPECT_GE(time.elapsed(), 1900);
-  EXPECT_EQ(listener.Ends, std::vector<RunEnd>{RunEnd::Stopped});
+  EXPECT_EQ(listener.Ends, std::vector<RunnerEnd>{RunnerEnd::Stopped});
 }
 
 TEST_F(RunnerProcessTest, ARunnerThatDiesIsAFault) {
   RunnerProcess runner(Script("kill -9 $$\n"));
   ASSERT_TRUE(runner.Start(request, listener));
   ASSERT_TRUE(WaitForEnd());
-  EXPECT_EQ(listener.Ends, std::vector<RunEnd>{RunEnd::RunnerFault});
+  EXPECT_EQ(listener.Ends, std::vector<RunnerEnd>{RunnerEnd::RunnerFault});
 }
 
 TEST_F(RunnerProcessTest, WithoutARunnerNothingStarts) {

@@ -94,7 +94,7 @@ TEST_F(RunCommandTest, AFaultySourceIsNamedByItsPlace) {
   Compile();
   runner.Tell(RunSeverity::Error, LineOf("a = Lable1"), "\"Lable1\" is not declared");
   runner.Tell(RunSeverity::Error, 1, "another");
-  runner.End(RunEnd::SourceFaulty);
+  runner.End(RunnerEnd::SourceFaulty);
   EXPECT_EQ(view.Status, "Not started: Form1.Push.OnClick, line 2: \"Lable1\" is not declared");
 }
 
@@ -102,7 +102,7 @@ TEST_F(RunCommandTest, ARunTimeErrorStopsWithItsPlace) {
   Compile();
   runner.Begin();
   runner.Tell(RunSeverity::Error, LineOf("Dim b As Integer"), "no");
-  runner.End(RunEnd::RunTimeError);
+  runner.End(RunnerEnd::RunTimeError);
   EXPECT_EQ(view.Status, "Stopped: Form1, public declarations, line 1: no");
 }
 
@@ -128,12 +128,12 @@ TEST_F(RunCommandTest, LinesWithoutAPlaceAndOtherFilesKeepTheirNumbers) {
 TEST_F(RunCommandTest, TheEndTellsHowManyNotesThereWere) {
   Compile();
   runner.Begin();
-  runner.End(RunEnd::Ended);
+  runner.End(RunnerEnd::Ended);
   EXPECT_EQ(view.Status, "Form1 ended");
   Compile();
   runner.Tell(RunSeverity::Note, 1, "a");
   runner.Tell(RunSeverity::Note, 1, "b");
-  runner.End(RunEnd::Ended);
+  runner.End(RunnerEnd::Ended);
   EXPECT_EQ(view.Status, "Form1 ended. 2 notes");
 }
 
@@ -143,7 +143,7 @@ TEST_F(RunCommandTest, StopIsOnWhileAProgramRuns) {
   EXPECT_TRUE(main.Commands().State(Command::Stop).Enabled);
   main.Commands().Run(Command::Stop);
   EXPECT_EQ(log().Count("stop run"), 1U);
-  runner.End(RunEnd::Stopped);
+  runner.End(RunnerEnd::Stopped);
   EXPECT_EQ(view.Status, "Form1 stopped");
   EXPECT_FALSE(main.Commands().State(Command::Stop).Enabled);
 }
@@ -156,7 +156,7 @@ TEST_F(RunCommandTest, ASecondF5StopsTheProgramAndStartsItAgainAfterItsEnd) {
   EXPECT_EQ(log().Count("stop run"), 1U);
   EXPECT_EQ(log().Count("run "), 0U);
   EXPECT_EQ(log().Count("replace"), 0U);
-  runner.End(RunEnd::Stopped);
+  runner.End(RunnerEnd::Stopped);
   ExpectOrder({"stop run", "replace Z:\\p\\a.com", "run Z:\\p\\a.com"});
   EXPECT_TRUE(runner.Running());
 }
@@ -166,7 +166,7 @@ TEST_F(RunCommandTest, AStopAfterTheSecondF5StartsNothing) {
   Compile();
   main.Commands().Run(Command::Stop);
   log().Clear();
-  runner.End(RunEnd::Stopped);
+  runner.End(RunnerEnd::Stopped);
   EXPECT_EQ(log().Count("run "), 0U);
 }
 
@@ -192,7 +192,7 @@ TEST_F(RunCommandTest, PrintedPiecesBecomeLines) {
 TEST_F(RunCommandTest, TheNextRunStartsWithNoLines) {
   Compile();
   runner.Print("old\n");
-  runner.End(RunEnd::Ended);
+  runner.End(RunnerEnd::Ended);
   Compile();
   EXPECT_TRUE(Shown().empty());
 }
@@ -200,7 +200,7 @@ TEST_F(RunCommandTest, TheNextRunStartsWithNoLines) {
 TEST_F(RunCommandTest, AJumpIntoCodeOpensTheEditorAtEventAndLine) {
   Compile();
   runner.Tell(RunSeverity::Error, LineOf("a = Lable1"), "no");
-  runner.End(RunEnd::SourceFaulty);
+  runner.End(RunnerEnd::SourceFaulty);
   log().Clear();
   EXPECT_TRUE(main.Runner().Jump(0));
   ExpectOrder({"windows open code", "windows line 2"});

@@ -107,9 +107,9 @@ void RunnerProcess::Ended(int code, bool crashed) {
   const std::unique_ptr<Run> run = std::move(run_);
   if (run == nullptr) return;
   run->Process->deleteLater();
-  const RunEnd how = crashed && run->Stopped ? RunEnd::Stopped
-                     : crashed               ? RunEnd::RunnerFault
-                                             : RunEndOf(code);
+  const RunnerEnd how = crashed && run->Stopped ? RunnerEnd::Stopped
+                        : crashed               ? RunnerEnd::RunnerFault
+                                                : RunnerEndOf(code);
   run->Listener.RunEnded(how);
 }
 
