@@ -71,7 +71,7 @@ void MemoryOfSteps(benchmark::State& state) {
     state.counters["MiB"] = static_cast<double>(mallinfo2().uordblks - before) / (1024.0 * 1024.0);
   }
 }
-BENCHMARK(MemoryOfSteps)->ArgName("deletes")->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(MemoryOfSteps)->ArgName("deletes")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 void UndoAndRedo(benchmark::State& state) {
   LargeForm form;

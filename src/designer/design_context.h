@@ -35,7 +35,7 @@ struct DesignContext {
   /// False while a project is read, and while the code editor is open, which then comes to the
   /// front: presses and keys have no effect meanwhile.
   [[nodiscard]] bool Ready() const;
-  /// True for a control that stands on the form and is no template.
+  /// True for a control of the form that is no template.
   [[nodiscard]] bool IsLive(const ControlRef& control) const noexcept;
   /// The name of a step of the history: the action and the selected object, or the form.
   [[nodiscard]] std::string StepName(std::string_view action) const;

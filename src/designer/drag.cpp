@@ -20,7 +20,7 @@ constexpr std::array<HandleInfo, kHandleCount> kHandles{{
 /// Handles are placed in this order, corner and opposite corner in turn.
 constexpr std::array<int, kHandleCount> kPlacingOrder{0, 4, 1, 5, 2, 6, 3, 7};
 
-/// Place of a handle along one axis: on the near edge, the far edge, or between them. Half a pixel
+/// Position of a handle along one axis: on the near edge, the far edge, or between them. Half a pixel
 /// pulls it into the control, so that it sits on the border and not beside it.
 float PlaceAlong(bool near_edge, bool far_edge, std::int32_t start, std::int32_t length, int half,
                  std::int32_t pull) noexcept {
@@ -90,7 +90,7 @@ void Drag::Move() {
 void Drag::Finish() {
   if (mode_ == DragMode::None) return;
   DrawRubberBand();
-  // An unmoved outline is not written back: a place that is no whole number of pixels would be
+  // An unmoved outline is not written back: a position that is no whole number of pixels would be
   // rounded by it, and a mere press leaves a control where it is.
   if (DragControl && !(rect_ == start_)) {
     rect_.ScreenToTwips(gesture_.ClientOrigin());

@@ -59,7 +59,7 @@ class Drag {
   /// Draws the outline; a second call erases it.
   void DrawRubberBand();
   /// Shows the handles on the drag control, or hides them where they are. Without a drag control
-  /// they come up at their old places.
+  /// they come up at their old positions.
   void ShowHandles(bool show);
 
  private:

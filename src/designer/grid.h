@@ -19,9 +19,9 @@ void ForEachGridPoint(Visit visit) {
   }
 }
 
-/// A place in twips moved to the nearest grid line; exact half goes down.
+/// A position in twips moved to the nearest grid line; exact half goes down.
 [[nodiscard]] float SnapToGrid(float twips) noexcept;
-/// The grid line beyond a place, twips: the next greater one, or the next smaller one.
+/// The grid line beyond a position, twips: the next greater one, or the next smaller one.
 [[nodiscard]] float NextGridLine(float twips, bool upward) noexcept;
 
 }  // namespace tarnwick

@@ -1,4 +1,4 @@
-// What lies at a place of a design window.
+// What lies at a position of a design window.
 #pragma once
 
 #include <vector>
@@ -16,10 +16,10 @@ struct Hit {
   int Handle = -1;
   ControlRef Object;  ///< null for the empty form
 };
-/// The topmost thing at a place in twips: what the user sees there takes the press.
+/// The topmost thing at a position in twips: what the user sees there takes the press.
 [[nodiscard]] Hit HitTest(const DesignForm& form, float x, float y);
 
-/// The first visible object of the collection that covers a place, the way a press that placed an
+/// The first visible object of the collection that covers a position, the way a press that placed an
 /// object looks for one to drag; null when there is none.
 [[nodiscard]] ControlRef FirstObjectUnder(const DesignForm& form, float x, float y);
 

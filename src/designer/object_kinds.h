@@ -30,14 +30,14 @@ ControlRef LoadObject(ProjectTables& tables, DesignForm& form, Kind kind,
 void TakeTabOrder(ProjectTables& tables, DesignForm& form, const DesignControl& control,
                   TabRule rule);
 
-/// A new object at a place in twips: element, record with its defaults, and an empty entry for
-/// each of the eleven object events under the object's name. Nobody reads entries under that
-/// name: code is kept under kind word and index, and comes there when it is first stored.
+/// A new object at a position in twips: element, record with its defaults, and an empty entry for
+/// each of the eleven object events under the object's name. Entries under that name are not
+/// read: code is kept under kind word and index, and comes there when it is first stored.
 ControlRef CreateObject(ProjectTables& tables, DesignForm& form, Kind kind, float x, float y);
 /// Takes an object off the form: the entries under its name go, the control is unloaded. Its
 /// record stays where it is.
 void DeleteObject(ProjectTables& tables, DesignForm& form, const ControlRef& control);
-/// Writes place and size of a TransparentFrame into the record of its form, pixels.
+/// Writes position and size of a TransparentFrame into the record of its form, pixels.
 void StoreFramePlace(FormRec& record, const DesignControl& frame);
 
 }  // namespace tarnwick

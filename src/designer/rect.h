@@ -44,7 +44,7 @@ class CRect {
 
   /// Takes a control's rectangle, twips.
   void SetRectToCtrl(const DesignControl& control) noexcept;
-  /// Takes the ends of a line, twips; the flags tell which of them were reversed.
+  /// Takes the ends of a line, twips; the flags say which of them were reversed.
   void SetRectToLine(float x1, float y1, float x2, float y2) noexcept;
   /// Normalises, then gives the control this rectangle. What the rule of `name_objet` keeps comes
   /// from `control_sel`.

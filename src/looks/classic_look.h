@@ -18,7 +18,7 @@ inline constexpr QColor kGreyText{0x80, 0x80, 0x80};
 /// A one-pixel frame, one colour for left and top, the other for right and bottom.
 void DrawFrame(QPainter& painter, const QRect& rect, const QColor& top_left,
                const QColor& bottom_right);
-/// The two-pixel edge of a button that stands out; the face is filled with `face`.
+/// The two-pixel edge of a raised button; the face is filled with `face`.
 void DrawRaised(QPainter& painter, const QRect& rect, const QColor& face);
 /// The two-pixel edge of a field that lies in; the inside is filled with `paper`.
 void DrawSunken(QPainter& painter, const QRect& rect, const QColor& paper);

@@ -53,8 +53,8 @@ Codes TakeFormCodes(EventCodeTable& table, std::string_view form_key) {
   return codes;
 }
 
-/// Writes the text and reads it back. The file is what a crash leaves of the form; when it is not
-/// there, or another instance of the program has put its own in its place, the text itself serves.
+/// Writes the text and reads it back. The file is what a crash leaves of the form; when it cannot
+/// be read, or another instance of the program has replaced it, the text itself is used.
 std::string ThroughFile(FilePort& files, const std::string& path, std::string text) {
   if (!files.Replace(path, text)) return text;
   std::optional<std::string> back = files.Read(path);

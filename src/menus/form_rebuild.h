@@ -10,10 +10,10 @@ namespace tarnwick::menus {
 /// this menu, to "\~1.txt" in the program folder, and read back into its own number, so that it is
 /// then what its saved file would make of it. No row with text means no menu.
 ///
-/// The old window goes when the new one stands; it comes up where the old one stood, with the form
-/// as its selection, and a lock stays. Form files are not touched, and a temporary text that cannot
-/// be written or read back costs nothing: its words are still at hand. False, and nothing changed,
-/// for a number without a form.
+/// The old window is closed when the new form could be read; the new one is shown in its position
+/// and state, with the form selected, and a lock stays. Form files are not touched. When the
+/// temporary text cannot be written or read back the form is made from the text in memory. Returns
+/// false, and changes nothing, for a number without a form.
 bool RebuildFormWithMenu(project::ProjectContext& context, int form, const Rows& rows);
 
 }  // namespace tarnwick::menus

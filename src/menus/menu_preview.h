@@ -27,7 +27,7 @@ struct PreviewMenu {
 /// those of the program. Empty rows, and nested ones ahead of the first top-level row, are not
 /// in it.
 [[nodiscard]] std::vector<PreviewMenu> PreviewOf(const MenuDesign& design, const Rows& rows);
-/// The place of the menu that a row belongs to, as head or as item; -1 for none.
+/// The index of the menu that a row belongs to, as head or as item; -1 for none.
 [[nodiscard]] int PreviewMenuOf(const std::vector<PreviewMenu>& menus, int row) noexcept;
 
 }  // namespace tarnwick::menus

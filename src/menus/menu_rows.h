@@ -11,7 +11,7 @@ namespace tarnwick::menus {
 
 using Rows = std::vector<std::string>;
 
-/// Fills the menu arrays anew from the rows of a designer; empty rows are passed over.
+/// Refills the menu arrays from the rows of a designer; empty rows are passed over.
 void ParseMenuRows(ProjectTables& tables, const Rows& rows);
 /// Builds the visible menu of a form from the menu arrays; the entries of `MenuRows` that have
 /// been used are emptied.
@@ -21,7 +21,7 @@ void ClearFormMenu(ProjectTables& tables, DesignForm& window);
 /// The rows of a form's own menu bar: each title, followed by its items.
 [[nodiscard]] Rows RowsOfFormMenu(const DesignForm& window);
 
-/// Fills a popup menu anew from rows: top-level rows with the sub-items under them. A nested row
+/// Refills a popup menu from rows: top-level rows with the sub-items under them. A nested row
 /// ahead of the first top-level row hangs under nothing and is dropped.
 void ParsePopUpRows(PopUpFormRec& popup, const Rows& rows);
 [[nodiscard]] Rows RowsOfPopUp(const PopUpFormRec& popup);

@@ -75,6 +75,8 @@ FormReadResult ReadFormTextInto(ProjectContext& context, std::string_view text, 
     return result;
   }
   if (current) tables.CurrentForm = tables.FormsUser[slot].get();
+  // The old window is still there for those who close what they built over it.
+  context.Observer.FormClosing(form);
   context.Observer.FormOpened(form);
   context.Observer.EventsBarChanged(form);
   return result;

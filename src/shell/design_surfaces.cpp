@@ -26,8 +26,6 @@ FormUser* DesignSurfaces::Current() {
 }
 
 void DesignSurfaces::FormOpened(int form) {
-  // A form that was read back into its number has a new window, maybe at the old one's address.
-  FormClosing(form);
   static_cast<void>(Of(form));
 }
 

@@ -10,8 +10,7 @@
 
 namespace tarnwick {
 
-/// One `FormUser` for each design window, made when the form opens and gone with it. A form that
-/// was read back into its own number has a new window, and gets a new surface.
+/// One `FormUser` for each design form, made when the form opens and gone when it closes.
 class DesignSurfaces final : public ProjectObserver {
  public:
   DesignSurfaces(ShellState& state, DesignerHost& host) : state_(state), host_(host) {}

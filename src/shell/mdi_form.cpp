@@ -99,7 +99,7 @@ MDIForm1::MDIForm1(const Ports& ports, InstanceFolderPort& instances, std::strin
 MDIForm1::~MDIForm1() = default;
 
 void MDIForm1::AddObserver(ProjectObserver& observer) {
-  rooms_->State.Observer.AddFirst(observer);
+  rooms_->State.Observer.Add(observer);
 }
 
 void MDIForm1::Load(const ShellWindows& windows) {

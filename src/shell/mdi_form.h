@@ -40,8 +40,9 @@ class MDIForm1 {
   ~MDIForm1();
 
   // Start and end.
-  /// Adds a listener that hears of each change of the project before the design surfaces do, so
-  /// that it can build a form's window first. It outlives every command.
+  /// Adds a listener to the changes of the project. It is notified after the design surfaces, so
+  /// that it can build the window of a form that opened over the form's logic. It outlives every
+  /// command.
   void AddObserver(ProjectObserver& observer);
   /// The load of the main window: titles, disabled commands, the start of `Time`. The windows
   /// serve every command from now on.

@@ -12,8 +12,6 @@ namespace tarnwick {
 class ObserverHub final : public ProjectObserver {
  public:
   void Add(ProjectObserver& listener) { listeners_.push_back(&listener); }
-  /// Adds a listener that is told before all others.
-  void AddFirst(ProjectObserver& listener) { listeners_.insert(listeners_.begin(), &listener); }
 
   void FormOpened(int form) override;
   void FormClosing(int form) override;

@@ -64,8 +64,8 @@ class ShellView {
   virtual void RestoreFocus() = 0;
   /// Shows or hides one design window without choosing it.
   virtual void SetFormVisible(int form, bool visible) = 0;
-  /// What the gestures on a form's design window ask of the platform. The reference stays good
-  /// until the form closes.
+  /// What the gestures on a form's design window ask of the platform. It is asked for before the
+  /// window is made; the reference stays good.
   [[nodiscard]] virtual GesturePort& Gestures(int form) = 0;
 
   /// True when the file is a picture or an icon that can be shown.

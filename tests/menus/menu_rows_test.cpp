@@ -73,7 +73,7 @@ TEST(ParseMenuRows, FillsTitlesItemsAndRows) {
   EXPECT_EQ(tables.MenuItems[3].Parent, 2);
 }
 
-TEST(ParseMenuRows, FillsTheArraysAnewEachTime) {
+TEST(ParseMenuRows, RefillsTheArraysEachTime) {
   ProjectTables tables;
   ParseMenuRows(tables, {"A    (a)", "...B    (b)"});
   ParseMenuRows(tables, {"C    (c)"});

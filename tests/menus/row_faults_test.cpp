@@ -24,35 +24,35 @@ TEST(RowFaults, AGoodRowAndAnEmptyOneHaveNone) {
   }
 }
 
-TEST(RowFaults, AnEmptyNameIsTold) {
+TEST(RowFaults, AnEmptyNameIsAFault) {
   EXPECT_EQ(Fault("&File    ()"), "The name is empty.");
 }
 
-TEST(RowFaults, AnEmptyNameOfASeparatorIsToldAsWell) {
+TEST(RowFaults, AnEmptyNameOfASeparatorIsAFaultAsWell) {
   EXPECT_EQ(Fault("...-    ()"), "The name is empty.");
 }
 
-TEST(RowFaults, ANameThatIsNoIdentifierIsTold) {
+TEST(RowFaults, ANameThatIsNoIdentifierIsAFault) {
   EXPECT_EQ(Fault("&File    (my name)"), "The name my name is no name of the language.");
   EXPECT_EQ(Fault("&File    (1st)"), "The name 1st is no name of the language.");
 }
 
-TEST(RowFaults, AWordOfTheLanguageIsTold) {
+TEST(RowFaults, AWordOfTheLanguageIsAFault) {
   EXPECT_EQ(Fault("&End    (End)"), "The name End is a word of the language.");
 }
 
-TEST(RowFaults, ADoubledNameIsToldInBothRowsWithoutRegardToCase) {
+TEST(RowFaults, ADoubledNameIsAFaultOfBothRowsWithoutRegardToCase) {
   const auto faults = BarFaults({"A    (mnuA)", "B    (MNUA)"});
   EXPECT_EQ(faults.at(0), "The name mnuA stands twice in this menu.");
   EXPECT_EQ(faults.at(1), "The name MNUA stands twice in this menu.");
 }
 
-TEST(RowFaults, ANameOfTheRestOfTheProjectIsTold) {
+TEST(RowFaults, ANameOfTheRestOfTheProjectIsAFault) {
   EXPECT_EQ(Fault("&File    (button1)", {"Button1"}),
             "The name button1 is used elsewhere in the project.");
 }
 
-TEST(RowFaults, BracketsInTheCaptionAreTold) {
+TEST(RowFaults, BracketsInTheCaptionAreAFault) {
   const std::string told = "It holds brackets: its caption and its name end at the first one.";
   EXPECT_EQ(Fault("Copy (all)    (mnuCopy)"), told);
   EXPECT_EQ(Fault("a) b    (c)"), told);
@@ -60,12 +60,12 @@ TEST(RowFaults, BracketsInTheCaptionAreTold) {
   EXPECT_EQ(Fault("a    (b    (c)"), told);
 }
 
-TEST(RowFaults, BracketsInTheNameAreTold) {
+TEST(RowFaults, BracketsInTheNameAreAFault) {
   EXPECT_EQ(Fault("Copy    (mnu(1))"),
             "It holds brackets: its caption and its name end at the first one.");
 }
 
-TEST(RowFaults, ANestedRowAheadOfTheFirstTitleIsTold) {
+TEST(RowFaults, ANestedRowAheadOfTheFirstTitleIsAFault) {
   EXPECT_EQ(BarFaults({"", "...Lost    (lost)", "Top    (top)", "...Here    (here)"}),
             (std::vector<std::string>{"", "It has no title above it and is left out of the menu.",
                                       "", ""}));
@@ -73,14 +73,14 @@ TEST(RowFaults, ANestedRowAheadOfTheFirstTitleIsTold) {
             "It has no item above it and is left out of the menu.");
 }
 
-TEST(RowFaults, AQuoteAndACharacterOfTheFileAreTold) {
+TEST(RowFaults, AQuoteAndACharacterOfTheFileAreFaults) {
   EXPECT_EQ(Fault("Say \"x\"    (say)"),
             "The caption has a double quote, which ends it in the program.");
   EXPECT_EQ(Fault("\x8Cuvre    (say)"),
             "The caption has a character that the form file cannot keep.");
 }
 
-TEST(RowFaults, ADeeperRowIsGoodInAMenuBarAndToldInAPopUpMenu) {
+TEST(RowFaults, ADeeperRowIsGoodInAMenuBarAndAFaultInAPopUpMenu) {
   EXPECT_EQ(Fault("......Deep    (deep)"), "");
   EXPECT_EQ(FaultsOfRows(PopUpDesign(), {"A    (a)", "......Deep    (deep)"}, {}).at(1),
             "A popup menu has one level of sub-items: the dots become part of the caption.");

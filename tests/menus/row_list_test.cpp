@@ -116,7 +116,7 @@ TEST(RowList, DepthGoesUpToTwoPrefixesAndBackToNone) {
   EXPECT_EQ(list.Selected(), 0);
 }
 
-TEST(RowList, AnEmptyRowCanBeToldToTakeLessDepthThanTheRowAbove) {
+TEST(RowList, AnEmptyRowCanBeGivenLessDepthThanTheRowAbove) {
   RowList list = BarList({"A    (a)", "...B    (b)"});
   list.Select(2);
   list.Outdent();
@@ -188,7 +188,7 @@ TEST(RowList, DelItemRemovesTheRowAndSelectsTheOneThatFollows) {
   EXPECT_EQ(list.Selected(), 1);
 }
 
-TEST(RowList, DelItemToTheEndLeavesAnEmptyListThatTakesNothingAmiss) {
+TEST(RowList, DelItemToTheEndLeavesAnEmptyListOnWhichEveryStepIsSafe) {
   RowList list = BarList();
   for (int press = 0; press < 4; ++press) list.DeleteRow();
   EXPECT_TRUE(list.ListMenu().empty());

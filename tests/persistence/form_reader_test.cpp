@@ -532,7 +532,8 @@ TEST(FormReader, ReadingBackIntoANumberKeepsListFileAndCount) {
   EXPECT_EQ(project.User().UBound(Kind::Button), 0);
   EXPECT_EQ(project.User().UBound(Kind::Label), 1);
   EXPECT_EQ(project.Tables.CurrentForm, &project.User());
-  EXPECT_EQ(project.Ports.Log.Entries(), (std::vector<std::string>{"opened 1", "bar 1"}))
+  EXPECT_EQ(project.Ports.Log.Entries(),
+            (std::vector<std::string>{"closing 1", "opened 1", "bar 1"}))
       << "the views hear of the new window";
 }
 

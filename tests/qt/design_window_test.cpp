@@ -2,7 +2,7 @@
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QImage>
-#include <QLineEdit>
+#include <QMenu>
 #include <QScrollBar>
 #include <QTest>
 
@@ -133,17 +133,6 @@ TEST(DesignWindows, APressOnAHandleWithoutAMoveKeepsTheSize) {
   EXPECT_EQ(RectOf(*image), before);
 }
 
-TEST(DesignWindows, HandlesFollowAnEditOfThePlace) {
-  Program program;
-  program.Place(0, kPlace);
-  auto& cell = program.Find<QLineEdit>(QStringLiteral("Text_0"));
-  static_cast<void>(cell);
-  DesignControl& button = *program.Selected();
-  button.Left = 30 * 15;
-  program.Shell().User(1)->Selection().ControlsMoved();
-  EXPECT_NEAR(program.Form().Element(Kind::Handle, 0)->Left, 30 * 15, 60);
-}
-
 TEST(DesignWindows, TheFormToolLeavesTheFormUnlockedAndNothingSelected) {
   Program program;
   program.Place(0, kPlace);
@@ -199,6 +188,80 @@ TEST(Access, ADeletedObjectIsNoChildAnyMore) {
   EXPECT_FALSE(button->isValid());
   program.Shell().Undo();
   EXPECT_EQ(form->childCount(), 1);
+}
+
+/// The child of an interface with this name; null without one.
+QAccessibleInterface* ChildNamed(QAccessibleInterface* parent, const QString& name) {
+  for (int i = 0; i < parent->childCount(); ++i) {
+    QAccessibleInterface* const child = parent->child(i);
+    if (child != nullptr && child->text(QAccessible::Name) == name) return child;
+  }
+  return nullptr;
+}
+
+void Act(QAccessibleInterface* access, const QString& action) {
+  ASSERT_NE(access, nullptr);
+  ASSERT_NE(access->actionInterface(), nullptr);
+  ASSERT_TRUE(access->actionInterface()->actionNames().contains(action));
+  access->actionInterface()->doAction(action);
+}
+
+TEST(Access, AWindowHasTheButtonsOfItsFrame) {
+  Program program;
+  DesignWindow& window = WindowOf(program);
+  QAccessibleInterface* access = QAccessible::queryAccessibleInterface(&window);
+  ASSERT_NE(access, nullptr);
+  EXPECT_EQ(access->role(), QAccessible::Window);
+  EXPECT_EQ(access->text(QAccessible::Name), "Form1");
+  EXPECT_GE(access->indexOfChild(QAccessible::queryAccessibleInterface(&program.Surface())), 0);
+  QAccessibleInterface* maximise = ChildNamed(access, QStringLiteral("Maximise"));
+  ASSERT_NE(maximise, nullptr);
+  EXPECT_EQ(maximise->role(), QAccessible::PushButton);
+  EXPECT_EQ(maximise->parent(), access);
+  EXPECT_EQ(access->child(access->indexOfChild(maximise)), maximise);
+  const QPoint middle = maximise->rect().center();
+  EXPECT_EQ(access->childAt(middle.x(), middle.y()), maximise);
+  EXPECT_EQ(window.Frame().PartAt(window.mapFromGlobal(middle)), FramePart::Maximise);
+  Act(maximise, QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(window.State(), WindowState::Maximised);
+  EXPECT_EQ(maximise->text(QAccessible::Name), "Restore");
+  Act(maximise, QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(window.State(), WindowState::Normal);
+  QAccessibleInterface* minimise = ChildNamed(access, QStringLiteral("Minimise"));
+  Act(minimise, QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(window.State(), WindowState::Minimised);
+  Act(minimise, QAccessibleActionInterface::pressAction());
+  Act(ChildNamed(access, QStringLiteral("Close")), QAccessibleActionInterface::pressAction());
+  EXPECT_FALSE(window.isVisible());
+}
+
+TEST(Access, AFrameWithoutButtonsHasNone) {
+  Program program;
+  DesignWindow& window = WindowOf(program);
+  QAccessibleInterface* access = QAccessible::queryAccessibleInterface(&window);
+  const int with_buttons = access->childCount();
+  program.Shell().User(1)->Frame().borderstylea(0);
+  EXPECT_EQ(access->childCount(), with_buttons - 3);
+  EXPECT_EQ(ChildNamed(access, QStringLiteral("Close")), nullptr);
+}
+
+TEST(Access, ThePopUpMenuOfAnObjectHasItsRows) {
+  Program program;
+  program.Place(0, kPlace);
+  program.Click(program.Surface(), {110, 110}, Qt::RightButton);
+  auto& menu = program.Find<QMenu>(QStringLiteral("ObjectPopUp"));
+  ASSERT_TRUE(menu.isVisible());
+  QAccessibleInterface* access = QAccessible::queryAccessibleInterface(&menu);
+  ASSERT_NE(access, nullptr);
+  EXPECT_EQ(access->role(), QAccessible::PopupMenu);
+  EXPECT_FALSE(access->text(QAccessible::Name).isEmpty());
+  QAccessibleInterface* copy = ChildNamed(access, QStringLiteral("Copy"));
+  ASSERT_NE(copy, nullptr);
+  EXPECT_EQ(copy->role(), QAccessible::MenuItem);
+  Act(copy, QAccessibleActionInterface::pressAction());
+  menu.close();
+  program.Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(program.Form().UBound(Kind::Button), 2);
 }
 
 }  // namespace

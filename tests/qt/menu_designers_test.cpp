@@ -1,5 +1,6 @@
 // Both menu designers and the menu bar of a design form, by real keys and presses.
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
@@ -21,6 +22,7 @@
 #include "program.h"
 #include "qt/menus/menu_preview_view.h"
 #include "qt/surface/container.h"
+#include "qt/surface/window_frame.h"
 #include "shell/events_bar.h"
 
 namespace tarnwick {
@@ -121,6 +123,14 @@ class MenuDesigners : public testing::Test {
     });
     EXPECT_NE(found, windows.end());
     return **found;
+  }
+  /// Types into the open code editor and accepts.
+  void TypeCode(const std::string& text) {
+    ASSERT_TRUE(Code().isVisible());
+    ASSERT_TRUE(TakesKeys(Code()));
+    program.Type(QString::fromStdString(text));
+    program.Key(Qt::Key_Return, Qt::ControlModifier);
+    ASSERT_FALSE(Code().isVisible());
   }
   QAbstractButton& Title(int number) {
     return *program.Window()
@@ -230,6 +240,93 @@ TEST_F(MenuDesigners, OkKeepsTheObjectsAndThePlaceOfTheWindow) {
   EXPECT_EQ(program.Form().UBound(Kind::Button), 0);
 }
 
+TEST_F(MenuDesigners, OkOnAMaximisedFormKeepsItMaximised) {
+  DesignWindow* before = program.Window().Forms().Window(1);
+  before->move(77, 55);
+  const QRect normal = before->geometry();
+  QTest::mouseDClick(before, Qt::LeftButton, {}, QPoint(150, 12));
+  ASSERT_EQ(before->State(), WindowState::Maximised);
+  const QRect filled = before->geometry();
+  const std::size_t steps = program.Shell().Steps().Size();
+  InMenuEdit([](const Designer& menu) {
+    menu.Press(10);
+    menu.Ok();
+  });
+  DesignWindow* after = program.Window().Forms().Window(1);
+  ASSERT_NE(after, before);
+  EXPECT_EQ(after->State(), WindowState::Maximised);
+  EXPECT_EQ(after->geometry(), filled);
+  EXPECT_TRUE(after->isVisible());
+  EXPECT_EQ(program.Shell().Steps().Size(), steps + 1);
+  // It returns to where it stood and to the size it had.
+  QTest::mouseDClick(after, Qt::LeftButton, {}, QPoint(150, 12));
+  EXPECT_EQ(after->State(), WindowState::Normal);
+  EXPECT_EQ(after->geometry(), normal);
+  EXPECT_EQ(program.Record().Width, normal.width());
+}
+
+TEST_F(MenuDesigners, OkOnARolledUpFormBringsItUpWhereItStood) {
+  DesignWindow* before = program.Window().Forms().Window(1);
+  before->move(77, 55);
+  const QRect normal = before->geometry();
+  WindowFrame frame;
+  frame.Size = before->size();
+  program.Click(*before, frame.ButtonRect(FramePart::Minimise).center());
+  ASSERT_EQ(before->State(), WindowState::Minimised);
+  InMenuEdit([](const Designer& menu) {
+    menu.Add("&File", "mnuFile");
+    menu.Ok();
+  });
+  DesignWindow* after = program.Window().Forms().Window(1);
+  EXPECT_EQ(after->State(), WindowState::Normal);
+  EXPECT_EQ(after->geometry(), normal);
+  EXPECT_TRUE(Title(1).isVisible());
+}
+
+TEST_F(MenuDesigners, TheStepOfOkIsUndoneAndDoneAgainByKeys) {
+  InMenuEdit([](const Designer& menu) {
+    menu.Add("&File", "mnuFile");
+    menu.Ok();
+  });
+  InMenuEdit([](const Designer& menu) {
+    menu.Press(10);
+    menu.Ok();
+  });
+  ASSERT_EQ(MenuRows().size(), 13U);
+  program.Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(MenuRows(), Rows{"&File    (mnuFile)"});
+  EXPECT_TRUE(Title(1).isVisible());
+  program.Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_TRUE(MenuRows().empty());
+  program.Key(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(MenuRows(), Rows{"&File    (mnuFile)"});
+  program.Key(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(MenuRows().size(), 13U);
+}
+
+TEST_F(MenuDesigners, ADeeperItemStandsUnderItsTitleOnTheFormAsInTheProgram) {
+  InMenuEdit([](const Designer& menu) {
+    menu.Add("&File", "mnuFile");
+    menu.Key(Qt::Key_Right, Qt::AltModifier);
+    menu.Add("&Open", "mnuOpen");
+    menu.Key(Qt::Key_Right, Qt::AltModifier);
+    menu.Add("&Recent", "mnuRecent");
+    EXPECT_EQ(menu.Shown().at(2), "......&Recent    (mnuRecent)");
+    menu.Ok();
+  });
+  program.Click(Title(1));
+  auto* items = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(items, nullptr);
+  ASSERT_EQ(items->actions().size(), 2);
+  EXPECT_EQ(items->actions().at(1)->text(), "&Recent");
+  EXPECT_EQ(items->actions().at(1)->menu(), nullptr);
+  items->close();
+  const std::string source = Source();
+  EXPECT_NE(source.find("mnuFile.AddItems mnuRecent\r\nmnuRecent.Caption = \"&Recent\""),
+            std::string::npos)
+      << source;
+}
+
 TEST_F(MenuDesigners, ARowIsDraggedToItsPlace) {
   InMenuEdit([](const Designer& menu) {
     menu.Press(10);
@@ -335,6 +432,42 @@ TEST_F(MenuDesigners, TheMenuOfTheFormIsReachedByKeys) {
   EXPECT_FALSE(Code().isVisible());
 }
 
+TEST_F(MenuDesigners, TheMenuOfTheFormHasRolesNamesAndActions) {
+  InMenuEdit([](const Designer& menu) {
+    menu.Press(10);
+    menu.Ok();
+  });
+  QWidget* strip = Title(1).parentWidget();
+  QAccessibleInterface* bar = QAccessible::queryAccessibleInterface(strip);
+  ASSERT_NE(bar, nullptr);
+  EXPECT_EQ(bar->role(), QAccessible::MenuBar);
+  EXPECT_EQ(bar->text(QAccessible::Name), "Menu bar");
+  QAccessibleInterface* file = QAccessible::queryAccessibleInterface(&Title(1));
+  ASSERT_NE(file, nullptr);
+  EXPECT_EQ(file->role(), QAccessible::MenuItem);
+  EXPECT_EQ(file->text(QAccessible::Name), "File");
+  EXPECT_TRUE(file->state().hasPopup);
+  EXPECT_GE(bar->indexOfChild(file), 0);
+  ASSERT_NE(file->actionInterface(), nullptr);
+  file->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+  auto* items = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(items, nullptr);
+  QAccessibleInterface* menu = QAccessible::queryAccessibleInterface(items);
+  ASSERT_NE(menu, nullptr);
+  EXPECT_EQ(menu->role(), QAccessible::PopupMenu);
+  EXPECT_EQ(menu->text(QAccessible::Name), "File");
+  ASSERT_EQ(menu->childCount(), 6);
+  QAccessibleInterface* open = menu->child(1);
+  EXPECT_EQ(open->role(), QAccessible::MenuItem);
+  EXPECT_EQ(open->text(QAccessible::Name), "Open");
+  ASSERT_NE(open->actionInterface(), nullptr);
+  open->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(program.Form().NameObjet, "Form1mnuOpen");
+  items->close();
+  ASSERT_TRUE(TakesKeys(Code()));
+  program.Key(Qt::Key_Escape);
+}
+
 TEST_F(MenuDesigners, ThePopUpDesignerStoresItsRows) {
   program.Place(19, {20, 20});
   InPopUpEdit([](const Designer& menu) {
@@ -404,6 +537,13 @@ TEST_F(MenuDesigners, TwoFormsWithMenusPopUpsAndCodeGoToSourceAndComeBackFromDis
       menu.Add("&More", (p + "ppMore").c_str());
       menu.Key(Qt::Key_Right, Qt::AltModifier);
       menu.Add("&Deep", (p + "ppDeep").c_str());
+      // The code of a sub-item by "Subroutines", which names it in the second text box.
+      menu.Key(Qt::Key_Up);
+      QTest::mouseClick(menu.Dialog.findChild<QPushButton*>(QStringLiteral("btns")),
+                        Qt::LeftButton);
+      TypeCode("Rem " + p + "ppDeep");
+      menu.Dialog.activateWindow();
+      ASSERT_TRUE(TakesKeys(menu.Dialog));
       menu.Ok();
     });
     InMenuEdit([&](const Designer& menu) {
@@ -414,10 +554,15 @@ TEST_F(MenuDesigners, TwoFormsWithMenusPopUpsAndCodeGoToSourceAndComeBackFromDis
       menu.Add("&Recent", (p + "Recent").c_str());
       menu.Ok();
     });
-    const std::string key = program.Form().KeyPrefix() + "." + p;
-    for (const char* item : {"Open", "Recent", "ppDeep"}) {
-      program.Tables().EventTable.Replace(key + item + ".OnClick", "Rem " + p + item);
+    // The code of the bar's items by presses on the form's own menu.
+    for (const int item : {0, 1}) {
+      program.Click(Title(1));
+      auto* items = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      ASSERT_NE(items, nullptr);
+      program.Click(*items, items->actionGeometry(items->actions().at(item)).center());
+      TypeCode("Rem " + p + (item == 0 ? "Open" : "Recent"));
     }
+    program.Click(program.Surface(), {30, 30});
   };
   make("A");
   program.PressTool(9);

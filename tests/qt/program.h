@@ -27,6 +27,7 @@
 #include "qt/frame/main_view.h"
 #include "qt/frame/main_window.h"
 #include "qt/kit/qt_ports.h"
+#include "qt/surface/design_surface.h"
 #include "shell/command_center.h"
 #include "shell/form_commands.h"
 #include "shell/mdi_form.h"

@@ -69,6 +69,7 @@ void PutRecords(RecordArray<T>& records, const RowsChange<Shared<T>>& change, bo
 Shared<DesignControl> KeptControl(const DesignControl& control) {
   auto kept = std::make_shared<DesignControl>(control);
   kept->Index = 0;
+  PlaceFieldsOf(*kept) = PlaceValues{};
   return kept;
 }
 
@@ -136,12 +137,13 @@ void FormShadow::RenewObjects(const DesignForm* window, FormChange& change) {
       objects_, steps.size(),
       [&](const ObjectRow& row, std::size_t i) {
         return row.Control == controls[parts + i] && row.Step == steps[i] &&
-               same_values(*row.Values, *row.Control);
+               row.Place == PlaceFieldsOf(*row.Control) && same_values(*row.Values, *row.Control);
       },
       [&](std::size_t i, const ObjectRow* old) {
         const ControlRef& control = controls[parts + i];
         const bool kept = old != nullptr && same_values(*old->Values, *control);
-        return ObjectRow{control, steps[i], kept ? old->Values : KeptControl(*control)};
+        return ObjectRow{control, steps[i], PlaceFieldsOf(*control),
+                         kept ? old->Values : KeptControl(*control)};
       });
   change.Drawn = RenewRows(
       drawn_, drawn.size(), [&](const ControlRef& row, std::size_t i) { return row == drawn[i]; },
@@ -181,7 +183,10 @@ void FormShadow::PutObjects(DesignForm& window, const FormChange& change, bool b
   PutRows(objects_, change.Objects, back);
   PutRows(drawn_, change.Drawn, back);
   const std::vector<ObjectRow>& put = back ? change.Objects.Before : change.Objects.After;
-  for (const ObjectRow& row : put) *row.Control = *row.Values;
+  for (const ObjectRow& row : put) {
+    *row.Control = *row.Values;
+    PlaceFieldsOf(*row.Control) = row.Place;
+  }
   std::vector<ControlRef> objects;
   objects.reserve(objects_.size());
   std::array<int, kKindCount> last{};

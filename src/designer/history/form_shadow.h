@@ -10,11 +10,13 @@
 namespace tarnwick {
 
 /// An object in the collection of a form. The control itself is part of it: a control that comes
-/// back is the one that went, so that whatever refers to it finds it again.
+/// back is the one that went, so that references to it stay good.
 struct ObjectRow {
   ControlRef Control;
   int Step = 1;  ///< its index less that of the object of its kind before it
-  Shared<DesignControl> Values;
+  /// Position and size are kept in the row itself: a step that moves many objects stays small.
+  PlaceValues Place;
+  Shared<DesignControl> Values;  ///< without position, size and index
   friend bool operator==(const ObjectRow&, const ObjectRow&) = default;
 };
 

@@ -99,7 +99,7 @@ bool History::Stay(int form, std::string_view key, std::string_view name) {
   if (InStay(form, key)) return true;
   Leave();
   Start(form, key, name);
-  Tell();
+  Notify();
   return true;
 }
 
@@ -122,7 +122,7 @@ void History::Record() {
   if (RecordChanges(std::move(entry))) {
     redo_.clear();
   }
-  Tell();
+  Notify();
 }
 
 bool History::RecordChanges(Entry&& entry) {
@@ -172,7 +172,7 @@ std::optional<int> History::Undo() {
   undo_.pop_back();
   const int form = Restore(*entry, true);
   redo_.push_back(std::move(entry));
-  Tell();
+  Notify();
   return form;
 }
 
@@ -184,7 +184,7 @@ std::optional<int> History::Redo() {
   redo_.pop_back();
   const int form = Restore(*entry, false);
   undo_.push_back(std::move(entry));
-  Tell();
+  Notify();
   return form;
 }
 
@@ -211,14 +211,14 @@ void History::Clear() {
   running_.reset();
   undo_.clear();
   redo_.clear();
-  Tell();
+  Notify();
 }
 
 std::size_t History::Size() const noexcept {
   return undo_.size();
 }
 
-void History::Tell() const {
+void History::Notify() const {
   if (Changed) Changed();
 }
 

@@ -14,8 +14,8 @@
 
 namespace tarnwick {
 
-/// The one history of the open project. A step is whatever changed in the tables, on the forms and
-/// in the code while it ran; who makes changes only says where a step begins and ends:
+/// The one history of the open project. A step is everything that changed in the tables, on the
+/// forms and in the code while it ran; who makes changes only says where a step begins and ends:
 ///
 ///   const HistoryStep step(history, form, "Move");         // a step until the end of the scope
 ///   history.Stay(form, "Button3.Caption", "Caption");      // one step for many edits of a row,
@@ -90,7 +90,7 @@ class History {
   /// Adds an entry of all that differs from the shadow; false when nothing does.
   bool RecordChanges(Entry&& entry);
   int Restore(const Entry& entry, bool back);
-  void Tell() const;
+  void Notify() const;
 
   ProjectTables& tables_;
   ProjectObserver& observer_;

@@ -38,7 +38,7 @@ bool HasMenuControl(const std::vector<ObjectRow>& rows) {
   });
 }
 
-void TellOfForm(ProjectObserver& observer, int form, const FormChange& change) {
+void NotifyOfForm(ProjectObserver& observer, int form, const FormChange& change) {
   observer.FormChanged(form);
   if (HasMenuControl(change.Objects.Before) || HasMenuControl(change.Objects.After)) {
     observer.MenuBarChanged(form);
@@ -161,7 +161,7 @@ void ProjectShadow::Put(ProjectTables& tables, ProjectObserver& observer,
   for (const NumberedFormChange& form : change.Forms) {
     if (!tables.IsLive(form.Form)) continue;
     if (form.Change.OpenBefore != form.Change.OpenAfter) observer.FormOpened(form.Form);
-    TellOfForm(observer, form.Form, form.Change);
+    NotifyOfForm(observer, form.Form, form.Change);
   }
   if (!change.Forms.empty() || change.MainBefore != change.MainAfter) observer.FormListChanged();
 }

@@ -61,7 +61,8 @@ class ProjectShadow {
   /// Takes over what the tables hold now of a form, of forms added since and of the project
   /// itself, and returns what is different from before.
   ProjectChange Renew(ProjectTables& tables, int form);
-  /// Puts one side of a change into the tables and tells the observer of all that is other then.
+  /// Puts one side of a change into the tables and notifies the observer of everything that
+  /// changed.
   void Put(ProjectTables& tables, ProjectObserver& observer, const ProjectChange& change,
            bool back);
 

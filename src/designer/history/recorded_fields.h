@@ -47,18 +47,23 @@ auto BarFieldsOf(Bar& bar) {
   return std::tie(bar.Caption, bar.Entries);
 }
 
-/// All of a control but its index, which follows from the objects before it.
+/// Position and size of a control: what most steps change.
+template <class Control>
+auto PlaceFieldsOf(Control& control) {
+  return std::tie(control.Left, control.Top, control.Width, control.Height);
+}
+
+/// All of a control but position and size, and its index, which follows from the objects before it.
 template <class Control>
 auto ControlFieldsOf(Control& control) {
   auto& [kind, index, tag, visible, enabled, left, top, width, height, caption, text, tip,
          font_name, font_size, bold, italic, underline, strike_out, auto_size, stretch, word_wrap,
          is_default, is_cancel, value, back_style, border_style, appearance, tab_index, back_color,
          fore_color, picture, items, menu_parent] = control;
-  // Those that edits change most come first: comparing ends at the first difference.
-  return std::tie(left, top, width, height, kind, tag, visible, enabled, caption, text, tip,
-                  font_name, font_size, bold, italic, underline, strike_out, auto_size, stretch,
-                  word_wrap, is_default, is_cancel, value, back_style, border_style, appearance,
-                  tab_index, back_color, fore_color, picture, items, menu_parent);
+  return std::tie(kind, tag, visible, enabled, caption, text, tip, font_name, font_size, bold,
+                  italic, underline, strike_out, auto_size, stretch, word_wrap, is_default,
+                  is_cancel, value, back_style, border_style, appearance, tab_index, back_color,
+                  fore_color, picture, items, menu_parent);
 }
 
 /// The fields as values, to be kept.
@@ -70,6 +75,7 @@ struct ValuesOfTie<std::tuple<T&...>> {
 };
 using FormValues = ValuesOfTie<decltype(FieldsOf(std::declval<FormRec&>()))>::Type;
 using WindowValues = ValuesOfTie<decltype(WindowFieldsOf(std::declval<DesignForm&>()))>::Type;
+using PlaceValues = ValuesOfTie<decltype(PlaceFieldsOf(std::declval<DesignControl&>()))>::Type;
 using BarValues = ValuesOfTie<decltype(BarFieldsOf(std::declval<FrmBarra&>()))>::Type;
 
 }  // namespace tarnwick

@@ -28,7 +28,7 @@ struct RowsChange {
   [[nodiscard]] bool Empty() const noexcept { return Before.empty() && After.empty(); }
 };
 
-/// Puts the rows of one side of a change in the place of those of the other.
+/// Replaces the rows of one side of a change by those of the other.
 template <class Row>
 void PutRows(std::vector<Row>& rows, const RowsChange<Row>& change, bool back) {
   const std::vector<Row>& from = back ? change.After : change.Before;

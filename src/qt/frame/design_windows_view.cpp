@@ -9,28 +9,19 @@
 
 namespace tarnwick {
 
-DesignWindowDoors DesignWindowsView::DoorsOf(int form) {
-  DesignWindowDoors doors;
-  doors.User = [this, form] { return shell_.User(form); };
-  doors.Record = [this, form]() -> const FormRec* { return shell_.Tables().Form(form); };
-  doors.Activated = [this, form] { shell_.Forms().Activated(form); };
-  doors.PointerMoved = [this](QPoint place) { window_.SetPointerText(place); };
-  doors.Closed = [this, form] { shell_.Forms().WindowClosed(form); };
-  doors.Escape = [this] { shell_.Commands().Escape(); };
-  doors.Resized = [this] { shell_.RefreshStatus(); };
-  doors.FocusIsKept = [this] { return window_.Properties().KeepsFocus(); };
-  return doors;
-}
-
 void DesignWindowsView::FormOpened(int form) {
-  DesignForm* design = shell_.Tables().User(form);
-  if (design != nullptr) window_.Forms().Open(form, *design, DoorsOf(form));
+  if (FormUser* const user = shell_.User(form)) window_.Forms().Open(*user, *this);
 }
 
 void DesignWindowsView::FormClosing(int form) {
   window_.Forms().Close(form);
+}
+
+void DesignWindowsView::FormListChanged() {
+  const int forms = shell_.Tables().FormsCount;
+  window_.Forms().ForgetAbove(forms);
   // The next project's pictures may be others under the same names.
-  if (window_.Forms().IsEmpty()) window_.Pictures().Clear();
+  if (forms == 0) window_.Pictures().Clear();
 }
 
 void DesignWindowsView::FormChanged(int form) {
@@ -52,6 +43,30 @@ void DesignWindowsView::CurrentFormChanged() {
 
 void DesignWindowsView::MenuBarChanged(int form) {
   if (DesignWindow* window = window_.Forms().Window(form)) window->SyncMenuBar();
+}
+
+void DesignWindowsView::Activated(int form) {
+  shell_.Forms().Activated(form);
+}
+
+void DesignWindowsView::CloseRequested(int form) {
+  shell_.Forms().WindowClosed(form);
+}
+
+void DesignWindowsView::PointerMoved(QPoint pixel) {
+  window_.SetPointerText(pixel);
+}
+
+void DesignWindowsView::EscapePressed() {
+  shell_.Commands().Escape();
+}
+
+void DesignWindowsView::Resized() {
+  shell_.RefreshStatus();
+}
+
+bool DesignWindowsView::FocusIsKept() {
+  return window_.Properties().KeepsFocus();
 }
 
 }  // namespace tarnwick

@@ -33,18 +33,6 @@ namespace {
 constexpr int kKeepAfter = 2000;  // milliseconds
 
 /// Stands for a form without a window; nothing is drawn and nothing is taken.
-class NoGestures final : public GesturePort {
- public:
-  void TakeCapture() override {}
-  void ReleaseCapture() override {}
-  void ConfineCursor() override {}
-  void FreeCursor() override {}
-  [[nodiscard]] ScreenPoint CursorPosition() override { return {}; }
-  [[nodiscard]] ScreenPoint ClientOrigin() override { return {}; }
-  void DrawRubberBand(const ScreenRect& /*rect*/) override {}
-  void TakeFocus() override {}
-};
-
 }  // namespace
 
 /// Starts a timer when the user does anything, unless it runs.
@@ -77,8 +65,7 @@ MainView::MainView(MainWindow& window, MDIForm1& shell)
       shell_(shell),
       forms_(window, shell),
       code_(shell, window),
-      menus_(shell, window, code_),
-      no_gestures_(std::make_unique<NoGestures>()) {
+      menus_(shell, window, code_) {
   shell.AddObserver(*this);
   shell.AddObserver(forms_);
   time_.setObjectName(QStringLiteral("Time"));
@@ -183,9 +170,7 @@ void MainView::SetFormVisible(int form, bool visible) {
 }
 
 GesturePort& MainView::Gestures(int form) {
-  DesignWindow* window = window_.Forms().Window(form);
-  if (window != nullptr) return window->Surface();
-  return *no_gestures_;
+  return window_.Forms().Gestures(form);
 }
 
 bool MainView::PictureLoads(const std::string& path) {

@@ -92,7 +92,6 @@ class MainView final : public ShellView, public ProjectObserver {
   QPointer<QWidget> held_focus_;
   bool offered_ = false;  ///< the work of a crashed run was offered
   std::unique_ptr<LogoWindow> logo_;
-  std::unique_ptr<GesturePort> no_gestures_;
   bool arrow_ = false;
   bool bar_changed_ = false;  ///< the events bar is read anew with the next refresh
 };

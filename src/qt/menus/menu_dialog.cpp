@@ -58,7 +58,7 @@ constexpr std::array<ButtonInfo, 11> kButtons{{
 }};
 
 constexpr auto kKeysText =
-    "Enter adds the row. Alt+Left and Alt+Right set its depth, Alt+Up and Alt+Down its place. "
+    "Enter adds the row. Alt+Left and Alt+Right set its depth, Alt+Up and Alt+Down move it. "
     "In the list: Ins, Del, F2.";
 
 QString Latin(const char* text) {
@@ -110,6 +110,9 @@ void MenuDialog::BuildFields() {
   fault_->setObjectName(QStringLiteral("Fault"));
   fault_->setWordWrap(true);
   fault_->setProperty("quiet", true);
+  // The list keeps its height, whether a text takes one line or two.
+  fault_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  fault_->setMinimumHeight(2 * fault_->fontMetrics().lineSpacing());
 }
 
 void MenuDialog::BuildButtons() {

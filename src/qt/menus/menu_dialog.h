@@ -31,7 +31,7 @@ class MenuDialog final : public QDialog {
   void reject() override;
 
  signals:
-  /// The dialog was told to close while it waits.
+  /// The user tried to close the dialog while it waits.
   void CloseRefused();
 
  protected:

@@ -13,7 +13,7 @@ namespace tarnwick {
 
 namespace {
 
-/// Tells when a window goes from the screen.
+/// Reports when a window is hidden.
 class HideWatch final : public QObject {
  public:
   explicit HideWatch(QObject* parent) : QObject(parent) {}

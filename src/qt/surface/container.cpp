@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <optional>
 
 #include "qt/kit/theme.h"
 #include "qt/surface/surface_access.h"
@@ -12,7 +11,7 @@ namespace tarnwick {
 namespace {
 
 /// New windows stand one step right and below of the one before, for a few steps.
-constexpr int kFirstPlace = 24;
+constexpr int kFirstOffset = 24;
 constexpr int kStep = 28;
 constexpr int kSteps = 8;
 constexpr int kMargin = 24;
@@ -37,31 +36,27 @@ Container::Container(looks::PictureCache& pictures, TextCache& texts, QWidget* p
 
 Container::~Container() = default;
 
-DesignWindow& Container::Open(int form, DesignForm& design, DesignWindowDoors doors) {
-  // A form that was read back stands where it stood.
-  const DesignWindow* const before = Window(form);
-  const std::optional<QPoint> stood = before == nullptr || before->State() == WindowState::Maximised
-                                          ? std::nullopt
-                                          : std::optional(before->pos());
-  const bool shown = before != nullptr && !before->isHidden();
-  const QWidget* const focus = before == nullptr ? nullptr : before->window()->focusWidget();
-  const bool focused = focus != nullptr && before->isAncestorOf(focus);
+DesignWindow& Container::Open(FormUser& user, DesignWindowHost& host) {
+  const int form = user.Number();
   Close(form);
-  doors.Visible = [this] { return RoomToFill(); };
-  auto* window = new DesignWindow(design, pictures_, texts_, std::move(doors), canvas_);
-  if (stood) {
-    window->move(*stood);
-  } else {
-    const int place = kFirstPlace + (opened_++ % kSteps) * kStep;
-    window->move(place, place);
-  }
+  auto* window = new DesignWindow(user, Gestures(form), host, pictures_, texts_, canvas_);
+  connect(window, &DesignWindow::FillRequested, this,
+          [this, window] { window->Fill(RoomToFill()); });
   window->installEventFilter(this);
   windows_[form] = window;
-  if (shown) {
+  const auto left = left_.extract(form);
+  if (left.empty()) {
+    const int offset = kFirstOffset + (opened_++ % kSteps) * kStep;
+    window->move(offset, offset);
+    return *window;
+  }
+  const Left& before = left.mapped();
+  window->Restore(before.State, before.Normal);
+  if (before.Shown) {
     window->show();
     window->raise();
   }
-  if (focused) window->Surface().setFocus();
+  if (before.Focused) window->Surface().setFocus();
   return *window;
 }
 
@@ -69,12 +64,25 @@ void Container::Close(int form) {
   const auto found = windows_.find(form);
   if (found == windows_.end()) return;
   DesignWindow* window = found->second;
+  const QWidget* const focus = window->window()->focusWidget();
+  left_[form] = {window->State(), window->NormalGeometry(), !window->isHidden(),
+                 focus != nullptr && window->isAncestorOf(focus)};
   windows_.erase(found);
   window->Detach();
   window->hide();
   window->deleteLater();
-  if (windows_.empty()) opened_ = 0;
   FitCanvas();
+}
+
+void Container::ForgetAbove(int form) {
+  std::erase_if(left_, [form](const auto& entry) { return entry.first > form; });
+  if (form == 0) opened_ = 0;
+}
+
+SurfaceGestures& Container::Gestures(int form) {
+  std::unique_ptr<SurfaceGestures>& gestures = gestures_[form];
+  if (!gestures) gestures = std::make_unique<SurfaceGestures>();
+  return *gestures;
 }
 
 DesignWindow* Container::Window(int form) const {

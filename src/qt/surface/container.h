@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QScrollArea>
-#include <functional>
+#include <memory>
 #include <unordered_map>
 
 #include "qt/surface/design_window.h"
@@ -18,11 +18,15 @@ class Container final : public QScrollArea {
   Container(looks::PictureCache& pictures, TextCache& texts, QWidget* parent);
   ~Container() override;
 
-  /// Makes the window of a form, not yet shown.
-  DesignWindow& Open(int form, DesignForm& design, DesignWindowDoors doors);
+  /// Makes the window of a form. The first one of a form is not yet shown; a further one is shown
+  /// in the position and state of the one before, with its focus.
+  DesignWindow& Open(FormUser& user, DesignWindowHost& host);
   /// The form is about to go: its window is hidden now and deleted when no event of it runs.
   void Close(int form);
-  [[nodiscard]] bool IsEmpty() const { return windows_.empty(); }
+  /// Forgets where the windows of the forms above this number stood.
+  void ForgetAbove(int form);
+  /// The gestures on a form; they exist from the first call on.
+  [[nodiscard]] SurfaceGestures& Gestures(int form);
   /// Null for a form without a window.
   [[nodiscard]] DesignWindow* Window(int form) const;
   /// Shows a window in front of the others, also when it was rolled up. The focus stays.
@@ -40,6 +44,13 @@ class Container final : public QScrollArea {
   void scrollContentsBy(int dx, int dy) override;
 
  private:
+  /// What a closed window leaves for the next one of its form.
+  struct Left {
+    WindowState State = WindowState::Normal;
+    QRect Normal;
+    bool Shown = false;
+    bool Focused = false;
+  };
   void FitCanvas();
   /// The rectangle of the canvas that a maximised window fills.
   [[nodiscard]] QRect RoomToFill() const;
@@ -52,6 +63,8 @@ class Container final : public QScrollArea {
   TextCache& texts_;
   QWidget* canvas_;
   std::unordered_map<int, DesignWindow*> windows_;
+  std::unordered_map<int, Left> left_;
+  std::unordered_map<int, std::unique_ptr<SurfaceGestures>> gestures_;
   int opened_ = 0;
 };
 

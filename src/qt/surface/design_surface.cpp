@@ -1,6 +1,5 @@
 #include "qt/surface/design_surface.h"
 
-#include <QCursor>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -18,7 +17,6 @@ namespace {
 
 /// Beyond this many pieces one larger repaint is cheaper.
 constexpr int kMostPieces = 8;
-constexpr int kBandWidth = 2;
 
 float Twips(double pixels) {
   return static_cast<float>(std::floor(pixels) * kTwipsPerPixel);
@@ -45,209 +43,143 @@ Qt::CursorShape ShapeOf(int pointer) {
 
 }  // namespace
 
-DesignSurface::DesignSurface(DesignForm& form, looks::PictureCache& pictures, TextCache& texts,
-                             const DesignWindowDoors& doors, QWidget* parent)
-    : QWidget(parent), form_(&form), doors_(doors), painter_(pictures, texts) {
+DesignSurface::DesignSurface(FormUser& user, SurfaceGestures& gestures, DesignWindowHost& host,
+                             looks::PictureCache& pictures, TextCache& texts, QWidget* parent)
+    : QWidget(parent), user_(&user), gestures_(gestures), host_(host), painter_(pictures, texts) {
   setObjectName(QStringLiteral("FormUser"));
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
+  gestures_.SetSurface(this);
+}
+
+DesignSurface::~DesignSurface() {
+  Detach();
 }
 
 std::string DesignSurface::FormName() const {
-  const FormRec* const record = form_ != nullptr ? doors_.Record() : nullptr;
+  const FormRec* const record = user_ != nullptr ? user_->Record() : nullptr;
   return record != nullptr ? record->Name : std::string();
 }
 
 void DesignSurface::PressObject(const ControlRef& object) {
-  FormUser* user = doors_.User();
-  if (form_ == nullptr || user == nullptr) return;
-  doors_.Activated();
+  if (user_ == nullptr) return;
+  host_.Activated(user_->Number());
   if (object) {
-    user->SelectObject(object);
+    user_->SelectObject(object);
   } else {
-    user->SelectForm();
+    user_->SelectForm();
   }
 }
 
 void DesignSurface::Detach() {
-  form_ = nullptr;
-  FreeCursor();
-  ReleaseCapture();
-}
-
-void DesignSurface::TakeCapture() {
-  if (isVisible()) grabMouse();
-}
-
-void DesignSurface::ReleaseCapture() {
-  if (mouseGrabber() == this) releaseMouse();
-}
-
-void DesignSurface::ConfineCursor() {
-  confined_ = true;
-}
-
-void DesignSurface::FreeCursor() {
-  confined_ = false;
-}
-
-QRect DesignSurface::Confinement() const {
-  const QWidget* frame = parentWidget() != nullptr ? parentWidget() : this;
-  return {frame->mapToGlobal(QPoint()), frame->size()};
-}
-
-ScreenPoint DesignSurface::CursorPosition() {
-  QPoint place = pointer_.value_or(QCursor::pos());
-  if (confined_) {
-    const QRect limits = Confinement();
-    place.setX(qBound(limits.left(), place.x(), limits.right()));
-    place.setY(qBound(limits.top(), place.y(), limits.bottom()));
-  }
-  return {place.x(), place.y()};
-}
-
-ScreenPoint DesignSurface::ClientOrigin() {
-  const QPoint origin = mapToGlobal(QPoint());
-  return {origin.x(), origin.y()};
-}
-
-void DesignSurface::DrawRubberBand(const ScreenRect& rect) {
-  const QPoint origin = mapToGlobal(QPoint());
-  const QRect band = QRect(QPoint(rect.Left, rect.Top), QPoint(rect.Right - 1, rect.Bottom - 1))
-                         .normalized()
-                         .translated(-origin);
-  // Drawing inverts, so the same outline drawn again is gone.
-  if (band_ == band) {
-    band_.reset();
-  } else {
-    if (band_) UpdateBand(*band_);
-    band_ = band;
-  }
-  UpdateBand(band);
-}
-
-void DesignSurface::UpdateBand(const QRect& band) {
-  const QRect outer = band.adjusted(-kBandWidth, -kBandWidth, kBandWidth, kBandWidth);
-  const QRect inner = band.adjusted(kBandWidth, kBandWidth, -kBandWidth, -kBandWidth);
-  update(inner.isValid() ? QRegion(outer) - QRegion(inner) : QRegion(outer));
+  // The next window of the form may have taken the gestures over already.
+  if (user_ != nullptr) gestures_.SetSurface(nullptr);
+  user_ = nullptr;
 }
 
 void DesignSurface::TakeFocus() {
-  if (!doors_.FocusIsKept || !doors_.FocusIsKept()) setFocus();
+  if (!host_.FocusIsKept()) setFocus();
 }
 
 void DesignSurface::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  if (form_ == nullptr) {
+  if (user_ == nullptr) {
     painter.fillRect(event->rect(), palette().window());
     return;
   }
-  const FormRec* record = doors_.Record();
+  const DesignForm& form = user_->Form();
+  const FormRec* record = user_->Record();
   const QRegion& exposed = event->region();
   if (exposed.rectCount() <= kMostPieces) {
     for (const QRect& piece : exposed) {
       painter.setClipRect(piece);
-      painter_.Paint(painter, *form_, record, piece);
+      painter_.Paint(painter, form, record, piece);
     }
     painter.setClipRegion(exposed);
   } else {
-    painter_.Paint(painter, *form_, record, event->rect());
+    painter_.Paint(painter, form, record, event->rect());
   }
-  if (band_) {
-    painter.setCompositionMode(QPainter::RasterOp_NotDestination);
-    painter.setPen(QPen(Qt::black, kBandWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawRect(*band_);
-  }
-}
-
-void DesignSurface::NotePointer(const QMouseEvent& event) {
-  pointer_ = event.globalPosition().toPoint();
-  if (!confined_) return;
-  const ScreenPoint kept = CursorPosition();
-  const QPoint inside(kept.X, kept.Y);
-  if (inside != *pointer_) QCursor::setPos(inside);
+  gestures_.PaintBand(painter);
 }
 
 void DesignSurface::mousePressEvent(QMouseEvent* event) {
-  FormUser* user = doors_.User();
-  if (form_ == nullptr || user == nullptr) return;
+  if (user_ == nullptr) return;
   if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton) return;
-  NotePointer(*event);
+  gestures_.NotePointer(*event);
   setFocus(Qt::MouseFocusReason);
-  doors_.Activated();
+  host_.Activated(user_->Number());
+  // Whoever heard of it may have closed the form.
+  if (user_ == nullptr) return;
   const float x = Twips(event->position().x());
   const float y = Twips(event->position().y());
-  const Hit hit = HitTest(*form_, x, y);
+  const Hit hit = HitTest(user_->Form(), x, y);
   if (hit.Handle >= 0) {
-    user->Gestures().HandleMouseDown(hit.Handle, ButtonOf(*event));
+    user_->Gestures().HandleMouseDown(hit.Handle, ButtonOf(*event));
   } else if (hit.Object) {
-    user->Gestures().ObjectMouseDown(hit.Object, ButtonOf(*event), 0, x - hit.Object->Left,
-                                     y - hit.Object->Top);
+    user_->Gestures().ObjectMouseDown(hit.Object, ButtonOf(*event), 0, x - hit.Object->Left,
+                                      y - hit.Object->Top);
   } else {
-    user->Gestures().Form_MouseDown(ButtonOf(*event), 0, x, y);
+    user_->Gestures().Form_MouseDown(ButtonOf(*event), 0, x, y);
   }
-  pointer_.reset();
+  gestures_.PointerHandled();
 }
 
 void DesignSurface::mouseMoveEvent(QMouseEvent* event) {
-  FormUser* user = doors_.User();
-  if (form_ == nullptr || user == nullptr) return;
-  NotePointer(*event);
-  user->Gestures().MouseMove();
-  pointer_.reset();
-  if (!confined_) ShowPointerOver(event->position());
-  doors_.PointerMoved(event->position().toPoint());
+  if (user_ == nullptr) return;
+  gestures_.NotePointer(*event);
+  user_->Gestures().MouseMove();
+  gestures_.PointerHandled();
+  if (!gestures_.IsConfined()) ShowPointerOver(event->position());
+  host_.PointerMoved(event->position().toPoint());
 }
 
 void DesignSurface::mouseReleaseEvent(QMouseEvent* event) {
-  FormUser* user = doors_.User();
-  if (form_ == nullptr || user == nullptr) return;
-  NotePointer(*event);
-  user->Gestures().MouseUp();
-  pointer_.reset();
-  if (form_ != nullptr) ShowPointerOver(event->position());
+  if (user_ == nullptr) return;
+  gestures_.NotePointer(*event);
+  user_->Gestures().MouseUp();
+  gestures_.PointerHandled();
+  if (user_ != nullptr) ShowPointerOver(event->position());
 }
 
 void DesignSurface::mouseDoubleClickEvent(QMouseEvent* event) {
-  FormUser* user = doors_.User();
-  if (form_ == nullptr || user == nullptr || event->button() != Qt::LeftButton) return;
-  user->Gestures().DoubleClick();
+  if (user_ == nullptr || event->button() != Qt::LeftButton) return;
+  user_->Gestures().DoubleClick();
 }
 
-void DesignSurface::ShowPointerOver(const QPointF& place) {
-  const bool armed = !form_->Objeto.empty() && form_->Objeto != InfoOf(Kind::Form).Name;
-  const Hit hit = HitTest(*form_, Twips(place.x()), Twips(place.y()));
+void DesignSurface::ShowPointerOver(const QPointF& position) {
+  const DesignForm& form = user_->Form();
+  const bool armed = !form.Objeto.empty() && form.Objeto != InfoOf(Kind::Form).Name;
+  const Hit hit = HitTest(form, Twips(position.x()), Twips(position.y()));
   Qt::CursorShape shape = Qt::ArrowCursor;
   if (hit.Handle >= 0) {
     shape = ShapeOf(Handles()[static_cast<std::size_t>(hit.Handle)].Pointer);
   } else if (armed && (!hit.Object || hit.Object->Id == Kind::Image)) {
     shape = Qt::CrossCursor;
-  } else if (hit.Object && form_->m_bDesignMode) {
+  } else if (hit.Object && form.m_bDesignMode) {
     shape = Qt::SizeAllCursor;
   }
   if (cursor().shape() != shape) setCursor(shape);
 }
 
 void DesignSurface::keyPressEvent(QKeyEvent* event) {
-  FormUser* user = doors_.User();
-  if (form_ == nullptr || user == nullptr) return;
+  if (user_ == nullptr) return;
   if (event->key() == Qt::Key_Escape) {
-    if (user->Gestures().Mode() != DragMode::None) {
-      user->Gestures().Escape();
+    if (user_->Gestures().Mode() != DragMode::None) {
+      user_->Gestures().Escape();
     } else {
-      doors_.Escape();
+      host_.EscapePressed();
     }
     return;
   }
   const int code = KeyCodeOf(*event);
-  if (code == 0 || !user->Keys().KeyDown(code, ShiftBitsOf(*event))) event->ignore();
+  if (code == 0 || !user_->Keys().KeyDown(code, ShiftBitsOf(*event))) event->ignore();
 }
 
 void DesignSurface::focusInEvent(QFocusEvent* event) {
   QWidget::focusInEvent(event);
   // However the focus came, keys go here now: this form is the one that all commands mean.
-  if (form_ != nullptr && doors_.Activated) doors_.Activated();
+  if (user_ != nullptr) host_.Activated(user_->Number());
 }
 
 bool DesignSurface::focusNextPrevChild(bool /*next*/) {
@@ -257,7 +189,7 @@ bool DesignSurface::focusNextPrevChild(bool /*next*/) {
 
 void DesignSurface::leaveEvent(QEvent* event) {
   QWidget::leaveEvent(event);
-  doors_.PointerMoved(QPoint(-1, -1));
+  host_.PointerMoved(QPoint(-1, -1));
 }
 
 }  // namespace tarnwick

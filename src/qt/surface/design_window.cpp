@@ -21,19 +21,19 @@ int WholePixelsOf(float twips) {
 
 }  // namespace
 
-DesignWindow::DesignWindow(DesignForm& form, looks::PictureCache& pictures, TextCache& texts,
-                           DesignWindowDoors doors, QWidget* parent)
+DesignWindow::DesignWindow(FormUser& user, SurfaceGestures& gestures, DesignWindowHost& host,
+                           looks::PictureCache& pictures, TextCache& texts, QWidget* parent)
     : QWidget(parent),
-      form_(&form),
-      doors_(std::move(doors)),
+      user_(&user),
+      host_(host),
       pictures_(pictures),
-      surface_(new DesignSurface(form, pictures, texts, doors_, this)),
+      surface_(new DesignSurface(user, gestures, host, pictures, texts, this)),
       menu_(new FormMenuStrip(
           [this](const ControlRef& item) {
-            if (FormUser* user = doors_.User()) user->MenuItemPress(item);
+            if (user_ != nullptr) user_->MenuItemPress(item);
           },
           this)) {
-  setObjectName(QStringLiteral("FormUser_%1").arg(form.Number()));
+  setObjectName(QStringLiteral("FormUser_%1").arg(user.Number()));
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
   surface_->setCursor(Qt::ArrowCursor);
@@ -45,7 +45,7 @@ DesignWindow::DesignWindow(DesignForm& form, looks::PictureCache& pictures, Text
 DesignWindow::~DesignWindow() = default;
 
 void DesignWindow::Detach() {
-  form_ = nullptr;
+  user_ = nullptr;
   surface_->Detach();
 }
 
@@ -56,37 +56,37 @@ void DesignWindow::SetCurrent(bool current) {
 }
 
 void DesignWindow::SyncWithForm() {
-  if (form_ == nullptr) return;
-  const QSize wanted(qMax(1, WholePixelsOf(form_->Width)), qMax(1, WholePixelsOf(form_->Height)));
+  if (user_ == nullptr) return;
+  const DesignForm& form = user_->Form();
+  const QSize wanted(qMax(1, WholePixelsOf(form.Width)), qMax(1, WholePixelsOf(form.Height)));
   if (state_ == WindowState::Normal) {
     resize(wanted);
   } else {
     // What was edited meanwhile holds when the window returns to normal.
-    if (wanted.width() != told_.width()) normal_.setWidth(wanted.width());
-    if (wanted.height() != told_.height()) normal_.setHeight(wanted.height());
+    if (wanted.width() != stored_.width()) normal_.setWidth(wanted.width());
+    if (wanted.height() != stored_.height()) normal_.setHeight(wanted.height());
   }
-  told_ = wanted;
+  stored_ = wanted;
   LayOut();
   update();
   surface_->update();
 }
 
 void DesignWindow::SyncMenuBar() {
-  if (form_ == nullptr) return;
-  menu_->Rebuild(*form_);
+  if (user_ == nullptr) return;
+  menu_->Rebuild(user_->Form());
   LayOut();
 }
 
-WindowFrame DesignWindow::FrameOf() const {
+WindowFrame DesignWindow::Frame() const {
   WindowFrame frame;
-  const FormUser* user = doors_.User();
-  if (user == nullptr) return frame;
+  if (user_ == nullptr) return frame;
   using FrameMember = clsStyle::Member;
-  const clsStyle& style = user->Frame().Style();
+  const clsStyle& style = user_->Frame().Style();
   frame.Metrics.Title = style.Get(FrameMember::Titlebar);
   frame.Metrics.Sizable = style.Get(FrameMember::Sizable);
   frame.Metrics.Tool = style.Get(FrameMember::ToolWindow);
-  frame.Metrics.Menu = form_ != nullptr && form_->MenuBarVisible();
+  frame.Metrics.Menu = user_->Form().MenuBarVisible();
   frame.Buttons = style.Get(FrameMember::ControlBox);
   frame.Minimise = frame.Buttons && style.Get(FrameMember::MinButton);
   frame.Maximise = frame.Buttons && style.Get(FrameMember::MaxButton);
@@ -96,7 +96,7 @@ WindowFrame DesignWindow::FrameOf() const {
 }
 
 void DesignWindow::LayOut() {
-  const looks::FrameMetrics metrics = FrameOf().Metrics;
+  const looks::FrameMetrics metrics = Frame().Metrics;
   const int border = metrics.Border();
   const QRect inside = rect().adjusted(border, metrics.Above(), -border, -border);
   menu_->setVisible(metrics.Menu);
@@ -116,31 +116,41 @@ void DesignWindow::paintEvent(QPaintEvent* /*event*/) {
   look.Current = current_;
   look.Maximised = state_ == WindowState::Maximised;
   look.Hovered = hovered_;
-  look.Caption = form_ != nullptr ? ToQString(form_->Caption) : QString();
-  if (form_ != nullptr && !form_->WindowIcon.empty()) look.Icon = &pictures_.At(form_->WindowIcon);
-  PaintFrame(painter, *this, FrameOf(), look);
+  if (user_ != nullptr) {
+    const DesignForm& form = user_->Form();
+    look.Caption = ToQString(form.Caption);
+    if (!form.WindowIcon.empty()) look.Icon = &pictures_.At(form.WindowIcon);
+  }
+  PaintFrame(painter, *this, Frame(), look);
 }
 
 void DesignWindow::mousePressEvent(QMouseEvent* event) {
-  doors_.Activated();
-  if (event->button() != Qt::LeftButton || form_ == nullptr) return;
+  if (user_ == nullptr) return;
+  host_.Activated(user_->Number());
+  if (event->button() != Qt::LeftButton || user_ == nullptr) return;
   const QPoint place = event->position().toPoint();
-  const WindowFrame frame = FrameOf();
+  const WindowFrame frame = Frame();
   edges_ = frame.EdgesAt(place);
   const FramePart part = frame.PartAt(place);
   press_ = event->globalPosition().toPoint();
   at_press_ = geometry();
   if (edges_) return;
-  if (part == FramePart::Close) {
-    doors_.Closed();
-  } else if (part == FramePart::Maximise) {
-    SetState(state_ == WindowState::Maximised ? WindowState::Normal : WindowState::Maximised);
-  } else if (part == FramePart::Minimise) {
-    SetState(state_ == WindowState::Minimised ? WindowState::Normal : WindowState::Minimised);
+  if (!frame.ButtonRect(part).isEmpty()) {
+    PressButton(part);
   } else {
     moving_ = part == FramePart::Title && state_ != WindowState::Maximised;
     surface_->setFocus();
   }
+}
+
+void DesignWindow::PressButton(FramePart button) {
+  if (user_ == nullptr || Frame().ButtonRect(button).isEmpty()) return;
+  const auto toggle = [this](WindowState state) {
+    SetState(state_ == state ? WindowState::Normal : state);
+  };
+  if (button == FramePart::Close) host_.CloseRequested(user_->Number());
+  if (button == FramePart::Maximise) toggle(WindowState::Maximised);
+  if (button == FramePart::Minimise) toggle(WindowState::Minimised);
 }
 
 void DesignWindow::mouseMoveEvent(QMouseEvent* event) {
@@ -157,7 +167,7 @@ void DesignWindow::mouseMoveEvent(QMouseEvent* event) {
     return;
   }
   const QPoint place = event->position().toPoint();
-  const WindowFrame frame = FrameOf();
+  const WindowFrame frame = Frame();
   const Qt::Edges edges = frame.EdgesAt(place);
   Qt::CursorShape shape = Qt::ArrowCursor;
   if (edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge)) {
@@ -191,7 +201,7 @@ void DesignWindow::DragEdges(const QPoint& global) {
   }
   if (place == geometry()) return;
   setGeometry(place);
-  TellSize();
+  StoreSize();
 }
 
 void DesignWindow::mouseReleaseEvent(QMouseEvent* /*event*/) {
@@ -201,7 +211,7 @@ void DesignWindow::mouseReleaseEvent(QMouseEvent* /*event*/) {
 }
 
 void DesignWindow::mouseDoubleClickEvent(QMouseEvent* event) {
-  const WindowFrame frame = FrameOf();
+  const WindowFrame frame = Frame();
   if (frame.PartAt(event->position().toPoint()) != FramePart::Title) return;
   if (state_ == WindowState::Minimised) {
     SetState(WindowState::Normal);
@@ -227,10 +237,10 @@ void DesignWindow::SetState(WindowState state) {
       resize(normal_.width(), RolledUpHeight());
       break;
     case WindowState::Maximised:
-      setGeometry(doors_.Visible());
+      emit FillRequested();
       break;
   }
-  TellSize();
+  StoreSize();
   EndSizing();
   LayOut();
   update();
@@ -239,25 +249,30 @@ void DesignWindow::SetState(WindowState state) {
 void DesignWindow::Fill(const QRect& visible) {
   if (geometry() == visible) return;
   setGeometry(visible);
-  TellSize();
+  StoreSize();
+}
+
+void DesignWindow::Restore(WindowState state, const QRect& normal) {
+  // The size of the form is what its text says; the position is the one before.
+  setGeometry(state == WindowState::Normal ? QRect(normal.topLeft(), size()) : normal);
+  SetState(state);
 }
 
 int DesignWindow::RolledUpHeight() const {
-  const looks::FrameMetrics metrics = FrameOf().Metrics;
+  const looks::FrameMetrics metrics = Frame().Metrics;
   return 2 * metrics.Border() + metrics.TitleBar();
 }
 
 void DesignWindow::EndSizing() {
-  if (FormUser* const user = doors_.User()) user->Frame().ResizeEnded();
+  if (user_ != nullptr) user_->Frame().ResizeEnded();
 }
 
-void DesignWindow::TellSize() {
-  FormUser* user = doors_.User();
-  if (form_ == nullptr || user == nullptr) return;
-  if (state_ != WindowState::Minimised) told_ = size();
-  user->Frame().Form_Resize(static_cast<float>(width() * kTwipsPerPixel),
-                            static_cast<float>(height() * kTwipsPerPixel), state_);
-  doors_.Resized();
+void DesignWindow::StoreSize() {
+  if (user_ == nullptr) return;
+  if (state_ != WindowState::Minimised) stored_ = size();
+  user_->Frame().Form_Resize(static_cast<float>(width() * kTwipsPerPixel),
+                             static_cast<float>(height() * kTwipsPerPixel), state_);
+  host_.Resized();
 }
 
 }  // namespace tarnwick

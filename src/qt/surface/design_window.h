@@ -13,19 +13,20 @@ namespace tarnwick {
 class FormMenuStrip;
 
 /// Draws the frame that the form's border style asks for and lets the user move, size, maximise
-/// and roll up the window. The size goes to the form's logic; the place is the window's own and
+/// and roll up the window. The size goes to the form's logic; the position is the window's own and
 /// never the form's.
 class DesignWindow final : public QWidget {
   Q_OBJECT
 
  public:
-  DesignWindow(DesignForm& form, looks::PictureCache& pictures, TextCache& texts,
-               DesignWindowDoors doors, QWidget* parent);
+  DesignWindow(FormUser& user, SurfaceGestures& gestures, DesignWindowHost& host,
+               looks::PictureCache& pictures, TextCache& texts, QWidget* parent);
   ~DesignWindow() override;
 
   [[nodiscard]] DesignSurface& Surface() { return *surface_; }
-  /// Reads caption, size, frame, icon and colours anew.
+  /// Reads caption, size, frame, icon and colours again.
   void SyncWithForm();
+  /// Reads the menu bar again.
   void SyncMenuBar();
   /// The form is about to go.
   void Detach();
@@ -34,8 +35,23 @@ class DesignWindow final : public QWidget {
   /// Gives a rolled-up window its height back.
   void Unroll();
   [[nodiscard]] WindowState State() const { return state_; }
+  /// Where the parts of the frame are now.
+  [[nodiscard]] WindowFrame Frame() const;
+  /// Does what a press on a button of the frame does; no effect for a button that it lacks.
+  void PressButton(FramePart button);
   /// Fills the part of the container that can be seen; for a maximised window.
   void Fill(const QRect& visible);
+  /// Position and size that the window has or will return to in the normal state.
+  [[nodiscard]] QRect NormalGeometry() const {
+    return state_ == WindowState::Normal ? geometry() : normal_;
+  }
+  /// Puts a window that was made again into the state of the one before it. A maximised window
+  /// asks for its size by FillRequested.
+  void Restore(WindowState state, const QRect& normal);
+
+ signals:
+  /// The window was maximised: its size is to be set by Fill.
+  void FillRequested();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -46,24 +62,24 @@ class DesignWindow final : public QWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
-  [[nodiscard]] WindowFrame FrameOf() const;
   /// The height of a window of which only the title is left.
   [[nodiscard]] int RolledUpHeight() const;
   void LayOut();
   void EndSizing();
   void SetState(WindowState state);
-  void TellSize();
+  /// Writes the size of the window into the form.
+  void StoreSize();
   void DragEdges(const QPoint& global);
 
-  DesignForm* form_;
-  DesignWindowDoors doors_;
+  FormUser* user_;
+  DesignWindowHost& host_;
   looks::PictureCache& pictures_;
   DesignSurface* surface_;
   FormMenuStrip* menu_;
   bool current_ = false;
   WindowState state_ = WindowState::Normal;
-  QRect normal_;  ///< place and size at the return to normal
-  QSize told_;    ///< the size that the form has, as window and form last agreed
+  QRect normal_;  ///< position and size at the return to normal
+  QSize stored_;  ///< the size of the form when window and form last agreed
 
   // A gesture of the frame itself.
   bool moving_ = false;

@@ -34,7 +34,9 @@ class FormMenuTitle final : public QAbstractButton {
       : QAbstractButton(parent), caption_(std::move(caption)) {
     setFocusPolicy(Qt::NoFocus);
     setAccessibleName(Spoken(caption_));
-    resize(fontMetrics().size(Qt::TextShowMnemonic, caption_).width() + 2 * looks::kMenuTitleRoom,
+    font_.setPixelSize(looks::kMenuFontPixels);
+    resize(QFontMetrics(font_).size(Qt::TextShowMnemonic, caption_).width() +
+               2 * looks::kMenuTitleRoom,
            FormMenuStrip::HeightPixels() - 1);
     setAttribute(Qt::WA_Hover);
     show();
@@ -49,11 +51,13 @@ class FormMenuTitle final : public QAbstractButton {
       looks::DrawFrame(painter, rect(), looks::kLight, looks::kShadow);
     }
     painter.setPen(Qt::black);
+    painter.setFont(font_);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, caption_);
   }
 
  private:
   QString caption_;
+  QFont font_;  ///< of its own: the style sheet of the program sets that of the widget
 };
 
 FormMenuStrip::FormMenuStrip(std::function<void(const ControlRef&)> chosen, QWidget* parent)
@@ -61,14 +65,11 @@ FormMenuStrip::FormMenuStrip(std::function<void(const ControlRef&)> chosen, QWid
   setObjectName(QStringLiteral("mnuBar"));
   setAccessibleName(QStringLiteral("Menu bar"));
   setFixedHeight(HeightPixels());
-  QFont shown = font();
-  shown.setPixelSize(looks::kMenuFontPixels);
-  setFont(shown);
 }
 
 void FormMenuStrip::Rebuild(const DesignForm& form) {
   for (const Title& title : titles_) {
-    // A menu may be on its way to tell which of its items was chosen.
+    // A menu may be about to report which of its items was chosen.
     title.Button->hide();
     title.Button->deleteLater();
     title.Items->deleteLater();

@@ -25,7 +25,7 @@ class FormMenuStrip final : public QWidget {
 
   /// Reads titles and items again from the form.
   void Rebuild(const DesignForm& form);
-  /// Opens a title's items by its place from the left; nothing for one that is not there.
+  /// Opens the items of a title by its index from the left; no effect for an index without a title.
   void Open(int title);
   [[nodiscard]] static int HeightPixels() { return looks::kMenuStripHeight; }
 

@@ -1,4 +1,4 @@
-// How an object stands on a design form.
+// How an object is painted on a design form.
 #pragma once
 
 #include <QRect>

@@ -1,7 +1,10 @@
 #include "qt/surface/surface_access.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <algorithm>
+#include <array>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -9,7 +12,8 @@
 #include "designer/hit_test.h"
 #include "designer/selection.h"
 #include "qt/kit/text_bridge.h"
-#include "qt/surface/design_surface.h"
+#include "qt/surface/design_window.h"
+#include "qt/surface/form_menu_strip.h"
 
 namespace tarnwick {
 
@@ -37,8 +41,8 @@ QAccessible::Role RoleOf(Kind kind) {
   }
 }
 
-/// An object of a design form. It lives as long as its surface, and is no object's any more once
-/// the object has left the form.
+/// An object of a design form. It lives as long as its surface and is not valid any more when
+/// the object was removed from the form.
 class ObjectAccess final : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
   ObjectAccess(DesignSurface& surface, std::weak_ptr<DesignControl> object)
@@ -177,9 +181,151 @@ class SurfaceAccess final : public QAccessibleWidget {
   mutable std::unordered_map<const DesignControl*, QAccessible::Id> ids_;
 };
 
+constexpr std::array kFrameButtons{FramePart::Minimise, FramePart::Maximise, FramePart::Close};
+
+/// A painted button of the frame of a design window. It lives as long as the window's interface.
+class FrameButtonAccess final : public QAccessibleInterface, public QAccessibleActionInterface {
+ public:
+  FrameButtonAccess(DesignWindow& window, FramePart part) : window_(window), part_(part) {}
+
+  [[nodiscard]] bool isValid() const override { return true; }
+  [[nodiscard]] QObject* object() const override { return nullptr; }
+  [[nodiscard]] QAccessibleInterface* parent() const override {
+    return QAccessible::queryAccessibleInterface(&window_);
+  }
+  [[nodiscard]] QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
+  [[nodiscard]] QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override {
+    return nullptr;
+  }
+  [[nodiscard]] int childCount() const override { return 0; }
+  [[nodiscard]] int indexOfChild(const QAccessibleInterface* /*child*/) const override {
+    return -1;
+  }
+  /// The name says what a press does now.
+  [[nodiscard]] QString text(QAccessible::Text kind) const override {
+    if (kind != QAccessible::Name) return {};
+    if (part_ == FramePart::Close) return QStringLiteral("Close");
+    const bool maximises = part_ == FramePart::Maximise;
+    const WindowState state = maximises ? WindowState::Maximised : WindowState::Minimised;
+    if (window_.State() == state) return QStringLiteral("Restore");
+    return maximises ? QStringLiteral("Maximise") : QStringLiteral("Minimise");
+  }
+  void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
+  [[nodiscard]] QRect rect() const override {
+    const QRect button = window_.Frame().ButtonRect(part_);
+    return {window_.mapToGlobal(button.topLeft()), button.size()};
+  }
+  [[nodiscard]] QAccessible::Role role() const override { return QAccessible::PushButton; }
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state;
+    state.invisible = window_.Frame().ButtonRect(part_).isEmpty() || !window_.isVisible();
+    return state;
+  }
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
+                                                : nullptr;
+  }
+
+  [[nodiscard]] QStringList actionNames() const override { return {pressAction()}; }
+  void doAction(const QString& action) override {
+    if (action == pressAction()) window_.PressButton(part_);
+  }
+  [[nodiscard]] QStringList keyBindingsForAction(const QString& /*action*/) const override {
+    return {};
+  }
+
+ private:
+  DesignWindow& window_;
+  FramePart part_;
+};
+
+/// A design window: its widgets, then the buttons that its frame has.
+class WindowAccess final : public QAccessibleWidget {
+ public:
+  explicit WindowAccess(DesignWindow& window)
+      : QAccessibleWidget(&window, QAccessible::Window), window_(window) {
+    for (std::size_t i = 0; i < ids_.size(); ++i) {
+      ids_[i] =
+          QAccessible::registerAccessibleInterface(new FrameButtonAccess(window, kFrameButtons[i]));
+    }
+  }
+  ~WindowAccess() override {
+    for (const QAccessible::Id id : ids_) QAccessible::deleteAccessibleInterface(id);
+  }
+
+  [[nodiscard]] int childCount() const override {
+    return QAccessibleWidget::childCount() + static_cast<int>(Buttons().size());
+  }
+  [[nodiscard]] QAccessibleInterface* child(int index) const override {
+    const int widgets = QAccessibleWidget::childCount();
+    if (index < widgets) return QAccessibleWidget::child(index);
+    const std::vector<QAccessibleInterface*> buttons = Buttons();
+    const auto place = static_cast<std::size_t>(index - widgets);
+    return place < buttons.size() ? buttons[place] : nullptr;
+  }
+  [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override {
+    const std::vector<QAccessibleInterface*> buttons = Buttons();
+    const auto found = std::find(buttons.begin(), buttons.end(), child);
+    if (found == buttons.end()) return QAccessibleWidget::indexOfChild(child);
+    return QAccessibleWidget::childCount() + static_cast<int>(found - buttons.begin());
+  }
+  [[nodiscard]] QAccessibleInterface* childAt(int x, int y) const override {
+    for (QAccessibleInterface* const button : Buttons()) {
+      if (button->rect().contains(x, y)) return button;
+    }
+    return QAccessibleWidget::childAt(x, y);
+  }
+  [[nodiscard]] QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Name) return ToQString(window_.Surface().FormName());
+    return QAccessibleWidget::text(kind);
+  }
+
+ private:
+  [[nodiscard]] std::vector<QAccessibleInterface*> Buttons() const {
+    std::vector<QAccessibleInterface*> buttons;
+    const WindowFrame frame = window_.Frame();
+    for (std::size_t i = 0; i < ids_.size(); ++i) {
+      if (frame.ButtonRect(kFrameButtons[i]).isEmpty()) continue;
+      buttons.push_back(QAccessible::accessibleInterface(ids_[i]));
+    }
+    return buttons;
+  }
+
+  DesignWindow& window_;
+  std::array<QAccessible::Id, kFrameButtons.size()> ids_{};
+};
+
+/// A title of a form's menu bar, which opens its items.
+class MenuTitleAccess final : public QAccessibleWidget {
+ public:
+  explicit MenuTitleAccess(QAbstractButton& title)
+      : QAccessibleWidget(&title, QAccessible::MenuItem), title_(title) {}
+
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.hasPopup = true;
+    return state;
+  }
+  [[nodiscard]] QStringList actionNames() const override { return {showMenuAction()}; }
+  void doAction(const QString& action) override {
+    if (action == showMenuAction()) emit title_.pressed();
+  }
+
+ private:
+  QAbstractButton& title_;
+};
+
 QAccessibleInterface* MakeAccess(const QString& /*class_name*/, QObject* object) {
   if (auto* const surface = qobject_cast<DesignSurface*>(object)) {
     return new SurfaceAccess(*surface);
+  }
+  if (auto* const window = qobject_cast<DesignWindow*>(object)) return new WindowAccess(*window);
+  if (auto* const strip = qobject_cast<FormMenuStrip*>(object)) {
+    return new QAccessibleWidget(strip, QAccessible::MenuBar);
+  }
+  auto* const button = qobject_cast<QAbstractButton*>(object);
+  if (button != nullptr && qobject_cast<FormMenuStrip*>(button->parentWidget()) != nullptr) {
+    return new MenuTitleAccess(*button);
   }
   return nullptr;
 }

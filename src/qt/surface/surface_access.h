@@ -1,11 +1,12 @@
-// Design forms for accessibility: the form with its objects as children.
+// Design forms for accessibility: the window, its frame's buttons, its menu bar and its objects.
 #pragma once
 
 namespace tarnwick {
 
-/// Has design surfaces told to assistive programs: a surface with the form's name and its objects
-/// as children, each with name, kind, rectangle, selected and focused state, and the
-/// press as its action. A second call does nothing.
+/// Describes design windows to assistive programs. A window has the painted buttons of its frame
+/// as children, beside its menu bar and its surface; the menu bar has its titles, the surface has
+/// the objects of the form. Each has name, role, rectangle, state and action. A second call has no
+/// effect.
 void InstallSurfaceAccess();
 
 }  // namespace tarnwick

@@ -15,7 +15,7 @@ namespace tarnwick {
 
 enum class FramePart { None, Title, Minimise, Maximise, Close };
 
-/// The frame of a window of a size. Places are pixels of the window.
+/// The frame of a window of a size. Positions are pixels of the window.
 struct WindowFrame {
   looks::FrameMetrics Metrics;
   bool Buttons = true;
@@ -27,7 +27,7 @@ struct WindowFrame {
   /// Empty for a button that the frame lacks.
   [[nodiscard]] QRect ButtonRect(FramePart part) const;
   [[nodiscard]] FramePart PartAt(const QPoint& place) const;
-  /// The edges that a drag from a place moves.
+  /// The edges that a drag from a position moves.
   [[nodiscard]] Qt::Edges EdgesAt(const QPoint& place) const;
 };
 
