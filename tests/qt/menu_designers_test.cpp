@@ -223,6 +223,7 @@ TEST_F(MenuDesigners, OkKeepsTheObjectsAndThePlaceOfTheWindow) {
   program.Place(3, {20, 120});
   QWidget* before = program.Window().Forms().Window(1);
   before->move(77, 55);
+  const QColor title = before->grab().toImage().pixelColor(200, 12);
   InMenuEdit([](const Designer& menu) {
     menu.Press(10);
     menu.Press(7);
@@ -231,6 +232,7 @@ TEST_F(MenuDesigners, OkKeepsTheObjectsAndThePlaceOfTheWindow) {
   EXPECT_NE(after, before);
   EXPECT_EQ(after->pos(), QPoint(77, 55));
   EXPECT_TRUE(after->isVisible());
+  EXPECT_EQ(after->grab().toImage().pixelColor(200, 12), title) << "the title of the current form";
   EXPECT_EQ(program.Form().Element(Kind::Button, 1)->Tag, "Form1Btn1");
   EXPECT_EQ(program.Form().Element(Kind::Label, 1)->Tag, "Form1Label1");
   // The new surface takes presses and keys.
@@ -265,7 +267,7 @@ TEST_F(MenuDesigners, OkOnAMaximisedFormKeepsItMaximised) {
   EXPECT_EQ(program.Record().Width, normal.width());
 }
 
-TEST_F(MenuDesigners, OkOnARolledUpFormBringsItUpWhereItStood) {
+TEST_F(MenuDesigners, OkOnARolledUpFormLeavesItRolledUpWhereItStood) {
   DesignWindow* before = program.Window().Forms().Window(1);
   before->move(77, 55);
   const QRect normal = before->geometry();
@@ -278,6 +280,10 @@ TEST_F(MenuDesigners, OkOnARolledUpFormBringsItUpWhereItStood) {
     menu.Ok();
   });
   DesignWindow* after = program.Window().Forms().Window(1);
+  EXPECT_EQ(after->State(), WindowState::Minimised);
+  EXPECT_EQ(after->pos(), normal.topLeft());
+  EXPECT_EQ(program.Record().Height, normal.height());
+  program.Click(*after, frame.ButtonRect(FramePart::Minimise).center());
   EXPECT_EQ(after->State(), WindowState::Normal);
   EXPECT_EQ(after->geometry(), normal);
   EXPECT_TRUE(Title(1).isVisible());

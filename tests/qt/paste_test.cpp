@@ -111,23 +111,5 @@ TEST_F(Pasting, AnArmedToolPressedOnAnObjectSaysWhereToPress) {
   }
 }
 
-TEST_F(Pasting, HandlesFollowWhatIsTypedForPositionAndSize) {
-  program.Place(2, {40, 40});
-  const auto corner = [this](int handle) {
-    const ControlRef grip = program.Form().Element(Kind::Handle, handle);
-    EXPECT_TRUE(grip->Visible);
-    return PixelsOf(grip->Left + grip->Width / 2, grip->Top + grip->Height / 2);
-  };
-  const auto near = [](QPoint a, QPoint b) { return (a - b).manhattanLength() <= 2; };
-  EXPECT_TRUE(near(corner(0), {40, 40}));
-  TypeInto("Left", QStringLiteral("90"));
-  EXPECT_TRUE(near(corner(0), {90, 40}));
-  TypeInto("Top", QStringLiteral("70"));
-  EXPECT_TRUE(near(corner(0), {90, 70}));
-  TypeInto("Width", QStringLiteral("60"));
-  TypeInto("Height", QStringLiteral("50"));
-  EXPECT_TRUE(near(corner(4), {150, 120}));
-}
-
 }  // namespace
 }  // namespace tarnwick

@@ -162,6 +162,7 @@ QToolButton* CommandActions::MakeButton(const ToolbarButton& row, const QString&
 void CommandActions::BuildPopUp(QMainWindow& window) {
   pop_up_ = new QMenu(&window);
   pop_up_->setObjectName(QStringLiteral("ObjectPopUp"));
+  pop_up_->setAccessibleName(QStringLiteral("Object menu"));
   AddRows(*pop_up_, ObjectPopUpRows(), false);
 }
 

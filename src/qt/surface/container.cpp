@@ -43,6 +43,7 @@ DesignWindow& Container::Open(FormUser& user, DesignWindowHost& host) {
   connect(window, &DesignWindow::FillRequested, this,
           [this, window] { window->Fill(RoomToFill()); });
   window->installEventFilter(this);
+  window->SetCurrent(form == current_);
   windows_[form] = window;
   const auto left = left_.extract(form);
   if (left.empty()) {
@@ -112,6 +113,7 @@ void Container::Focus(int form) {
 }
 
 void Container::SetCurrent(int form) {
+  current_ = form;
   for (const auto& [number, window] : windows_) window->SetCurrent(number == form);
 }
 

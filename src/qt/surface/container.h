@@ -66,6 +66,7 @@ class Container final : public QScrollArea {
   std::unordered_map<int, Left> left_;
   std::unordered_map<int, std::unique_ptr<SurfaceGestures>> gestures_;
   int opened_ = 0;
+  int current_ = 0;  ///< the current form; 0 for none
 };
 
 }  // namespace tarnwick
