@@ -139,7 +139,9 @@ std::string RunnerHelp() {
              "Runs a RapidQ program with its windows.\n\n"
              "  --program-folder F      where includes are looked for by their bare names\n"
              "  --exe-name F            what Application.ExeName is\n"
-             "  --with-ide              \"stop\" on standard input, or its end, stops the program\n"
+             "  --with-ide              \"stop\" on standard input, or its end, stops the "
+             "program;\n"
+             "                          after \"leave\" it goes on by itself\n"
              "  --report=tab            messages as fields with tabs between\n"
              "  --trace F               write what the windows are told to a file\n"
              "  --supported             print what is not supported, and run nothing\n") +

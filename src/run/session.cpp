@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QTimer>
 #include <chrono>
+#include <csignal>
 #include <memory>
 
 #include <unistd.h>
@@ -56,6 +57,8 @@ class Stopping {
   Stopping(basic::Machine& machine, const RunnerArguments& arguments, std::FILE* in)
       : machine_(machine) {
     if (arguments.WithIde) {
+      // What reads the report may end before the program does.
+      std::signal(SIGPIPE, SIG_IGN);
       listener_ = std::make_unique<StopListener>(::fileno(in), [this] { Stop(); });
     }
     if (arguments.MaxSeconds > 0) {

@@ -34,6 +34,7 @@ void StopListener::Listen(int input) {
         continue;
       }
       if (line == "stop" || line == "stop\r") return stop_();
+      if (line == "leave" || line == "leave\r") return;
       line.clear();
     }
   }

@@ -7,7 +7,8 @@
 namespace tarnwick::run {
 
 /// Reads lines from a file descriptor in a thread of its own: the line "stop" and the end of the
-/// input both call back, from that thread and once.
+/// input both call back, from that thread and once. Behind the line "leave" neither does: the
+/// program that started this one has ended and leaves it to itself.
 class StopListener {
  public:
   StopListener(int input, std::function<void()> stop);

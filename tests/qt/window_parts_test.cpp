@@ -181,12 +181,14 @@ TEST(Menus, OnAFreshFormObjectCommandsAreOffAndOthersOn) {
   EXPECT_FALSE(program.Action(QStringLiteral("mnuFondo")).isEnabled());
   EXPECT_FALSE(program.Action(QStringLiteral("mnuUndo")).isEnabled());
   EXPECT_FALSE(program.Action(QStringLiteral("mnuRedo")).isEnabled());
+  EXPECT_FALSE(program.Action(QStringLiteral("mnuStop")).isEnabled());
   for (const Column& column : ExpectedMenus()) {
     for (const Row& row : column.Rows) {
       const QString name = QString::fromLatin1(row.Name);
-      // Nothing is selected, and no step has been made.
+      // Nothing is selected, no step has been made, and no program runs.
       const bool off = name == QLatin1String("mnuFrente") || name == QLatin1String("mnuFondo") ||
-                       name == QLatin1String("mnuUndo") || name == QLatin1String("mnuRedo");
+                       name == QLatin1String("mnuUndo") || name == QLatin1String("mnuRedo") ||
+                       name == QLatin1String("mnuStop");
       const bool is_menu = name == QLatin1String("mnuRecent");
       if (name.isEmpty() || off || is_menu) continue;
       EXPECT_TRUE(program.Action(name).isEnabled()) << row.Name;
