@@ -62,6 +62,14 @@ CodeTarget TargetOfKey(std::string_view key, int form) {
   return target;
 }
 
+EventKey EventKeyOf(std::string_view key) noexcept {
+  const std::size_t last = key.rfind('.');
+  // The second part is a name, also where it reads like an event.
+  if (last == std::string_view::npos || key.find('.') == last) return {key};
+  const std::optional<Event> event = EventOfName(key.substr(last + 1));
+  return event ? EventKey{key.substr(0, last), *event, true} : EventKey{key};
+}
+
 std::string KeyPrefixOf(const CodeTarget& target) {
   std::string prefix = std::string(kFormWord) + NumberText(static_cast<std::int64_t>(target.Form));
   if (target.What == CodeTarget::Sort::Form) return prefix;

@@ -34,6 +34,15 @@ struct CodeTarget {
 /// ".". A key that does not begin with a form belongs to the form given.
 [[nodiscard]] CodeTarget TargetOfKey(std::string_view key, int form);
 
+/// A whole key such as "Form2.Button3.OnKeyDown", cut before its event. The key of an item, such as
+/// "Form2.mnuOpen", has none and means OnClick.
+struct EventKey {
+  std::string_view Owner;
+  Event Id = Event::OnClick;
+  bool OfObject = false;  ///< it had an event: the owner is an object
+};
+[[nodiscard]] EventKey EventKeyOf(std::string_view key) noexcept;
+
 /// The first half of the target's keys in `EventTable` and `IniEvents`: "Form2", "Form2.Button1",
 /// "Form2.Images3", "Form2.PopUpMnu1", "Form2.mnuOpen".
 [[nodiscard]] std::string KeyPrefixOf(const CodeTarget& target);

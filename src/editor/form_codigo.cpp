@@ -39,9 +39,12 @@ void FormCodigo::Open() {
   LoadPanel();
   events_.clear();
   event_row_ = -1;
+  left_behind_ = false;
   if (project_.JumpKey.find('.') != std::string::npos) {
-    target_ = TargetOfKey(project_.JumpKey, window->Number());
-    LoadNamedItem();
+    const std::string jump = std::exchange(project_.JumpKey, {});
+    const EventKey key = EventKeyOf(jump);
+    target_ = TargetOfKey(key.Owner, window->Number());
+    LoadNamedItem(key);
     return;
   }
   target_ = TargetOfSelection(*window);
@@ -85,10 +88,10 @@ void FormCodigo::SetComboSearch(int row) {
                             NumberText(static_cast<std::int64_t>(combo_search_)));
 }
 
-void FormCodigo::LoadNamedItem() {
-  project_.JumpKey.clear();
+void FormCodigo::LoadNamedItem(const EventKey& key) {
+  left_behind_ = key.OfObject;
   caption_ = target_.NameObjet;
-  events_ = {{"Sub " + caption_ + "_OnClick", Event::OnClick}};
+  events_ = {{"Sub " + caption_ + "_" + std::string(InfoOf(key.Id).Signature), key.Id}};
   event_row_ = 0;
   ShowTextOf(ShownKey());
 }
@@ -140,7 +143,12 @@ void FormCodigo::StoreText(const std::string& text) {
 }
 
 void FormCodigo::StoreShown() {
-  if (IsOpen()) StoreText(editor_.Text());
+  if (!IsOpen()) return;
+  const std::string text = editor_.Text();
+  if (text == shown_text_) return StoreText(text);
+  host_.AcceptBegins(target_.Form, "Code " + caption_);
+  StoreText(text);
+  host_.CodeAccepted(target_.Form);
 }
 
 void FormCodigo::Events_Click(int row) {
@@ -174,6 +182,8 @@ void FormCodigo::Accept() {
       host_.PopBoockMarck(form, name);
     }
   }
+  // The code of an object that has gone leaves the events bar with its last event.
+  if (left_behind_ && text.empty()) host_.DelBoockMarck(form, BarNameOf(target_));
   host_.CodeAccepted(form);
   Close();
 }
@@ -201,13 +211,13 @@ void FormCodigo::RestoreLost() {
   DiscardLost();
 }
 
+bool FormCodigo::HasTyped() const {
+  return IsOpen() && event_row_ >= 0 && editor_.Text() != shown_text_;
+}
+
 CodeDrafts::Texts FormCodigo::NotAccepted() const {
   CodeDrafts::Texts texts = drafts_.All();
-  if (IsOpen() && event_row_ >= 0) {
-    if (std::string text = editor_.Text(); text != shown_text_) {
-      texts.insert_or_assign(ShownKey(), std::move(text));
-    }
-  }
+  if (HasTyped()) texts.insert_or_assign(ShownKey(), editor_.Text());
   return texts;
 }
 

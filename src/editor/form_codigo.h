@@ -23,7 +23,8 @@ namespace tarnwick::editor {
 ///   form_codigo.Events_Click(row);          // the shown text is stored, another one shows
 ///   form_codigo.Accept();                   // or Cancel(); both end in CodeHost::Unload
 ///
-/// Only a change of event, StoreShown and Accept write to `EventTable`.
+/// Only a change of event, StoreShown and Accept write to `EventTable`, each as a step of the
+/// history.
 class FormCodigo {
  public:
   FormCodigo(ProjectTables& project, const language::SupportTables& language, Settings& settings,
@@ -68,6 +69,8 @@ class FormCodigo {
   void RestoreLost();
   void DiscardLost();
   [[nodiscard]] CodeDrafts& Drafts() noexcept { return drafts_; }
+  /// True while the shown text differs from what is stored.
+  [[nodiscard]] bool HasTyped() const;
   /// What would be lost if the program ended now: the text that is shown, when it differs from its
   /// entry, and all drafts. To be kept with the unsaved project, and handed to KeepDrafts when that
   /// is had back.
@@ -87,7 +90,7 @@ class FormCodigo {
  private:
   void LoadPanel();
   void LoadEvents(std::string_view kind_word);
-  void LoadNamedItem();
+  void LoadNamedItem(const EventKey& key);
   [[nodiscard]] std::string WantedEvent();
   [[nodiscard]] std::string ShownKey() const;
   void ShowTextOf(const std::string& key);
@@ -108,6 +111,7 @@ class FormCodigo {
   std::vector<EventRow> events_;
   int event_row_ = -1;
   bool IsLoading_ = false;
+  bool left_behind_ = false;  ///< the code open is that of an object by its key
   bool functions_visible_ = true;
   int combo_search_ = 0;
 };

@@ -93,7 +93,7 @@ class Checker {
     std::string Place;
   };
 
-  void Tell(FindingId id, std::string_view row, std::string text) {
+  void Report(FindingId id, std::string_view row, std::string text) {
     findings_.push_back({.Id = id,
                          .Form = subject_.Form,
                          .Of = subject_.Of,
@@ -123,8 +123,8 @@ class Checker {
     }
     subject_ = {};
     if (!there && tables_.FormsCount > 0) {
-      Tell(FindingId::MainFormGone, "",
-           "no form has the name of the main form, " + std::string(name));
+      Report(FindingId::MainFormGone, "",
+             "no form has the name of the main form, " + std::string(name));
     }
   }
 
@@ -188,7 +188,7 @@ class Checker {
   void CheckName(const std::string& name, std::string_view row) {
     const Kind kind = subject_.Of;
     if (const auto fault = FaultOfName(name, kind)) {
-      Tell(*fault, row, TextOfNameFault(*fault, name));
+      Report(*fault, row, TextOfNameFault(*fault, name));
       if (*fault == FindingId::NameEmpty) return;
     }
     TakeName(name, {subject_.Place, subject_.Form, kind, false}, row);
@@ -198,8 +198,8 @@ class Checker {
   void TakeName(const std::string& name, NameUse use, std::string_view row) {
     const auto [first, added] = names_.try_emplace(name, std::move(use));
     if (!added) {
-      Tell(FindingId::NameDoubled, row,
-           "the name " + name + " is used before, by " + first->second.Place);
+      Report(FindingId::NameDoubled, row,
+             "the name " + name + " is used before, by " + first->second.Place);
     }
   }
 
@@ -210,32 +210,32 @@ class Checker {
     if (first != names_.end()) {
       const NameUse& use = first->second;
       if (shared && use.Family && use.Form == subject_.Form && use.Of == kind) return;
-      Tell(FindingId::NameDoubled, row, "the name " + stem + " is used before, by " + use.Place);
+      Report(FindingId::NameDoubled, row, "the name " + stem + " is used before, by " + use.Place);
       return;
     }
     names_.emplace(stem, NameUse{subject_.Place, subject_.Form, kind, true});
     if (!shared) return;
     const auto [family, is_first] = families_.try_emplace(kind, stem);
     if (!is_first) {
-      Tell(FindingId::SecondFamily, row,
-           "the array " + stem + " is not declared: " + std::string(InfoOf(kind).Name) +
-               " objects of this form have the array " + family->second);
+      Report(FindingId::SecondFamily, row,
+             "the array " + stem + " is not declared: " + std::string(InfoOf(kind).Name) +
+                 " objects of this form have the array " + family->second);
     }
   }
 
   void CheckDeclared(const DesignControl& control) {
     const Declaration& dim = InfoOf(control.Id).Program.Dim;
-    bool& told = undeclared_[static_cast<std::size_t>(control.Id)];
-    if (told) return;
+    bool& reported = undeclared_[static_cast<std::size_t>(control.Id)];
+    if (reported) return;
     const DesignForm* current = tables_.CurrentForm;
     if (dim.FocusGuard && (current == nullptr || !current->HasObjects(control.Id))) {
       const FormRec* form = current == nullptr ? nullptr : tables_.RecordOf(*current);
       std::string text = "it is not declared: the current form";
       if (form != nullptr) text.append(", ").append(form->Name).append(",");
-      Tell(FindingId::NotDeclared, "", text.append(" has no ").append(InfoOf(control.Id).Name));
-      told = true;
+      Report(FindingId::NotDeclared, "", text.append(" has no ").append(InfoOf(control.Id).Name));
+      reported = true;
     } else if (dim.Rule == DimRule::FirstOnly && control.Index != 1) {
-      Tell(FindingId::NotDeclared, "", "it is not declared: only the first of its kind is");
+      Report(FindingId::NotDeclared, "", "it is not declared: only the first of its kind is");
     }
   }
 
@@ -244,15 +244,16 @@ class Checker {
   /// A text that stands between quotes in the program.
   void CheckText(std::string_view row, std::string_view text) {
     if (text.find('"') != std::string_view::npos) {
-      Tell(FindingId::TextQuote, row, "the text has a double quote, which ends it in the program");
+      Report(FindingId::TextQuote, row,
+             "the text has a double quote, which ends it in the program");
     }
     CheckLine(row, text);
   }
 
   void CheckLine(std::string_view row, std::string_view text) {
     if (text.find_first_of("\r\n") != std::string_view::npos) {
-      Tell(FindingId::TextLineBreak, row,
-           "the text has a line break, which ends its line in the program");
+      Report(FindingId::TextLineBreak, row,
+             "the text has a line break, which ends its line in the program");
     }
   }
 
@@ -287,7 +288,7 @@ class Checker {
       CheckLine(row.Row, own.*row.Field);
       if (!Trim(written.*row.Field).empty()) continue;
       if (Trim(own.*row.Field).empty()) {
-        Tell(FindingId::SocketValueEmpty, row.Row, std::string(row.Row) + " has no value");
+        Report(FindingId::SocketValueEmpty, row.Row, std::string(row.Row) + " has no value");
       } else {
         miscounted = true;
       }
@@ -295,7 +296,7 @@ class Checker {
     if (miscounted) {
       std::string text = "its values are left out: it is socket ";
       AppendNumber(text, std::int64_t{sockets_});
-      Tell(FindingId::SocketMiscounted, "", text + " of the project, but not of its form");
+      Report(FindingId::SocketMiscounted, "", text + " of the project, but not of its form");
     }
   }
 
@@ -304,9 +305,9 @@ class Checker {
     ++popups_;
     const std::string& parent = RecordOrEmpty(record.PopUps, popups_).PopUpMenu;
     if (!parents_.contains(parent)) {
-      Tell(FindingId::PopUpParentGone, "Parent",
-           parent.empty() ? std::string("the popup menu hangs on nothing")
-                          : "nothing has the name that the popup menu hangs on, " + parent);
+      Report(FindingId::PopUpParentGone, "Parent",
+             parent.empty() ? std::string("the popup menu hangs on nothing")
+                            : "nothing has the name that the popup menu hangs on, " + parent);
     }
     const PopUpFormRec& rows = RecordOrEmpty(std::as_const(tables_.PopUpMenus), control.Index);
     for (std::size_t row = 1; row < rows.Items.size(); ++row) {
@@ -345,8 +346,8 @@ class Checker {
 
   void CheckThere(std::string_view row, std::string_view what, const std::string& path) {
     if (files_.Exists(path)) return;
-    Tell(FindingId::PictureMissing, row,
-         std::string(what).append(" does not exist: ").append(path));
+    Report(FindingId::PictureMissing, row,
+           std::string(what).append(" does not exist: ").append(path));
   }
 
   // ---- code
@@ -364,8 +365,8 @@ class Checker {
       const ControlRef frame = tables_.User(form)->FirstOf(Kind::TransparentFrame);
       if (!frame) continue;
       subject_ = {form, frame->Id, frame->Index, tables_.Form(form)->Name + "." + frame->Tag};
-      Tell(FindingId::StrictWithFrame, "",
-           "the lines that show its form use a variable, which $TYPECHECK ON wants declared");
+      Report(FindingId::StrictWithFrame, "",
+             "the lines that show its form use a variable, which $TYPECHECK ON wants declared");
     }
   }
 
@@ -375,10 +376,15 @@ class Checker {
       if (Trim(code).empty() || emitted.Holds(code)) return;
       const std::string owner = key.substr(0, key.rfind('.'));
       subject_ = SubjectOfKey(owner);
+      // The code of a form that was removed waits for an undo, and goes with the next save.
+      if (subject_.Form > 0 && subject_.Form <= tables_.FormsCount &&
+          !tables_.IsLive(subject_.Form)) {
+        return;
+      }
       subject_.Place = key;
       const bool owned = owners_.contains(owner);
-      Tell(owned ? FindingId::CodeLeftOut : FindingId::CodeOwnerless, "",
-           owned ? "this code will not be in the program" : "no object owns this code");
+      Report(owned ? FindingId::CodeLeftOut : FindingId::CodeOwnerless, "",
+             owned ? "this code will not be in the program" : "no object owns this code");
     });
   }
 
@@ -409,7 +415,7 @@ class Checker {
   FoldedSet parents_;
   FoldedSet owners_;
   std::unordered_map<Kind, std::string> families_;  ///< of the form looked at
-  std::array<bool, kKindCount> undeclared_{};       ///< kinds told as undeclared on it
+  std::array<bool, kKindCount> undeclared_{};       ///< kinds reported as undeclared on it
   int popups_ = 0;                                  ///< popup menus met on it
   int sockets_ = 0;                                 ///< sockets met in the project
 };

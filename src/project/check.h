@@ -13,11 +13,11 @@ namespace tarnwick::project {
 /// The findings on the project as it stands in the tables: names, texts, links between objects,
 /// pictures, code. In the order of forms and of the objects on them, then the code. What the
 /// generator writes depends on `CurrentForm`, and so do the findings. Linear in the size of the
-/// project; of the files only their being there is asked for.
+/// project; of the files it only looks up whether they exist.
 [[nodiscard]] std::vector<Finding> CheckProject(ProjectTables& tables, FilePort& files);
 
 /// The findings on the project's files as they lie on disk: what of the index `ProjectFile` and its
-/// forms cannot be read. None for a project without a file. To be asked for after opening; forms
+/// forms cannot be read. None for a project without a file. To be called after opening; forms
 /// are matched by their `FileName`.
 [[nodiscard]] std::vector<Finding> CheckFiles(const ProjectTables& tables, FilePort& files);
 

@@ -68,21 +68,21 @@ Finding FindingOf(const RecordFault& fault, int form, std::string_view form_name
 
 std::vector<Finding> CheckFiles(const ProjectTables& tables, FilePort& files) {
   std::vector<Finding> findings;
-  const auto tell = [&](FindingId id, std::string text) {
+  const auto report = [&](FindingId id, std::string text) {
     findings.push_back({.Id = id, .Text = std::move(text)});
   };
   const auto forms = FormsByFile(tables);
   std::unordered_set<std::string> met;
   for (const std::string& path : ListedForms(tables, files)) {
     if (!met.insert(path).second) {
-      tell(FindingId::ListedTwice, "the index names a form twice: " + path);
+      report(FindingId::ListedTwice, "the index names a form twice: " + path);
       continue;
     }
     const std::optional<std::string> text = files.Read(path);
     if (!text) {
       const bool there = files.Exists(path);
-      tell(there ? FindingId::FileUnreadable : FindingId::FileMissing,
-           (there ? "the form cannot be read: " : "the form does not exist: ") + path);
+      report(there ? FindingId::FileUnreadable : FindingId::FileMissing,
+             (there ? "the form cannot be read: " : "the form does not exist: ") + path);
       continue;
     }
     const auto form = forms.find(path);

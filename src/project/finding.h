@@ -60,7 +60,7 @@ inline constexpr std::array<FindingInfo, kFindingCount> kFindings{{
     {FindingId::ListedTwice, Severity::Warning, "take one of its two lines out of the index"},
     {FindingId::NoRecord, Severity::Warning, "correct the line or take it out"},
     {FindingId::NumberLost, Severity::Error, "give the object a number from 1 to 32767"},
-    {FindingId::ValueLost, Severity::Warning, "set the property anew"},
+    {FindingId::ValueLost, Severity::Warning, "set the property again"},
     {FindingId::MainFormGone, Severity::Error, "choose another with Select Main Form"},
     {FindingId::NameEmpty, Severity::Error, "give it a name"},
     {FindingId::NameDoubled, Severity::Error, "rename one of the two"},
@@ -110,7 +110,7 @@ struct Finding {
 [[nodiscard]] bool FormsArrays(Kind kind) noexcept;
 /// What is wrong with a name on its own, for a field in which it is typed; nothing for a good one.
 /// An array's name, such as "Cmd(1)", is good for the kinds that form arrays. The items of popup
-/// menus count as PopUpMenu. Whether another thing has the name, CheckProject tells.
+/// menus count as PopUpMenu. Doubled names are found by CheckProject.
 [[nodiscard]] std::optional<FindingId> FaultOfName(std::string_view name, Kind kind);
 /// The sentence that goes with a fault of a name: "the name End is a word of the language".
 [[nodiscard]] std::string TextOfNameFault(FindingId fault, std::string_view name);

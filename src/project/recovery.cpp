@@ -16,12 +16,14 @@ constexpr std::string_view kProjectName = "project.txt";
 }  // namespace
 
 Recovery::Recovery(ProjectTables& tables, FilePort& files, InstanceFolderPort& folders,
-                   std::string parent, std::function<std::string()> now)
+                   std::string parent, std::function<std::string()> now,
+                   std::function<TypedCode()> typed)
     : tables_(tables),
       files_(files),
       folders_(folders),
       parent_(std::move(parent)),
-      now_(std::move(now)) {}
+      now_(std::move(now)),
+      typed_(std::move(typed)) {}
 
 std::string Recovery::PathOf(std::string_view name) const {
   return std::string(folder_).append("\\").append(name);
@@ -45,20 +47,25 @@ void Recovery::Settle() {
 
 bool Recovery::Keep() {
   std::string text = KeptText(tables_);
-  if (text == settled_) {
+  const bool changed = text != settled_;
+  const TypedCode code = typed_();
+  if (!changed && code.empty()) {
     // Taken back by hand: what was kept is no more than what is saved.
     if (!written_.empty()) Settle();
     return false;
   }
-  if (folder_.empty() || text == written_) return true;
+  if (!code.empty()) text = WithTypedCode(std::move(text), tables_, code);
+  if (folder_.empty() || text == written_) return changed;
   if (files_.Replace(PathOf(kUnsaved), KeptFileText(now_(), text))) written_ = std::move(text);
-  return true;
+  return changed;
 }
 
 void Recovery::LeaveBehind() {
   if (folder_.empty()) return;
-  const std::string text = KeptText(tables_);
-  if (text != settled_) {
+  std::string text = KeptText(tables_);
+  const TypedCode code = typed_();
+  if (text != settled_ || !code.empty()) {
+    text = WithTypedCode(std::move(text), tables_, code);
     std::string name(kLeftHead);
     name.append(std::to_string(++left_)).append(".tnr");
     files_.Replace(PathOf(name), KeptFileText(now_(), text));

@@ -33,9 +33,10 @@ class Recovery {
     bool Crashed = false;  ///< its instance ended without closing; else it was left behind
   };
 
-  /// `parent` is the folder of all instances' folders; `now` returns the time as it is shown.
+  /// `parent` is the folder of all instances' folders; `now` returns the time as it is shown, and
+  /// `typed` the code that is in no table yet.
   Recovery(ProjectTables& tables, FilePort& files, InstanceFolderPort& folders, std::string parent,
-           std::function<std::string()> now);
+           std::function<std::string()> now, std::function<TypedCode()> typed = NoCode);
 
   /// Takes a folder for this instance.
   void Begin();
@@ -43,12 +44,13 @@ class Recovery {
   void Settle();
   /// The project as it stands is nowhere else: it counts as changed from now on.
   void Unsettle() { settled_.clear(); }
-  /// True when the project differs from what is settled.
+  /// True when the project differs from what is settled. Code that is only typed is no part of it.
   [[nodiscard]] bool Changed() { return KeptText(tables_) != settled_; }
-  /// Writes the project, in one step, when it differs from what was written last. True when it
-  /// differs from what is settled.
+  /// Writes the project and the typed code, in one step, when they differ from what was written
+  /// last. True when the project differs from what is settled.
   bool Keep();
-  /// The project is about to be closed: when it differs from what is settled it stays on offer.
+  /// The project is about to be closed: when it differs from what is settled, or code was typed on
+  /// it, it stays on offer.
   void LeaveBehind();
   /// The program ends: the folder goes when nothing was left behind in it.
   void End();
@@ -61,6 +63,7 @@ class Recovery {
   [[nodiscard]] bool IsOpenElsewhere(const std::string& project_file);
 
  private:
+  static TypedCode NoCode() { return {}; }
   [[nodiscard]] std::string PathOf(std::string_view name) const;
   void TellProject();
   void Prune();
@@ -70,6 +73,7 @@ class Recovery {
   InstanceFolderPort& folders_;
   std::string parent_;
   std::function<std::string()> now_;
+  std::function<TypedCode()> typed_;
   std::string folder_;   ///< this instance's; "" without one
   std::string settled_;  ///< what needs no keeping
   std::string written_;  ///< what the kept file holds; "" without one

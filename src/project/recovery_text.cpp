@@ -1,5 +1,7 @@
 #include "project/recovery_text.h"
 
+#include <algorithm>
+
 #include "persistence/form_writer.h"
 #include "text/numbers.h"
 
@@ -11,9 +13,12 @@ namespace {
 //   Tarnwick recovery 1
 //   When 19 2026-03-01 14:05:09
 //   ...
+//   Code 18 1.Button1.OnClick      behind the forms: which of them, and the rest of the key
+//   Typed 4 Beep
 //   End 0
 constexpr std::string_view kHead = "Tarnwick recovery 1\r\n";
 constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kEnd = "End 0 \r\n";
 
 void AppendValue(std::string& text, std::string_view name, std::string_view value) {
   text.append(name).push_back(' ');
@@ -44,6 +49,14 @@ std::optional<Value> TakeValue(std::string_view& text) {
   return value;
 }
 
+/// Where the code of a key such as "2.Button1.OnClick" belongs; null for a form that is not there.
+std::string* CodeIn(KeptProject& project, std::string_view key) {
+  const std::size_t dot = std::min(key.find('.'), key.size());
+  const auto place = static_cast<std::size_t>(ToInt16(Val(key.substr(0, dot))).value_or(0));
+  if (place < 1 || place > project.Forms.size() || dot == key.size()) return nullptr;
+  return &project.Forms[place - 1].Code[std::string(key.substr(dot))];
+}
+
 }  // namespace
 
 std::string KeptText(ProjectTables& tables) {
@@ -59,8 +72,27 @@ std::string KeptText(ProjectTables& tables) {
     AppendValue(text, "File", record->FileName);
     AppendValue(text, "Text", FormFileText(tables, form));
   }
-  AppendValue(text, "End", "");
-  return text;
+  return text.append(kEnd);
+}
+
+std::string WithTypedCode(std::string kept_text, const ProjectTables& tables,
+                          const TypedCode& code) {
+  kept_text.resize(kept_text.size() - kEnd.size());
+  std::int64_t place = 0;
+  for (int form = 1; form <= tables.FormsCount; ++form) {
+    if (!tables.IsLive(form)) continue;
+    ++place;
+    std::string key = "Form";
+    AppendNumber(key, std::int64_t{form});
+    key += '.';
+    for (auto at = code.lower_bound(key); at != code.end() && at->first.starts_with(key); ++at) {
+      std::string kept;
+      AppendNumber(kept, place);
+      AppendValue(kept_text, "Code", kept.append(at->first, key.size() - 1));
+      AppendValue(kept_text, "Typed", at->second);
+    }
+  }
+  return kept_text.append(kEnd);
 }
 
 std::string KeptFileText(std::string_view when, std::string_view kept_text) {
@@ -73,6 +105,7 @@ std::optional<KeptProject> ReadKeptFile(std::string_view text) {
   if (!text.starts_with(kHead)) return std::nullopt;
   text.remove_prefix(kHead.size());
   KeptProject project;
+  std::string* typed = nullptr;
   while (const std::optional<Value> value = TakeValue(text)) {
     if (value->Name == "End") return project;
     if (value->Name == "When") project.When = value->Text;
@@ -82,6 +115,8 @@ std::optional<KeptProject> ReadKeptFile(std::string_view text) {
     if (project.Forms.empty()) continue;
     if (value->Name == "File") project.Forms.back().File = value->Text;
     if (value->Name == "Text") project.Forms.back().Text = value->Text;
+    if (value->Name == "Code") typed = CodeIn(project, value->Text);
+    if (value->Name == "Typed" && typed != nullptr) *typed = value->Text;
   }
   return std::nullopt;
 }

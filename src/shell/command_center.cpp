@@ -3,6 +3,7 @@
 #include "inspector/property_sheet.h"
 #include "shell/compile_command.h"
 #include "shell/edit_commands.h"
+#include "shell/findings_list.h"
 #include "shell/form_commands.h"
 #include "shell/project_commands.h"
 #include "shell/run_command.h"
@@ -71,6 +72,8 @@ void CommandCenter::Dispatch(Command command) {
       return compile_.Run();
     case Command::Stop:
       return run_.Stop();
+    case Command::Check:
+      return ShowFindings();
     case Command::Help:
       return OpenHelp();
     case Command::Restore:
@@ -87,6 +90,13 @@ void CommandCenter::OpenHelp() {
   if (!state_.Ports.Files.Exists(path) || !state_.Ports.Processes.OpenDocument(path)) {
     state_.Say(NoHelpStatus(path));
   }
+}
+
+void CommandCenter::ShowFindings() {
+  project_.TakePending();
+  findings_.Check();
+  SetPanelShown(Panel::Findings, true);
+  state_.View->FocusFindings();
 }
 
 void CommandCenter::OpenRecent(const std::string& path) {

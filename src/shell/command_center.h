@@ -11,6 +11,7 @@ namespace tarnwick {
 
 class CompileCommand;
 class EditCommands;
+class FindingsList;
 class FormCommands;
 class ProjectCommands;
 class PropertySheet;
@@ -22,17 +23,19 @@ struct ShellState;
 ///   if (commands.State(Command::Save).Enabled) commands.Run(Command::Save);
 ///   commands.PressTool(kArrowTool);
 ///
-/// One command runs at a time: what is asked for while another one runs is left out.
+/// One command runs at a time: a request that comes while another one runs is ignored.
 class CommandCenter {
  public:
   CommandCenter(ShellState& state, ProjectCommands& project, FormCommands& forms,
-                EditCommands& edit, CompileCommand& compile, RunCommand& run, PropertySheet& sheet)
+                EditCommands& edit, CompileCommand& compile, RunCommand& run,
+                FindingsList& findings, PropertySheet& sheet)
       : state_(state),
         project_(project),
         forms_(forms),
         edit_(edit),
         compile_(compile),
         run_(run),
+        findings_(findings),
         sheet_(sheet) {}
 
   /// Runs a command; nothing while it is off or another one runs.
@@ -54,6 +57,7 @@ class CommandCenter {
  private:
   void Dispatch(Command command);
   void OpenHelp();
+  void ShowFindings();
   void Toggle(Panel panel);
 
   ShellState& state_;
@@ -62,6 +66,7 @@ class CommandCenter {
   EditCommands& edit_;
   CompileCommand& compile_;
   RunCommand& run_;
+  FindingsList& findings_;
   PropertySheet& sheet_;
 };
 

@@ -64,6 +64,7 @@ constexpr std::array kProjectRows{
 constexpr std::array kRunRows{
     MenuRow{"mnuCompile", "&Compile and Run", "F5", Command::Compile},
     MenuRow{"mnuStop", "&Stop", "Shift+F5", Command::Stop},
+    MenuRow{"mnuCheck", "C&heck", "Shift+F8", Command::Check},
 };
 
 constexpr std::array kHelpRows{

@@ -42,6 +42,7 @@ enum class Command : std::uint8_t {
   MenuEdit,
   Compile,
   Stop,
+  Check,
   Help,
   About,
 };

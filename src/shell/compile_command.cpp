@@ -16,6 +16,7 @@ void CompileCommand::Run() {
   const bool may_compile = with != RunWith::Runner || !may_run;
   // Also when the save is cancelled on the way: what was typed goes into the program.
   project_.TakePending();
+  findings_.Check();
   state_.View->HoldFocus();
   state_.View->SetArrowPointer(true);
   // By reference: a save on the way may give the project another source file.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "project/compile.h"
+#include "shell/findings_list.h"
 #include "shell/project_commands.h"
 #include "shell/run_command.h"
 #include "shell/shell_state.h"
@@ -11,11 +12,13 @@ namespace tarnwick {
 /// Starts the compile driver and lends it the windows.
 class CompileCommand final : public project::CompileHost {
  public:
-  CompileCommand(ShellState& state, ProjectCommands& project, RunCommand& run)
-      : state_(state), project_(project), run_(run) {}
+  CompileCommand(ShellState& state, ProjectCommands& project, FindingsList& findings,
+                 RunCommand& run)
+      : state_(state), project_(project), findings_(findings), run_(run) {}
 
-  /// Saves, generates and starts the compiler, or the runner where that could not be started or
-  /// the user wants it. The arrow pointer stands meanwhile. A program that runs is stopped first.
+  /// Checks, saves, generates and starts the compiler, or the runner where that could not be
+  /// started or the user wants it, whatever the check found. The arrow pointer stands meanwhile. A
+  /// program that runs is stopped first.
   void Run();
 
   void SaveProject() override { project_.Save(); }
@@ -28,6 +31,7 @@ class CompileCommand final : public project::CompileHost {
  private:
   ShellState& state_;
   ProjectCommands& project_;
+  FindingsList& findings_;
   RunCommand& run_;
   GeneratorState generator_;
 };

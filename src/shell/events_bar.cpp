@@ -169,8 +169,13 @@ bool EventsBar::Select(int form, const Target& target) {
   }
   if (target.Id) {
     const ControlRef control = surface->Form().Element(*target.Id, target.Index);
+    if (control == nullptr || !control->Visible) {
+      jumps_by_key_ = true;
+      surface->SelectForm();
+      return true;
+    }
     surface->SelectObject(control);
-    return control != nullptr && surface->Form().ControlSel == control;
+    return surface->Form().ControlSel == control;
   }
   if (const ControlRef item = MenuControlOf(surface->Form(), target.Tag)) {
     surface->SelectMenuItem(item);
@@ -207,7 +212,13 @@ void EventsBar::ProssItem_Click(int row) {
   const DesignForm* form = state_.Tables.CurrentForm;
   const std::optional<Event> event = EventOfName(caption);
   if (form == nullptr || !event) return;
-  const std::string prefix = KeyPrefix(form->Number(), TargetOf(pressed_));
+  const Target target = TargetOf(pressed_);
+  const std::string prefix = KeyPrefix(form->Number(), target);
+  if (target.Id && jumps_by_key_) {
+    state_.Tables.JumpKey = prefix + std::string(InfoOf(*event).Suffix);
+    state_.Run(Command::Code);
+    return;
+  }
   // A popup menu has no other event than OnPopUp, so there is nothing to remember or to jump to.
   if (*event != Event::OnPopUp) {
     const EventInfo& info = InfoOf(*event);

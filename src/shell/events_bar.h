@@ -34,8 +34,8 @@ struct BarPlace {
 /// row when it would pass the right edge.
 [[nodiscard]] BarPlace SpotOnBar(int number, int bar_width, int side) noexcept;
 
-/// The bars of all forms. Each form's `FrmBarra` holds the names of the objects that were told to
-/// have code; here they become buttons, and a button the events that can be opened. A view shows
+/// The bars of all forms. Each form's `FrmBarra` holds the names of the objects that have
+/// code; here they become buttons, and a button the events that can be opened. A view shows
 /// the bar of the current form:
 ///
 ///   bar.btncodigo_Click(button.Tag);          // selects the object and fills `ProssItem`
@@ -61,7 +61,8 @@ class EventsBar {
   void DelBoockMarck(int form, std::string_view name);
 
   /// A button of the current form was pressed: selects the object, as a press on the form does,
-  /// and lists its events that have code. While the code editor is open that comes to the front
+  /// and lists its events that have code. Those of an object that has gone can be opened too; the
+  /// form is selected then. While the code editor is open that comes to the front
   /// and nothing is listed.
   void btncodigo_Click(std::string_view tag);
   void btnCDeclare_Click();
@@ -91,7 +92,8 @@ class EventsBar {
   DesignSurfaces& surfaces_;
   std::vector<std::string> rows_;
   std::string pressed_;        ///< `Tag` of the button whose events are listed
-  bool jumps_by_key_ = false;  ///< it is an item of a popup menu, which no selection can name
+  bool jumps_by_key_ = false;  ///< no selection can name it: an item of a popup menu, or an object
+                               ///< that has gone and left its code
 };
 
 }  // namespace tarnwick

@@ -8,8 +8,8 @@
 
 namespace tarnwick {
 
-/// The form list and the container in step: whatever is chosen in one is in front in the other,
-/// and is `CurrentForm`.
+/// The form list and the container in step: the form that is chosen in one is in front in the
+/// other, and is `CurrentForm`.
 class FormCommands final : public project::ContainerHost {
  public:
   FormCommands(ShellState& state, PropertySheet& sheet) : state_(state), sheet_(sheet) {}

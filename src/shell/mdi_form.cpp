@@ -13,6 +13,7 @@
 #include "shell/designer_link.h"
 #include "shell/edit_commands.h"
 #include "shell/events_bar.h"
+#include "shell/findings_list.h"
 #include "shell/form_commands.h"
 #include "shell/local_time.h"
 #include "shell/project_commands.h"
@@ -43,13 +44,18 @@ struct MDIForm1::Rooms {
                 State.Ports.Screen,
                 State.Observer,
                 Forms},
-        Recovery(State.Tables, ports.Files, instances, State.Tables.ProgramFolder + "\\recovery",
-                 [this] { return State.Now(); }),
+        Recovery(
+            State.Tables, ports.Files, instances, State.Tables.ProgramFolder + "\\recovery",
+            [this] { return State.Now(); },
+            [this] {
+              return State.Code == nullptr ? project::TypedCode() : State.Code->TypedCode();
+            }),
         Project(State, Context, Files, Recovery, Forms),
         Edit(State, Surfaces, Forms),
         Run(State, {Forms, Surfaces, Bar, Sheet}),
-        Compile(State, Project, Run),
-        Commands(State, Project, Forms, Edit, Compile, Run, Sheet),
+        Findings(State, Surfaces, Forms, Sheet),
+        Compile(State, Project, Findings, Run),
+        Commands(State, Project, Forms, Edit, Compile, Run, Findings, Sheet),
         Examiner(State.Support, Sheet),
         Start(State, Forms),
         Status(State) {
@@ -61,6 +67,8 @@ struct MDIForm1::Rooms {
     State.Steps.NumberMoved = [this](const ObjectPlace& object, bool back) {
       if (FormUser* const user = Surfaces.Of(object.Form)) user->NumberMoved(object, back);
     };
+    State.ProjectSaved = [this] { Findings.ProjectSaved(); };
+    State.ProjectReplaced = [this] { Findings.ProjectReplaced(); };
     State.Run = [this](Command command) { Commands.Run(command); };
     State.Observer.Add(Surfaces);
     State.Observer.Add(Status);
@@ -82,6 +90,7 @@ struct MDIForm1::Rooms {
   ProjectCommands Project;
   EditCommands Edit;
   RunCommand Run;
+  FindingsList Findings;
   CompileCommand Compile;
   CommandCenter Commands;
   FormViewObjects Examiner;
@@ -122,6 +131,7 @@ bool MDIForm1::KeepWork() {
   if (!rooms_->Start.Done() || rooms_->Closed) return true;
   if (state.Busy) return false;
   if (rooms_->Recovery.Keep() && state.SaysSaved) state.Say("");
+  rooms_->Findings.Refresh();
   return true;
 }
 
@@ -196,6 +206,10 @@ RunCommand& MDIForm1::Runner() noexcept {
 
 EventsBar& MDIForm1::Bar() noexcept {
   return rooms_->Bar;
+}
+
+FindingsList& MDIForm1::Findings() noexcept {
+  return rooms_->Findings;
 }
 
 FormViewObjects& MDIForm1::Examiner() noexcept {

@@ -16,6 +16,7 @@ namespace tarnwick {
 
 class CommandCenter;
 class EventsBar;
+class FindingsList;
 class FormCommands;
 class FormUser;
 class FormViewObjects;
@@ -56,7 +57,8 @@ class MDIForm1 {
   [[nodiscard]] bool Close();
 
   /// To be called a few seconds after the user did something: keeps the project as it stands for
-  /// recovery. False when a command runs and it has to be called again.
+  /// recovery, and checks it again where findings are shown. False when a command runs and it has
+  /// to be called again.
   bool KeepWork();
   /// Offers what a run that did not end as it should has left, if anything. To be called once,
   /// when the start is through.
@@ -71,14 +73,16 @@ class MDIForm1 {
   [[nodiscard]] RunCommand& Runner() noexcept;
   /// The events bars of all forms.
   [[nodiscard]] EventsBar& Bar() noexcept;
+  /// What the check of the project found.
+  [[nodiscard]] FindingsList& Findings() noexcept;
   /// The Objects Examiner.
   [[nodiscard]] FormViewObjects& Examiner() noexcept;
   [[nodiscard]] ProjectTables& Tables() noexcept;
-  /// For whatever reads and writes projects: the tables with the ports.
+  /// The tables with the ports, for code that reads and writes projects.
   [[nodiscard]] project::ProjectContext& Context() noexcept;
   [[nodiscard]] Settings& SettingsFile() noexcept;
   [[nodiscard]] const language::SupportTables& Support() const noexcept;
-  /// The user's steps, for whoever makes one.
+  /// The history of the user's steps.
   [[nodiscard]] History& Steps() noexcept;
   /// Takes the last step back, or does it again, and shows the form that it was about.
   void Undo();

@@ -11,7 +11,8 @@ enum class Panel : std::uint8_t {
   Forms,       ///< `ListaFrms` with its heading and bar
   EventsBar,   ///< the `FrmBarra` of the current form
   ObjectBar,   ///< the floating tool box
+  Findings,    ///< the list of the check's findings
 };
-inline constexpr std::size_t kPanelCount = 4;
+inline constexpr std::size_t kPanelCount = 5;
 
 }  // namespace tarnwick

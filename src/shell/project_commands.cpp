@@ -34,7 +34,8 @@ bool ProjectCommands::MayLeave() {
 }
 
 bool ProjectCommands::MayGiveWay() {
-  return state_.Tables.AccionProject == "save" || !recovery_.Changed() || MayLeave();
+  if (state_.Tables.AccionProject == "save") return true;
+  return (!recovery_.Changed() && !state_.Code->HasTypedCode()) || MayLeave();
 }
 
 void ProjectCommands::LeaveProject() {
@@ -68,6 +69,7 @@ void ProjectCommands::New() {
   EndChange();
   tables.AccionProject = "new";
   recovery_.Settle();
+  state_.ProjectReplaced();
 }
 
 std::optional<std::string> ProjectCommands::ChooseProject(bool old_version) {
@@ -137,6 +139,7 @@ void ProjectCommands::Take(std::string path) {
   EndChange();
   state_.ShowPanel(Panel::EventsBar, true);
   recovery_.Settle();
+  state_.ProjectReplaced();
   recent_.Add(tables.ProjectFile);
   state_.View->RecentProjectsChanged();
   if (recovery_.IsOpenElsewhere(tables.ProjectFile)) {
@@ -154,16 +157,25 @@ void ProjectCommands::Restore(const project::Recovery::Offer& offer) {
   const project::KeptProject& kept = offer.Project;
   SetProjectFile(tables, kept.ProjectFile);
   state_.View->SetTitle(TitleOfOpened(tables.ProjectFile));
+  project::TypedCode typed;
   for (const project::KeptForm& form : kept.Forms) {
+    const int before = tables.FormsCount;
     project::ReadFormText(context_, form.Text, form.File);
+    if (tables.FormsCount == before) continue;
+    // Forms that were removed left their numbers; what is read has none.
+    for (const auto& [key, code] : form.Code) {
+      typed.emplace("Form" + std::to_string(tables.FormsCount) + key, code);
+    }
   }
   if (forms_.HasForm()) tables.MainFormName = kept.MainForm;
   state_.Observer.FormListChanged();
   EndChange();
   tables.LoadingProject = 0;
+  state_.Code->OfferCode(typed);
   // It is nowhere on the disk yet but here: the offer goes when this instance keeps it.
   recovery_.Unsettle();
   if (recovery_.Keep()) recovery_.Forget(offer);
+  state_.ProjectReplaced();
   state_.Say(RestoredStatus(kept.When));
 }
 
@@ -215,6 +227,7 @@ bool ProjectCommands::WriteProject() {
     return false;
   }
   recovery_.Settle();
+  state_.ProjectSaved();
   recent_.Add(tables.ProjectFile);
   state_.View->RecentProjectsChanged();
   state_.SaySaved(SavedStatus(state_.Now()));

@@ -68,7 +68,7 @@ class ProjectCommands {
  private:
   /// Asks about saving; false: the command stops.
   [[nodiscard]] bool MayLeave();
-  /// The same ahead of another project; a project that nobody changed is not asked about.
+  /// The same ahead of another project; an unchanged project needs no question.
   [[nodiscard]] bool MayGiveWay();
   bool TakeProjectPath();
   bool WriteProject();

@@ -17,7 +17,7 @@ class RecentProjects {
   explicit RecentProjects(Settings& settings) : settings_(settings) {}
 
   [[nodiscard]] std::vector<std::string> List() const;
-  /// Puts a path at the head; it stands once, whatever its letters.
+  /// Puts a path at the head; it is listed once, in any case.
   void Add(const std::string& path);
   /// Takes a path out: its file has gone.
   void Remove(const std::string& path);

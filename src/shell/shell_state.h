@@ -42,7 +42,7 @@ struct ShellState {
   ShellFlags Flags;
   bool Busy = false;  ///< a command runs: no other one starts
   ObserverHub Observer;
-  bool SaysSaved = false;            ///< the status bar tells that the project is saved
+  bool SaysSaved = false;            ///< the status bar says that the project is saved
   std::function<std::string()> Now;  ///< the local time, "2026-03-01 14:05:09"
   History Steps{Tables, Observer};
   // The windows, from the load of the main window on; no command is enabled before.
@@ -50,6 +50,9 @@ struct ShellState {
   CodeWindows* Code = nullptr;
   MenuWindows* Menus = nullptr;
   ExaminerWindow* Examiner = nullptr;
+  /// Called when the project was saved, and when it is another one.
+  std::function<void()> ProjectSaved;
+  std::function<void()> ProjectReplaced;
   /// Runs a command that another room asks for.
   std::function<void(Command)> Run;
 

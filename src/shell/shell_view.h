@@ -80,6 +80,12 @@ class ShellView {
   virtual void SelectFormLine(int place) = 0;
   /// The arrow for the screen and the main window (true), or each window's own pointer.
   virtual void SetArrowPointer(bool arrow) = 0;
+  /// What the check found is another list now.
+  virtual void FindingsChanged() = 0;
+  /// Gives the keyboard focus to the list of findings.
+  virtual void FocusFindings() = 0;
+  /// Gives the keyboard focus to the selected row of the property grid.
+  virtual void FocusGridRow() = 0;
   /// Quiet text at the foot of the main window.
   virtual void SetStatus(std::string_view text) = 0;
   /// Place and size of the selection, at the foot of the main window.

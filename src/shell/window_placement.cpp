@@ -12,8 +12,9 @@ namespace tarnwick {
 namespace {
 
 constexpr std::string_view kSection = "Window";
+/// "" for a panel that no run begins with.
 constexpr std::array<std::string_view, kPanelCount> kPanelKeys{"Properties", "Forms", "EventsBar",
-                                                               "ObjectBar"};
+                                                               "ObjectBar", ""};
 /// Numbers beyond this are no pixels of a screen.
 constexpr int kMost = 100000;
 
@@ -79,6 +80,7 @@ void WritePlacement(Settings& settings, const WindowPlacement& placement) {
 
 void ReadPanels(const Settings& settings, std::array<bool, kPanelCount>& shown) {
   for (std::size_t i = 0; i < kPanelCount; ++i) {
+    if (kPanelKeys[i].empty()) continue;
     const std::string value = settings.Read(kSection, kPanelKeys[i]);
     if (value == "0" || value == "1") shown[i] = value == "1";
   }
@@ -86,7 +88,7 @@ void ReadPanels(const Settings& settings, std::array<bool, kPanelCount>& shown) 
 
 void WritePanels(Settings& settings, const std::array<bool, kPanelCount>& shown) {
   for (std::size_t i = 0; i < kPanelCount; ++i) {
-    settings.Write(kSection, kPanelKeys[i], shown[i] ? "1" : "0");
+    if (!kPanelKeys[i].empty()) settings.Write(kSection, kPanelKeys[i], shown[i] ? "1" : "0");
   }
 }
 

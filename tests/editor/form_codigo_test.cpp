@@ -117,7 +117,8 @@ TEST_F(FormCodigoTest, AChangeOfEventStoresTheTextAndShowsTheOther) {
   codigo_.Events_Click(1);
   EXPECT_EQ(Code("Form1.Button1.OnClick"), "typed");
   EXPECT_EQ(editor_.Text(), "key");
-  EXPECT_TRUE(host_.Log.empty());
+  EXPECT_EQ(host_.Steps, Rows{"1 Code Ok"});
+  EXPECT_EQ(host_.Log, Rows{"accepted 1"});
 }
 
 TEST_F(FormCodigoTest, SettingTheTextBeginsANewUndoHistory) {
@@ -270,6 +271,41 @@ TEST_F(FormCodigoTest, AJumpWithADotOpensTheItemWhateverIsSelected) {
   EXPECT_EQ(project_.Tables.JumpKey, "");
 }
 
+TEST_F(FormCodigoTest, AJumpToAWholeKeyOpensItsEventAlsoWithoutTheObject) {
+  Select(Kind::Button, 1);
+  SetCode("Form1.Button9.OnKeyDown", "left behind");
+  project_.Tables.JumpKey = "Form1.Button9.OnKeyDown";
+  codigo_.Open();
+  EXPECT_EQ(codigo_.Caption(), "Button9");
+  EXPECT_EQ(EventTexts(), Rows{"Sub Button9_OnKeyDown (Key As Word, Shift As Integer)"});
+  EXPECT_EQ(editor_.Text(), "left behind");
+  editor_.SetText("");
+  codigo_.Accept();
+  EXPECT_EQ(Code("Form1.Button9.OnKeyDown"), "(none)");
+  EXPECT_EQ(host_.Log, (Rows{"no code 1 Button9", "accepted 1", "unload"}));
+}
+
+TEST_F(FormCodigoTest, AnItemThatIsNamedLikeAnEventIsAnItem) {
+  SetCode("Form1.OnShow.OnClick", "item");
+  project_.Tables.JumpKey = "Form1.OnShow";
+  codigo_.Open();
+  EXPECT_EQ(editor_.Text(), "item");
+}
+
+TEST_F(FormCodigoTest, TypedIsWhatDiffersFromTheStoredText) {
+  Select(Kind::Button, 1);
+  EXPECT_FALSE(codigo_.HasTyped());
+  codigo_.Open();
+  EXPECT_FALSE(codigo_.HasTyped());
+  editor_.SetText("typed");
+  EXPECT_TRUE(codigo_.HasTyped());
+  codigo_.StoreShown();
+  EXPECT_FALSE(codigo_.HasTyped());
+  editor_.SetText("more");
+  codigo_.Cancel();
+  EXPECT_FALSE(codigo_.HasTyped());
+}
+
 TEST_F(FormCodigoTest, TextOfAJumpedItemThatIsDeletedLeavesNoEntry) {
   project_.Tables.JumpKey = "Form1.ppmCopy";
   codigo_.Open();
@@ -328,7 +364,9 @@ TEST_F(FormCodigoTest, StoringWhatIsShownChangesNothingElse) {
   codigo_.StoreShown();
   EXPECT_EQ(Code("Form1.Button1.OnClick"), "half");
   EXPECT_TRUE(codigo_.IsOpen());
-  EXPECT_TRUE(host_.Log.empty());
+  EXPECT_EQ(host_.Log, Rows{"accepted 1"});
+  codigo_.StoreShown();
+  EXPECT_EQ(host_.Log, Rows{"accepted 1"}) << "it is stored already";
 }
 
 TEST_F(FormCodigoTest, ThePanelOpensAsItWasLeftAtAnAccept) {

@@ -78,6 +78,9 @@ class FakeShellView final : public ShellView {
   void CommandsChanged() override { ++CommandChanges; }
   void SelectFormLine(int place) override { SelectedLine = place; }
   void SetArrowPointer(bool arrow) override { Say(arrow ? "arrow" : "own pointer"); }
+  void FindingsChanged() override { Say("findings"); }
+  void FocusFindings() override { Say("findings focus"); }
+  void FocusGridRow() override { Say("row focus"); }
   void SetStatus(std::string_view text) override { Status = text; }
   void SetSelectionText(std::string_view text) override { SelectionText = text; }
   void ShowObjectPopUp() override {
@@ -129,6 +132,9 @@ class FakeSideWindows final : public CodeWindows, public MenuWindows, public Exa
 
   bool CodeOpen = false;
   std::function<void()> OnStoreShownCode;
+  bool Typed = false;                       ///< the shown text differs from what is stored
+  std::map<std::string, std::string> Code;  ///< typed and not accepted
+  std::map<std::string, std::string> Offered;
 
   void LoadCodeWindows() override { Say("code windows"); }
   void OpenCode() override {
@@ -156,6 +162,9 @@ class FakeSideWindows final : public CodeWindows, public MenuWindows, public Exa
     Say("renamed " + std::to_string(form) + " " + std::string(old_name) + " to " +
         std::string(new_name));
   }
+  [[nodiscard]] bool HasTypedCode() override { return Typed; }
+  [[nodiscard]] std::map<std::string, std::string> TypedCode() override { return Code; }
+  void OfferCode(const std::map<std::string, std::string>& code) override { Offered = code; }
 
  private:
   void Say(const std::string& what) { log_->Add("windows " + what); }

@@ -420,6 +420,15 @@ TEST_F(CheckTest, CodeOfAnEventThatItsKindNeverRaisesIsLeftOut) {
   EXPECT_EQ(Only().Id, FindingId::CodeLeftOut);
 }
 
+TEST_F(CheckTest, CodeOfAFormThatWasRemovedIsNoFinding) {
+  LoadTwo("", "[Button] (1) {A} Image<(None)>Image Click<Beep>Click\r\n");
+  EXPECT_TRUE(Found().empty());
+  project_.Form(2).Removed = 1;
+  EXPECT_TRUE(Found().empty());
+  project_.Tables.EventTable.Replace("Form3.Button1", Event::OnClick, "Beep");
+  EXPECT_EQ(Only().Id, FindingId::CodeOwnerless) << "of a number that was never given";
+}
+
 // ---- files
 
 class CheckFilesTest : public CheckTest {

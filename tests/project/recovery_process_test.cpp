@@ -26,18 +26,22 @@ constexpr auto kKeepEvery = std::chrono::milliseconds(20);
 /// What may be lost: the time between two keepings and that of a write on a busy machine.
 constexpr auto kMostLost = std::chrono::seconds(5);
 
-/// Edits without end, as one form's hint, and tells the number of each edit through a pipe.
+/// Edits without end, as one form's hint and as code being typed, and sends the number of each edit
+/// through a pipe.
 [[noreturn]] void Work(const std::string& parent, int pipe) {
   test::FakeProject project;
   project.Load("[Form](1) {F}\r\n");
   NativeFiles files;
   NativeInstanceFolders folders;
-  Recovery recovery(project.Tables, files, folders, parent, [] { return "now"; });
+  TypedCode typed;
+  Recovery recovery(
+      project.Tables, files, folders, parent, [] { return "now"; }, [&] { return typed; });
   recovery.Begin();
   recovery.Settle();
   auto kept = Clock::now();
   for (int edit = 1;; ++edit) {
     project.Form(1).Hint = "edit " + std::to_string(edit) + ";";
+    typed["Form1.OnShow"] = "edit " + std::to_string(edit) + ";";
     if (::write(pipe, &edit, sizeof edit) != sizeof edit) ::_exit(1);
     if (Clock::now() - kept >= kKeepEvery) {
       recovery.Keep();
@@ -98,6 +102,8 @@ TEST(RecoveryOfAProcess, KilledAtAnyMomentItLosesAFewSecondsAtMost) {
     EXPECT_TRUE(offers[0].Crashed);
     const int edit = EditIn(offers[0].Project.Forms.at(0).Text);
     ASSERT_GT(edit, 0);
+    ASSERT_EQ(offers[0].Project.Forms[0].Code.size(), 1U);
+    EXPECT_EQ(EditIn(offers[0].Project.Forms[0].Code.at(".OnShow")), edit);
     // The first edit that is lost came no earlier than that before the kill.
     const auto lost = static_cast<std::size_t>(edit) + 1;
     if (lost < edits.size()) {

@@ -13,8 +13,13 @@ class RecoveryTest : public ::testing::Test {
   test::FakeProject project;
   FakeInstanceFolders folders{project.Ports.Files};
   int second = 0;
-  Recovery recovery{project.Tables, project.Ports.Files, folders, "C:\\T\\recovery",
-                    [this] { return "time " + std::to_string(100 + second++); }};
+  TypedCode typed;
+  Recovery recovery{project.Tables,
+                    project.Ports.Files,
+                    folders,
+                    "C:\\T\\recovery",
+                    [this] { return "time " + std::to_string(100 + second++); },
+                    [this] { return typed; }};
 
   void SetUp() override {
     project.Load("[Form](1) {F}\r\n");
@@ -48,6 +53,38 @@ TEST_F(RecoveryTest, AChangeTakenBackByHandIsNotKeptAnyMore) {
   project.Form(1).Hint.clear();
   EXPECT_FALSE(recovery.Keep());
   EXPECT_FALSE(IsKept());
+}
+
+TEST_F(RecoveryTest, CodeBeingTypedIsKeptThoughTheProjectHasNotChanged) {
+  typed = {{"Form1.OnShow", "Beep"}};
+  EXPECT_FALSE(recovery.Keep()) << "the project is what is saved";
+  EXPECT_FALSE(recovery.Changed());
+  EXPECT_TRUE(IsKept());
+  project.Ports.Log.Clear();
+  recovery.Keep();
+  EXPECT_EQ(project.Ports.Log.Count("replace"), 0U);
+  typed = {{"Form1.OnShow", "Beep 2"}};
+  recovery.Keep();
+  EXPECT_EQ(project.Ports.Log.Count("replace"), 1U);
+  typed.clear();
+  recovery.Keep();
+  EXPECT_FALSE(IsKept()) << "it was accepted, or typed away";
+}
+
+TEST_F(RecoveryTest, CodeThatWasTypedStaysOnOfferWithTheProjectThatIsLeft) {
+  typed = {{"Form1.OnShow", "Beep"}};
+  recovery.LeaveBehind();
+  const auto offers = recovery.Offers();
+  ASSERT_EQ(offers.size(), 1U);
+  EXPECT_EQ(offers[0].Project.Forms.at(0).Code, (TypedCode{{".OnShow", "Beep"}}));
+}
+
+TEST_F(RecoveryTest, ASaveLeavesTheTypedCodeToTheNextKeeping) {
+  typed = {{"Form1.OnShow", "Beep"}};
+  recovery.Keep();
+  recovery.Settle();
+  EXPECT_FALSE(recovery.Keep());
+  EXPECT_TRUE(IsKept());
 }
 
 TEST_F(RecoveryTest, NoFileOfTheProjectIsTouched) {

@@ -24,6 +24,42 @@ TEST(RecoveryText, AProjectComesBackWithItsPathsAndTheTextsThatASaveWouldWrite) 
   EXPECT_EQ(kept->Forms[0].Text, project.Saved());
 }
 
+TEST(RecoveryText, TypedCodeComesBackWithTheFormThatItWasTypedOn) {
+  FakeProject project;
+  project.Ports.Files.Put("C:\\Work\\a.ftn", "[Form](1) {A}\r\n");
+  project.Ports.Files.Put("C:\\Work\\b.ftn", "[Form](2) {B}\r\n");
+  project.Ports.Files.Put("C:\\Work\\c.ftn", "[Form](3) {C}\r\n");
+  project.LoadIndex(
+      "1\x95"
+      "a.ftn\r\n2\x95"
+      "b.ftn\r\n3\x95"
+      "c.ftn\r\nMF##A (a.ftn)\r\n");
+  project.Form(2).Removed = 1;
+  const TypedCode code{{"Form1.Button1.OnClick", "one\r\n"},
+                       {"Form11.Button1.OnClick", "no such form"},
+                       {"Form2.OnShow", "of a form that was removed"},
+                       {"Form3.OnShow", ""},
+                       {"Form3.Timer1.OnTimer", "End 0 \r\n"}};
+  const std::string text =
+      KeptFileText("now", WithTypedCode(KeptText(project.Tables), project.Tables, code));
+  const std::optional<KeptProject> kept = ReadKeptFile(text);
+  ASSERT_TRUE(kept);
+  ASSERT_EQ(kept->Forms.size(), 2U);
+  EXPECT_EQ(kept->Forms[0].Code, (TypedCode{{".Button1.OnClick", "one\r\n"}}));
+  EXPECT_EQ(kept->Forms[1].Code, (TypedCode{{".OnShow", ""}, {".Timer1.OnTimer", "End 0 \r\n"}}));
+}
+
+TEST(RecoveryText, CodeOfAFormThatIsNotThereIsPassedOver) {
+  for (const std::string key : {"2.OnShow", "0.OnShow", "-1.OnShow", "1", ".", ""}) {
+    const std::string text = "Tarnwick recovery 1\r\nForm 1 F\r\nCode " +
+                             std::to_string(key.size()) + " " + key + "\r\nTyped 1 x\r\nEnd 0 \r\n";
+    const std::optional<KeptProject> kept = ReadKeptFile(text);
+    ASSERT_TRUE(kept) << key;
+    ASSERT_EQ(kept->Forms.size(), 1U);
+    EXPECT_TRUE(kept->Forms[0].Code.empty()) << key;
+  }
+}
+
 TEST(RecoveryText, NoBeginningOfAFileIsTakenForAWholeOne) {
   FakeProject project;
   project.Load("[Form](1) {F}\r\n");

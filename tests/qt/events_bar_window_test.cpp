@@ -115,6 +115,35 @@ TEST_F(EventsBarWindowTest, AButtonPastTheRightEdgeStartsANewRowAndTheBarGrowsBy
   EXPECT_EQ(bar().geometry().bottom(), bottom);
 }
 
+TEST_F(EventsBarWindowTest, TwoHundredButtonsScrollInThreeRowsAndTheKeysReachTheLast) {
+  for (int i = 1; i <= 200; ++i) {
+    shell.Tables().EventTable.Replace("Form1.Item" + std::to_string(i), Event::OnClick, "a");
+    shell.Bar().PopBoockMarck(1, "Item" + std::to_string(i));
+  }
+  Settle();
+  const QToolButton* last = Button(QStringLiteral("btncodigo_200"));
+  ASSERT_NE(last, nullptr);
+  EXPECT_LE(bar().height(), 3 * last->height() + 60);
+  EXPECT_LE(bar().width(), 10 * last->width() + 60);
+  const QRect container(window.Forms().mapTo(&window, QPoint(0, 0)), window.Forms().size());
+  EXPECT_TRUE(container.contains(bar().geometry()));
+  EXPECT_TRUE(last->visibleRegion().isEmpty());
+  QApplication::setActiveWindow(&window);
+  Button(QStringLiteral("btnCDeclare"))->setFocus();
+  for (int i = 0; i < 200; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), last);
+  EXPECT_FALSE(last->visibleRegion().isEmpty()) << "the room scrolls to it";
+}
+
+TEST_F(EventsBarWindowTest, ALongNameOfAFormLeavesTheBarAsWideAsItsButtons) {
+  const int width = bar().width();
+  shell.Tables().Bar(1)->Caption = std::string(300, 'W');
+  view.EventsBarChanged(1);
+  Settle();
+  EXPECT_EQ(bar().width(), width);
+  EXPECT_EQ(bar().accessibleName(), QString(300, u'W'));
+}
+
 TEST_F(EventsBarWindowTest, AButtonPopsUpItsEventsAndARowOpensTheCode) {
   Store("Form", Event::OnShow, "a");
   Button(QStringLiteral("btncodigo_1"))->click();

@@ -17,7 +17,9 @@
 
 #include <gtest/gtest.h>
 
+#include "inspector/form_add_items.h"
 #include "program.h"
+#include "qt/grid/item_dialog.h"
 #include "qt/surface/container.h"
 
 namespace tarnwick {
@@ -89,7 +91,10 @@ const std::vector<Column>& ExpectedMenus() {
                     {"mnuItemObj_14", "FileStream", ""},  {"mnuItemObj_15", "TransparentFrame", ""},
                     {"mnuItemObj_16", "HtmlViewer", ""},  {"mnuItemObj_18", "WinSock", ""},
                     {"mnuItemObj_19", "PopUpMenu", ""},   {"mnuItemObj_8", "Menu", ""}}},
-      {"&Run", {{"mnuCompile", "&Compile and Run", "F5"}, {"mnuStop", "&Stop", "Shift+F5"}}},
+      {"&Run",
+       {{"mnuCompile", "&Compile and Run", "F5"},
+        {"mnuStop", "&Stop", "Shift+F5"},
+        {"mnuCheck", "C&heck", "Shift+F8"}}},
       {"&Help", {{"mnuHelp", "&Contents", "F1"}, {"mnuAbout", "&About Tarnwick", ""}}},
   };
   return menus;
@@ -459,6 +464,17 @@ TEST(CodePage, TheMainFormFieldAndTheItemListHoldOnlyTheCodePage) {
     dialog.reject();
   });
   program.Choose(QStringLiteral("mnuMain"));
+  program.Place(4, {20, 20});
+  program.User.Do([](QDialog& dialog) {
+    auto* text = dialog.findChild<QPlainTextEdit*>(QStringLiteral("TextAdd"));
+    ASSERT_NE(text, nullptr);
+    QTest::sendKeyEvent(QTest::Click, text, Qt::Key_unknown, QString::fromUtf8("Ж"),
+                        Qt::NoModifier);
+    EXPECT_EQ(text->toPlainText(), QStringLiteral("?"));
+    dialog.reject();
+  });
+  FormAddItems logic(program.Tables(), program.Shell().Context().Observer, program.Form());
+  RunItemDialog(logic, &program.Window());
 }
 
 TEST(About, NamesProgramAndFolder) {

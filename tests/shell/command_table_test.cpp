@@ -53,6 +53,103 @@ TEST(CommandTable, TheMenusHaveTheirCaptions) {
   EXPECT_TRUE(MenuBar()[4].ShowsTools);
 }
 
+TEST(CommandTable, EachRowOfTheMenuBarHasItsNameCaptionKeyAndCommand) {
+  const std::vector<std::vector<MenuRow>> wanted{
+      {{"mnuNew", "&New Project", "Ctrl+N", Command::New},
+       {"mnuOpen", "&Open Project...", "Ctrl+O", Command::Open},
+       {"mnuOpenOld", "Open Old &Version...", "", Command::OpenOld},
+       {},
+       {"mnuSave", "&Save Project", "Ctrl+S", Command::Save},
+       {"mnuSaveAs", "Save Project &As...", "Ctrl+Shift+S", Command::SaveAs},
+       {"mnuSaveForm", "Save &Form", "Ctrl+Alt+S", Command::SaveForm},
+       {"mnuSaveFormAs", "Save For&m As...", "", Command::SaveFormAs},
+       {},
+       {"mnuRecent", "&Recent Projects", "", std::nullopt},
+       {"mnuRestore", "Restore &Unsaved Work...", "", Command::Restore},
+       {},
+       {"mnuExit", "E&xit", "Ctrl+Q", Command::Exit}},
+      {{"mnuUndo", "&Undo", "Ctrl+Z", Command::Undo},
+       {"mnuRedo", "&Redo", "Ctrl+Y", Command::Redo},
+       {},
+       {"mnuCut", "Cu&t", "Ctrl+X", Command::Cut},
+       {"mnuCopy", "&Copy", "Ctrl+C", Command::Copy},
+       {"mnuPaste", "&Paste", "Ctrl+V", Command::Paste},
+       {"mnuDelete", "&Delete", "Del", Command::Delete},
+       {},
+       {"mnuFrente", "Bring to &front", "Ctrl+]", Command::BringToFront},
+       {"mnuFondo", "Stay &back", "Ctrl+[", Command::StayBack},
+       {},
+       {"mnuGrid", "Align To &Grid", "Ctrl+G", Command::AlignToGrid},
+       {"mnuBloquear", "&Lock Objets", "Ctrl+L", Command::Lock}},
+      {{"mnuCode", "&Code", "F7", Command::Code},
+       {"mnuDeclare", "Public &Declarations", "Ctrl+D", Command::PublicDeclarations},
+       {"mnuProperties", "&Properties", "F6", Command::Properties},
+       {"mnuForms", "&Forms", "", Command::Forms},
+       {"mnuEventsBar", "&Events Bar", "Ctrl+E", Command::EventsBar},
+       {"mnuObjectBar", "Object &Bar", "Ctrl+B", Command::ObjectBar},
+       {},
+       {"mnuExaminer", "&Objects Examiner", "Ctrl+F1", Command::Examiner}},
+      {{"mnuAddForm", "&Add New Form", "Ctrl+Shift+N", Command::AddNewForm},
+       {"mnuRemove", "Remove from project", "", Command::Remove},
+       {},
+       {"mnuMain", "Select &Main Form...", "", Command::SelectMainForm},
+       {"mnuMenuEdit", "M&enu Edit...", "Ctrl+M", Command::MenuEdit}},
+      {},
+      {{"mnuCompile", "&Compile and Run", "F5", Command::Compile},
+       {"mnuStop", "&Stop", "Shift+F5", Command::Stop},
+       {"mnuCheck", "C&heck", "Shift+F8", Command::Check}},
+      {{"mnuHelp", "&Contents", "F1", Command::Help},
+       {"mnuAbout", "&About Tarnwick", "", Command::About}},
+  };
+  ASSERT_EQ(MenuBar().size(), wanted.size());
+  for (std::size_t menu = 0; menu < wanted.size(); ++menu) {
+    const auto rows = MenuBar()[menu].Rows;
+    ASSERT_EQ(rows.size(), wanted[menu].size()) << MenuBar()[menu].Caption;
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+      EXPECT_EQ(rows[row].Name, wanted[menu][row].Name);
+      EXPECT_EQ(rows[row].Caption, wanted[menu][row].Caption);
+      EXPECT_EQ(rows[row].Key, wanted[menu][row].Key) << rows[row].Name;
+      EXPECT_EQ(rows[row].Does, wanted[menu][row].Does) << rows[row].Name;
+    }
+  }
+}
+
+TEST(CommandTable, EachRowOfThePopUpHasItsCaptionKeyAndCommand) {
+  const std::vector<MenuRow> wanted{{"popCode", "C&ode", "F7", Command::Code},
+                                    {},
+                                    {"popCut", "Cu&t", "Ctrl+X", Command::Cut},
+                                    {"popCopy", "&Copy", "Ctrl+C", Command::Copy},
+                                    {"popPaste", "&Paste", "Ctrl+V", Command::Paste},
+                                    {},
+                                    {"popFrente", "Bring to &front", "", Command::BringToFront},
+                                    {"popFondo", "Stay &back", "", Command::StayBack},
+                                    {},
+                                    {"popGrid", "Align To &Grid", "Ctrl+G", Command::AlignToGrid},
+                                    {"popBloquear", "&Lock Objets", "Ctrl+L", Command::Lock},
+                                    {},
+                                    {"popPropiedades", "P&roperties", "F6", Command::Properties}};
+  const auto rows = ObjectPopUpRows();
+  ASSERT_EQ(rows.size(), wanted.size());
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    EXPECT_EQ(rows[row].Name, wanted[row].Name);
+    EXPECT_EQ(rows[row].Caption, wanted[row].Caption);
+    EXPECT_EQ(rows[row].Key, wanted[row].Key) << rows[row].Name;
+    EXPECT_EQ(rows[row].Does, wanted[row].Does) << rows[row].Name;
+  }
+}
+
+TEST(CommandTable, TheButtonsOfBothBarsRunTheirCommands) {
+  const std::vector<Command> toolbar{Command::New,         Command::Open,    Command::Save,
+                                     Command::Cut,         Command::Copy,    Command::Paste,
+                                     Command::AlignToGrid, Command::Lock,    Command::Code,
+                                     Command::Properties,  Command::Compile, Command::Examiner};
+  ASSERT_EQ(MainToolbar().size(), toolbar.size());
+  for (std::size_t i = 0; i < toolbar.size(); ++i) EXPECT_EQ(MainToolbar()[i].Does, toolbar[i]);
+  ASSERT_EQ(FormListBar().size(), 2U);
+  EXPECT_EQ(FormListBar()[0].Does, Command::AddNewForm);
+  EXPECT_EQ(FormListBar()[1].Does, Command::Remove);
+}
+
 TEST(CommandTable, NamesAreGivenOnceAndSoAreKeys) {
   std::set<std::string_view> names;
   std::set<std::string_view> keys;

@@ -223,10 +223,67 @@ TEST_F(EventsBarTest, TheFormsButtonSelectsTheForm) {
   EXPECT_EQ(tables().CurrentForm->ControlSel, nullptr);
 }
 
-TEST_F(EventsBarTest, AButtonWhoseObjectIsNotThereListsNothing) {
+TEST_F(EventsBarTest, AButtonWhoseObjectHasGoneLeadsToTheCodeThatIsStillThere) {
+  Place(kButtonTool, 20, 20);
+  Store("Button9", Event::OnKeyDown, "a");
+  bar().btncodigo_Click("Button9");
+  EXPECT_EQ(tables().CurrentForm->NameObjet, "Form");
+  EXPECT_EQ(bar().ProssItem(), Texts{"OnKeyDown"});
+  bar().ProssItem_Click(0);
+  EXPECT_EQ(tables().JumpKey, "Form1.Button9.OnKeyDown");
+  EXPECT_EQ(log().Count("windows open code"), 1U);
+  EXPECT_EQ(Index("Events", "Form1.Button9"), "") << "nothing is remembered for it";
+}
+
+TEST_F(EventsBarTest, TheOnlyEventOfAPopUpMenuThatHasGoneOpensByItsKey) {
+  Store("PopUpMnu2", Event::OnPopUp, "a");
+  bar().btncodigo_Click("PopUpMnu2");
+  bar().ProssItem_Click(0);
+  EXPECT_EQ(tables().JumpKey, "Form1.PopUpMnu2.OnPopUp");
+}
+
+TEST_F(EventsBarTest, AfterAGoneObjectTheNextButtonJumpsByItsEventAgain) {
+  Place(kButtonTool, 20, 20);
+  Store("Button1", Event::OnClick, "a");
   Store("Button9", Event::OnClick, "a");
   bar().btncodigo_Click("Button9");
-  EXPECT_TRUE(bar().ProssItem().empty());
+  bar().btncodigo_Click("Button1");
+  bar().ProssItem_Click(0);
+  EXPECT_EQ(tables().JumpKey, "OnClick");
+}
+
+TEST_F(EventsBarTest, JumpKeyIsAnEventsNameAgainAfterThatOfAPopUpItem) {
+  Place(kButtonTool, 20, 20);
+  AddObject(Kind::PopUpMenu);
+  PopUpFormRec& popup = *tables().PopUpMenus.Ensure(1);
+  popup.Items.resize(2);
+  popup.Items[1].Name = "mnuCut";
+  Store("mnuCut", Event::OnClick, "a");
+  Store("Button1", Event::OnClick, "a");
+  AddMenuItem("mnuExit");
+  Store("mnuExit", Event::OnClick, "a");
+  for (const char* next : {"Button1", "Form", "mnuExit"}) {
+    if (std::string_view(next) == "Form") Store("Form", Event::OnClick, "a");
+    bar().btncodigo_Click("mnuCut");
+    bar().ProssItem_Click(0);
+    ASSERT_EQ(tables().JumpKey, "Form1.mnuCut");
+    bar().btncodigo_Click(next);
+    windows.CodeOpen = false;
+    bar().btncodigo_Click(next);
+    bar().ProssItem_Click(0);
+    EXPECT_EQ(tables().JumpKey, "OnClick") << next;
+    windows.CodeOpen = false;
+  }
+}
+
+TEST_F(EventsBarTest, AnItemNamedLikeAKindWithoutANumberIsAnItem) {
+  AddMenuItem("Button");
+  Store("Button", Event::OnClick, "a");
+  ASSERT_EQ(Tags(), Texts{"Button"});
+  EXPECT_EQ(bar().btncodigo(1)[0].Picture, Kind::Menu);
+  bar().btncodigo_Click("Button");
+  EXPECT_EQ(tables().CurrentForm->NameObjet, "Button");
+  EXPECT_EQ(bar().ProssItem(), Texts{"OnClick"});
 }
 
 TEST_F(EventsBarTest, ARowOpensTheCodeAtItsEvent) {

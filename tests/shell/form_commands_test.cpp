@@ -311,6 +311,37 @@ TEST_F(SelectMainFormTest, TheDialogTakesTheChosenLine) {
   ExpectOrder({"view FormMain", "told list"});
 }
 
+TEST_F(SelectMainFormTest, TheFirstRowCanBeTheMainForm) {
+  main.Commands().Run(Command::AddNewForm);
+  tables().MainFormName = "Form2 ()";
+  FormMain dialog = main.Forms().MainFormDialog();
+  EXPECT_EQ(dialog.Selected(), 1);
+  dialog.List1_Click(0);
+  EXPECT_EQ(dialog.Selected(), 0);
+  EXPECT_EQ(dialog.Text1(), "Form1 ()");
+  main.Forms().TakeMainForm(dialog);
+  EXPECT_EQ(tables().MainFormName, "Form1 ()");
+  EXPECT_EQ(main.Forms().MainFormDialog().Selected(), 0);
+}
+
+TEST_F(SelectMainFormTest, ARowThatIsNotThereKeepsRowAndText) {
+  main.Commands().Run(Command::AddNewForm);
+  FormMain dialog = main.Forms().MainFormDialog();
+  dialog.List1_Click(1);
+  dialog.List1_Click(2);
+  dialog.List1_Click(-1);
+  EXPECT_EQ(dialog.Selected(), 1);
+  EXPECT_EQ(dialog.Text1(), "Form2 ()");
+}
+
+TEST_F(SelectMainFormTest, OfTwoEqualLinesTheFirstIsSelected) {
+  main.Commands().Run(Command::AddNewForm);
+  tables().Form(2)->Name = "Form1";
+  tables().ListaFrms.SetText(2, "Form1 ()");
+  EXPECT_EQ(main.Forms().MainFormDialog().Selected(), 0);
+  EXPECT_EQ(main.Forms().Marks().MainForm, 1);
+}
+
 TEST_F(SelectMainFormTest, CancelChangesNothing) {
   AddForms(1);
   view.OnFormMain = [this] {

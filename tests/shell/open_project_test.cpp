@@ -75,6 +75,28 @@ TEST_F(OpenProjectTest, AChangedProjectIsAskedAboutUnlessTheLastCommandWasSave) 
   EXPECT_EQ(log().Count("ask"), 0U);
 }
 
+TEST_F(OpenProjectTest, CommandsAreOffWhileItIsReadAndJumpKeyIsEmptyAfterwards) {
+  SaveTwoForms();
+  ports.Dialogs.OpenAnswers = {"Z:\\p\\two.tnp"};
+  tables().JumpKey = "OnClick";
+  int closed_forms = 0;
+  observer.OnFormClosing = [&](int) {
+    ++closed_forms;
+    EXPECT_EQ(tables().JumpKey, "");
+    EXPECT_EQ(tables().LoadingProject, 1);
+    EXPECT_FALSE(main.Commands().State(Command::Save).Enabled);
+    EXPECT_FALSE(main.Commands().ToolState(0).Enabled);
+    main.Commands().Run(Command::AddNewForm);
+  };
+  main.Commands().Run(Command::Open);
+  EXPECT_GT(closed_forms, 0);
+  EXPECT_EQ(tables().FormsCount, 2);
+  EXPECT_EQ(tables().JumpKey, "");
+  EXPECT_EQ(tables().LoadingProject, 0);
+  EXPECT_TRUE(main.Commands().State(Command::Save).Enabled);
+  EXPECT_TRUE(main.Commands().ToolState(0).Enabled);
+}
+
 TEST_F(OpenProjectTest, ClosingTheQuestionStopsItBeforeTheDialog) {
   Place(0, 10, 10);
   ports.Messages.Answers = {std::nullopt};

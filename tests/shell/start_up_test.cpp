@@ -24,6 +24,14 @@ TEST_F(StartUpTest, LoadSetsTitlesDisablesTheToolsAndStartsTheTimer) {
   EXPECT_EQ(tables().FormsCount, 0);
 }
 
+TEST_F(StartUpTest, ALoadTurnsCommandsOffThatWereOn) {
+  Start();
+  ASSERT_TRUE(main.Commands().State(Command::New).Enabled);
+  main.Load(views);
+  EXPECT_FALSE(main.Commands().State(Command::New).Enabled);
+  EXPECT_FALSE(main.Commands().ToolState(0).Enabled);
+}
+
 TEST_F(StartUpTest, TheLogoTextsComeInTheirOrderAroundTheSteps) {
   ports.Files.Put("Z:\\opt\\tarnwick\\IniEvents.ini", "[Events]\r\n");
   main.Load(views);

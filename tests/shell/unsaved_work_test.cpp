@@ -78,6 +78,38 @@ TEST_F(UnsavedWorkTest, AStartAfterAnOrderlyEndOffersNothing) {
   EXPECT_EQ(log().Count("view restore dialog"), 0U);
 }
 
+TEST_F(UnsavedWorkTest, CodeBeingTypedComesBackOnItsKeyAfterACrash) {
+  main.Commands().Run(Command::AddNewForm);
+  main.Commands().Run(Command::AddNewForm);
+  main.Forms().SelectLine(0);
+  ports.Messages.Answers = {true};
+  main.Commands().Run(Command::Remove);
+  windows.Code = {{"Form2.OnShow", "Beep"}, {"Form3.Button1.OnClick", "Print 1"}};
+  main.KeepWork();
+  windows.Code.clear();
+  Crash();
+  const auto offers = next.Projects().UnsavedWork();
+  ASSERT_EQ(offers.size(), 1U);
+  next.Projects().Restore(offers[0]);
+  // The first form was removed: the others have the numbers 1 and 2 now.
+  using Code = std::map<std::string, std::string>;
+  EXPECT_EQ(windows.Offered,
+            (Code{{"Form1.OnShow", "Beep"}, {"Form2.Button1.OnClick", "Print 1"}}));
+}
+
+TEST_F(UnsavedWorkTest, OpenAsksAlsoWhenOnlyCodeWasTyped) {
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
+  ports.Dialogs.OpenAnswers = {"Z:\\p\\a.tnp", "Z:\\p\\a.tnp"};
+  main.Commands().Run(Command::Open);
+  log().Clear();
+  windows.CodeOpen = true;
+  windows.Typed = true;
+  ports.Messages.Answers = {std::nullopt};
+  main.Commands().Run(Command::Open);
+  EXPECT_EQ(log().Count("ask"), 1U);
+  EXPECT_TRUE(windows.CodeOpen) << "the question was cancelled";
+}
+
 TEST_F(UnsavedWorkTest, WhatNewLeavesBehindIsOfferedFromTheMenuOnly) {
   Place(0, 20, 20);
   main.Commands().Run(Command::New);

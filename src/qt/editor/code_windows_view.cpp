@@ -126,6 +126,20 @@ void CodeWindowsView::OpenPublicDeclarations() {
   }
 }
 
+bool CodeWindowsView::HasTypedCode() {
+  return parts_ != nullptr && parts_->Codigo.HasTyped();
+}
+
+std::map<std::string, std::string> CodeWindowsView::TypedCode() {
+  if (parts_ == nullptr) return {};
+  return parts_->Codigo.NotAccepted();
+}
+
+void CodeWindowsView::OfferCode(const std::map<std::string, std::string>& code) {
+  LoadCodeWindows();
+  parts_->Codigo.KeepDrafts(code);
+}
+
 void CodeWindowsView::ShowLine(int line) {
   if (parts_ == nullptr) return;
   CodeEdit* const text = code_was_last_ ? parts_->CodeText : parts_->DeclareText;

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -38,6 +40,9 @@ class CodeWindowsView final : public CodeWindows {
   void OpenPublicDeclarations() override;
   void ShowLine(int line) override;
   void NameChanged(int form, std::string_view old_name, std::string_view new_name) override;
+  [[nodiscard]] bool HasTypedCode() override;
+  [[nodiscard]] std::map<std::string, std::string> TypedCode() override;
+  void OfferCode(const std::map<std::string, std::string>& code) override;
 
  private:
   /// Tells the events bars and the history what a window has stored, and hides the window at its

@@ -55,6 +55,7 @@ FunctionPanelView::FunctionPanelView(editor::FunctionPanel& panel, QWidget* pare
   head->addWidget(close);
 
   tabs_->setObjectName(QStringLiteral("TabOrder"));
+  tabs_->setAccessibleName(QStringLiteral("Functions"));
   tabs_->setDocumentMode(true);
   tabs_->setUsesScrollButtons(false);
   where_->setObjectName(QStringLiteral("ComboSearch"));

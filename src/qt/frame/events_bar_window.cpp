@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -23,6 +25,7 @@ namespace {
 constexpr int kIcon = 20;
 constexpr int kButton = 34;
 constexpr int kButtonsInARow = 10;
+constexpr int kRowsShown = 3;
 constexpr int kHeadHeight = 24;
 constexpr int kCloseIcon = 12;
 constexpr int kEdge = 24;  ///< distance from the container's corner
@@ -36,7 +39,8 @@ EventsBarWindow::EventsBarWindow(EventsBar& bar, CommandCenter& commands, QWidge
       commands_(commands),
       container_(container),
       title_(new QLabel(this)),
-      room_(new QWidget(this)),
+      scroll_(new QScrollArea(this)),
+      room_(new QWidget),
       declare_(MakeButton(QStringLiteral("btnCDeclare"))),
       pross_(new QMenu(this)) {
   setObjectName(QStringLiteral("FrmBarra"));
@@ -69,11 +73,20 @@ EventsBarWindow::EventsBarWindow(EventsBar& bar, CommandCenter& commands, QWidge
     PopUp(*declare_);
   });
 
+  scroll_->setObjectName(QStringLiteral("FrmBarraRoom"));
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll_->viewport()->setAutoFillBackground(false);
+  room_->setAutoFillBackground(false);
+  scroll_->setWidget(room_);
+  scroll_->verticalScrollBar()->setSingleStep(kButton);
+
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kRoom, kGap, kRoom, kRoom);
   column->setSpacing(kGap);
   column->addLayout(head);
-  column->addWidget(room_);
+  column->addWidget(scroll_);
   column->setSizeConstraint(QLayout::SetFixedSize);
   setTabOrder(declare_, close);
   PutButtons();
@@ -95,7 +108,7 @@ void EventsBarWindow::Refresh() {
   const int form = bar_.CurrentForm();
   const bool shown = form != 0 && commands_.PanelShown(Panel::EventsBar);
   if (form != 0) {
-    title_->setText(ToQString(bar_.Caption(form)));
+    ShowTitle(ToQString(bar_.Caption(form)));
     SetButtons(bar_.btncodigo(form));
   }
   const bool had_focus = isAncestorOf(QApplication::focusWidget());
@@ -145,6 +158,18 @@ void EventsBarWindow::PutButtons() {
     height = put(*buttons_[i], static_cast<int>(i) + 1);
   }
   room_->setFixedSize(width, height);
+  const int shown = std::min(height, kRowsShown * kButton);
+  const int bar = height > shown ? scroll_->verticalScrollBar()->sizeHint().width() : 0;
+  scroll_->setFixedSize(width + bar, shown);
+}
+
+/// A long name is cut at its end: the bar is no wider than its buttons.
+void EventsBarWindow::ShowTitle(const QString& title) {
+  const int room = kButtonsInARow * kButton - kHeadHeight - 2 * kGap;
+  const QString cut = title_->fontMetrics().elidedText(title, Qt::ElideRight, room);
+  title_->setText(cut);
+  title_->setToolTip(cut == title ? QString() : title);
+  setAccessibleName(title);
 }
 
 void EventsBarWindow::Press(int number) {

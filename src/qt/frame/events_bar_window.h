@@ -10,6 +10,7 @@
 
 class QLabel;
 class QMenu;
+class QScrollArea;
 class QToolButton;
 
 namespace tarnwick {
@@ -17,8 +18,8 @@ namespace tarnwick {
 class CommandCenter;
 
 /// `FrmBarra`: shows the bar of the current form. It floats over the container, at its lower edge
-/// until the user drags it elsewhere by its head, and is never out of the main window. Closing it
-/// hides it.
+/// until the user drags it elsewhere by its head, and is never out of the main window. Beyond three
+/// rows its buttons scroll. Closing it hides it.
 class EventsBarWindow final : public QFrame {
   Q_OBJECT
 
@@ -44,6 +45,7 @@ class EventsBarWindow final : public QFrame {
   QToolButton* MakeButton(const QString& name);
   void SetButtons(std::vector<BarButton> buttons);
   void PutButtons();
+  void ShowTitle(const QString& title);
   void Press(int number);
   void PopUp(QToolButton& button);
   void Hide();
@@ -53,6 +55,7 @@ class EventsBarWindow final : public QFrame {
   CommandCenter& commands_;
   QWidget& container_;
   QLabel* title_;
+  QScrollArea* scroll_;
   QWidget* room_;  ///< where the buttons stand
   QToolButton* declare_;
   QMenu* pross_;

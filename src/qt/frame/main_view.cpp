@@ -9,6 +9,7 @@
 #include "qt/frame/about_dialog.h"
 #include "qt/frame/command_actions.h"
 #include "qt/frame/events_bar_window.h"
+#include "qt/frame/findings_panel.h"
 #include "qt/frame/form_list_panel.h"
 #include "qt/frame/icon_display.h"
 #include "qt/frame/logo_window.h"
@@ -191,6 +192,9 @@ void MainView::ShowPanel(Panel panel, bool shown) {
     case Panel::EventsBar:
       ScheduleBarRefresh();
       break;
+    case Panel::Findings:
+      window_.SetFindingsVisible(shown);
+      break;
   }
 }
 
@@ -225,6 +229,18 @@ void MainView::SetArrowPointer(bool arrow) {
   } else {
     QApplication::restoreOverrideCursor();
   }
+}
+
+void MainView::FindingsChanged() {
+  window_.RefreshFindings();
+}
+
+void MainView::FocusFindings() {
+  window_.Findings().FocusList();
+}
+
+void MainView::FocusGridRow() {
+  window_.Properties().FocusRow();
 }
 
 void MainView::SetStatus(std::string_view text) {

@@ -1,4 +1,4 @@
-// What the shell asks of the main window, and what the main window hears of the project.
+// The main window's implementation of the shell's view, and its observer of the project.
 #pragma once
 
 #include <QPointer>
@@ -54,6 +54,9 @@ class MainView final : public ShellView, public ProjectObserver {
   void CommandsChanged() override;
   void SelectFormLine(int place) override;
   void SetArrowPointer(bool arrow) override;
+  void FindingsChanged() override;
+  void FocusFindings() override;
+  void FocusGridRow() override;
   void SetStatus(std::string_view text) override;
   void SetSelectionText(std::string_view text) override;
   void ShowObjectPopUp() override;
@@ -93,7 +96,7 @@ class MainView final : public ShellView, public ProjectObserver {
   bool offered_ = false;  ///< the work of a crashed run was offered
   std::unique_ptr<LogoWindow> logo_;
   bool arrow_ = false;
-  bool bar_changed_ = false;  ///< the events bar is read anew with the next refresh
+  bool bar_changed_ = false;  ///< the events bar is read again with the next refresh
 };
 
 }  // namespace tarnwick

@@ -6,11 +6,13 @@
 #include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "qt/frame/command_actions.h"
 #include "qt/frame/events_bar_window.h"
+#include "qt/frame/findings_panel.h"
 #include "qt/frame/form_list_panel.h"
 #include "qt/frame/icon_display.h"
 #include "qt/frame/object_bar.h"
@@ -19,10 +21,13 @@
 #include "qt/frame/tool_box_panel.h"
 #include "qt/grid/property_panel.h"
 #include "qt/kit/grip_splitter.h"
+#include "qt/kit/icon_set.h"
 #include "qt/kit/panel_frame.h"
+#include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
 #include "qt/surface/container.h"
 #include "shell/command_center.h"
+#include "shell/findings_list.h"
 #include "shell/mdi_form.h"
 
 namespace tarnwick {
@@ -34,7 +39,8 @@ constexpr int kToolColumns = 2;
 constexpr int kRightWidth = 290;
 constexpr int kPropertiesHeight = 590;
 constexpr int kFormsHeight = 130;
-/// Room for the frame of a desktop that tells nothing about it.
+constexpr int kFindingsHeight = 180;
+/// Room for the window frame where the desktop does not report its size.
 constexpr int kFrameSide = 4;
 constexpr int kFrameTop = 32;
 
@@ -51,12 +57,15 @@ MainWindow::MainWindow(MDIForm1& shell, FilePort& files)
       icon_(new IconDisplay(shell.Tables(), pictures_, this)),
       object_bar_(new ObjectBar(shell.Commands(), this)),
       events_bar_(new EventsBarWindow(shell.Bar(), shell.Commands(), *container_, this)),
+      findings_(new FindingsPanel(shell.Findings(), this)),
       examiner_(new ObjectsExaminerWindow(shell.Examiner(), this)),
       output_(new OutputPanel(shell.Runner(), this)),
       right_(new QWidget(this)),
       panels_(new GripSplitter(Qt::Vertical, right_)),
+      forms_(new GripSplitter(Qt::Vertical, this)),
       middle_(new GripSplitter(Qt::Horizontal, this)),
       status_(new QLabel(this)),
+      findings_word_(new QToolButton(this)),
       selection_(new QLabel(this)),
       pointer_(new QLabel(this)) {
   setObjectName(QStringLiteral("MDIForm1"));
@@ -65,6 +74,8 @@ MainWindow::MainWindow(MDIForm1& shell, FilePort& files)
   BuildStatusBar();
   connect(properties_, &PropertyPanel::ShownWanted, this,
           [this](bool shown) { shell_.Commands().SetPanelShown(Panel::Properties, shown); });
+  connect(findings_, &FindingsPanel::HideWanted, this,
+          [this] { shell_.Commands().SetPanelShown(Panel::Findings, false); });
   connect(properties_, &PropertyPanel::Left, this, [this] { GoToForm(); });
   connect(events_bar_, &EventsBarWindow::Left, this, [this] { GoToForm(); });
 }
@@ -90,9 +101,18 @@ void MainWindow::BuildPanels() {
   right_column->addWidget(panels_, 1);
   right_column->addWidget(icon_);
 
+  forms_->setObjectName(QStringLiteral("FormsAndFindings"));
+  forms_->setHandleWidth(kRoom);
+  forms_->addWidget(container_);
+  forms_->addWidget(findings_);
+  forms_->setStretchFactor(0, 1);
+  forms_->setChildrenCollapsible(false);
+  forms_->setSizes({height() - kFindingsHeight, kFindingsHeight});
+  findings_->hide();
+
   middle_->setObjectName(QStringLiteral("MiddleAndRight"));
   middle_->setHandleWidth(kRoom);
-  middle_->addWidget(container_);
+  middle_->addWidget(forms_);
   middle_->addWidget(right_);
   middle_->setStretchFactor(0, 1);
   middle_->setChildrenCollapsible(false);
@@ -125,6 +145,18 @@ void MainWindow::BuildStatusBar() {
   pointer_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   statusBar()->setSizeGripEnabled(false);
   statusBar()->addWidget(status_, 1);
+  findings_word_->setObjectName(QStringLiteral("FindingsWord"));
+  findings_word_->setToolTip(QStringLiteral("Show the findings"));
+  findings_word_->setAccessibleName(QStringLiteral("Findings"));
+  findings_word_->setIcon(IconOf(QStringLiteral("mark")));
+  findings_word_->setIconSize(QSize(14, 14));
+  findings_word_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  findings_word_->setAutoRaise(true);
+  findings_word_->setFocusPolicy(Qt::TabFocus);
+  findings_word_->hide();
+  connect(findings_word_, &QToolButton::clicked, this,
+          [this] { shell_.Commands().Run(Command::Check); });
+  statusBar()->addPermanentWidget(findings_word_);
   statusBar()->addPermanentWidget(selection_);
   statusBar()->addPermanentWidget(pointer_);
 }
@@ -205,6 +237,20 @@ void MainWindow::SetPropertiesVisible(bool visible) {
 void MainWindow::SetFormListVisible(bool visible) {
   form_list_->setVisible(visible);
   right_->setVisible(visible || !properties_->isHidden());
+}
+
+void MainWindow::SetFindingsVisible(bool visible) {
+  const bool had_focus = findings_->isAncestorOf(focusWidget());
+  findings_->setVisible(visible);
+  if (!visible && had_focus) GoToForm();
+}
+
+void MainWindow::RefreshFindings() {
+  findings_->Refresh();
+  const QString word = ToQString(shell_.Findings().Word());
+  findings_word_->setText(word);
+  findings_word_->setAccessibleName(word);
+  findings_word_->setVisible(!word.isEmpty());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -9,12 +9,14 @@
 
 class QLabel;
 class QSplitter;
+class QToolButton;
 
 namespace tarnwick {
 
 class CommandActions;
 class Container;
 class EventsBarWindow;
+class FindingsPanel;
 class FormListPanel;
 class IconDisplay;
 class FilePort;
@@ -47,6 +49,7 @@ class MainWindow final : public QMainWindow {
   [[nodiscard]] IconDisplay& ProgramIconView() { return *icon_; }
   [[nodiscard]] ObjectBar& FloatingTools() { return *object_bar_; }
   [[nodiscard]] EventsBarWindow& EventButtons() { return *events_bar_; }
+  [[nodiscard]] FindingsPanel& Findings() { return *findings_; }
   [[nodiscard]] ObjectsExaminerWindow& Examiner() { return *examiner_; }
   [[nodiscard]] OutputPanel& Output() { return *output_; }
   [[nodiscard]] CommandActions& Actions() { return *actions_; }
@@ -57,6 +60,10 @@ class MainWindow final : public QMainWindow {
   void SetPointerText(const QPoint& place);
   void SetPropertiesVisible(bool visible);
   void SetFormListVisible(bool visible);
+  /// When the list of findings goes while it has the focus, the current form gets it.
+  void SetFindingsVisible(bool visible);
+  /// Reads the findings and their number again.
+  void RefreshFindings();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -78,12 +85,15 @@ class MainWindow final : public QMainWindow {
   IconDisplay* icon_;
   ObjectBar* object_bar_;
   EventsBarWindow* events_bar_;
+  FindingsPanel* findings_;
   ObjectsExaminerWindow* examiner_;
   OutputPanel* output_;
   QWidget* right_;
   QSplitter* panels_;
+  QSplitter* forms_;  ///< the container, with the findings below it
   QSplitter* middle_;
   QLabel* status_;
+  QToolButton* findings_word_;
   QLabel* selection_;
   QLabel* pointer_;
 };

@@ -132,6 +132,7 @@ constexpr std::array<CommandIcon, kCommandCount> kCommandIcons{{
     {Command::MenuEdit, "menu-edit"},
     {Command::Compile, "compile"},
     {Command::Stop, "stop"},
+    {Command::Check, "check"},
     {Command::Help, "help"},
     {Command::About, "about"},
 }};

@@ -1,4 +1,4 @@
-// The ports whose answers come from windows: message boxes, dialogs, screen.
+// The ports that are implemented with windows: message boxes, dialogs, screen.
 #pragma once
 
 #include <QElapsedTimer>

@@ -21,6 +21,7 @@ constexpr int kMargin = 24;
 Container::Container(looks::PictureCache& pictures, TextCache& texts, QWidget* parent)
     : QScrollArea(parent), pictures_(pictures), texts_(texts), canvas_(new QWidget) {
   setObjectName(QStringLiteral("FormContenedor"));
+  setAccessibleName(QStringLiteral("Design forms"));
   setFrameShape(QFrame::NoFrame);
   canvas_->setObjectName(QStringLiteral("Canvas"));
   canvas_->setBackgroundRole(QPalette::Mid);

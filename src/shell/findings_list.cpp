@@ -1,0 +1,187 @@
+#include "shell/findings_list.h"
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+#include <span>
+#include <tuple>
+#include <utility>
+
+#include "project/check.h"
+#include "shell/design_surfaces.h"
+#include "text/code_page.h"
+#include "text/numbers.h"
+
+namespace tarnwick {
+
+namespace {
+
+using project::Finding;
+using project::FindingId;
+
+bool IsAboutCode(FindingId id) noexcept {
+  return id == FindingId::CodeOwnerless || id == FindingId::CodeLeftOut;
+}
+
+/// The name of the object in a place such as "Form1.Btn1"; "" for the form itself.
+std::string_view ObjectIn(std::string_view place, std::string_view form) noexcept {
+  const bool behind =
+      place.size() > form.size() + 1 && place.starts_with(form) && place[form.size()] == '.';
+  return behind ? place.substr(form.size() + 1) : std::string_view();
+}
+
+/// The event in a key such as "Form1.Button2.OnClick".
+std::string_view EventIn(std::string_view key) noexcept {
+  return key.substr(std::min(key.rfind('.'), key.size() - 1) + 1);
+}
+
+bool HasEvent(Kind kind, Event event) noexcept {
+  const std::span<const Event> events = ListOf(InfoOf(kind).Events).Events;
+  return std::find(events.begin(), events.end(), event) != events.end();
+}
+
+}  // namespace
+
+void FindingsList::Check() {
+  on_files_ = project::CheckFiles(state_.Tables, state_.Ports.Files);
+  Find();
+}
+
+bool FindingsList::IsShown() const {
+  return state_.IsShown(Panel::Findings) || !findings_.empty();
+}
+
+void FindingsList::Refresh() {
+  if (IsShown()) Find();
+}
+
+void FindingsList::ProjectSaved() {
+  if (IsShown()) Check();
+}
+
+void FindingsList::ProjectReplaced() {
+  if (state_.IsShown(Panel::Findings)) return Check();
+  on_files_.clear();
+  Take({});
+}
+
+void FindingsList::Find() {
+  std::vector<Finding> all = on_files_;
+  std::vector<Finding> found = project::CheckProject(state_.Tables, state_.Ports.Files);
+  std::move(found.begin(), found.end(), std::back_inserter(all));
+  const auto before = [](const Finding& a, const Finding& b) {
+    return std::tuple(b.How(), a.Form) < std::tuple(a.How(), b.Form);
+  };
+  std::stable_sort(all.begin(), all.end(), before);
+  Take(std::move(all));
+}
+
+void FindingsList::Take(std::vector<Finding> findings) {
+  findings_ = std::move(findings);
+  std::vector<FindingLine> lines;
+  lines.reserve(findings_.size());
+  for (const Finding& finding : findings_) lines.push_back(LineOf(finding));
+  if (lines == lines_) return;
+  lines_ = std::move(lines);
+  state_.View->FindingsChanged();
+}
+
+FindingLine FindingsList::LineOf(const Finding& finding) const {
+  FindingLine line{finding.How(), "", "", std::string(finding.Row),
+                   std::string(finding.Text).append("; ").append(finding.ToDo())};
+  const FormRec* form =
+      state_.Tables.IsLive(finding.Form) ? state_.Tables.Form(finding.Form) : nullptr;
+  if (form != nullptr) line.Form = form->Name;
+  if (!IsAboutCode(finding.Id)) {
+    line.Object = ObjectIn(finding.Place, line.Form);
+    return line;
+  }
+  line.Row = EventIn(finding.Place);
+  const std::string_view owner =
+      std::string_view(finding.Place).substr(0, finding.Place.size() - line.Row.size() - 1);
+  if (const ControlRef object = ObjectOf(finding)) {
+    line.Object = object->Tag;
+  } else if (const std::size_t dot = owner.find('.'); dot != std::string_view::npos) {
+    line.Object = owner.substr(dot + 1);
+  }
+  return line;
+}
+
+/// The object that a finding is about; null for the form, and for an object that has gone.
+ControlRef FindingsList::ObjectOf(const Finding& finding) const {
+  const DesignForm* form = state_.Tables.UserIfAny(finding.Form);
+  if (form == nullptr) return nullptr;
+  if (finding.Of != Kind::Form) {
+    ControlRef object = form->Element(finding.Of, finding.Index);
+    return object != nullptr && object->Visible ? object : nullptr;
+  }
+  // What a line of a file is about goes by its name alone.
+  const std::string_view name = ObjectIn(finding.Place, state_.Tables.Form(finding.Form)->Name);
+  return IsAboutCode(finding.Id) || name.empty() ? nullptr : form->FindByTag(name);
+}
+
+std::string FindingsList::Word() const {
+  if (findings_.empty()) return {};
+  std::string word;
+  AppendNumber(word, static_cast<std::int64_t>(findings_.size()));
+  return word.append(findings_.size() == 1 ? " finding" : " findings");
+}
+
+void FindingsList::GoTo(int line) {
+  if (state_.Busy || line < 0 || static_cast<std::size_t>(line) >= findings_.size()) return;
+  // By value: a command on the way may check again.
+  const Finding finding = findings_[static_cast<std::size_t>(line)];
+  if (IsAboutCode(finding.Id)) return GoToCode(finding);
+  if (finding.Id == FindingId::MainFormGone) return state_.Run(Command::SelectMainForm);
+  if (state_.RaiseOpenCode() || !state_.Tables.IsLive(finding.Form)) return;
+  forms_.GoTo(finding.Form);
+  FormUser* const surface = surfaces_.Of(finding.Form);
+  const ControlRef object = ObjectOf(finding);
+  if (object == nullptr) {
+    surface->SelectForm();
+  } else if (object->Id == Kind::Menu || object->Id == Kind::MenuItem) {
+    // An item has no rows in the grid: its designer is where it is mended.
+    surface->SelectMenuItem(object);
+    return state_.Run(Command::MenuEdit);
+  } else {
+    surface->SelectObject(object);
+  }
+  // The row of an object that has gone is no row of the form.
+  if (finding.Of == Kind::Form || object != nullptr) GoToRow(finding.Row);
+}
+
+void FindingsList::GoToRow(std::string_view name) {
+  if (name.empty()) return;
+  if (!state_.IsShown(Panel::Properties)) state_.Run(Command::Properties);
+  for (int row = 0; row < sheet_.RowCount(); ++row) {
+    if (!EqualsFolded(sheet_.Label(row), name)) continue;
+    sheet_.SelectRow(row);
+    state_.View->FocusGridRow();
+    return;
+  }
+}
+
+void FindingsList::GoToCode(const Finding& finding) {
+  FormUser* const surface = surfaces_.Of(finding.Form);
+  if (surface == nullptr) return;
+  const std::optional<Event> event = EventOfName(EventIn(finding.Place));
+  const ControlRef object = ObjectOf(finding);
+  // While the editor is open nothing can be selected: the whole key says what is meant.
+  bool by_key = true;
+  if (!state_.Code->IsCodeOpen()) {
+    forms_.GoTo(finding.Form);
+    if (object == nullptr) {
+      surface->SelectForm();
+    } else {
+      surface->SelectObject(object);
+    }
+    const bool is_form = finding.Place.find('.') == finding.Place.rfind('.');
+    by_key = !is_form && (object == nullptr || !event || !HasEvent(object->Id, *event));
+  }
+  state_.Tables.JumpKey = by_key || !event ? finding.Place : std::string(InfoOf(*event).Name);
+  state_.Busy = true;
+  state_.Code->OpenCode();
+  state_.Busy = false;
+}
+
+}  // namespace tarnwick

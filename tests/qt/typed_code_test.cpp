@@ -1,0 +1,174 @@
+// Code that is typed: what a crash leaves of it, and its steps.
+#include <QComboBox>
+#include <QFrame>
+#include <QPushButton>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <thread>
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include "program.h"
+#include "project/recovery.h"
+#include "qt/editor/code_edit.h"
+#include "shell/events_bar.h"
+#include "shell/project_commands.h"
+#include "text/path_text.h"
+
+namespace tarnwick {
+namespace {
+
+using Milliseconds = std::chrono::milliseconds;
+
+/// What may be lost.
+constexpr std::int64_t kMostLost = 5000;
+
+std::int64_t Now() {
+  return std::chrono::duration_cast<Milliseconds>(
+             std::chrono::steady_clock::now().time_since_epoch())
+      .count();
+}
+
+/// Types code with real keys, and notes the time of each in the file, until the process is killed
+/// by itself after `life`.
+void TypeUntilKilled(const std::string& notes, Milliseconds life) {
+  Program program;
+  std::ofstream(notes + ".home") << program.Home.Native();
+  program.Place(0, {20, 20});
+  program.Key(Qt::Key_F7);
+  program.Type(QStringLiteral("'"));
+  std::thread([life] {
+    std::this_thread::sleep_for(life);
+    ::kill(::getpid(), SIGKILL);
+  }).detach();
+  std::ofstream out(notes);
+  for (;;) {
+    program.Type(QStringLiteral("x"));
+    out << Now() << std::endl;
+    QTest::qWait(20);
+  }
+}
+
+/// Of each of some processes that are killed, at moments of their own.
+class KilledProcess : public ::testing::TestWithParam<int> {};
+
+TEST_P(KilledProcess, LosesTheCodeOfFiveSecondsAtMost) {
+  // The child runs this test from its start, too.
+  testing::FLAGS_gtest_death_test_style = "threadsafe";
+  constexpr const char* kNotes = "TARNWICK_TYPED_NOTES";
+  const TemporaryFolder folder;
+  ::setenv(kNotes, folder.Native("notes").c_str(), 0);
+  const std::string notes = std::getenv(kNotes);
+  const Milliseconds life(2500 + std::random_device()() % 3500);
+  EXPECT_EXIT(TypeUntilKilled(notes, life), testing::KilledBySignal(SIGKILL), "");
+  const std::int64_t killed = Now();
+  ::unsetenv(kNotes);
+
+  std::vector<std::int64_t> keys;
+  std::ifstream in(notes);
+  for (std::int64_t time = 0; in >> time;) keys.push_back(time);
+  std::string home;
+  std::ifstream(notes + ".home") >> home;
+  ASSERT_FALSE(home.empty());
+  ProjectTables tables;
+  NativeFiles files;
+  NativeInstanceFolders folders;
+  project::Recovery recovery(tables, files, folders, PathFromNative(home) + "\\recovery",
+                             [] { return "now"; });
+  std::size_t kept = 0;
+  for (const auto& offer : recovery.Offers()) {
+    EXPECT_TRUE(offer.Crashed);
+    const auto& code = offer.Project.Forms.at(0).Code;
+    if (const auto text = code.find(".Button1.OnClick"); text != code.end()) {
+      kept = text->second.size() - 1;
+    }
+  }
+  EXPECT_GT(keys.size(), 10U);
+  if (kept < keys.size()) {
+    EXPECT_LT(killed - keys[kept], kMostLost) << "of " << keys.size();
+  }
+  std::error_code ignored;
+  std::filesystem::remove_all(home, ignored);
+}
+
+INSTANTIATE_TEST_SUITE_P(Moments, KilledProcess, ::testing::Values(1, 2));
+
+class Typed : public ::testing::Test {
+ protected:
+  CodeEdit& Editor() { return *program.Window().findChild<CodeEdit*>(QStringLiteral("Editor")); }
+  Program program;
+};
+
+TEST_F(Typed, CodeOfALeftProjectIsOfferedInTheEditorWhenItIsRestored) {
+  program.Place(0, {20, 20});
+  program.Key(Qt::Key_F7);
+  program.Type(QStringLiteral("Beep"));
+  program.User.No();
+  program.Shell().Commands().Run(Command::New);
+  EXPECT_FALSE(Editor().isVisible());
+  const auto offers = program.Shell().Projects().UnsavedWork();
+  ASSERT_EQ(offers.size(), 1U);
+  program.Shell().Projects().Restore(offers[0]);
+  program.Settle();
+  program.Click(program.Surface(), {30, 30});
+  program.Key(Qt::Key_F7);
+  EXPECT_EQ(Editor().Text(), "") << "it was never accepted";
+  auto& bar = program.Find<QFrame>(QStringLiteral("LostCode"));
+  EXPECT_TRUE(bar.isVisible());
+  program.Click(program.Find<QPushButton>(QStringLiteral("RestoreCode")));
+  EXPECT_EQ(Editor().Text(), "Beep");
+  program.Key(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(*program.Tables().EventTable.Find("Form1.Button1.OnClick"), "Beep");
+}
+
+TEST_F(Typed, AcceptedCodeIsAStepThatUndoTakesBackWithItsButton) {
+  program.Place(0, {20, 20});
+  program.Key(Qt::Key_F7);
+  program.Type(QStringLiteral("Beep"));
+  program.Key(Qt::Key_Return, Qt::ControlModifier);
+  ASSERT_FALSE(Editor().isVisible());
+  const auto code = [this] { return program.Tables().EventTable.Find("Form1.Button1.OnClick"); };
+  ASSERT_NE(code(), nullptr);
+  EXPECT_EQ(program.Shell().Bar().btncodigo(1).size(), 1U);
+  EXPECT_EQ(program.Shell().Commands().Caption(Command::Undo), "&Undo Code Form1Btn1");
+  program.Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_TRUE(code() == nullptr || code()->empty());
+  EXPECT_TRUE(program.Shell().Bar().btncodigo(1).empty());
+  EXPECT_EQ(program.Form().UBound(Kind::Button), 1);
+  program.Key(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(*code(), "Beep");
+  EXPECT_EQ(program.Shell().Bar().btncodigo(1).size(), 1U);
+}
+
+TEST_F(Typed, AChangeOfEventThatStoresCodeIsAStepToo) {
+  program.Place(0, {20, 20});
+  program.Key(Qt::Key_F7);
+  program.Type(QStringLiteral("Beep"));
+  auto& events = program.Find<QComboBox>(QStringLiteral("Events"));
+  events.setFocus();
+  QTest::keyClick(&events, Qt::Key_Down);
+  program.Key(Qt::Key_Escape);
+  ASSERT_FALSE(Editor().isVisible());
+  EXPECT_EQ(*program.Tables().EventTable.Find("Form1.Button1.OnClick"), "Beep");
+  program.Key(Qt::Key_Z, Qt::ControlModifier);
+  const std::string* code = program.Tables().EventTable.Find("Form1.Button1.OnClick");
+  EXPECT_TRUE(code == nullptr || code->empty());
+}
+
+TEST_F(Typed, AcceptedDeclarationsAreAStep) {
+  program.Key(Qt::Key_D, Qt::ControlModifier);
+  program.Type(QStringLiteral("Dim a"));
+  program.Key(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(program.Record().DeclarePbl, "Dim a");
+  EXPECT_EQ(program.Shell().Commands().Caption(Command::Undo), "&Undo Public Declarations");
+  program.Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(program.Record().DeclarePbl, "");
+}
+
+}  // namespace
+}  // namespace tarnwick
