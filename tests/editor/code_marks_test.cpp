@@ -108,6 +108,11 @@ TEST_F(CodeMarksTest, AStatementThatCannotBeReadIsMarkedAtTheTokenThatDoesNotFit
   EXPECT_EQ(marks[0].Text, "TO is expected in front of \"2\"");
 }
 
+TEST_F(CodeMarksTest, WhatTheProgramAcceptsInGeneratedTextIsNoMistake) {
+  EXPECT_EQ(OfEvent("Ok.Caption ="), Texts{});
+  EXPECT_EQ(OfEvent("a =").size(), 1U);
+}
+
 TEST_F(CodeMarksTest, CodeMayEndItsSubAndBeginOthers) {
   EXPECT_EQ(OfEvent("Helper 1\r\nEnd Sub\r\nSub Helper (a As Integer)\r\n  Beep"), Texts{});
 }

@@ -190,6 +190,13 @@ TEST_F(CodeWindowTest, OpenCodeReplacesTheTextAndACancelledDialogLeavesIt) {
   program.Dialogs.OpenAnswers.push_back(program.Projects.Path("code.txt"));
   Tool(0).click();
   EXPECT_EQ(Editor().Text(), "line 1\r\nline 2");
+  Editor().undo();
+  EXPECT_EQ(Editor().Text(), "old");
+  program.Projects.Write("unix.txt", "line 1\nline 2\n");
+  program.Dialogs.OpenAnswers.push_back(program.Projects.Path("unix.txt"));
+  Tool(0).click();
+  EXPECT_EQ(Editor().Text(), "line 1\r\nline 2\r\n");
+  Editor().SetText("line 1\r\nline 2");
   program.Dialogs.SaveAnswers.push_back(program.Projects.Path("out.txt"));
   Tool(1).click();
   EXPECT_EQ(program.Projects.Read("out.txt"), "line 1\r\nline 2");

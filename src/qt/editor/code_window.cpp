@@ -272,8 +272,12 @@ void CodeWindow::OpenFile() {
   if (path && !path->empty()) {
     if (const auto text = ports_.Files.Read(*path)) {
       const int last = code_.LineCount() - 1;
+      code_.beginUndoAction();
       code_.SetSel({0, 0, last, static_cast<int>(code_.GetLine(last).size())});
       code_.SetSelText(*text);
+      // Files of other systems end their lines otherwise.
+      code_.convertEols(QsciScintilla::EolWindows);
+      code_.endUndoAction();
       code_.SetCaretPos(0, 0);
     }
   }
