@@ -1,4 +1,4 @@
-// What the property sheet asks of other rooms, and what its view hears.
+// What the property sheet needs of other rooms, and how its view is notified.
 #pragma once
 
 #include <cstdint>
@@ -25,7 +25,7 @@ class InspectorHost {
   /// The window has another background: its dot grid is drawn again, it is refreshed and takes
   /// the focus.
   virtual void FormRecolored(DesignForm& form) = 0;
-  /// Place or size of the form's selected object changed: its handles follow.
+  /// Position or size of the form's selected object changed: its handles follow.
   virtual void PlaceChanged(DesignForm& form) = 0;
   /// True when the file is a picture or an icon that can be shown.
   [[nodiscard]] virtual bool PictureLoads(const std::string& path) = 0;
@@ -38,7 +38,7 @@ class InspectorHost {
   virtual void OpenFormAddItems(DesignForm& form) = 0;
 };
 
-/// What the view of the property sheet hears; each is told after the change.
+/// The view of the property sheet. Each method is called after the change.
 class PropertySheetView {
  public:
   PropertySheetView() = default;
@@ -48,7 +48,7 @@ class PropertySheetView {
 
   /// The rows stand for another object or form now. RowsChanged follows.
   virtual void SubjectChanged() {}
-  /// The rows are others now, or other rows are shown.
+  /// The rows were replaced, or the filter shows other ones.
   virtual void RowsChanged() {}
   /// The value of one row changed, or what is shown beside it.
   virtual void RowTextChanged(int /*row*/) {}
@@ -56,10 +56,10 @@ class PropertySheetView {
   virtual void RowSelected() {}
   /// The drop-down list opened or closed.
   virtual void ListOpened(bool /*is_open*/) {}
-  /// Rows of the head list came or went, or all are others now.
+  /// Rows of the head list were added or removed, or the list was replaced.
   virtual void ComboChanged() {}
-  /// One row of the head list has another text. A view that does not tell rows apart hears of it
-  /// as of any change.
+  /// One row of the head list has another text. A view that does not update single rows takes
+  /// it for any change.
   virtual void ComboRowTextChanged(int /*row*/) { ComboChanged(); }
   /// Another row of the head list is selected; its rows are the same. Likewise.
   virtual void ComboRowSelected(int /*row*/) { ComboChanged(); }

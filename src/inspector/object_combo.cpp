@@ -57,9 +57,9 @@ bool ObjectCombo::Bring(const DesignControl* object, std::string_view name,
 }
 
 int ObjectCombo::Rename(const DesignControl* object, std::string text) {
-  const int place = PositionOf(object);
-  if (place >= 0) rows_[static_cast<std::size_t>(place)].Text = std::move(text);
-  return place;
+  const int index = PositionOf(object);
+  if (index >= 0) rows_[static_cast<std::size_t>(index)].Text = std::move(text);
+  return index;
 }
 
 bool ObjectCombo::Remove(const DesignControl& object) {

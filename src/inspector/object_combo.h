@@ -26,7 +26,7 @@ class ObjectCombo {
   };
 
   [[nodiscard]] const std::vector<Row>& Rows() const noexcept { return rows_; }
-  /// Place of the selected row from 0; -1 for none.
+  /// Index of the selected row; -1 for none.
   [[nodiscard]] int Selected() const noexcept { return selected_; }
 
   void Clear() noexcept;
@@ -35,7 +35,7 @@ class ObjectCombo {
   /// Selects an object's row, and adds one of the name with the suffix where it has none; true when
   /// it was added.
   bool Bring(const DesignControl* object, std::string_view name, std::string_view suffix);
-  /// Gives an object's row another text, and returns its place; -1 when it has none.
+  /// Gives an object's row another text, and returns its index; -1 when it has none.
   int Rename(const DesignControl* object, std::string text);
   /// Takes an object's row out; false when it has none.
   bool Remove(const DesignControl& object);

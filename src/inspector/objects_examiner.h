@@ -11,7 +11,7 @@ namespace tarnwick {
 
 class PropertySheet;
 
-/// What the window shows. A view fills its lists from here and forwards what is chosen; places
+/// What the window shows. A view fills its lists from here and forwards what is chosen; indices
 /// count from 0.
 class FormViewObjects {
  public:

@@ -4,6 +4,7 @@
 #include "designer/history/history.h"
 #include "inspector/control_font.h"
 #include "inspector/property_sheet.h"
+#include "inspector/row_record.h"
 #include "inspector/row_store.h"
 #include "inspector/typed_value.h"
 #include "text/numbers.h"
@@ -11,13 +12,28 @@
 
 namespace tarnwick {
 
+namespace {
+
+constexpr std::string_view kNumberRefused = "Not stored: the number is out of range.";
+constexpr std::string_view kTextRefused =
+    "Not stored: \"<\" or \">\" stands beside a word that the form file uses as a mark.";
+
+}  // namespace
+
 bool PropertySheet::IsEditable() const noexcept {
   return !is_filling_ && is_row_live_ && rows_.At(RowIndex_) != nullptr;
 }
 
 bool PropertySheet::ApplyText(std::string_view text) {
   if (!IsEditable() || Text(RowIndex_) == text) return false;
-  return ApplyToRow(OneLineText(text));
+  return ApplyToRow(std::string(text));
+}
+
+/// The text as the row can hold it.
+std::string PropertySheet::TakenText(std::string_view text) const {
+  const std::string line = OneLineText(text);
+  const RowBinding* binding = BindingAt(RowIndex_);
+  return binding != nullptr ? StorableText(*binding, subject_.Id(), line) : line;
 }
 
 std::string PropertySheet::StepName() const {
@@ -27,6 +43,8 @@ std::string PropertySheet::StepName() const {
 /// Takes a text into the selected row and applies it; the row shows it even where it is refused.
 bool PropertySheet::ApplyToRow(std::string text) {
   const std::optional<RowTarget> target = Target();
+  text = TakenText(text);
+  refusal_.clear();
   SetText(RowIndex_, text);
   if (!target) return false;
   const int form = target->Window.Number();
@@ -56,12 +74,16 @@ bool PropertySheet::ApplyTyped(const RowBinding& binding, const RowTarget& targe
                                const std::string& text) {
   // In a row of a list a typed text counts once it names a value.
   if (WidgetsOf(RowMark(RowIndex_)).List) {
-    const int place = list_.PlaceOf(text);
-    if (place < 0) return false;
-    const std::string value = list_.Values()[static_cast<std::size_t>(place)];
-    return edits_.Choice(binding, target, value, place);
+    const int index = list_.IndexOf(text);
+    if (index < 0) return false;
+    const std::string value = list_.Values()[static_cast<std::size_t>(index)];
+    return edits_.Choice(binding, target, value, index);
   }
   if (IsTypedNumber(binding.Shape)) return ApplyNumber(binding, target, text);
+  if (!IsStorable(binding, target.Id, text)) {
+    refusal_ = kTextRefused;
+    return false;
+  }
   switch (binding.Shape) {
     case RowShape::Text:
       return edits_.Text(binding, target, text);
@@ -81,6 +103,7 @@ bool PropertySheet::ApplyNumber(const RowBinding& binding, const RowTarget& targ
   if (typed.Is == TypedNumber::State::Number && edits_.Number(binding, target, typed.Value)) {
     return true;
   }
+  refusal_ = kNumberRefused;
   if (number_at_entry_ && StoredNumber(binding, target) != number_at_entry_) {
     edits_.Number(binding, target, *number_at_entry_);
   }
@@ -100,6 +123,7 @@ bool PropertySheet::ApplyChoice(std::string_view text, int index) {
   if (!IsEditable() || index < 0) return false;
   const int row = RowIndex_;
   const std::string value{text};
+  refusal_.clear();
   CloseList();
   SetText(row, value);
   const std::optional<RowTarget> target = Target();

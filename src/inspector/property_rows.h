@@ -29,8 +29,8 @@ struct RowWidgets {
                                                           std::string_view kind);
 [[nodiscard]] const RowWidgets& WidgetsOf(int mark) noexcept;
 
-/// The text of a named value: the one whose place in the row's list is the number. The row's name
-/// is compared whole and may carry its mark; "" for an unknown kind, row or place.
+/// The text of a named value: the one whose index in the row's list is the number. The row's name
+/// is compared whole and may carry its mark; "" for an unknown kind, row or index.
 [[nodiscard]] std::string EnumText(const language::SupportTables& tables, std::string_view kind,
                                    std::string_view row_name, int value);
 

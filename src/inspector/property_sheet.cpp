@@ -114,9 +114,9 @@ void PropertySheet::BuildRows() {
 }
 
 std::string PropertySheet::ValueText(const RowBinding& binding, const RowTarget& target) const {
-  if (binding.Shape != RowShape::Place) return StoredText(binding, target).value_or("");
-  const std::optional<double> place = StoredNumber(binding, target);
-  return place ? EnumText(support_, SelKind_, binding.Row, static_cast<int>(*place)) : "";
+  if (binding.Shape != RowShape::Index) return StoredText(binding, target).value_or("");
+  const std::optional<double> index = StoredNumber(binding, target);
+  return index ? EnumText(support_, SelKind_, binding.Row, static_cast<int>(*index)) : "";
 }
 
 void PropertySheet::RereadRow(int row) {
@@ -206,6 +206,7 @@ bool PropertySheet::IsPath(int row) const noexcept {
 }
 
 std::string PropertySheet::RowFault(int row) const {
+  if (row == RowIndex_ && is_row_live_ && !refusal_.empty()) return refusal_;
   for (const project::Finding& fault : Faults()) {
     if (!EqualsFolded(fault.Row, Label(row))) continue;
     std::string text = fault.Text;
@@ -250,6 +251,7 @@ void PropertySheet::SelectRow(int row) {
   is_row_selected_ = true;
   is_row_live_ = true;
   last_row_ = cell->Row.Name;
+  refusal_.clear();
   text_at_entry_ = cell->Text;
   const std::optional<RowTarget> target = Target();
   number_at_entry_ = target && cell->Binding != nullptr && IsTypedNumber(cell->Binding->Shape)
@@ -268,7 +270,9 @@ int PropertySheet::RowToEnter() const noexcept {
 void PropertySheet::LeaveRow() {
   steps_.Leave();
   if (is_filling_ || !is_row_live_) return;
+  const bool was_refused = !std::exchange(refusal_, {}).empty();
   RereadRow(RowIndex_);
+  if (was_refused) TellRow(RowIndex_);
 }
 
 bool PropertySheet::Boton1Shown() const noexcept {
@@ -298,8 +302,8 @@ std::string_view PropertySheet::SelectedKind() const noexcept {
   return InfoOf(form->ControlSel ? form->ControlSel->Id : Kind::Form).Name;
 }
 
-void PropertySheet::ChooseComboRow(int place) {
-  if (head_.Choose(place)) ShowSelection();
+void PropertySheet::ChooseComboRow(int row) {
+  if (head_.Choose(row)) ShowSelection();
 }
 
 }  // namespace tarnwick

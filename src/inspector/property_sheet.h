@@ -42,7 +42,7 @@ class PropertySheet {
  public:
   PropertySheet(ProjectTables& tables, const language::SupportTables& support, Ports& ports,
                 ProjectObserver& observer, InspectorHost& host, History& steps);
-  /// The view that hears of changes; null for none.
+  /// The view that is notified of changes; null for none.
   void SetView(PropertySheetView* view) noexcept;
 
   // --- Filling ---
@@ -79,7 +79,8 @@ class PropertySheet {
   [[nodiscard]] std::vector<std::string> RowPictures(int row) const;
   /// True for a row that holds a path.
   [[nodiscard]] bool IsPath(int row) const noexcept;
-  /// What is wrong with the value of a row and what to do, as a sentence; "" for nothing.
+  /// What is wrong with the value of a row and what to do, as a sentence; "" for nothing. While a
+  /// refused text stands in the selected row, why it is not stored.
   [[nodiscard]] std::string RowFault(int row) const;
   /// What the selected row is for; lines end in CR LF, "" when nothing is known or none is
   /// selected.
@@ -116,13 +117,15 @@ class PropertySheet {
   [[nodiscard]] const ValueList& List() const noexcept { return list_; }
   void CloseList();
 
-  // --- Edits: each answers whether something was stored ---
+  // --- Edits: each returns whether something was stored ---
 
   /// A text typed into the selected row, at each keystroke. A text that the row shows already is
-  /// no edit. A number that its place refuses puts back the value that the row had when it was
-  /// selected; an empty one changes nothing.
+  /// no edit. Control characters become blanks; a character that the form file uses as a mark in
+  /// this row becomes "?". A number that its field refuses puts back the value that the row had
+  /// when it was selected; an empty one changes nothing. A text that would tear the object's record
+  /// is refused: the one before it stays.
   bool ApplyText(std::string_view text);
-  /// A row picked from the list: its text and its place from 0. Closes the list.
+  /// A row picked from the list: its text and its index. Closes the list.
   bool ApplyChoice(std::string_view text, int index);
   /// Brings the record of the current form's selection, or of the form itself for "Form", up to
   /// date for a row. The grid follows where it shows the same object; the panel need not be
@@ -138,7 +141,7 @@ class PropertySheet {
   /// Builds the rows for the current form: it came to the front.
   void FillCombo() { head_.Fill(); }
   /// The user picked a row: selects the form or the object and shows its properties.
-  void ChooseComboRow(int place);
+  void ChooseComboRow(int row);
   /// An object is about to go.
   void RemoveComboRow(const DesignControl& object) { head_.Remove(object); }
   [[nodiscard]] const ObjectCombo& Combo() const noexcept { return head_.Rows(); }
@@ -162,6 +165,7 @@ class PropertySheet {
   [[nodiscard]] bool IsEditable() const noexcept;
 
   [[nodiscard]] std::string StepName() const;
+  [[nodiscard]] std::string TakenText(std::string_view text) const;
   bool ApplyToRow(std::string text);
   bool StoreTyped(const RowTarget& target, const std::string& text);
   bool ApplyTyped(const RowBinding& binding, const RowTarget& target, const std::string& text);
@@ -186,7 +190,7 @@ class PropertySheet {
   ValuePickers pickers_;
   HeadList head_;
   ValueList list_;
-  /// The findings on the rows of the subject; nothing until somebody asks for them.
+  /// The findings on the rows of the subject; nothing until they are asked for.
   mutable std::optional<std::vector<project::Finding>> faults_;
   bool is_visible_ = true;
   bool is_filling_ = false;
@@ -194,6 +198,7 @@ class PropertySheet {
   bool is_row_live_ = false;               ///< the selected row belongs to the present subject
   std::string text_at_entry_;              ///< what the selected row showed when it was selected
   std::optional<double> number_at_entry_;  ///< and its stored number
+  std::string refusal_;                    ///< why the text of the selected row is not stored
   std::string last_row_;                   ///< name of the row last selected
 
   std::string SelKind_;

@@ -17,11 +17,11 @@ enum class RowShape : std::uint8_t {
   File,    ///< a text; an empty one prints "(None)"
   Number,  ///< a whole number, read by its leading digits
   Color,   ///< a colour: a number, also in hexadecimal digits, or a name of the language
-  Pixels,  ///< a place or size, in pixels; held in twips on controls and windows
+  Pixels,  ///< a position or size, in pixels; held in twips on controls and windows
   Extent,  ///< the same for a width or height, which cannot be negative
   YesNo,   ///< "False" 0, "True" any other number
   NotYes,  ///< "True" is 0 and "False" 1
-  Place,   ///< a value of the row's list, held as its place
+  Index,   ///< a value of the row's list, held as its index
   Choice,  ///< a value of the row's list, held as its text
   Parent,  ///< the same, the list being the names of the form and its objects
   Font,    ///< the font's name; only the font dialog writes it
@@ -31,14 +31,14 @@ enum class RowShape : std::uint8_t {
 /// What an edit does besides storing the value.
 enum class RowEffect : std::uint8_t {
   None,
-  Recolor,     ///< the design window is painted anew
+  Recolor,     ///< the design window is painted again
   WindowIcon,  ///< the design window takes the icon
   Picture,     ///< the control takes the picture
   Resource,    ///< the same, and the record the name of the picture's resource
   Frame,       ///< the design window takes the frame
 };
 
-/// A place that holds a value: a field of a record or a window, or a member of the control.
+/// What holds a value: a field of a record or a window, or a member of the control.
 using RowStore =
     std::variant<std::monostate, std::int16_t FormRec::*, std::int32_t FormRec::*,
                  std::string FormRec::*, std::int16_t ObjectRec::*, std::int32_t ObjectRec::*,
@@ -53,7 +53,7 @@ using RowKinds = std::uint32_t;
 }
 
 /// One line of the table: a row on some kinds. What is read and what is written are one and the
-/// same place, so an edit always reads back; `Also` only follows.
+/// same field, so an edit always reads back; `Also` only follows.
 struct RowBinding {
   std::string_view Row;  ///< lower case
   RowKinds Kinds = 0;
@@ -73,7 +73,7 @@ struct RowTarget {
   int Index = 0;
 };
 
-/// True for a place or size: pixels in the grid.
+/// True for a position or size: pixels in the grid.
 [[nodiscard]] constexpr bool IsMeasure(RowShape shape) noexcept {
   return shape == RowShape::Pixels || shape == RowShape::Extent;
 }

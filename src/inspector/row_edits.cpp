@@ -37,9 +37,9 @@ bool RowEdits::Text(const RowBinding& binding, const RowTarget& target, std::str
 }
 
 bool RowEdits::Choice(const RowBinding& binding, const RowTarget& target, std::string_view value,
-                      int place) {
+                      int index) {
   return IsHeldAsText(binding.Shape) ? Text(binding, target, value)
-                                     : Number(binding, target, place);
+                                     : Number(binding, target, index);
 }
 
 bool RowEdits::Sync(const RowBinding& binding, const RowTarget& target) {

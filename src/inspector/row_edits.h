@@ -26,9 +26,9 @@ class RowEdits {
 
   bool Number(const RowBinding& binding, const RowTarget& target, double value);
   bool Text(const RowBinding& binding, const RowTarget& target, std::string_view text);
-  /// A value of a row's list: as its text where the row is held as text, else as its place.
+  /// A value of a row's list: as its text where the row is held as text, else as its index.
   bool Choice(const RowBinding& binding, const RowTarget& target, std::string_view value,
-              int place);
+              int index);
   /// Brings a row's record up to date: sizes from window or control, "cursor", "enabled",
   /// "taborder" and "visible" from the last value that such a row was given.
   bool Sync(const RowBinding& binding, const RowTarget& target);

@@ -153,8 +153,9 @@ constexpr std::array kTexts{
     RowText{"windowstate", kForm,
             "How the window opens: in its own size, as an icon, or filling "
             "the screen."},
-    RowText{"wmessage", kAny,
-            "The number of the window message by which the socket tells the program of an event."},
+    RowText{
+        "wmessage", kAny,
+        "The number of the window message by which the socket notifies the program of an event."},
     RowText{"wordwrap", kAny, "True: long text goes on in the next line."},
 };
 

@@ -76,7 +76,7 @@ struct ForWriting {
 };
 
 /// Calls `on_field` with the field that a store names, or `on_member` with the control and the
-/// member, and answers what they answer; false when there is no such place.
+/// member, and returns their result; false when the value is kept nowhere.
 template <class Access, class OnField, class OnMember>
 bool UseStore(const RowStore& store, const RowTarget& target, OnField on_field,
               OnMember on_member) {

@@ -14,7 +14,7 @@ struct TypedNumber {
   enum class State : std::uint8_t {
     Unfinished,  ///< empty, a sign alone, the beginning of a name: nothing to store yet
     Number,
-    Refused,  ///< more than any place can hold
+    Refused,  ///< more than any field can hold
   };
   State Is = State::Unfinished;
   double Value = 0;

@@ -7,7 +7,7 @@
 
 namespace tarnwick {
 
-int ValueList::PlaceOf(std::string_view text) const noexcept {
+int ValueList::IndexOf(std::string_view text) const noexcept {
   for (std::size_t i = 0; i < values_.size(); ++i) {
     if (EqualsFolded(Trim(values_[i]), Trim(text))) return static_cast<int>(i);
   }

@@ -13,14 +13,14 @@ class ValueList {
  public:
   void Fill(std::vector<std::string> values) { values_ = std::move(values); }
   [[nodiscard]] const std::vector<std::string>& Values() const noexcept { return values_; }
-  /// Place of a text among the values, blanks at the ends and case aside; -1 for none.
-  [[nodiscard]] int PlaceOf(std::string_view text) const noexcept;
+  /// Index of a text among the values, blanks at the ends and case aside; -1 for none.
+  [[nodiscard]] int IndexOf(std::string_view text) const noexcept;
 
   [[nodiscard]] bool IsOpen() const noexcept { return is_open_; }
-  /// Place of the row's present value while the list is open; -1 for none.
+  /// Index of the row's present value while the list is open; -1 for none.
   [[nodiscard]] int Marked() const noexcept { return marked_; }
   void Open(std::string_view present) {
-    marked_ = PlaceOf(present);
+    marked_ = IndexOf(present);
     is_open_ = true;
   }
   /// False when it was closed already.

@@ -66,7 +66,7 @@ void RunItemDialog(FormAddItems& logic, QWidget* parent) {
   column->addWidget(buttons);
   dialog.resize(360, 320);
   if (dialog.exec() != QDialog::Accepted) return;
-  // A text that nobody touched may hold bytes that the field shows otherwise.
+  // A text that was not edited may hold bytes that the field shows otherwise.
   const QString lines = TextOf(*text);
   if (lines != at_opening) logic.Ok(FromQString(lines));
 }

@@ -29,16 +29,20 @@ bool ObjectBox::Search(const QKeyEvent& event) {
   const bool is_blank_first = !goes_on && event.key() == Qt::Key_Space;
   if (!IsTyping(event) || is_blank_first) return false;
   typed_ = goes_on ? typed_ + event.text() : event.text();
+  GoTo(search_(typed_));
+  // The pause is the user's: the time that a selection takes to be shown does not count.
   since_.start();
-  const int row = search_(typed_);
-  if (row < 0) return true;
+  return true;
+}
+
+void ObjectBox::GoTo(int row) {
+  if (row < 0) return;
   if (view()->isVisible()) {
     view()->setCurrentIndex(model()->index(row, modelColumn(), rootModelIndex()));
   } else if (row != currentIndex()) {
     setCurrentIndex(row);
     Q_EMIT activated(row);
   }
-  return true;
 }
 
 void ObjectBox::keyPressEvent(QKeyEvent* event) {

@@ -23,10 +23,11 @@ class ObjectBox final : public QComboBox {
  private:
   /// True when the key was a letter of the search.
   bool Search(const QKeyEvent& event);
+  void GoTo(int row);
 
   std::function<int(const QString&)> search_;
   QString typed_;
-  QElapsedTimer since_;  ///< the last letter
+  QElapsedTimer since_;  ///< since the row of the last letter was shown
 };
 
 }  // namespace tarnwick

@@ -30,7 +30,7 @@ constexpr int kCloseIcon = 14;
 /// The most and the least that the help takes by itself, and the rows that come before it.
 constexpr int kHelpHeight = 92;
 constexpr int kLeastHelp = 44;
-constexpr int kRowsFirst = 12;
+constexpr int kRowsFirst = 16;
 
 }  // namespace
 
@@ -156,11 +156,6 @@ void PropertyPanel::ShareHeight() {
   parts_->setSizes({whole - help, help});
 }
 
-void PropertyPanel::FocusRow() {
-  if (sheet_.RowTop(sheet_.RowIndex()) < 0) filter_->clear();
-  grid_->FocusRow();
-}
-
 void PropertyPanel::Commit() {
   grid_->Commit();
 }
@@ -182,7 +177,7 @@ void PropertyPanel::RowsChanged() {
 
 void PropertyPanel::RowTextChanged(int row) {
   grid_->ShowRow(row);
-  if (row == 0) ShowHelp();
+  if (row == sheet_.RowIndex()) ShowHelp();
 }
 
 void PropertyPanel::RowSelected() {

@@ -66,8 +66,11 @@ void PropertyRowView::SetName(std::string_view name) {
 void PropertyRowView::SetValue(std::string_view text, const RowLook& look) {
   const QString shown = ToQString(text);
   if (text_->text() != shown) {
+    // A character that was replaced where it was typed leaves the caret behind it.
+    const int caret = shown.size() == text_->text().size() ? text_->cursorPosition()
+                                                           : static_cast<int>(shown.size());
     text_->setText(shown);
-    text_->setCursorPosition(text_->hasFocus() ? static_cast<int>(shown.size()) : 0);
+    text_->setCursorPosition(text_->hasFocus() ? caret : 0);
   }
   if (text_->isReadOnly() == look.Typed) text_->setReadOnly(!look.Typed);
   if (text_->font() != look.Face) text_->setFont(look.Face);
