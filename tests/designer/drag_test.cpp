@@ -252,5 +252,35 @@ TEST_F(DragTest, ASecondPressEndsTheGestureBeforeItBeginsAnother) {
   EXPECT_FALSE(ports.Gestures.Captured);
 }
 
+TEST_F(DragTest, APressOnAHandleWithoutAMoveKeepsTheSize) {
+  const ControlRef image = Place("Image", 100, 100);
+  for (int handle = 0; handle < 8; ++handle) {
+    const ControlRef grip = form.Element(Kind::Handle, handle);
+    Point(static_cast<int>(grip->Left) / kTwipsPerPixel + 1,
+          static_cast<int>(grip->Top) / kTwipsPerPixel + 1);
+    gestures.HandleMouseDown(handle, kLeftButton);
+    gestures.MouseMove();
+    gestures.MouseUp();
+    EXPECT_EQ(image->Left, Twips(100)) << handle;
+    EXPECT_EQ(image->Top, Twips(100)) << handle;
+    EXPECT_EQ(image->Width, Twips(105)) << handle;
+    EXPECT_EQ(image->Height, Twips(105)) << handle;
+  }
+}
+
+TEST_F(DragTest, EscInADragKeepsTheObjectAndTheSelectionWithItsHandles) {
+  const ControlRef button = Place("Button", 10, 20);
+  PressOn(button);
+  MoveTo(200, 200);
+  gestures.Escape();
+  EXPECT_EQ(gestures.Mode(), DragMode::None);
+  EXPECT_FALSE(ports.Gestures.Captured);
+  EXPECT_EQ(button->Left, Twips(10));
+  EXPECT_EQ(form.ControlSel, button);
+  // The handles serve the object on.
+  DragHandle(4, 120, 90);
+  EXPECT_EQ(button->Width, Twips(110));
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -195,10 +195,12 @@ TEST_F(FormGesturesTest, TheRightButtonSelectsEndsTheGestureAndOpensThePopUp) {
   EXPECT_EQ(Log().back(), "pop-up");
 }
 
-TEST_F(FormGesturesTest, APressOnAnObjectLeavesTheToolArmed) {
+TEST_F(FormGesturesTest, APressOnAnObjectLeavesTheToolArmedAndSaysWhereToPress) {
   const ControlRef button = Place("Button", 10, 10);
   form.Objeto = "Label";
+  ports.Log.Clear();
   Click(button);
+  EXPECT_NE(ports.Log.Find("status Press on a free part of the form to place the new Label"), -1);
   EXPECT_EQ(form.Objeto, "Label");
   EXPECT_EQ(form.UBound(Kind::Label), 0);
 }

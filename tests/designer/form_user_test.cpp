@@ -55,5 +55,16 @@ TEST_F(FormUserTest, AMenuItemIsSelectedByItsNameAndItsCodeOpened) {
   EXPECT_EQ(form.Element(Kind::MenuItem, 1), item) << "only the menu designer takes items off";
 }
 
+TEST_F(FormUserTest, HandlesFollowAnObjectThatWasEditedElsewhere) {
+  const ControlRef button = Place("Button", 10, 10);
+  button->Left = Twips(90);
+  user.Selection().ControlsMoved();
+  EXPECT_EQ(form.Element(Kind::Handle, 0)->Left, Twips(90) - 52 + 8);
+  EXPECT_TRUE(HandleVisible(0));
+  form.Unload(button);
+  user.Selection().ControlsMoved();
+  EXPECT_FALSE(HandleVisible(0)) << "nothing to sit on";
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -282,5 +282,11 @@ TEST_F(Clipboard, AListShowsTheSourcesItemsOnceItHasSome) {
   EXPECT_EQ(CopyAndPaste()->Items, (std::vector<std::string>{"a", "b"}));
 }
 
+TEST_F(Clipboard, ACheckBoxIsCopiedWithItsCheck) {
+  Place("CheckBox", 10, 10)->Value = 1;
+  const ControlRef copy = CopyAndPaste();
+  EXPECT_EQ(copy->Value, 1);
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -180,5 +180,26 @@ TEST_F(ObjectCommandsTest, AlignToGridYieldsAtEachControlAndEndsUpToDate) {
   EXPECT_EQ(Log().back(), "properties Button1 Form1Btn1");
 }
 
+TEST_F(ObjectCommandsTest, CtrlCOnATransparentFrameKeepsTheObjectThatWasCopied) {
+  Place("Button", 10, 10);
+  user.Keys().KeyDown(keys::kC, kCtrlBit);
+  Place("TransparentFrame", 200, 100);
+  user.Keys().KeyDown(keys::kC, kCtrlBit);
+  user.SelectForm();
+  user.Keys().KeyDown(keys::kV, kCtrlBit);
+  EXPECT_EQ(form.NameObjet, "Button2");
+}
+
+TEST_F(ObjectCommandsTest, APasteWithoutItsSourceSaysThatTheObjectIsNew) {
+  Place("ListBox", 10, 10);
+  commands.CopyObject(keys::kC, kCtrlBit);
+  commands.DeletObject(keys::kX, kCtrlBit);
+  ports.Log.Clear();
+  commands.PasteObject(keys::kV, kCtrlBit);
+  EXPECT_NE(ports.Log.Find("status The copied object is gone: Form1List1 is a new one"), -1);
+  ASSERT_NE(form.ControlSel, nullptr);
+  EXPECT_EQ(form.ControlSel->Items, Entries{"Form1List1"});
+}
+
 }  // namespace
 }  // namespace tarnwick
