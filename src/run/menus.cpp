@@ -1,5 +1,6 @@
 #include "run/menus.h"
 
+#include <QAction>
 #include <QActionGroup>
 #include <QMenu>
 #include <QMenuBar>

@@ -20,7 +20,7 @@ struct RunnerArguments : hosts::RunSettings {
   bool WithIde = false;    ///< standard input stops the program
   bool Supported = false;  ///< print what is supported and run nothing
   bool Help = false;
-  bool Windows = false;  ///< messages are shown in windows: nobody reads the standard streams
+  bool Windows = false;  ///< messages are shown in windows: the standard streams are not read
 };
 
 /// Reads the words behind the program's name, UTF-8. Nothing and a text in `wrong` when they are

@@ -3,6 +3,7 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QTimer>
+#include <algorithm>
 
 #include "run/drawing_surfaces.h"
 #include "run/file_dialogs.h"

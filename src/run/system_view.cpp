@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QCursor>
 #include <QFontDatabase>
+#include <QIcon>
 #include <QMimeData>
 #include <QScreen>
 #include <QToolTip>

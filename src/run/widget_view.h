@@ -1,6 +1,7 @@
 // What all objects that stand on a form show alike.
 #pragma once
 
+#include <QCursor>
 #include <QPointer>
 #include <QWidget>
 

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
 
 #include "looks/platform_colors.h"
 #include "looks/text_bridge.h"

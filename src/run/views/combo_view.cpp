@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPainter>
+#include <algorithm>
 
 #include "looks/platform_colors.h"
 #include "looks/text_bridge.h"

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QIcon>
 #include <QMenuBar>
 #include <QScreen>
 #include <QWindow>

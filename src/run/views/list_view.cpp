@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "looks/classic_look.h"
 #include "looks/platform_colors.h"

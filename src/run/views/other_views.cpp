@@ -3,6 +3,7 @@
 #include <QDesktopServices>
 #include <QTextBrowser>
 #include <QUrl>
+#include <algorithm>
 
 #include "looks/classic_look.h"
 #include "looks/text_bridge.h"

@@ -1,7 +1,10 @@
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextCursor>
 #include <QTextEdit>
+#include <algorithm>
 
 #include "looks/platform_colors.h"
 #include "looks/text_bridge.h"

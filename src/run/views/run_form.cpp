@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPainter>
+#include <algorithm>
 
 #include "looks/frame_metrics.h"
 #include "looks/platform_colors.h"
