@@ -473,7 +473,8 @@ TEST(CodePage, TheMainFormFieldAndTheItemListHoldOnlyTheCodePage) {
     EXPECT_EQ(text->toPlainText(), QStringLiteral("?"));
     dialog.reject();
   });
-  FormAddItems logic(program.Tables(), program.Shell().Context().Observer, program.Form());
+  FormAddItems logic(program.Tables(), program.Shell().Context().Observer, program.Shell().Steps(),
+                     program.Form());
   RunItemDialog(logic, &program.Window());
 }
 

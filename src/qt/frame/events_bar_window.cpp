@@ -77,9 +77,10 @@ EventsBarWindow::EventsBarWindow(EventsBar& bar, CommandCenter& commands, QWidge
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setFocusPolicy(Qt::NoFocus);
   scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll_->setWidget(room_);
+  // The buttons stand on the bar's own ground.
   scroll_->viewport()->setAutoFillBackground(false);
   room_->setAutoFillBackground(false);
-  scroll_->setWidget(room_);
   scroll_->verticalScrollBar()->setSingleStep(kButton);
 
   auto* column = new QVBoxLayout(this);

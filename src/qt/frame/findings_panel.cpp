@@ -62,7 +62,8 @@ FindingsPanel::FindingsPanel(FindingsList& findings, QWidget* parent)
   list_->setRootIsDecorated(false);
   list_->setUniformRowHeights(true);
   list_->setAllColumnsShowFocus(true);
-  list_->setTextElideMode(Qt::ElideMiddle);
+  list_->setTextElideMode(Qt::ElideRight);
+  list_->setFrameShape(QFrame::NoFrame);
   list_->setMinimumHeight(kLeastList);
   for (int column = 0; column < static_cast<int>(kWidths.size()); ++column) {
     list_->setColumnWidth(column, kWidths[static_cast<std::size_t>(column)]);
