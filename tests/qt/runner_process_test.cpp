@@ -91,6 +91,14 @@ TEST_F(RunnerProcessTest, StopIsAWordOnItsInput) {
   EXPECT_EQ(listener.Ends, std::vector<RunnerEnd>{RunnerEnd::Stopped});
 }
 
+TEST_F(RunnerProcessTest, AProgramThatComesToItsEndWhenStoppedWasStopped) {
+  RunnerProcess runner(Script("read line\nexit 0\n"));
+  ASSERT_TRUE(runner.Start(request, listener));
+  runner.Stop();
+  ASSERT_TRUE(WaitForEnd());
+  EXPECT_EQ(listener.Ends, std::vector<RunnerEnd>{RunnerEnd::Stopped});
+}
+
 TEST_F(RunnerProcessTest, AProgramThatDoesNotStopIsEndedAfterTwoSeconds) {
   RunnerProcess runner(Script("exec sleep 30\n"));
   ASSERT_TRUE(runner.Start(request, listener));

@@ -107,9 +107,9 @@ void RunnerProcess::Ended(int code, bool crashed) {
   const std::unique_ptr<Run> run = std::move(run_);
   if (run == nullptr) return;
   run->Process->deleteLater();
-  const RunnerEnd how = crashed && run->Stopped ? RunnerEnd::Stopped
-                        : crashed               ? RunnerEnd::RunnerFault
-                                                : RunnerEndOf(code);
+  RunnerEnd how = crashed ? RunnerEnd::RunnerFault : RunnerEndOf(code);
+  // A stop that lets the program come to its end, or that had to be forced, is a stop all the same.
+  if (run->Stopped && (crashed || how == RunnerEnd::Ended)) how = RunnerEnd::Stopped;
   run->Listener.RunEnded(how);
 }
 
