@@ -156,6 +156,11 @@ void PropertyPanel::ShareHeight() {
   parts_->setSizes({whole - help, help});
 }
 
+void PropertyPanel::FocusRow() {
+  if (sheet_.RowTop(sheet_.RowIndex()) < 0) filter_->clear();
+  grid_->FocusRow();
+}
+
 void PropertyPanel::Commit() {
   grid_->Commit();
 }

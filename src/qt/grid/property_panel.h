@@ -30,6 +30,8 @@ class PropertyPanel final : public QWidget, public PropertySheetView {
   PropertyPanel(PropertySheet& sheet, looks::PictureCache& pictures, QWidget* parent);
   ~PropertyPanel() override;
 
+  /// Gives the focus to the value of the selected row, also where the filter hid that row.
+  void FocusRow();
   /// Takes a half-typed value into the tables.
   void Commit();
   /// True while a keystroke in the grid is being applied: a window that takes the focus for itself
