@@ -77,6 +77,9 @@ class ObjectWorld final : public basic::ObjectHost {
   /// Runs the handler of an event, if there is one; what it leaves in its parameters flows back
   /// into `arguments` (Key, Action, CanSelect). False when the program is ending.
   bool Raise(ObjectId object, Word event, std::span<Value> arguments = {});
+  /// A key event of the object with the focus. With KeyPreview the form's handler runs first; a key
+  /// that a handler sets to 0 goes no further.
+  bool RaiseKey(ObjectId object, Word event, std::span<Value> arguments);
   /// The user clicked a button, box, radio button or menu item, or picked it by key: sets what it
   /// sets, raises OnClick, closes the form when the button has a ModalResult.
   void Click(ObjectId object);

@@ -164,9 +164,9 @@ void ScriptedWidgets::Key(const ObjectRecord& object, std::int64_t code) {
   const std::int64_t upper = static_cast<unsigned char>(UpperByte(static_cast<char>(code & 0xFF)));
   Value down[] = {Value::Integer(upper), Value::Integer(0)};
   Value press = Value::Integer(code);
-  if (!world_->Raise(id, Word::OnKeyDown, down)) return;
+  if (!world_->RaiseKey(id, Word::OnKeyDown, down)) return;
   if (down[0].AsInteger() != 0) {
-    if (!world_->Raise(id, Word::OnKeyPress, {&press, 1})) return;
+    if (!world_->RaiseKey(id, Word::OnKeyPress, {&press, 1})) return;
     const ObjectRecord* const box = world_->Find(id);
     const std::int64_t typed = press.AsInteger();
     if (box != nullptr && typed != 0 && box->Has(Word::SelText) && !box->Truth(Word::ReadOnly)) {
@@ -180,7 +180,7 @@ void ScriptedWidgets::Key(const ObjectRecord& object, std::int64_t code) {
     }
   }
   Value up[] = {Value::Integer(upper), Value::Integer(0)};
-  world_->Raise(id, Word::OnKeyUp, up);
+  world_->RaiseKey(id, Word::OnKeyUp, up);
 }
 
 TextSize ScriptedWidgets::Measure(const FontValues& font, std::string_view text, int wrap_width) {

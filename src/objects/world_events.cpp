@@ -41,6 +41,16 @@ bool ObjectWorld::Raise(ObjectId object, Word event, std::span<Value> arguments)
   return runs;
 }
 
+bool ObjectWorld::RaiseKey(ObjectId object, Word event, std::span<Value> arguments) {
+  const ObjectRecord* const record = Find(object);
+  const ObjectRecord* const form = record == nullptr ? nullptr : FormOf(*record);
+  if (form != nullptr && form != record && form->Truth(Word::KeyPreview)) {
+    if (!Raise(form->Id, event, arguments)) return false;
+    if (!arguments.empty() && arguments[0].AsInteger() == 0) return true;
+  }
+  return Raise(object, event, arguments);
+}
+
 void ObjectWorld::UserSet(ObjectId object, Word property, const Value& value) {
   ObjectRecord* const record = Find(object);
   if (record != nullptr) Change(*record, property, value, Origin::User);

@@ -70,7 +70,8 @@ TEST(LeftOut, NamesAReasonForEachWord) {
   ASSERT_FALSE(LeftOutWords().empty());
   for (const LeftOut& word : LeftOutWords()) {
     EXPECT_FALSE(word.Reason.empty()) << word.Name;
-    EXPECT_FALSE(FindFunctions(word.Name).empty()) << word.Name;
+    // The others are classes, of which a DIM says that there are none.
+    EXPECT_NE(FindFunctions(word.Name).empty(), !word.Name.starts_with('Q')) << word.Name;
   }
   ASSERT_NE(FindLeftOut("lprint"), nullptr);
   EXPECT_EQ(FindLeftOut("PRINT"), nullptr);

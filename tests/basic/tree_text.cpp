@@ -39,6 +39,7 @@ struct Writer {
   std::string operator()(const tree::Unary& n) const {
     return '(' + std::string(Sign(n.Op)) + ' ' + TextOf(n.Operand) + ')';
   }
+  std::string operator()(const tree::Checked&) const { return "checked"; }
   std::string operator()(const tree::Binary& n) const {
     return '(' + TextOf(n.Left) + ' ' + std::string(Sign(n.Op)) + ' ' + TextOf(n.Right) + ')';
   }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/object_program.h"
+#include "objects/tab_order.h"
 
 namespace tarnwick::objects {
 namespace {
@@ -143,6 +144,33 @@ TEST(Objects, KeysFlowBack) {
   });
   program.Run();
   EXPECT_EQ(keys, (std::vector<std::int64_t>{0, 66}));
+}
+
+TEST(Objects, WithKeyPreviewTheFormSeesKeysFirst) {
+  ObjectProgram program(
+      "DIM F AS QFORM, T AS QEDIT\nT.Parent = F\nF.KeyPreview = 1\nSUB OfForm (Key AS WORD)\n"
+      "PRINT \"form\"; Key;\nIF Key = 27 THEN Key = 0\nEND SUB\nSUB OfText (Key AS WORD)\n"
+      "PRINT \"text\"; Key;\nEND SUB\nF.OnKeyDown = OfForm\nT.OnKeyDown = OfText\nF.ShowModal");
+  program.Then([&] {
+    for (const int key : {65, 27}) {
+      Value arguments[] = {Value::Integer(key), Value::Integer(0)};
+      program.World->RaiseKey(program.Id("T"), Word::OnKeyDown, arguments);
+    }
+  });
+  EXPECT_EQ(program.Run(), "form65text65form27");
+}
+
+TEST(Objects, TabGoesByNumberThenByAgeAndIntoPanels) {
+  ObjectProgram program(
+      "DIM F AS QFORM, P AS QPANEL\nDIM E(4) AS QEDIT, L AS QLABEL\nL.Parent = F\n"
+      "E(1).Parent = F : E(2).Parent = F : P.Parent = F : E(3).Parent = P : E(4).Parent = F\n"
+      "E(1).TabOrder = 2 : E(2).TabOrder = 1 : P.TabOrder = 1");
+  program.Run();
+  std::string order;
+  for (const ObjectId id : TabOrderOf(*program.World, *program.Object("F"))) {
+    order += program.World->Find(id)->FullName() + " ";
+  }
+  EXPECT_EQ(order, "P E(3) E(2) E(1) E(4) ");
 }
 
 TEST(Objects, AnObjectMayFreeItselfInItsHandler) {

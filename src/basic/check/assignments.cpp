@@ -43,9 +43,35 @@ bool Checker::FrameRest(std::string_view name, bool assigned, SourcePlace at, St
   return true;
 }
 
+const tree::Node* Checker::Settled(const tree::Node* node, Statements& out) {
+  if (const auto* access = std::get_if<tree::MemberAccess>(&node->Value)) {
+    if (access->Target == nullptr) return node;
+    return program_.Memory.Make<tree::Node>(
+        node->At, node->Height,
+        tree::MemberAccess{Settled(access->Target, out), access->Name, access->NameAt});
+  }
+  const auto* apply = std::get_if<tree::Apply>(&node->Value);
+  if (apply == nullptr) return node;
+  std::vector<const tree::Node*> arguments(apply->Arguments.begin(), apply->Arguments.end());
+  for (const tree::Node*& argument : arguments) {
+    if (argument == nullptr || std::holds_alternative<tree::WholeNumber>(argument->Value)) continue;
+    const Expr value = Value(argument);
+    if (IsFaulty(value) || value->Kind.IsArray() || value->Gives() == ValueKind::Record) continue;
+    const Expr kept = Temporary(ValueTypeOf(value->Kind), argument->At);
+    Add(out, argument->At, Assign{kept, value});
+    argument =
+        program_.Memory.Make<tree::Node>(argument->At, std::uint16_t{1}, tree::Checked{kept});
+  }
+  return program_.Memory.Make<tree::Node>(
+      node->At, node->Height,
+      tree::Apply{Settled(apply->Target, out), program_.Memory.List(arguments)});
+}
+
 void Checker::CheckAssignment(const tree::Assignment& line, SourcePlace at, Statements& out) {
   const tree::Node* value = line.Value;
-  const tree::Node* target = line.Target;
+  const tree::Node* target = line.Op == tree::Operator::Equal || line.Value == nullptr
+                                 ? line.Target
+                                 : Settled(line.Target, out);
   const auto* apply = std::get_if<tree::Apply>(&target->Value);
   const tree::NodeList indexes = apply == nullptr ? tree::NodeList() : apply->Arguments;
   const tree::Node* base = apply == nullptr ? target : apply->Target;

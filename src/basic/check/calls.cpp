@@ -124,10 +124,7 @@ const Expression* Checker::CallBuiltIn(std::string_view name, tree::NodeList arg
   const std::span<const FunctionInfo> rows = FindFunctions(name);
   if (rows.empty()) return nullptr;
   if (const LeftOut* left_out = FindLeftOut(name)) {
-    return Fail(at,
-                std::string(left_out->Name) + std::string(kNotSupported) + ": " +
-                    std::string(left_out->Reason),
-                left_out->Instead.empty() ? "" : "Use " + std::string(left_out->Instead));
+    return Fail(at, TextOf(*left_out), RemedyOf(*left_out));
   }
   if (rows[0].Form == FunctionForm::Intrinsic) return CallIntrinsic(rows[0].Id, arguments, at);
   if (!rows[0].IsNative()) return nullptr;

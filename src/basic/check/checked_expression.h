@@ -182,6 +182,7 @@ struct AddressOf {
 /// SIZEOF of an array whose bounds are known only when the program runs.
 struct SizeOf {
   const Expression* Location;
+  std::int64_t ElementBytes;  ///< of one element of an array
 };
 /// FILEREC.member: a fact of the file that DIR$ found last.
 enum class FoundFilePart : std::uint8_t { Filename, Size, Date, Time, Attributes };

@@ -179,8 +179,7 @@ void Checker::CheckPrint(const tree::PrintLine& line, SourcePlace at, Statements
   if (line.Printer) {
     const LeftOut* left_out = FindLeftOut("LPRINT");
     if (left_out != nullptr) {
-      Error(at, "LPRINT" + std::string(kNotSupported) + ": " + std::string(left_out->Reason),
-            "Use " + std::string(left_out->Instead));
+      Error(at, TextOf(*left_out), RemedyOf(*left_out));
     }
     return;
   }

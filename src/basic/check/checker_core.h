@@ -36,6 +36,7 @@ struct TypeFacts {
   FoldedMap<ProcedureId> Members;  ///< SUB and FUNCTION
   FoldedMap<ProcedureId> Setters;  ///< field with PROPERTY SET → routine
   FoldedMap<ProcedureId> Events;   ///< own EVENT routines of the base class
+  FoldedMap<bool> Private;         ///< names that only the members of the type may use
   bool DottedNames = false;        ///< a field's name holds dots
 };
 
@@ -120,6 +121,9 @@ class Checker {
   std::uint32_t NewGlobal(std::string_view name, Type type, SourcePlace at);
   std::uint32_t NewLocal(std::string_view name, Type type, SourcePlace at);
   Expr Temporary(Type type, SourcePlace at);
+  /// The node with the indexes in it worked out by statements in front, so that it can be used
+  /// twice.
+  const tree::Node* Settled(const tree::Node* node, Statements& out);
   [[nodiscard]] bool IsCallable(std::string_view name) const;
 
   // --- Declarations (heads.cpp, types.cpp, declarations.cpp) -------------------------------------

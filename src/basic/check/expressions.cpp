@@ -23,6 +23,7 @@ const Expression* Checker::Value(const tree::Node* node) {
     Expr operator()(const tree::ByReference& n) const { return C.Value(n.Operand); }
     Expr operator()(const tree::Unary& n) const { return C.UnaryValue(n, At); }
     Expr operator()(const tree::Binary& n) const { return C.BinaryValue(n, At); }
+    Expr operator()(const tree::Checked& n) const { return n.Value; }
   };
   const Expr value = std::visit(Visitor{*this, at}, node->Value);
   if (value->Kind == kNoType && !IsFaulty(value)) {

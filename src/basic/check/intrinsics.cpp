@@ -94,8 +94,13 @@ const Expression* Checker::SizeOfNode(const tree::Node* node, SourcePlace at) {
   }
   const Expr location = Location(node);
   if (location == nullptr) return Faulty(at);
-  if (location->Kind.IsArray() || location->Kind.Kind == Storage::String) {
-    return Make(kWholeType, at, SizeOf{location});
+  if (!location->Kind.IsArray() && location->Kind.Kind == Storage::String) {
+    const std::vector<Expr> text = {location};
+    return Make(kWholeType, at, BuiltInCall{FindFunction("LEN", 1)->Id, List(text)});
+  }
+  if (location->Kind.IsArray()) {
+    const std::int64_t bytes = bytes_of(bytes_of, location->Kind.Element(), 0);
+    return Make(kWholeType, at, SizeOf{location, bytes});
   }
   return Whole(bytes_of(bytes_of, location->Kind, 0), at);
 }

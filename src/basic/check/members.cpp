@@ -97,6 +97,12 @@ Checker::MemberUse Checker::MemberOfRecord(Expr record, std::string_view name, S
   MemberUse use;
   use.Record = record;
   const TypeFacts& facts = types_[record->Kind.Detail];
+  if (facts.Private.contains(name) && frame_->This != record->Kind.RecordType()) {
+    Error(at, '"' + std::string(name) + "\" is private in " +
+                  std::string(program_.At(record->Kind.RecordType()).Name));
+    use.Failed = true;
+    return use;
+  }
   const auto field = facts.Fields.find(name);
   if (field != facts.Fields.end()) {
     const Type type = program_.At(record->Kind.RecordType()).Fields[field->second].Kind;

@@ -160,7 +160,11 @@ Type Checker::TypeOf(const tree::TypeName& as, std::string_view name, bool is_ar
       for (const std::string_view known : {"INTEGER", "STRING", "DOUBLE", "SINGLE", "LONG"}) {
         similar.Offer(known);
       }
-      Error(as.At, "There is no type \"" + std::string(as.Text) + '"', similar.Question());
+      if (const LeftOut* const left_out = FindLeftOut(as.Text)) {
+        Error(as.At, TextOf(*left_out), RemedyOf(*left_out));
+      } else {
+        Error(as.At, "There is no type \"" + std::string(as.Text) + '"', similar.Question());
+      }
     }
   }
   if (as.Length != nullptr) {

@@ -40,6 +40,7 @@ void Checker::FillType(RecordId id) {
     }
     TypeFacts& facts = types_[index];
     facts.DottedNames = facts.DottedNames || field.Name.find('.') != std::string_view::npos;
+    if (declarator.Private) facts.Private[field.Name] = true;
     const auto number = static_cast<std::uint32_t>(fields.size());
     if (!facts.Fields.emplace(field.Name, number).second) {
       Error(declarator.At, "The field \"" + std::string(field.Name) + "\" is declared twice");
@@ -62,6 +63,7 @@ void Checker::CollectMembers(RecordId id) {
     const ProcedureId procedure =
         NewProcedure(*routine, type_name + '.' + std::string(routine->Name), statement->At, id);
     const std::string_view name = Keep(routine->Name);
+    if (routine->Private) types_[index].Private[name] = true;
     switch (routine->Kind) {
       case tree::RoutineKind::Sub:
       case tree::RoutineKind::Function:

@@ -233,12 +233,11 @@ void ProcedureEmitter::Store(const AddressOf& node, const Expression&, std::uint
 
 void ProcedureEmitter::Store(const SizeOf& node, const Expression&, std::uint16_t target) {
   const Operand array = ArrayOperand(*node.Location);
-  const Type element = node.Location->Kind.Element();
-  const std::size_t bytes = element.Kind == Storage::FixedString
-                                ? element.Detail
-                                : static_cast<std::size_t>(BytesOf(element.Kind));
-  code_.Add(Op::SIZE_OF_ARRAY, target, array.Register, bytes);
+  code_.Add(Op::SIZE_OF_ARRAY, target, array.Register, 1);
   Free(array);
+  const Operand bytes = ConstantOperand(IntegerSlot(node.ElementBytes));
+  code_.Add(Op::MUL_I, target, target, bytes.Register);
+  Free(bytes);
 }
 
 void ProcedureEmitter::Store(const VariableParameter& node, const Expression&,

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <limits>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace tarnwick::basic {
@@ -98,5 +99,8 @@ struct LeftOut {
 [[nodiscard]] std::span<const LeftOut> LeftOutWords();
 /// The row of a name, without regard to case; null when it is not left out.
 [[nodiscard]] const LeftOut* FindLeftOut(std::string_view name);
+/// What a message says of a word that is left out, and what to do about it ("" when not known).
+[[nodiscard]] std::string TextOf(const LeftOut& word);
+[[nodiscard]] std::string RemedyOf(const LeftOut& word);
 
 }  // namespace tarnwick::basic

@@ -2,6 +2,7 @@
 
 #include "basic/lib/function_table.h"
 #include "basic/lib/left_out_text.h"
+#include "basic/source/messages.h"
 #include "text/code_page.h"
 
 namespace tarnwick::basic {
@@ -45,6 +46,14 @@ const LeftOut* FindLeftOut(std::string_view name) {
     if (EqualsFolded(word.Name, name)) return &word;
   }
   return nullptr;
+}
+
+std::string TextOf(const LeftOut& word) {
+  return std::string(word.Name) + std::string(kNotSupported) + ": " + std::string(word.Reason);
+}
+
+std::string RemedyOf(const LeftOut& word) {
+  return word.Instead.empty() ? std::string() : "Use " + std::string(word.Instead);
 }
 
 }  // namespace tarnwick::basic

@@ -58,7 +58,11 @@ void MacroTable::AddMacro(std::string_view name, Macro macro) {
 
 void MacroTable::Undefine(std::string_view name) {
   const auto found = macros_.find(name);
-  if (found != macros_.end()) macros_.erase(found);
+  if (found != macros_.end()) {
+    macros_.erase(found);
+  } else {
+    undefined_.emplace(name);
+  }
 }
 
 bool MacroTable::IsKnown(std::string_view name) const {
@@ -67,7 +71,8 @@ bool MacroTable::IsKnown(std::string_view name) const {
 
 bool MacroTable::IsDefined(std::string_view name) const {
   // The language has these two by itself.
-  return IsKnown(name) || EqualsFolded(name, "TRUE") || EqualsFolded(name, "FALSE");
+  const bool own = EqualsFolded(name, "TRUE") || EqualsFolded(name, "FALSE");
+  return IsKnown(name) || (own && undefined_.find(name) == undefined_.end());
 }
 
 const Macro* MacroTable::Find(std::string_view name, std::uint16_t file, bool brackets,
@@ -83,6 +88,12 @@ const Macro* MacroTable::Find(std::string_view name, std::uint16_t file, bool br
 }
 
 void MacroTable::Expand(Tokens& line, std::uint16_t file) {
+  if (!undefined_.empty()) {
+    for (SourceToken& token : line) {
+      token.Plain =
+          token.Kind == SourceTokenKind::Name && undefined_.find(token.Text) != undefined_.end();
+    }
+  }
   if (macros_.empty()) return;
   const bool any = std::any_of(line.begin(), line.end(), [this](const SourceToken& token) {
     return token.Kind == SourceTokenKind::Name && IsKnown(token.Text);

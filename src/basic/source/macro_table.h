@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "basic/source/arena.h"
@@ -37,6 +38,7 @@ class MacroTable {
   void Define(std::string_view name, std::vector<SourceToken> text);
   /// $MACRO: adds a meaning, in place of one with as many parameters in the same file.
   void AddMacro(std::string_view name, Macro macro);
+  /// $UNDEF: the name stands for nothing, and is no keyword any more.
   void Undefine(std::string_view name);
   [[nodiscard]] bool IsDefined(std::string_view name) const;
 
@@ -59,6 +61,7 @@ class MacroTable {
   Arena& memory_;
   Messages& messages_;
   std::unordered_map<std::string, std::vector<Macro>, FoldedHash, FoldedEqual> macros_;
+  std::unordered_set<std::string, FoldedHash, FoldedEqual> undefined_;
   std::vector<std::string_view> in_use_;  ///< names whose text is being expanded
   bool failed_ = false;                   ///< the line being expanded has met a limit
 };

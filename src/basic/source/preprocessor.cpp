@@ -78,11 +78,32 @@ class Preprocessor {
   void AddLine(Tokens& line) {
     macros_.Expand(line, file_);
     if (line.empty()) return;
+    FollowRoutines(line);
     out_.Tokens.insert(out_.Tokens.end(), line.begin(), line.end());
     SourcePlace end = line.back().At;
     end.Column = static_cast<std::uint16_t>(std::min(end.Column + end.Length, 65535));
     end.Length = 0;
     out_.Tokens.push_back({SourceTokenKind::LineEnd, false, false, {}, end});
+  }
+
+  /// Keeps in mind whether the lines of a SUB or FUNCTION are being read.
+  void FollowRoutines(const Tokens& line) {
+    static constexpr std::array<std::string_view, 4> kHeads = {"SUB", "FUNCTION", "SUBI",
+                                                               "FUNCTIONI"};
+    const auto begins = [&](std::size_t at) {
+      return at < line.size() && line[at].Kind == SourceTokenKind::Name &&
+             std::any_of(kHeads.begin(), kHeads.end(),
+                         [&](std::string_view head) { return EqualsFolded(head, line[at].Text); });
+    };
+    const auto is = [&](std::size_t at, std::string_view word) {
+      return EqualsFolded(line[at].Text, word);
+    };
+    const std::size_t head = is(0, "PUBLIC") || is(0, "PRIVATE") ? 1 : 0;
+    if (begins(head) && line.size() > head + 1) in_routine_ = true;
+    // The end may stand on the line of the head.
+    for (std::size_t at = 0; at < line.size() && in_routine_; ++at) {
+      if (is(at, "END") && begins(at + 1)) in_routine_ = false;
+    }
   }
 
   void TakeDirective(Tokens& line, std::string_view rest) {
@@ -114,6 +135,11 @@ class Preprocessor {
 
   void Include(const Tokens& line, std::string_view rest) {
     seen_include_ = true;
+    if (in_routine_) {
+      messages_.Error(line[0].At, "A file cannot be included inside a SUB or FUNCTION",
+                      "Put the line in front of the SUB");
+      return;
+    }
     std::string_view name;
     if (line.size() > 1 && line[1].Kind == SourceTokenKind::Text) {
       name = line[1].Text;
@@ -221,6 +247,7 @@ class Preprocessor {
   int depth_ = 0;
   bool escapes_ = false;
   bool seen_include_ = false;
+  bool in_routine_ = false;
 };
 
 const std::array<Preprocessor::Row, 10> Preprocessor::kRows = {{

@@ -28,6 +28,7 @@ struct SourceToken {
   /// The bytes of the token; of a text its value, without quotes and with escapes resolved.
   std::string_view Text;
   SourcePlace At;
+  bool Plain = false;  ///< a name that $UNDEF has made no keyword
 };
 
 /// The tokens of a program, ending with one `End`. The views point into the source set and into

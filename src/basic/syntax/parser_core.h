@@ -64,7 +64,7 @@ class Parser {
   }
   /// The word of a name; None for every other token.
   [[nodiscard]] Word WordAhead(std::size_t ahead = 0) const {
-    return IsName(ahead) ? WordOf(Peek(ahead).Text) : Word::None;
+    return IsName(ahead) && !Peek(ahead).Plain ? WordOf(Peek(ahead).Text) : Word::None;
   }
   bool TakeSign(std::string_view sign) {
     if (!IsSign(sign)) return false;
@@ -170,6 +170,7 @@ class Parser {
   void DeclareStatement(Statements& out);
   void TypeStatement(Statements& out);
   void TypeMember(std::vector<tree::Declarator>& fields, Statements& members);
+  void PrivacyAhead(std::vector<tree::Declarator>& fields, Statements& members);
   void FieldsHere(std::vector<tree::Declarator>& fields);
 
   // expressions.cpp
@@ -194,10 +195,12 @@ class Parser {
   Messages& messages_;
   std::size_t at_ = 0;
   bool tolerant_ = false;
-  bool failed_ = false;           ///< the statement being parsed has met an error
-  bool unclosed_ = false;         ///< the block that ended last was not closed
-  int in_line_if_ = 0;            ///< single-line IFs around this statement
-  int depth_ = 0;                 ///< of the expression
+  bool failed_ = false;
+  bool private_ = false;   ///< the members of the TYPE being read are private           ///< the
+                           ///< statement being parsed has met an error
+  bool unclosed_ = false;  ///< the block that ended last was not closed
+  int in_line_if_ = 0;     ///< single-line IFs around this statement
+  int depth_ = 0;          ///< of the expression
   std::size_t last_bracket_ = 0;  ///< index of the bracket that opened the last `Apply` made
   std::vector<BlockKind> open_;
 };

@@ -104,6 +104,7 @@ void Parser::RoutineStatement(Statements& out) {
   // The body is read all the same, so that a faulty head gives one error only.
   routine.Body = Body(kind, at);
   TakeEnd(kind);
+  routine.Private = private_;
   if (headed) Add(out, at, routine);
 }
 
@@ -150,6 +151,7 @@ void Parser::TypeStatement(Statements& out) {
   std::vector<tree::Declarator> fields;
   Statements members;
   open_.push_back(BlockKind::Type);
+  private_ = false;
   while (!messages_.Full()) {
     if (Peek().Kind == SourceTokenKind::LineEnd || IsSign(":")) {
       Take();
@@ -173,6 +175,7 @@ void Parser::TypeStatement(Statements& out) {
   } else {
     Error(at, "END TYPE of this type is missing");
   }
+  private_ = false;
   type.Fields = memory_.List(fields);
   type.Members = memory_.List(members);
   Add(out, at, type);
@@ -185,11 +188,7 @@ void Parser::TypeMember(std::vector<tree::Declarator>& fields, Statements& membe
     switch (word) {
       case Word::Public:
       case Word::Private:
-        while (WordAhead() == Word::Public || WordAhead() == Word::Private) {
-          Take();
-          TakeSign(":");
-        }
-        if (!AtStatementEnd()) TypeMember(fields, members);
+        PrivacyAhead(fields, members);
         return;
       case Word::Sub:
       case Word::SubI:
@@ -211,6 +210,19 @@ void Parser::TypeMember(std::vector<tree::Declarator>& fields, Statements& membe
     }
   }
   FieldsHere(fields);
+}
+
+/// PRIVATE and PUBLIC: for one member on the same line, else for all that come.
+void Parser::PrivacyAhead(std::vector<tree::Declarator>& fields, Statements& members) {
+  const bool before = private_;
+  bool section = false;
+  while (WordAhead() == Word::Public || WordAhead() == Word::Private) {
+    private_ = WordAhead() == Word::Private;
+    Take();
+    section = TakeSign(":") || AtStatementEnd();
+  }
+  if (!AtStatementEnd()) TypeMember(fields, members);
+  if (!section) private_ = before;
 }
 
 void Parser::FieldsHere(std::vector<tree::Declarator>& fields) {
@@ -241,6 +253,7 @@ void Parser::FieldsHere(std::vector<tree::Declarator>& fields) {
       field.PropertySet = ExpectName("The name of a PROPERTY SET");
     }
     if (failed_) return;
+    field.Private = private_;
     fields.push_back(field);
   } while (TakeSign(","));
 }

@@ -12,6 +12,10 @@
 #include "basic/source/source_place.h"
 
 /// Nodes live in the tree's arena. Names are as written, suffix included.
+namespace tarnwick::basic {
+struct Expression;
+}  // namespace tarnwick::basic
+
 namespace tarnwick::basic::tree {
 
 // --- Expressions ---------------------------------------------------------------------------------
@@ -87,11 +91,16 @@ struct Binary {
   const Node* Right;
 };
 
+/// What the checker has worked out already, in place of the source; the parser makes none.
+struct Checked {
+  const basic::Expression* Value;
+};
+
 struct Node {
   SourcePlace At;
   std::uint16_t Height;  ///< nodes from here to the deepest leaf, at most `kMaxExpressionHeight`
   std::variant<WholeNumber, RealNumber, TextLiteral, Name, Apply, Subscript, MemberAccess,
-               ByReference, Unary, Binary>
+               ByReference, Unary, Binary, Checked>
       Value;
 };
 
@@ -119,6 +128,7 @@ struct Declarator {
   NodeList InitialList;            ///< DEFINT a(1 TO 3) = {1, 2, 3}
   std::string_view PropertySet;    ///< field: PROPERTY SET name; "" for none
   std::string_view EventTemplate;  ///< field: AS EVENT(template); "" for none
+  bool Private = false;            ///< field: only the members of the type may use it
 };
 struct ParameterNode {
   std::string_view Name;
@@ -267,6 +277,7 @@ struct Routine {
   bool HasParameterList;  ///< brackets were written
   TypeName Result;
   std::string_view EventObject;  ///< EVENT component.OnX: the field; "" for the own event
+  bool Private;                  ///< in a TYPE: only the members of the type may call it
   StatementList Body;
 };
 /// DECLARE SUB, DECLARE FUNCTION; `Library` is "" for a procedure of the program.

@@ -1,0 +1,17 @@
+' $UNDEF takes a word out of the language, or ends a $DEFINE.
+$UNDEF STEP
+DIM step AS INTEGER
+step = 4
+step = step + 1
+PRINT step
+$DEFINE LEVEL 3
+PRINT LEVEL
+$UNDEF LEVEL
+$IFDEF LEVEL
+PRINT "still"
+$ENDIF
+$UNDEF TRUE
+$IFNDEF TRUE
+$DEFINE TRUE 5
+$ENDIF
+PRINT TRUE
