@@ -35,7 +35,10 @@ Container::Container(looks::PictureCache& pictures, TextCache& texts, QWidget* p
           });
 }
 
-Container::~Container() = default;
+Container::~Container() {
+  // The gestures go with the members, the windows as children after them.
+  for (const auto& [form, window] : windows_) window->Detach();
+}
 
 DesignWindow& Container::Open(FormUser& user, DesignWindowHost& host) {
   const int form = user.Number();
