@@ -146,7 +146,7 @@ void PropertyPanel::resizeEvent(QResizeEvent* event) {
   ShareHeight();
 }
 
-/// In a low window the rows come first: the help takes what twelve of them leave, down to nothing.
+/// In a low window the rows come first: the help takes what sixteen of them leave, down to nothing.
 void PropertyPanel::ShareHeight() {
   if (is_shared_by_user_) return;
   const int whole = parts_->height() - parts_->handleWidth();
