@@ -158,5 +158,31 @@ TEST_F(PropertyGridLists, RowsOfAKindWithMoreRowsGoWithTheNextSelection) {
   EXPECT_EQ(Shown("Name"), "Form1Time1");
 }
 
+TEST_F(PropertyGridLists, LettersInTheHeadListGoToTheObjectOfThatName) {
+  for (int i = 0; i < 12; ++i) program.Place(0, {20 + 90 * (i % 4), 20 + 40 * (i / 4)});
+  auto& combo = program.Find<QComboBox>(QStringLiteral("Combo"));
+  combo.setFocus();
+  program.Type("Btn3");
+  EXPECT_EQ(combo.currentText(), "Form1Btn3   (Button)");
+  ASSERT_NE(program.Selected(), nullptr);
+  EXPECT_EQ(program.Selected()->Tag, "Form1Btn3");
+  program.Key(Qt::Key_Down);
+  EXPECT_EQ(program.Selected()->Tag, "Form1Btn4");
+  program.Type("form1btn12");
+  EXPECT_EQ(program.Selected()->Tag, "Form1Btn12");
+}
+
+TEST_F(PropertyGridLists, ASelectionThatTakesItsTimeDoesNotEndTheWordBeingTyped) {
+  for (int i = 0; i < 12; ++i) program.Place(0, {20 + 90 * (i % 4), 20 + 40 * (i / 4)});
+  auto& combo = program.Find<QComboBox>(QStringLiteral("Combo"));
+  combo.setFocus();
+  // A slow machine: showing the first object that fits takes longer than any pause in typing.
+  const auto slow = QObject::connect(&combo, &QComboBox::activated, [] { QTest::qSleep(1600); });
+  program.Key(Qt::Key_Down);
+  program.Type("Btn12");
+  QObject::disconnect(slow);
+  EXPECT_EQ(program.Selected()->Tag, "Form1Btn12");
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -6,6 +6,7 @@
 #include <QPlainTextEdit>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
@@ -104,15 +105,38 @@ TEST_F(PropertyGridLooks, NoRowIsCutAtTheFootOfTheGrid) {
   }
 }
 
-TEST_F(PropertyGridLooks, InALowWindowTheRowsComeBeforeTheHelp) {
+/// How many whole rows show at a height of the main window, or at the least that its tools allow.
+class RowsAtHeight : public PropertyGridLooks {
+ protected:
+  int RowsAt(int height) {
+    program.Window().resize(1000, height);
+    Program::Settle();
+    EXPECT_LE(program.Window().height(), std::max(height, 540));
+    const QWidget* viewport = program.Find<QScrollArea>(QStringLiteral("PropertyGrid")).viewport();
+    return viewport->height() / Cell("Name").parentWidget()->height();
+  }
+  QWidget& Help() { return program.Find<QPlainTextEdit>(QStringLiteral("RowHelp")); }
+  QWidget& Icon() { return program.Find<QLabel>(QStringLiteral("ProgramIcon")); }
+};
+
+TEST_F(RowsAtHeight, InALowWindowHelpAndIconGiveWayBeforeTheRows) {
   program.Place(4, {20, 20});
-  program.Window().resize(1000, 640);
-  Program::Settle();
-  const QWidget* viewport = program.Find<QScrollArea>(QStringLiteral("PropertyGrid")).viewport();
-  EXPECT_GE(viewport->height() / Cell("Name").parentWidget()->height(), 8);
-  program.Window().resize(1000, 1000);
-  Program::Settle();
-  EXPECT_GE(program.Find<QPlainTextEdit>(QStringLiteral("RowHelp")).height(), 60);
+  EXPECT_GE(RowsAt(768), 15);
+  EXPECT_FALSE(Icon().isVisible());
+  EXPECT_GE(RowsAt(600), 10);
+  EXPECT_LE(Help().height(), 0);
+  EXPECT_GE(RowsAt(480), 6);
+  EXPECT_GE(RowsAt(1000), 16);
+  EXPECT_TRUE(Icon().isVisible());
+  EXPECT_GE(Help().height(), 60);
+}
+
+TEST_F(RowsAtHeight, TheFormListKeepsTwoLinesInALowWindow) {
+  RowsAt(480);
+  const auto& list = program.Find<QListWidget>(QStringLiteral("ListaFrms"));
+  EXPECT_TRUE(list.isVisible());
+  EXPECT_GE(list.height(), 40);
+  EXPECT_LE(list.mapTo(&program.Window(), QPoint(0, list.height())).y(), program.Window().height());
 }
 
 TEST_F(PropertyGridLooks, TheLineBetweenTheColumnsIsDraggedByTheMouse) {
@@ -135,20 +159,6 @@ TEST_F(PropertyGridLooks, APathThatIsTooLongShowsItsEnd) {
   ASSERT_NE(field, nullptr);
   EXPECT_TRUE(field->CutText().endsWith("the file.txt")) << field->CutText().toStdString();
   EXPECT_NE(field->CutText(), field->text());
-}
-
-TEST_F(PropertyGridLooks, LettersInTheHeadListGoToTheObjectOfThatName) {
-  for (int i = 0; i < 4; ++i) program.Place(0, {20, 20 + 40 * i});
-  auto& combo = program.Find<QComboBox>(QStringLiteral("Combo"));
-  combo.setFocus();
-  program.Type("Btn3");
-  EXPECT_EQ(combo.currentText(), "Form1Btn3   (Button)");
-  ASSERT_NE(program.Selected(), nullptr);
-  EXPECT_EQ(program.Selected()->Tag, "Form1Btn3");
-  program.Key(Qt::Key_Down);
-  EXPECT_EQ(program.Selected()->Tag, "Form1Btn4");
-  program.Type("form1btn2");
-  EXPECT_EQ(program.Selected()->Tag, "Form1Btn2");
 }
 
 TEST_F(PropertyGridLooks, EveryPartHasANameForThoseWhoDoNotSeeIt) {

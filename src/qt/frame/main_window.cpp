@@ -18,6 +18,7 @@
 #include "qt/frame/object_bar.h"
 #include "qt/frame/objects_examiner_window.h"
 #include "qt/frame/output_panel.h"
+#include "qt/frame/right_column.h"
 #include "qt/frame/tool_box_panel.h"
 #include "qt/grid/property_panel.h"
 #include "qt/kit/grip_splitter.h"
@@ -60,8 +61,8 @@ MainWindow::MainWindow(MDIForm1& shell, FilePort& files)
       findings_(new FindingsPanel(shell.Findings(), this)),
       examiner_(new ObjectsExaminerWindow(shell.Examiner(), this)),
       output_(new OutputPanel(shell.Runner(), this)),
-      right_(new QWidget(this)),
-      panels_(new GripSplitter(Qt::Vertical, right_)),
+      panels_(new GripSplitter(Qt::Vertical, this)),
+      right_(new RightColumn(panels_, icon_, this)),
       forms_(new GripSplitter(Qt::Vertical, this)),
       middle_(new GripSplitter(Qt::Horizontal, this)),
       status_(new QLabel(this)),
@@ -95,11 +96,6 @@ void MainWindow::BuildPanels() {
   panels_->setChildrenCollapsible(false);
   panels_->setStretchFactor(0, 1);
   panels_->setSizes({kPropertiesHeight, kFormsHeight});
-  auto* right_column = new QVBoxLayout(right_);
-  right_column->setContentsMargins(0, 0, 0, 0);
-  right_column->setSpacing(kRoom);
-  right_column->addWidget(panels_, 1);
-  right_column->addWidget(icon_);
 
   forms_->setObjectName(QStringLiteral("FormsAndFindings"));
   forms_->setHandleWidth(kRoom);

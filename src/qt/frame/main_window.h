@@ -25,6 +25,7 @@ class ObjectBar;
 class ObjectsExaminerWindow;
 class OutputPanel;
 class PropertyPanel;
+class RightColumn;
 class ToolBoxPanel;
 
 /// Menu bar and toolbar above, tool box at the left, container in the middle, panels at the right,
@@ -88,8 +89,8 @@ class MainWindow final : public QMainWindow {
   FindingsPanel* findings_;
   ObjectsExaminerWindow* examiner_;
   OutputPanel* output_;
-  QWidget* right_;
   QSplitter* panels_;
+  RightColumn* right_;
   QSplitter* forms_;  ///< the container, with the findings below it
   QSplitter* middle_;
   QLabel* status_;
