@@ -30,6 +30,11 @@ class ObjectProgram : public basic::SourceReader {
     }
   }
 
+  ObjectProgram(const ObjectProgram&) = delete;
+  ObjectProgram& operator=(const ObjectProgram&) = delete;
+  /// The objects go first: hooks hold records whose layouts are the code's.
+  ~ObjectProgram() override { World.reset(); }
+
   std::optional<std::string> ReadSource(const std::string& path) override {
     const auto found = sources_.find(path);
     if (found == sources_.end()) return std::nullopt;
