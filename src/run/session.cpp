@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QTimer>
+#include <atomic>
 #include <chrono>
 #include <csignal>
 #include <memory>
@@ -72,11 +73,15 @@ class Stopping {
   }
   /// What the end was, seen from outside.
   [[nodiscard]] basic::RunEnd EndOf(basic::RunEnd end) const {
-    return end == basic::RunEnd::Stopped && late_ ? basic::RunEnd::TimeLimit : end;
+    if (end != basic::RunEnd::Stopped && end != basic::RunEnd::Ended) return end;
+    // A program that waited in its last line ends by itself when it is stopped.
+    if (late_) return basic::RunEnd::TimeLimit;
+    return asked_ ? basic::RunEnd::Stopped : end;
   }
 
  private:
   void Stop() {
+    asked_ = true;
     machine_.Stop();
     // Wakes a program that waits for events.
     QMetaObject::invokeMethod(
@@ -86,6 +91,7 @@ class Stopping {
   basic::Machine& machine_;
   QTimer timer_;
   bool late_ = false;
+  std::atomic<bool> asked_ = false;
   std::unique_ptr<StopListener> listener_;
 };
 

@@ -22,6 +22,9 @@ Stage::~Stage() {
   // The objects are gone already: what windows tell while they close is lost.
   world_ = nullptr;
   for (const auto& [id, view] : views_) retired_.push_back(view);
+  for (ObjectView* const view : retired_) {
+    if (view->Widget() != nullptr) view->Widget()->blockSignals(true);
+  }
   for (ObjectView* const view : retired_) view->Retire();
   for (ObjectView* const view : retired_) delete view;
 }

@@ -70,7 +70,7 @@ void EditView::Typed() {
 }
 
 void EditView::SelectionMoved() {
-  if (showing_) return;
+  if (showing_ || Record() == nullptr) return;
   const int start = Edit().hasSelectedText() ? Edit().selectionStart() : Edit().cursorPosition();
   const auto length = Edit().selectedText().size();
   stage().World().UserSet(Id(), Word::SelStart, Value::Integer(start));

@@ -94,7 +94,10 @@ QListWidget& ListView::List() const {
 }
 
 void ListView::Picked() {
-  if (showing_ || List().currentRow() < 0) return;
+  const ObjectRecord* const list = Record();
+  if (showing_ || list == nullptr || List().currentRow() < 0) return;
+  // The focus goes to an entry without picking it.
+  if (!list->Truth(Word::MultiSelect) && !List().currentItem()->isSelected()) return;
   picked_now_ = QApplication::mouseButtons() != Qt::NoButton;
   stage().Report([this, row = List().currentRow()] {
     stage().World().UserSet(Id(), Word::ItemIndex, Value::Integer(row));

@@ -110,7 +110,7 @@ void RichEditView::Typed() {
 }
 
 void RichEditView::SelectionMoved() {
-  if (showing_) return;
+  if (showing_ || Record() == nullptr) return;
   const QTextCursor caret = Edit().textCursor();
   const int start = Counted(caret.selectionStart());
   const int end = Counted(caret.selectionEnd());
