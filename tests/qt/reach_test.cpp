@@ -2,6 +2,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QAction>
+#include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
 #include <QMenu>
@@ -140,10 +141,12 @@ TEST_F(Reach, EveryCommandCanBeChosenByKeysAlone) {
   }
 }
 
-TEST_F(Reach, TabWalksThroughEveryPanelAndComesBack) {
+TEST_F(Reach, TabWalksThroughEveryPanelToTheForm) {
   program.Place(0, {20, 20});
   program.Key(Qt::Key_F8, Qt::ShiftModifier);
   program.Settle();
+  // On the form Tab goes from object to object: the walk begins behind it.
+  program.Find<QLineEdit>(QStringLiteral("RowFilter")).setFocus();
   QSet<QString> met;
   QStringList way;
   for (int i = 0; i < 400 && QApplication::focusWidget() != nullptr; ++i) {

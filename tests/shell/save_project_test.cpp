@@ -237,6 +237,14 @@ TEST_F(SaveFormTest, HidesTheContainerForTheDialogAndBringsItBack) {
   EXPECT_EQ(log().Count("replace"), 0U);
 }
 
+TEST_F(SaveFormTest, ViewsOfTheFormListAreNotifiedOfTheNewLine) {
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
+  tables().Form(1)->Name = "Start";
+  main.Commands().Run(Command::SaveForm);
+  EXPECT_EQ(Lines(), std::vector<std::string>{"Start (one.ftn)"});
+  EXPECT_EQ(log().Count("told list"), 1U);
+}
+
 TEST_F(SaveFormTest, AFormWithAFileIsWrittenAtOnce) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
   main.Commands().Run(Command::SaveForm);
