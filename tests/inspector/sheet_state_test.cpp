@@ -1,5 +1,6 @@
 // What the property sheet keeps and forgets between selections.
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -42,6 +43,16 @@ TEST(SheetState, ANewSelectionEndsTheStayInARow) {
   bench.Sheet.ClearPanel();
   EXPECT_EQ(bench.Steps.Size(), 1U);
   EXPECT_EQ(button->Caption, "Go");
+}
+
+TEST(SheetState, AChoiceThatIsPickedNotifiesTheViewOfItsRow) {
+  SheetBench bench;
+  bench.Make(Kind::Button);
+  bench.Sheet.SelectRow(bench.RowOf("Cursor"));
+  bench.Sheet.ApplyText("crCross");
+  bench.View.Texts.clear();
+  EXPECT_TRUE(bench.Sheet.ApplyChoice("crCross", 3));
+  EXPECT_EQ(bench.View.Texts, std::vector<int>{bench.RowOf("Cursor")}) << "its note may differ";
 }
 
 }  // namespace
