@@ -1,0 +1,165 @@
+// The program itself: exit codes, report lines, stopping, its own windows.
+#include <QApplication>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QListWidget>
+#include <QProcess>
+#include <QPushButton>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include "fakes/build_paths.h"
+#include "fakes/temporary_folder.h"
+#include "run/message_windows.h"
+
+namespace tarnwick {
+namespace {
+
+struct Outcome {
+  int Exit = -1;
+  QString Out;
+  QString Err;
+};
+
+class RunnerProcess {
+ public:
+  RunnerProcess(const std::string& source, QStringList words) {
+    folder_.Write("p.bas", source);
+    path_ = QString::fromStdString(folder_.Native("p.bas"));
+    words << path_;
+    process_.start(QString::fromStdString(test::ProgramFolder() + "/tarnwick-run"), words);
+    process_.waitForStarted();
+  }
+  /// Waits until a text is there on standard error.
+  bool WaitFor(const QString& text) {
+    QElapsedTimer clock;
+    clock.start();
+    while (!err_.contains(text) && clock.elapsed() < 20'000) {
+      process_.waitForReadyRead(50);
+      err_ += QString::fromUtf8(process_.readAllStandardError());
+    }
+    return err_.contains(text);
+  }
+  void Write(const char* text) {
+    process_.write(text);
+    process_.waitForBytesWritten();
+  }
+  void CloseInput() { process_.closeWriteChannel(); }
+  Outcome End() {
+    const bool ended = process_.waitForFinished(20'000);
+    if (!ended) process_.kill();
+    err_ += QString::fromUtf8(process_.readAllStandardError());
+    return {ended ? process_.exitCode() : -1, QString::fromUtf8(process_.readAllStandardOutput()),
+            err_.replace(path_, QStringLiteral("P"))};
+  }
+
+ private:
+  TemporaryFolder folder_;
+  QString path_;
+  QString err_;
+  QProcess process_;
+};
+
+const QStringList kIde{QStringLiteral("--with-ide"), QStringLiteral("--report=tab")};
+constexpr auto kWindow = "DIM F AS QFORM\nF.ShowModal\n";
+
+TEST(RunnerProgramTest, AProgramThatEndsHasExitCodeZero) {
+  RunnerProcess runner("PRINT \"done\"\n", kIde);
+  const Outcome outcome = runner.End();
+  EXPECT_EQ(outcome.Exit, 0) << outcome.Err.toStdString();
+  EXPECT_EQ(outcome.Out, QStringLiteral("done\n"));
+  EXPECT_TRUE(outcome.Err.endsWith(QStringLiteral("start\nend\t0\n"))) << outcome.Err.toStdString();
+}
+
+TEST(RunnerProgramTest, AFaultySourceIsReportedWithItsPlace) {
+  RunnerProcess runner("$TYPECHECK ON\nx = 1\n", kIde);
+  const Outcome outcome = runner.End();
+  EXPECT_EQ(outcome.Exit, 1);
+  EXPECT_TRUE(outcome.Err.contains(QStringLiteral("error\tP\t2\t1\t1\t")))
+      << outcome.Err.toStdString();
+  EXPECT_TRUE(outcome.Err.endsWith(QStringLiteral("end\t1\n")));
+}
+
+TEST(RunnerProgramTest, TheWordStopEndsAProgramThatWaits) {
+  RunnerProcess runner(kWindow, kIde);
+  ASSERT_TRUE(runner.WaitFor(QStringLiteral("start")));
+  runner.Write("stop\n");
+  EXPECT_EQ(runner.End().Exit, 5);
+}
+
+TEST(RunnerProgramTest, TheEndOfTheInputStopsAProgramThatIsBusy) {
+  RunnerProcess runner("DO\nLOOP\n", kIde);
+  ASSERT_TRUE(runner.WaitFor(QStringLiteral("start")));
+  runner.CloseInput();
+  EXPECT_EQ(runner.End().Exit, 5);
+}
+
+TEST(RunnerProgramTest, TheWordLeaveLetsAProgramGoOnAlone) {
+  RunnerProcess runner("SLEEP 0.4\nPRINT \"still there\"\n", kIde);
+  ASSERT_TRUE(runner.WaitFor(QStringLiteral("start")));
+  runner.Write("leave\n");
+  runner.CloseInput();
+  const Outcome outcome = runner.End();
+  EXPECT_EQ(outcome.Exit, 0);
+  EXPECT_EQ(outcome.Out, QStringLiteral("still there\n"));
+}
+
+TEST(RunnerProgramTest, LimitsEndAProgramThatWaitsOrWorks) {
+  RunnerProcess waits(kWindow, kIde + QStringList{QStringLiteral("--max-seconds=0.3")});
+  EXPECT_EQ(waits.End().Exit, 4);
+  RunnerProcess works("DO\nLOOP\n", kIde + QStringList{QStringLiteral("--max-steps=1000")});
+  EXPECT_EQ(works.End().Exit, 4);
+}
+
+TEST(RunnerProgramTest, WrongWordsAreUsage) {
+  RunnerProcess runner("PRINT 1\n", {QStringLiteral("--fast")});
+  EXPECT_EQ(runner.End().Exit, 2);
+}
+
+// --- The windows in which it speaks
+
+/// Does something to the window that waits.
+void WhenItWaits(std::function<void(QDialog&)> act) {
+  QTimer::singleShot(50, qApp, [act = std::move(act)] {
+    auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    act(*box);
+  });
+}
+
+const run::FaultText kFault{
+    QStringLiteral("p.bas"),
+    QStringLiteral("Division by zero"),
+    QStringLiteral("p.bas:3:1"),
+    QStringLiteral("x = 1 / n"),
+    {QStringLiteral("in Deep, p.bas:3:1"), QStringLiteral("in the program")}};
+
+TEST(MessageWindowsTest, TheErrorBoxShowsPlaceLineAndCalls) {
+  WhenItWaits([](QDialog& box) {
+    EXPECT_EQ(box.findChild<QLabel*>(QStringLiteral("What"))->text(), kFault.What);
+    EXPECT_EQ(box.findChild<QLabel*>(QStringLiteral("Place"))->text(), kFault.Place);
+    EXPECT_EQ(box.findChild<QLabel*>(QStringLiteral("Line"))->text(), kFault.Line);
+    EXPECT_EQ(box.findChild<QListWidget*>(QStringLiteral("Chain"))->count(), 2);
+    EXPECT_EQ(box.findChild<QPushButton*>(QStringLiteral("Show")), nullptr);
+    box.findChild<QPushButton*>(QStringLiteral("Close"))->click();
+  });
+  EXPECT_FALSE(run::ShowFault(kFault, false));
+}
+
+TEST(MessageWindowsTest, TheErrorBoxOfTheIdeCanShowThePlace) {
+  WhenItWaits([](QDialog& box) { box.findChild<QPushButton*>(QStringLiteral("Show"))->click(); });
+  EXPECT_TRUE(run::ShowFault(kFault, true));
+}
+
+TEST(MessageWindowsTest, TheErrorsOfASourceAreAList) {
+  WhenItWaits([](QDialog& box) {
+    EXPECT_EQ(box.findChild<QListWidget*>(QStringLiteral("Errors"))->count(), 2);
+    box.reject();
+  });
+  run::ShowErrors(QStringLiteral("p.bas"), {QStringLiteral("one"), QStringLiteral("two")});
+}
+
+}  // namespace
+}  // namespace tarnwick
