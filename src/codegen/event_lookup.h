@@ -2,8 +2,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <span>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -55,12 +56,8 @@ class OwnerCode {
 /// Looks up code for one form at a time. The table must not change meanwhile.
 class EventLookup {
  public:
-  explicit EventLookup(const EventCodeTable& table) noexcept : table_(table) {}
-  void SetForm(int form) {
-    if (form == form_) return;
-    form_ = form;
-    for (auto& found : found_) found.clear();
-  }
+  explicit EventLookup(const EventCodeTable& table);
+  void SetForm(int form) noexcept { form_ = form; }
 
   /// Code of the form itself.
   [[nodiscard]] OwnerCode OfForm() const;
@@ -76,12 +73,20 @@ class EventLookup {
   /// Code under a name of the user's choice.
   [[nodiscard]] OwnerCode OfName(std::string_view name) const;
 
+  /// The owners of one kind that have code, by form and number. Most objects have none, and the
+  /// walks over a form ask for its objects in their order.
+  struct OwnersOfKind {
+    struct Row {
+      std::uint64_t Place;  ///< form number, then number of the object
+      const EventCodeTable::Owner* Owner;
+    };
+    std::vector<Row> Rows;  ///< sorted by Place
+    std::size_t Next = 0;   ///< the row behind the last one found
+  };
+
   const EventCodeTable& table_;
   int form_ = 0;
-  std::string key_;  ///< of the last object, whose memory the next one takes over
-  /// What objects 1, 2, ... of each kind have. Several walks ask for the objects of a form in the
-  /// same order; the first one fills this, as long as it goes in steps of one.
-  std::array<std::vector<const EventCodeTable::Owner*>, kKindCount> found_;
+  std::array<OwnersOfKind, kKindCount> owners_;
 };
 
 }  // namespace tarnwick

@@ -121,6 +121,12 @@ class EventCodeTable {
   /// The number of entries; counts them all.
   [[nodiscard]] std::size_t Size() const noexcept;
 
+  /// Calls `visit(key, owner)` for every owner, in the order in which they were made.
+  template <class Visit>
+  void ForEachOwner(Visit visit) const {
+    for (const KeyedOwner* const owner : order_)
+      visit(std::string_view(owner->first), owner->second);
+  }
   /// Calls `visit(key, value)` for every entry: owners in the order in which they were made, the
   /// entries of each by enumerator.
   template <class Visit>
