@@ -6,7 +6,6 @@
 #include <cstdint>
 
 #include "persistence/stored_text.h"
-#include "text/code_page.h"
 
 namespace tarnwick {
 
@@ -63,20 +62,25 @@ static_assert(
     [] {
       for (const TagInfo& tag : kTags) {
         if (tag.Word.size() < kFewestLetters) return false;
+        if (!std::ranges::all_of(tag.Word, [](char c) { return c >= 'a' && c <= 'z'; }))
+          return false;
         for (const TagInfo& other : kTags) {
           if (other.Id != tag.Id && other.Word.starts_with(tag.Word)) return false;
         }
       }
       return true;
     }(),
-    "behind a bracket at most one tag stands, and it has three letters");
+    "behind a bracket at most one tag stands; its word is three small letters or more");
 
 /// True when a text begins with a tag's word.
 bool StartsWithTag(std::string_view text, std::size_t tag) {
   const std::string_view word = kTags[tag].Word;
   return text.size() >= word.size() &&
-         std::equal(word.begin(), word.end(), text.begin(),
-                    [](char lower, char c) { return LowerByte(c) == lower; });
+         std::equal(word.begin(), word.end(), text.begin(), [](char lower, char c) {
+           // This bit tells a small letter from its capital, and a tag is letters alone.
+           constexpr unsigned kSmall = 0x20;
+           return (static_cast<unsigned char>(c) | kSmall) == static_cast<unsigned char>(lower);
+         });
 }
 
 bool EndsWithTag(std::string_view text, std::size_t tag) {
