@@ -157,7 +157,8 @@ void PropertyPanel::ShareHeight() {
 }
 
 void PropertyPanel::FocusRow() {
-  if (sheet_.RowTop(sheet_.RowIndex()) < 0) filter_->clear();
+  // With a filter the grid is entered at the first row that it leaves.
+  filter_->clear();
   grid_->FocusRow();
 }
 
