@@ -102,6 +102,17 @@ constexpr int kDeepest = 32;
 
 void FillMenu(Stage& stage, QMenu& menu, ObjectId above, int depth);
 
+/// Deletes a menu once nothing of it runs any more. Until then it holds no keys, which would be
+/// those of two rows and reach neither.
+void Retire(QMenu& menu) {
+  for (QAction* const row : menu.actions()) {
+    row->setShortcut({});
+    if (row->menu() != nullptr) Retire(*row->menu());
+  }
+  menu.hide();
+  menu.deleteLater();
+}
+
 /// A menu below a row: made when it opens.
 QMenu* MakeMenu(Stage& stage, QWidget* parent, ObjectId above, int depth) {
   auto* const menu = new QMenu(parent);
@@ -109,6 +120,9 @@ QMenu* MakeMenu(Stage& stage, QWidget* parent, ObjectId above, int depth) {
   QObject::connect(menu, &QMenu::aboutToShow, menu, [&stage, menu, above, depth] {
     // Opening the rows of an item is a click on it.
     stage.Report([&stage, above] { stage.World().Click(above); });
+    for (QAction* const row : menu->actions()) {
+      if (row->menu() != nullptr) Retire(*row->menu());
+    }
     menu->clear();
     FillMenu(stage, *menu, above, depth);
   });
@@ -172,9 +186,9 @@ void FillMenuStrip(Stage& stage, QMenuBar& strip, const ObjectRecord* menu) {
     QMenu* const rows = action->menu();
     strip.removeAction(action);
     if (rows != nullptr) {
-      rows->hide();
-      rows->deleteLater();
+      Retire(*rows);
     } else {
+      action->setShortcut({});
       action->deleteLater();
     }
   }

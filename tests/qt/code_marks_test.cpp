@@ -3,6 +3,7 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyle>
 #include <QTest>
 #include <QToolTip>
 #include <string>
@@ -163,13 +164,18 @@ TEST_F(CodeMarksWindow, SignsFollowTheTheme) {
     const QPoint at(PlaceOf(0, 0).x() - 19, PlaceOf(0, 0).y() + 4);
     return image.pixelColor(at * image.devicePixelRatio());
   };
+  const QString style = QApplication::style()->objectName();
+  const QPalette palette = QApplication::palette();
+  const QString sheet = qApp->styleSheet();
   ApplyTheme(*qApp, Theme::Light);
   Program::Settle();
   const QColor light = sign();
   ApplyTheme(*qApp, Theme::Dark);
   Program::Settle();
   const QColor dark = sign();
-  ApplyTheme(*qApp, Theme::Light);
+  qApp->setStyleSheet(sheet);
+  QApplication::setStyle(style);
+  QApplication::setPalette(palette);
   EXPECT_GT(light.red(), light.green() + 50);
   EXPECT_GT(dark.red(), dark.green() + 50);
   EXPECT_NE(light, dark);

@@ -3,11 +3,13 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QProcess>
 #include <QTest>
+#include <QTextEdit>
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -142,6 +144,29 @@ TEST(RunExamplesTest, TheClockShowsTheTimeAndKeepsItsSettings) {
     QTest::mouseClick(menu, Qt::LeftButton, {},
                       menu->actionGeometry(menu->actions().at(4)).center());
   });
+  live.Run();
+}
+
+TEST(RunExamplesTest, TheNotepadSavesWhatWasTyped) {
+  const ExampleSource source("notepad");
+  LiveProgram live("", source.Path);
+  live.Then([&] {
+    auto& note = live.The<QTextEdit>("NoteText");
+    note.setFocus();
+    QTest::keyClicks(&note, QStringLiteral("Milk"));
+    QTest::keyClick(&note, Qt::Key_Return);
+    QTest::keyClicks(&note, QStringLiteral("Bread"));
+    QTest::keyClick(&note, Qt::Key_S, Qt::ControlModifier);
+  });
+  live.Then([&] {
+    auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    auto* const name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    ASSERT_NE(name, nullptr);
+    name->setText(QString::fromStdString(live.Folder.Native("shopping")));
+    QTest::keyClick(name, Qt::Key_Return);
+  });
+  live.Then([&] { EXPECT_EQ(live.Folder.Read("shopping.txt"), "Milk\r\nBread"); });
   live.Run();
 }
 

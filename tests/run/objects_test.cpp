@@ -248,6 +248,20 @@ TEST(RunObjectsTest, MenusShowTheirTreeAndRaiseTheirClicks) {
   EXPECT_EQ(live.Printed, "OnClick OnClick OnClick ");
 }
 
+TEST(RunObjectsTest, KeysOfAMenuThatChangesReachItsNewRows) {
+  LiveProgram live(
+      FormWith("DIM M AS QMAINMENU: M.Parent = F\nDIM T AS QMENUITEM: T.Caption = \"&File\"\n"
+               "DIM A AS QMENUITEM: A.Caption = \"New\": A.ShortCut = \"Ctrl+N\"\n"
+               "M.AddItems T: T.AddItems A",
+               "SUB Renamed\nPRINT A.Caption; \" \";\nA.Caption = A.Caption + \"!\"\nEND SUB\n"
+               "A.OnClick = Renamed\n"));
+  for (int i = 0; i < 3; ++i) {
+    live.Then([&] { QTest::keyClick(live.Widget("F"), Qt::Key_N, Qt::ControlModifier); });
+  }
+  live.Run();
+  EXPECT_EQ(live.Printed, "New New! New!! ");
+}
+
 TEST(RunObjectsTest, ARightClickOpensThePopupMenu) {
   LiveProgram live(
       FormWith("DIM P AS QPOPUPMENU\nDIM A AS QMENUITEM: A.Caption = \"Do\": P.AddItems A\n"
