@@ -18,7 +18,7 @@ FormUser::FormUser(DesignForm& form, ProjectTables& tables, DesignerPorts ports)
       frame_(context_),
       selection_(context_, drag_),
       gestures_(context_, drag_, selection_),
-      commands_(context_, drag_, selection_, gestures_),
+      commands_(context_, selection_, gestures_),
       keys_(context_, drag_, selection_, gestures_, commands_) {}
 
 void FormUser::Form_Load() {

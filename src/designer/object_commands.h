@@ -10,9 +10,8 @@ namespace tarnwick {
 /// that asks for them and have no effect for any other: the menu and the toolbar pass it too.
 class ObjectCommands {
  public:
-  ObjectCommands(DesignContext& context, Drag& drag, FormSelection& selection,
-                 FormGestures& gestures)
-      : context_(context), drag_(drag), selection_(selection), gestures_(gestures) {}
+  ObjectCommands(DesignContext& context, FormSelection& selection, FormGestures& gestures)
+      : context_(context), selection_(selection), gestures_(gestures) {}
 
   /// Deletes the selected object for the Delete key. The lock is not looked at: callers do that.
   void CutObject(int KeyCode);
@@ -38,7 +37,6 @@ class ObjectCommands {
   void ChangeOrder(std::string_view action, bool front);
 
   DesignContext& context_;
-  Drag& drag_;
   FormSelection& selection_;
   FormGestures& gestures_;
   ObjectClipboard clipboard_;
