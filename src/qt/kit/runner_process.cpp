@@ -76,12 +76,12 @@ bool RunnerProcess::Start(const RunRequest& request, RunListener& listener) {
     const std::string text = run_->Printed.Take(ViewOf(run_->Process->readAllStandardOutput()));
     if (!text.empty()) run_->Listener.RunOutput(text);
   };
-  QObject::connect(process, &QProcess::readyReadStandardError, process, read_report,
+  QObject::connect(process, &QProcess::readyReadStandardError, &receiver_, read_report,
                    Qt::QueuedConnection);
-  QObject::connect(process, &QProcess::readyReadStandardOutput, process, read_output,
+  QObject::connect(process, &QProcess::readyReadStandardOutput, &receiver_, read_output,
                    Qt::QueuedConnection);
   QObject::connect(
-      process, &QProcess::finished, process,
+      process, &QProcess::finished, &receiver_,
       [this, read_report, read_output](int code, QProcess::ExitStatus status) {
         read_report();
         read_output();
@@ -89,7 +89,7 @@ bool RunnerProcess::Start(const RunRequest& request, RunListener& listener) {
       },
       Qt::QueuedConnection);
   // What came while the start was waited for, and a program that has ended already.
-  QTimer::singleShot(0, process, [read_report, read_output] {
+  QTimer::singleShot(0, &receiver_, [read_report, read_output] {
     read_report();
     read_output();
   });

@@ -1,6 +1,7 @@
 // The runner as a process beside the IDE.
 #pragma once
 
+#include <QObject>
 #include <QString>
 #include <memory>
 
@@ -30,6 +31,7 @@ class RunnerProcess final : public RunnerPort {
 
   QString program_;
   std::unique_ptr<Run> run_;  ///< null while no program runs
+  QObject receiver_;          ///< of the calls that wait in the queue, which end with it
 };
 
 }  // namespace tarnwick
