@@ -7,7 +7,6 @@
 
 #include "basic/code/dump.h"
 #include "basic/vm/machine.h"
-#include "objects/supported_list.h"
 #include "hosts/disk_files.h"
 #include "hosts/local_clock.h"
 #include "hosts/local_system.h"
@@ -16,6 +15,7 @@
 #include "hosts/stream_console.h"
 #include "objects/class_table.h"
 #include "objects/scripted_widgets.h"
+#include "objects/supported_list.h"
 #include "platform/native_files.h"
 #include "platform/profile_files.h"
 #include "platform/program_folder.h"
@@ -32,7 +32,8 @@ void StopRunning(int) {
   if (basic::Machine* const machine = g_running.load()) machine->Stop();
 }
 
-/// What the program can ask about itself; the program it would be compiled to lies beside its source.
+/// What the program can ask about itself; the program it would be compiled to lies beside its
+/// source.
 objects::ProgramFacts FactsOf(const hosts::PreparedProgram& program) {
   const std::string_view path = program.Files.File(0).Path;
   const std::string_view name = BareName(path);

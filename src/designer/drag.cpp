@@ -20,8 +20,8 @@ constexpr std::array<HandleInfo, kHandleCount> kHandles{{
 /// Handles are placed in this order, corner and opposite corner in turn.
 constexpr std::array<int, kHandleCount> kPlacingOrder{0, 4, 1, 5, 2, 6, 3, 7};
 
-/// Position of a handle along one axis: on the near edge, the far edge, or between them. Half a pixel
-/// pulls it into the control, so that it sits on the border and not beside it.
+/// Position of a handle along one axis: on the near edge, the far edge, or between them. Half a
+/// pixel pulls it into the control, so that it sits on the border and not beside it.
 float PlaceAlong(bool near_edge, bool far_edge, std::int32_t start, std::int32_t length, int half,
                  std::int32_t pull) noexcept {
   const auto from = static_cast<float>(start);

@@ -19,8 +19,8 @@ struct Hit {
 /// The topmost thing at a position in twips: what the user sees there takes the press.
 [[nodiscard]] Hit HitTest(const DesignForm& form, float x, float y);
 
-/// The first visible object of the collection that covers a position, the way a press that placed an
-/// object looks for one to drag; null when there is none.
+/// The first visible object of the collection that covers a position, the way a press that placed
+/// an object looks for one to drag; null when there is none.
 [[nodiscard]] ControlRef FirstObjectUnder(const DesignForm& form, float x, float y);
 
 }  // namespace tarnwick

@@ -68,7 +68,7 @@ class FormChecker {
     if (IsOtherRecord(line, scanner_.KindWord()) && !is_form) return;
     if (!kind) {
       Add(FaultSort::NoRecord,
-           scanner_.KindWord().empty() ? "the line is no record" : "the kind is not known");
+          scanner_.KindWord().empty() ? "the line is no record" : "the kind is not known");
       return;
     }
     CheckNumbers(*kind);
@@ -81,7 +81,7 @@ class FormChecker {
     const std::optional<std::int16_t> number = ToInt16(Val(scanner_.Number()));
     if (numbered && (!number || *number < 0)) {
       Add(FaultSort::Number, "the number (" + std::string(scanner_.Number()) +
-                                  ") cannot be used; its properties are lost");
+                                 ") cannot be used; its properties are lost");
     }
     for (const LayoutField& field : layout.Fields) {
       if (field.In == Tag::None || Fits(field.Value, scanner_.Stored(field.In))) continue;
