@@ -7,9 +7,7 @@
 
 #include "model/kind_rules.h"
 
-namespace tarnwick {
-
-namespace kind_rows {
+namespace tarnwick::kind_rows {
 
 inline constexpr std::int32_t kFaceColor = 12632256;
 inline constexpr std::int32_t kPaperColor = 16777215;
@@ -97,6 +95,4 @@ inline constexpr std::array kCopiedViewer{RecordField{&HtmlViewerRec::Navigate}}
 inline constexpr std::array kCopiedPopUp{RecordField{&PopUpItemRec::Alignment},
                                          RecordField{&PopUpItemRec::AutoPopUp}};
 
-}  // namespace kind_rows
-
-}  // namespace tarnwick
+}  // namespace tarnwick::kind_rows
