@@ -55,7 +55,7 @@ class FormCodigo {
   void Events_Click(int row);
   /// Stores the shown text as a change of event does; nothing while the window is closed.
   void StoreShown();
-  /// `BtnFrm(0)`: stores the text, remembers the event, tells the events bar, closes.
+  /// `BtnFrm(0)`: stores the text, remembers the event, notifies the events bar, closes.
   void Accept();
   /// `BtnFrm(1)`, and every other way out: what was typed since the last change of event goes.
   void Cancel();

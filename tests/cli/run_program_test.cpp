@@ -98,14 +98,14 @@ TEST(RunProgramTest, WindowsAreThereAndTheEventsOfAScriptArePlayed) {
   const TemporaryFolder folder;
   RunArguments arguments;
   arguments.Events = folder.Native("events.txt");
-  std::ofstream(arguments.Events, std::ios::binary) << "click B\nclick Nobody\nclick B\n";
+  std::ofstream(arguments.Events, std::ios::binary) << "click B\nclick NoSuch\nclick B\n";
   const Outcome outcome = RunText(
       "DIM F AS QFORM, B AS QBUTTON\nB.Parent = F\nSUB Press\nPRINT \"pressed\"\n"
       "END SUB\nB.OnClick = Press\nF.ShowModal\nPRINT \"over\"\n",
       arguments);
   EXPECT_EQ(outcome.Exit, RunExit::Ended);
   EXPECT_EQ(outcome.Out, "pressed\npressed\nover\n");
-  EXPECT_NE(outcome.Err.find("click Nobody: there is no object of this name"), std::string::npos);
+  EXPECT_NE(outcome.Err.find("click NoSuch: there is no object of this name"), std::string::npos);
 }
 
 TEST(RunProgramTest, ATraceTellsWhatTheWindowsShow) {

@@ -1,6 +1,6 @@
 // Every folder beside this file is a case: project/ holds a project as it comes, expected/ what
 // opening it gives: its files as they are saved again, the generated source, and the messages
-// shown. scripts/update-golden writes expected/ anew; read its result before it is committed.
+// shown. scripts/update-golden rewrites expected/; read its result before it is committed.
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>

@@ -100,7 +100,7 @@ TEST(Objects, WithoutAUserAModalFormEndsAtOnceAndStaysVisible) {
   EXPECT_EQ(PrintedBy("DIM F AS QFORM\nPRINT F.ShowModal; F.Visible"), "21\n");
 }
 
-TEST(Objects, ALoopOfDoEventsThatNobodyEndsIsEnded) {
+TEST(Objects, ALoopOfDoEventsThatNeverEndsIsEnded) {
   EXPECT_EQ(PrintedBy("DIM F AS QFORM\nF.Show\nDO\nDOEVENTS\nLOOP UNTIL F.Visible = 0\nPRINT 1"),
             "");
 }

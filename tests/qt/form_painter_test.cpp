@@ -132,7 +132,7 @@ TEST_F(FormPainterTest, ButtonsAndMarksShowTheFaceWhateverTheirColour) {
   }
 }
 
-TEST_F(FormPainterTest, WhatTheProgramDoesNotShowOrLetsNobodyUseLooksDifferent) {
+TEST_F(FormPainterTest, WhatTheProgramDoesNotShowOrLetsNoUserUseLooksDifferent) {
   for (const Kind kind : {Kind::Button, Kind::Label, Kind::CheckBox, Kind::OptionButton,
                           Kind::TextBox, Kind::RichTextBox, Kind::ListBox, Kind::ComboBox}) {
     SCOPED_TRACE(InfoOf(kind).Name);

@@ -79,7 +79,7 @@ void Attendant::Look() {
       return;
     }
     if (steps_.empty()) {
-      ADD_FAILURE() << "a dialog nobody waits for: " << dialog->windowTitle().toStdString();
+      ADD_FAILURE() << "an unexpected dialog: " << dialog->windowTitle().toStdString();
       dialog->reject();
       return;
     }
@@ -92,7 +92,7 @@ void Attendant::Look() {
       {box->windowTitle(), box->text(), box->icon(), static_cast<int>(box->standardButtons())});
   if (answers_.empty() && AnyBox) answers_.push_back(AnyBox(seen_.back()));
   if (answers_.empty()) {
-    ADD_FAILURE() << "a box nobody waits for: " << box->text().toStdString();
+    ADD_FAILURE() << "an unexpected box: " << box->text().toStdString();
     box->reject();
     return;
   }

@@ -81,7 +81,7 @@ TEST(CodePage, FindFoldedAtTheEdges) {
 
 TEST(CodePage, FindFoldedIsLinearWhenOneCaseIsRare) {
   // One form of the first byte is everywhere, the other nowhere: a search that looked for the
-  // rare one anew at each step would take minutes here.
+  // rare one again at each step would take minutes here.
   const std::string text(4U << 20U, 'a');
   const auto start = std::chrono::steady_clock::now();
   EXPECT_EQ(FindFolded(text, "AB"), std::string::npos);

@@ -67,7 +67,7 @@ class CodeEdit final : public QsciScintilla, public editor::EditWidget {
   void SetUp(std::string_view font_name);
   void SetColors();
   void FitLineNumbers();
-  /// Tells the member list what has happened to text and caret since the last call.
+  /// Notifies the member list of what has happened to text and caret since the last call.
   void Sync();
 
   CodeLexer* lexer_;

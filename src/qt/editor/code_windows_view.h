@@ -45,7 +45,7 @@ class CodeWindowsView final : public CodeWindows {
   void OfferCode(const std::map<std::string, std::string>& code) override;
 
  private:
-  /// Tells the events bars and the history what a window has stored, and hides the window at its
+  /// Notifies events bars and history of what a window has stored, and hides the window at its
   /// end.
   class Host final : public editor::CodeHost {
    public:
