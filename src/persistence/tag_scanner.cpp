@@ -77,7 +77,7 @@ bool StartsWithTag(std::string_view text, std::size_t tag) {
   const std::string_view word = kTags[tag].Word;
   return text.size() >= word.size() &&
          std::equal(word.begin(), word.end(), text.begin(), [](char lower, char c) {
-           // This bit is what a small letter has and its capital has not, and a tag is letters alone.
+           // This bit is all in which a small letter differs from its capital; tags are letters.
            constexpr unsigned kSmall = 0x20;
            return (static_cast<unsigned char>(c) | kSmall) == static_cast<unsigned char>(lower);
          });
