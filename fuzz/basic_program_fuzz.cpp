@@ -14,6 +14,7 @@
 #include "basic/vm/machine.h"
 #include "objects/object_world.h"
 #include "objects/scripted_widgets.h"
+#include "objects/traced_widgets.h"
 
 namespace {
 
@@ -23,8 +24,10 @@ std::string Run(const basic::Code& code, const std::string& script, basic::Dispa
   basic::ProgramWorld world;
   std::string trace;
   objects::ScriptedWidgets widgets(script);
-  widgets.Trace = [&](std::string_view line) { trace += std::string(line) + "\n"; };
-  objects::ObjectWorld objects(widgets, &world.Files, {"C:\\Work\\main.exe", "main", {}});
+  widgets.Played = [&](std::string_view line) { trace += std::string(line) + "\n"; };
+  objects::TracedWidgets traced(widgets, widgets.Played);
+  objects::ObjectWorld objects(traced, &world.Files, {"C:\\Work\\main.exe", "main", {}});
+  traced.Connect(objects);
   widgets.Play(objects);
   world.Host.Objects = &objects;
   basic::RunOptions options;

@@ -16,6 +16,7 @@
 #include "objects/class_table.h"
 #include "objects/scripted_widgets.h"
 #include "objects/supported_list.h"
+#include "objects/traced_widgets.h"
 #include "platform/native_files.h"
 #include "platform/profile_files.h"
 #include "platform/program_folder.h"
@@ -58,7 +59,10 @@ basic::RunResult RunCode(const hosts::PreparedProgram& program, objects::Scripte
   NativeFiles disk;
   ProfileFiles profiles(disk);
   hosts::ProfileCalls natives(profiles);
-  objects::ObjectWorld world(widgets, &files, FactsOf(program));
+  objects::TracedWidgets traced(widgets, widgets.Played);
+  objects::ObjectWorld world(arguments.Trace ? static_cast<objects::WidgetPort&>(traced) : widgets,
+                             &files, FactsOf(program));
+  traced.Connect(world);
   widgets.Play(world);
   basic::Machine machine(program.Code, {&console, &world, &files, &clock, &system, &natives},
                          arguments.Options());
@@ -127,7 +131,7 @@ RunExit CheckAndRun(const RunArguments& arguments, const Streams& streams) {
   }
   objects::ScriptedWidgets widgets(*script);
   if (arguments.Trace) {
-    widgets.Trace = [&](std::string_view line) {
+    widgets.Played = [&](std::string_view line) {
       WriteText(streams.Out, std::string(line) + "\n");
     };
   }
@@ -181,7 +185,7 @@ std::string RunOptionsHelp() {
   return std::string("\nOptions of run, in front of PROGRAM:\n") + hosts::RunSettingsHelp() +
          "  --events FILE           what the user does, a line each: click Button1, key Text1 65,\n"
          "                          type Text1 words, pick List1 2, tick Time1, close Form1\n"
-         "  --trace                 print what the windows are told\n"
+         "  --trace                 print the changes that the windows would show\n"
          "  --program-folder TEXT   where the include file of generated programs lies\n"
          "  --supported             list what is supported, and leave\n"
          "  --dump                  print the bytecode and do not run it\n"

@@ -31,10 +31,10 @@ struct RunArguments : hosts::RunSettings {
 /// What its options are, for the help.
 [[nodiscard]] std::string RunOptionsHelp();
 
-/// Checks and runs the program. Its windows are there, but nothing shows them and nobody uses them
-/// but the script of events: without one, waiting for the user ends at once. Its text goes to
-/// `out`; errors and notes go to `err`, a line each: `file:line:column: error: text`. An interrupt
-/// from the keyboard stops the program.
+/// Checks and runs the program. Its windows are there but not shown; the script of events is their
+/// only user: without one, waiting for the user ends at once. Its text goes to `out`; errors and
+/// notes go to `err`, a line each: `file:line:column: error: text`. An interrupt from the keyboard
+/// stops the program.
 [[nodiscard]] RunExit RunProgram(const RunArguments& arguments, std::FILE* in, std::FILE* out,
                                  std::FILE* err);
 

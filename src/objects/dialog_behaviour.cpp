@@ -7,12 +7,13 @@ namespace {
 bool Execute(ObjectWorld& world, ObjectRecord& dialog, const MemberInfo&, std::span<Value>,
              Value& result) {
   const ObjectId id = dialog.Id;
-  std::vector<std::string> files = world.Widgets().PickFiles(dialog);
+  PickedNames picked = world.Widgets().PickFiles(dialog);
   result = Value::Integer(0);
   ObjectRecord* const after = world.Find(id);
-  if (after == nullptr || files.empty()) return true;
-  after->Put(Word::FileName, Value::Text(files.front()));
-  after->As<PickedFiles>()->Files = std::move(files);
+  if (after == nullptr || picked.Files.empty()) return true;
+  after->Put(Word::FileName, Value::Text(picked.Files.front()));
+  if (picked.FilterIndex > 0) after->Put(Word::FilterIndex, Value::Integer(picked.FilterIndex));
+  after->As<PickedFiles>()->Files = std::move(picked.Files);
   result = Value::Integer(1);
   return true;
 }

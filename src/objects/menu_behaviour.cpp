@@ -6,7 +6,8 @@
 namespace tarnwick::objects {
 namespace {
 
-/// Tells the widgets of the menu at the top of the tree that an item is part of, once it is shown.
+/// Notifies the widgets of the menu at the top of the tree that an item is part of, once it is
+/// shown.
 void Changed(ObjectWorld& world, ObjectRecord& row) {
   const ObjectRecord* top = &row;
   while (const ObjectRecord* const above = world.Find(top->Parent)) top = above;

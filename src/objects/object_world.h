@@ -123,9 +123,9 @@ class ObjectWorld final : public basic::ObjectHost {
   /// on it. False: it had this value already.
   bool Change(ObjectRecord& object, Word property, const Value& value, Origin origin);
   bool Change(ObjectRecord& object, const MemberInfo& member, const Value& value, Origin origin);
-  /// Tells the widget of an object, if it has one, that a property is another.
+  /// Notifies the widget of an object, if it has one, that a property has another value.
   void Show(const ObjectRecord& object, Word property);
-  /// Tells the widget of a list, if it has one, what became of its entries.
+  /// Notifies the widget of a list, if it has one, of what became of its entries.
   void ShowItems(const ObjectRecord& list, const ItemsChange& change);
   /// Makes the widgets of an object and of what stands on it.
   void Realise(ObjectRecord& object);

@@ -11,21 +11,6 @@
 namespace tarnwick::objects {
 namespace {
 
-/// The text as one line of the trace.
-std::string OneLine(std::string_view text) {
-  std::string line;
-  for (const char c : text) {
-    if (c == '\r') {
-      line += "\\r";
-    } else if (c == '\n') {
-      line += "\\n";
-    } else {
-      line += c;
-    }
-  }
-  return line;
-}
-
 /// The first word of the rest, which is taken off with the blank behind it.
 std::string_view TakeWord(std::string_view& rest) {
   rest = TrimLeft(rest);
@@ -51,57 +36,11 @@ ScriptedWidgets::ScriptedWidgets(std::string_view script) {
   }
 }
 
-void ScriptedWidgets::Write(const std::string& line) {
-  if (Trace) Trace(line);
-}
-
-void ScriptedWidgets::Realise(const ObjectRecord& object) {
-  if (!Trace) return;
-  Write("realise " + object.FullName() + " " + std::string(object.Info().Name));
-}
-
-void ScriptedWidgets::Apply(const ObjectRecord& object, const MemberInfo& member) {
-  if (!Trace) return;
-  std::string line = object.FullName() + "." + std::string(member.Facts.Name);
-  if (member.Facts.Kind == basic::MemberKind::Property) {
-    const Value& value = object.Values[member.Slot];
-    const ObjectRecord* const other = world_ == nullptr ? nullptr : world_->Find(value.AsObject());
-    line += " = " + (other != nullptr ? other->FullName() : OneLine(value.AsText()));
-  }
-  Write(line);
-}
-
-void ScriptedWidgets::ItemsChanged(const ObjectRecord& list, const ItemsChange& change) {
-  static constexpr const char* kKinds[] = {"inserted", "removed", "replaced", "all"};
-  if (!Trace) return;
-  Write(list.FullName() + " entries " + kKinds[static_cast<int>(change.What)] + " " +
-        std::to_string(change.First) + " " + std::to_string(change.Count));
-}
-
-void ScriptedWidgets::MenuChanged(const ObjectRecord& menu) {
-  if (Trace) Write(menu.FullName() + " rows");
-}
-
-bool ScriptedWidgets::Invoke(const ObjectRecord& object, const MemberInfo& method,
-                             std::span<Value> arguments, Value&) {
-  if (!Trace) return false;
-  std::string line = object.FullName() + "." + std::string(method.Facts.Name) + "(";
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    line += (i == 0 ? "" : ", ") + OneLine(arguments[i].AsText());
-  }
-  Write(line + ")");
-  return false;
-}
-
-void ScriptedWidgets::Destroy(ObjectId) {
-  Write("an object is gone");
-}
-
 bool ScriptedWidgets::PumpEvents(int) {
   if (lines_.empty() || world_ == nullptr) return false;
   const std::string line = std::move(lines_.front());
   lines_.pop_front();
-  Write("> " + line);
+  if (Played) Played("> " + line);
   Step(line);
   return true;
 }
@@ -110,8 +49,12 @@ void ScriptedWidgets::Step(std::string_view line) {
   std::string_view rest = line;
   const std::string_view verb = TakeWord(rest);
   if (EqualsFolded(verb, "file")) {
-    picked_.clear();
-    if (!Trim(rest).empty()) picked_.emplace_back(Trim(rest));
+    picked_.Files.clear();
+    if (!Trim(rest).empty()) picked_.Files.emplace_back(Trim(rest));
+    return;
+  }
+  if (EqualsFolded(verb, "filter")) {
+    picked_.FilterIndex = TakeNumber(rest);
     return;
   }
   const std::string_view name = TakeWord(rest);
@@ -200,10 +143,7 @@ TextSize ScriptedWidgets::Measure(const FontValues& font, std::string_view text,
   return {static_cast<int>(width), static_cast<int>(height)};
 }
 
-std::vector<std::string> ScriptedWidgets::PickFiles(const ObjectRecord& dialog) {
-  if (Trace) {
-    Write(dialog.FullName() + " asks: " + OneLine(dialog.Text(Word::Caption)));
-  }
+PickedNames ScriptedWidgets::PickFiles(const ObjectRecord&) {
   return std::exchange(picked_, {});
 }
 

@@ -1,5 +1,4 @@
-// A user without a screen: plays events from a script, and can write down what the widgets were
-// told.
+// A user without a screen: plays events from a script.
 #pragma once
 
 #include <deque>
@@ -25,6 +24,7 @@ namespace tarnwick::objects {
 ///   popup PopMenu1         a popup menu is shown
 ///   close Form1            close a window
 ///   file C:\notes.txt      what is picked in the next dialog; without a path: given up
+///   filter 2               the filter that is chosen in the next dialog, counted from 1
 ///
 /// Objects are named as in the program, elements of arrays as "Cmd(2)"; the first object of the
 /// name counts. Empty lines and those that begin with ' are passed over.
@@ -35,35 +35,35 @@ class ScriptedWidgets final : public WidgetPort {
   /// The objects on which the script is played; to be set before the program runs.
   void Play(ObjectWorld& world) { world_ = &world; }
 
-  void Realise(const ObjectRecord& object) override;
-  void Apply(const ObjectRecord& object, const MemberInfo& member) override;
-  void ItemsChanged(const ObjectRecord& list, const ItemsChange& change) override;
-  void MenuChanged(const ObjectRecord& menu) override;
-  bool Invoke(const ObjectRecord& object, const MemberInfo& method, std::span<Value> arguments,
-              Value& result) override;
+  void Realise(const ObjectRecord&) override {}
+  void Apply(const ObjectRecord&, const MemberInfo&) override {}
+  void ItemsChanged(const ObjectRecord&, const ItemsChange&) override {}
+  void MenuChanged(const ObjectRecord&) override {}
+  bool Invoke(const ObjectRecord&, const MemberInfo&, std::span<Value>, Value&) override {
+    return false;
+  }
   bool Live(const ObjectRecord&, const MemberInfo&, std::span<const Value>, Value&) override {
     return false;
   }
-  void Destroy(ObjectId object) override;
+  void Destroy(ObjectId) override {}
   bool PumpEvents(int wait_ms) override;
   /// As if every letter had the same width.
   [[nodiscard]] TextSize Measure(const FontValues& font, std::string_view text,
                                  int wrap_width) override;
-  [[nodiscard]] std::vector<std::string> PickFiles(const ObjectRecord& dialog) override;
+  [[nodiscard]] PickedNames PickFiles(const ObjectRecord& dialog) override;
 
-  /// Gets what the widgets were told, line by line, without line ends; may be empty.
-  std::function<void(std::string_view)> Trace;
+  /// Receives each line of the script as it is played, with "> " in front; may be empty.
+  std::function<void(std::string_view)> Played;
   /// Lines of the script that could not be played, with the reason.
   std::vector<std::string> Faults;
 
  private:
   void Step(std::string_view line);
   void Key(const ObjectRecord& object, std::int64_t code);
-  void Write(const std::string& line);
 
   ObjectWorld* world_ = nullptr;
   std::deque<std::string> lines_;
-  std::vector<std::string> picked_;
+  PickedNames picked_;
 };
 
 }  // namespace tarnwick::objects

@@ -23,8 +23,14 @@ struct TextSize {
   int Height = 0;  ///< pixels
 };
 
-/// Shows the records. It reads them when it is told of a change and keeps none. A record is valid
-/// during the call; objects are told apart by their ids, which are never used again.
+/// What the user picked in a dialog.
+struct PickedNames {
+  std::vector<std::string> Files;  ///< full paths; empty when the user gave up
+  std::int64_t FilterIndex = 0;    ///< from 1, the filter chosen in the dialog; 0: not known
+};
+
+/// Shows the records. It reads them when it is notified of a change and keeps none. A record is
+/// valid during the call. Ids identify objects and are never used again.
 class WidgetPort {
  public:
   virtual ~WidgetPort() = default;
@@ -64,9 +70,8 @@ class WidgetPort {
   /// Room that a text takes; with `wrap_width` above 0 it is broken into lines of that width.
   [[nodiscard]] virtual TextSize Measure(const FontValues& font, std::string_view text,
                                          int wrap_width) = 0;
-  /// Lets the user pick files in a dialog whose record has title, filter and folder. Empty when
-  /// the user gave up.
-  [[nodiscard]] virtual std::vector<std::string> PickFiles(const ObjectRecord& dialog) = 0;
+  /// Lets the user pick files in a dialog whose record has title, filter and folder.
+  [[nodiscard]] virtual PickedNames PickFiles(const ObjectRecord& dialog) = 0;
 };
 
 }  // namespace tarnwick::objects

@@ -43,7 +43,7 @@ QStringList DialogFilters(std::string_view filter) {
   return filters;
 }
 
-std::vector<std::string> PickFilesByDialog(const ObjectRecord& dialog, QWidget* parent) {
+objects::PickedNames PickFilesByDialog(const ObjectRecord& dialog, QWidget* parent) {
   const bool save = dialog.Is(ObjectClass::QSaveDialog);
   QFileDialog shown(parent);
   shown.setObjectName(looks::ToQString(dialog.FullName()));
@@ -75,12 +75,13 @@ std::vector<std::string> PickFilesByDialog(const ObjectRecord& dialog, QWidget* 
       NativeFolder(named_folder.empty() ? dialog.Text(Word::InitialDir) : named_folder));
   const std::string_view bare = BareName(name);
   if (!bare.empty()) shown.selectFile(looks::ToQString(bare));
-  std::vector<std::string> files;
-  if (shown.exec() != QDialog::Accepted) return files;
+  objects::PickedNames picked;
+  if (shown.exec() != QDialog::Accepted) return picked;
   for (const QString& file : shown.selectedFiles()) {
-    files.push_back(PathFromNative(QDir::cleanPath(file).toStdString()));
+    picked.Files.push_back(PathFromNative(QDir::cleanPath(file).toStdString()));
   }
-  return files;
+  picked.FilterIndex = filters.indexOf(shown.selectedNameFilter()) + 1;
+  return picked;
 }
 
 }  // namespace tarnwick::run

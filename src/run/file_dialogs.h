@@ -2,9 +2,7 @@
 #pragma once
 
 #include <QStringList>
-#include <string>
 #include <string_view>
-#include <vector>
 
 #include "run/object_view.h"
 
@@ -13,9 +11,8 @@ namespace tarnwick::run {
 /// The filters of a Filter text such as "Texts|*.txt;*.ini|All|*.*", as the toolkit's dialog takes
 /// them.
 [[nodiscard]] QStringList DialogFilters(std::string_view filter);
-/// Shows the dialog of a QOPENDIALOG or QSAVEDIALOG and returns the Windows paths picked; none when
-/// the user gave up.
-[[nodiscard]] std::vector<std::string> PickFilesByDialog(const ObjectRecord& dialog,
-                                                         QWidget* parent);
+/// Shows the dialog of a QOPENDIALOG or QSAVEDIALOG and returns the Windows paths picked, none when
+/// the user gave up, and the filter chosen.
+[[nodiscard]] objects::PickedNames PickFilesByDialog(const ObjectRecord& dialog, QWidget* parent);
 
 }  // namespace tarnwick::run

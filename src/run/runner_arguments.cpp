@@ -143,7 +143,7 @@ std::string RunnerHelp() {
              "program;\n"
              "                          after \"leave\" it goes on by itself\n"
              "  --report=tab            messages as fields with tabs between\n"
-             "  --trace F               write what the windows are told to a file\n"
+             "  --trace F               write the changes that the windows show to a file\n"
              "  --supported             print what is not supported, and run nothing\n") +
          hosts::RunSettingsHelp() +
          "  Exit codes: 0 ended, 1 source faulty, 2 usage, 3 run-time error, 4 limit, 5 stopped,\n"

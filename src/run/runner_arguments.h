@@ -15,7 +15,7 @@ struct RunnerArguments : hosts::RunSettings {
   std::vector<std::string> Arguments;  ///< of the program, UTF-8
   std::string ProgramFolder;           ///< Windows path without "\" at the end; "" for none
   std::string ExeName;                 ///< Windows path; "": the source's name with .exe
-  std::string Trace;                   ///< file of this machine for what the windows were told
+  std::string Trace;                   ///< file of this machine for the changes shown
   hosts::ReportForm Report = hosts::ReportForm::People;
   bool WithIde = false;    ///< standard input stops the program
   bool Supported = false;  ///< print what is supported and run nothing

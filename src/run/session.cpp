@@ -17,6 +17,7 @@
 #include "hosts/stream_console.h"
 #include "looks/text_bridge.h"
 #include "objects/class_table.h"
+#include "objects/traced_widgets.h"
 #include "platform/native_files.h"
 #include "platform/profile_files.h"
 #include "run/desktop_system.h"
@@ -36,7 +37,7 @@ using hosts::RunReport;
 /// Between two repaints of windows while the program does not wait for events.
 constexpr auto kRepaintEvery = std::chrono::milliseconds(250);
 
-/// What the program is told of itself.
+/// What the program can ask about itself.
 objects::ProgramFacts FactsOf(const PreparedProgram& program, const RunnerArguments& arguments) {
   const std::string_view path = program.Files.File(0).Path;
   const std::string_view name = BareName(path);
@@ -111,12 +112,22 @@ class SleepingWindows {
   std::chrono::steady_clock::time_point last_ = std::chrono::steady_clock::now();
 };
 
+using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+/// Line by line, so that the file has all lines when the program hangs or is ended.
+void WriteTrace(std::FILE* file, std::string_view line) {
+  const std::string text = CodePageToUtf8(line) + "\n";
+  std::fwrite(text.data(), 1, text.size(), file);
+  std::fflush(file);
+}
+
+/// `trace` gets the changes that the windows show; null for none.
 basic::RunResult RunCode(const PreparedProgram& program, const RunnerArguments& arguments,
-                         const RunStreams& streams) {
+                         const RunStreams& streams, std::FILE* trace) {
   std::vector<std::string> words;
   for (const std::string& word : arguments.Arguments) words.push_back(Utf8ToCodePage(word));
   // Standard input belongs to the program that started this one, if there is one.
-  std::unique_ptr<std::FILE, int (*)(std::FILE*)> nothing(nullptr, &std::fclose);
+  File nothing(nullptr, &std::fclose);
   if (arguments.WithIde) nothing.reset(std::fopen("/dev/null", "rb"));
   hosts::StreamConsole console(nothing ? nothing.get() : streams.In, streams.Out);
   hosts::DiskFiles files;
@@ -126,7 +137,10 @@ basic::RunResult RunCode(const PreparedProgram& program, const RunnerArguments& 
   ProfileFiles profiles(disk);
   hosts::ProfileCalls natives(profiles);
   Stage stage;
-  objects::ObjectWorld world(stage, &files, FactsOf(program, arguments));
+  objects::TracedWidgets traced(stage, [&](std::string_view line) { WriteTrace(trace, line); });
+  objects::ObjectWorld world(trace != nullptr ? static_cast<objects::WidgetPort&>(traced) : stage,
+                             &files, FactsOf(program, arguments));
+  traced.Connect(world);
   stage.Connect(world);
   basic::Machine machine(program.Code, {&console, &world, &files, &clock, &system, &natives},
                          arguments.Options());
@@ -185,8 +199,16 @@ RunExit Run(const RunnerArguments& arguments, const RunStreams& streams, RunRepo
     if (!arguments.WithIde) ShowSourceErrors(program, report, arguments.Source);
     return RunExit::Faulty;
   }
+  File trace(nullptr, &std::fclose);
+  if (!arguments.Trace.empty()) {
+    trace.reset(std::fopen(arguments.Trace.c_str(), "wb"));
+    if (trace == nullptr) {
+      report.Say({}, "error", "The trace cannot be written: " + Utf8ToCodePage(arguments.Trace));
+      return RunExit::Usage;
+    }
+  }
   report.Signal("start");
-  const basic::RunResult result = RunCode(program, arguments, streams);
+  const basic::RunResult result = RunCode(program, arguments, streams, trace.get());
   const RunExit exit = report.SayResult(result);
   if (result.End == basic::RunEnd::Error) ShowRunTimeError(program, report, result, arguments);
   return exit;

@@ -19,7 +19,7 @@ Stage::Stage()
       surfaces_(std::make_unique<DrawingSurfaces>(*this)) {}
 
 Stage::~Stage() {
-  // The objects are gone already: what windows tell while they close is lost.
+  // The objects are gone already: what windows report while they close is lost.
   world_ = nullptr;
   for (const auto& [id, view] : views_) retired_.push_back(view);
   for (ObjectView* const view : retired_) {
@@ -119,11 +119,11 @@ objects::TextSize Stage::Measure(const objects::FontValues& font, std::string_vi
   return {laid.Width, laid.Height};
 }
 
-std::vector<std::string> Stage::PickFiles(const ObjectRecord& dialog) {
+objects::PickedNames Stage::PickFiles(const ObjectRecord& dialog) {
   ++depth_;
-  std::vector<std::string> files = PickFilesByDialog(dialog, QApplication::activeWindow());
+  objects::PickedNames picked = PickFilesByDialog(dialog, QApplication::activeWindow());
   --depth_;
-  return files;
+  return picked;
 }
 
 // --- Events

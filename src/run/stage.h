@@ -45,7 +45,7 @@ class Stage final : public objects::WidgetPort {
   void Repaint() override;
   objects::TextSize Measure(const objects::FontValues& font, std::string_view text,
                             int wrap_width) override;
-  std::vector<std::string> PickFiles(const ObjectRecord& dialog) override;
+  objects::PickedNames PickFiles(const ObjectRecord& dialog) override;
 
   // --- For the views
   [[nodiscard]] objects::ObjectWorld& World() const { return *world_; }

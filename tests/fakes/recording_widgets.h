@@ -1,4 +1,4 @@
-// Widgets of a running program that are none: a log of what they were told.
+// Widgets of a running program that are none: a log of the calls to them.
 #pragma once
 
 #include <deque>
@@ -50,14 +50,14 @@ class RecordingWidgets : public objects::WidgetPort {
   objects::TextSize Measure(const objects::FontValues& font, std::string_view text, int) override {
     return {static_cast<int>(text.size() * 6), static_cast<int>(font.Size) + 5};
   }
-  std::vector<std::string> PickFiles(const Record& dialog) override {
+  objects::PickedNames PickFiles(const Record& dialog) override {
     Log += "pick " + dialog.FullName() + "\n";
     return Picked;
   }
 
   std::string Log;
   std::deque<std::function<void()>> Steps;  ///< what the user does, one at a time
-  std::vector<std::string> Picked;          ///< of the next dialogs
+  objects::PickedNames Picked;              ///< of the next dialogs
 };
 
 }  // namespace tarnwick::test

@@ -88,7 +88,7 @@ TEST(Dialogs, ExecuteGivesTheFilesOrZero) {
   ObjectProgram picked(
       "DIM D AS QOPENDIALOG\nPRINT D.Execute; D.FileName; D.Files(1)\n"
       "PRINT D.Files(2)");
-  picked.Widgets.Picked = {"C:\\a.txt", "C:\\b.txt"};
+  picked.Widgets.Picked = {{"C:\\a.txt", "C:\\b.txt"}, 0};
   EXPECT_EQ(picked.Run(), "1C:\\a.txtC:\\b.txt\nerror: D has no file 2: it has 2, counted from 0");
 }
 

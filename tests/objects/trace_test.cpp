@@ -20,6 +20,7 @@
 #include "fakes/program_hosts.h"
 #include "hosts/profile_calls.h"
 #include "objects/scripted_widgets.h"
+#include "objects/traced_widgets.h"
 #include "platform/profile_files.h"
 
 namespace tarnwick::objects {
@@ -69,12 +70,14 @@ std::string TraceOf(const fs::path& program, const std::string& script) {
   ProfileFiles profiles(disk);
   hosts::ProfileCalls natives(profiles);
   ScriptedWidgets widgets(script);
-  widgets.Trace = [&](std::string_view line) { trace += std::string(line) + "\n"; };
+  widgets.Played = [&](std::string_view line) { trace += std::string(line) + "\n"; };
+  TracedWidgets traced(widgets, widgets.Played);
   ProgramFacts facts{"C:\\work\\program.exe", "program", {}};
   for (const basic::Resource& resource : checked.Checked->Resources) {
     facts.Resources.emplace_back(resource.File);
   }
-  ObjectWorld world(widgets, &files, facts);
+  ObjectWorld world(traced, &files, facts);
+  traced.Connect(world);
   widgets.Play(world);
   basic::RunOptions options;
   options.MaxSteps = 10'000'000;

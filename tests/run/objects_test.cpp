@@ -179,6 +179,28 @@ TEST(RunObjectsTest, AListIsPickedByMouseAndArrowKeys) {
   EXPECT_EQ(live.Printed, "122");
 }
 
+TEST(RunObjectsTest, OfManyEntriesEachClickCountsAtOnce) {
+  LiveProgram live(
+      FormWith("DIM L AS QLISTBOX: L.Parent = F: L.MultiSelect = 1\n"
+               "L.AddItems \"one\", \"two\", \"three\"",
+               "SUB Picked\nPRINT L.ItemIndex; \":\"; L.SelCount; \" \";\nEND SUB\n"
+               "L.OnClick = Picked"));
+  live.Then([&] {
+    auto& list = live.The<QListWidget>("L");
+    const auto click = [&](int row, Qt::KeyboardModifiers keys) {
+      QTest::mouseClick(list.viewport(), Qt::LeftButton, keys,
+                        list.visualItemRect(list.item(row)).center());
+    };
+    click(0, {});
+    click(2, Qt::ControlModifier);
+    click(2, Qt::ControlModifier);
+    QTest::keyClick(&list, Qt::Key_Up, Qt::ControlModifier);
+    QTest::keyClick(&list, Qt::Key_Space, Qt::ControlModifier);
+  });
+  live.Run();
+  EXPECT_EQ(live.Printed, "0:1 2:2 2:1 1:1 1:2 ");
+}
+
 TEST(RunObjectsTest, AComboIsPickedByKeysAndTyped) {
   LiveProgram live(
       FormWith("DIM C AS QCOMBOBOX: C.Parent = F: C.Style = 2: C.AddItems \"one\", \"two\"\n"

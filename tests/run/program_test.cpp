@@ -113,6 +113,31 @@ TEST(RunnerProgramTest, LimitsEndAProgramThatWaitsOrWorks) {
   EXPECT_EQ(works.End().Exit, 4);
 }
 
+TEST(RunnerProgramTest, TheTraceHasTheChangesThatTheWindowsShow) {
+  const TemporaryFolder folder;
+  const std::string file = folder.Native("trace.txt");
+  RunnerProcess runner(
+      "DIM F AS QFORM: DIM L AS QLABEL: L.Parent = F: L.Caption = \"one\"\n"
+      "F.Show\nL.Caption = \"two\": L.Free\n",
+      kIde + QStringList{QStringLiteral("--trace"), QString::fromStdString(file)});
+  EXPECT_EQ(runner.End().Exit, 0);
+  const std::string trace = folder.Read("trace.txt");
+  EXPECT_TRUE(trace.starts_with("realise F QFORM\nrealise L QLABEL\n")) << trace;
+  EXPECT_NE(trace.find("\nF.Visible = 1\n"), std::string::npos) << trace;
+  EXPECT_NE(trace.find("\nL.Caption = two\n"), std::string::npos) << trace;
+  EXPECT_NE(trace.find("\ndestroy L\n"), std::string::npos) << trace;
+}
+
+TEST(RunnerProgramTest, ATraceThatCannotBeWrittenIsUsage) {
+  const TemporaryFolder folder;
+  RunnerProcess runner("PRINT 1\n",
+                       kIde + QStringList{QStringLiteral("--trace"),
+                                          QString::fromStdString(folder.Native("none/t.txt"))});
+  const Outcome outcome = runner.End();
+  EXPECT_EQ(outcome.Exit, 2);
+  EXPECT_EQ(outcome.Out, QString());
+}
+
 TEST(RunnerProgramTest, WrongWordsAreUsage) {
   RunnerProcess runner("PRINT 1\n", {QStringLiteral("--fast")});
   EXPECT_EQ(runner.End().Exit, 2);

@@ -1,4 +1,4 @@
-#include <QApplication>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QPainter>
 #include <QScrollBar>
@@ -44,7 +44,7 @@ class RowPainter final : public QStyledItemDelegate {
 
 class ListField final : public QListWidget {
  public:
-  explicit ListField(const ListView& view) : view_(view) {
+  explicit ListField(ListView& view) : view_(view) {
     setFrameStyle(QFrame::Panel | QFrame::Sunken);
     setLineWidth(looks::kListEdge);
     viewport()->setAutoFillBackground(false);
@@ -60,12 +60,26 @@ class ListField final : public QListWidget {
     PaintField(*this, view_);
     return true;
   }
+  // A press moves the focus to the entry first and selects it then: the choice is what stands
+  // behind the whole press.
+  void mousePressEvent(QMouseEvent* event) override {
+    view_.Pressing(true);
+    QListWidget::mousePressEvent(event);
+    view_.Pressing(false);
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    view_.Keying(true);
+    QListWidget::keyPressEvent(event);
+    view_.Keying(false);
+    const bool many = selectionMode() != SingleSelection;
+    if (many && event->key() == Qt::Key_Space && currentRow() >= 0) view_.Pressed(currentRow());
+  }
 
  private:
-  const ListView& view_;
+  ListView& view_;
 };
 
-QListWidget* MakeListField(const ListView& view) {
+QListWidget* MakeListField(ListView& view) {
   return new ListField(view);
 }
 
@@ -76,17 +90,8 @@ ListView::ListView(Stage& stage, const ObjectRecord& list)
   Events().Watch(List(), *List().viewport());
   connect(&List(), &QListWidget::currentRowChanged, this, [this] { Picked(); });
   connect(&List(), &QListWidget::itemSelectionChanged, this, [this] { SelectionChanged(); });
-  // A click on the entry that is picked already is a click too.
-  connect(&List(), &QListWidget::itemPressed, this, [this](QListWidgetItem* item) {
-    const ObjectRecord* const record = Record();
-    if (record == nullptr || picked_now_) {
-      picked_now_ = false;
-      return;
-    }
-    if (record->Number(Word::ItemIndex) != List().row(item)) return Picked();
-    Stage& on = this->stage();
-    on.Raise(Id(), Word::OnClick);
-  });
+  connect(&List(), &QListWidget::itemPressed, this,
+          [this](QListWidgetItem* item) { Pressed(List().row(item)); });
 }
 
 QListWidget& ListView::List() const {
@@ -95,13 +100,25 @@ QListWidget& ListView::List() const {
 
 void ListView::Picked() {
   const ObjectRecord* const list = Record();
-  if (showing_ || list == nullptr || List().currentRow() < 0) return;
-  // The focus goes to an entry without picking it.
-  if (!list->Truth(Word::MultiSelect) && !List().currentItem()->isSelected()) return;
-  picked_now_ = QApplication::mouseButtons() != Qt::NoButton;
+  if (showing_ || pressing_ || list == nullptr || List().currentRow() < 0) return;
+  // The focus goes to an entry without picking it; of many, the keys pick the one they reach.
+  const bool reached = list->Truth(Word::MultiSelect) && keying_;
+  if (!reached && !List().currentItem()->isSelected()) return;
   stage().Report([this, row = List().currentRow()] {
     stage().World().UserSet(Id(), Word::ItemIndex, Value::Integer(row));
   });
+}
+
+void ListView::Pressed(int row) {
+  const ObjectRecord* const list = Record();
+  if (list == nullptr) return;
+  // A click on the entry that is picked already is a click too.
+  if (list->Number(Word::ItemIndex) == row) {
+    stage().Raise(Id(), Word::OnClick);
+    return;
+  }
+  stage().Report(
+      [this, row] { stage().World().UserSet(Id(), Word::ItemIndex, Value::Integer(row)); });
 }
 
 void ListView::SelectionChanged() {

@@ -15,6 +15,12 @@ class ListView final : public TableView<ListView> {
   bool Live(const ObjectRecord& list, const MemberInfo& member, std::span<const Value> index,
             Value& out) override;
 
+  /// A press of a mouse button is being handled: what it picks is known behind it.
+  void Pressing(bool pressing) { pressing_ = pressing; }
+  void Keying(bool keying) { keying_ = keying; }
+  /// The user pressed an entry, whether or not it was picked before.
+  void Pressed(int row);
+
   void ShowEntries(const ObjectRecord& list);
   void ShowMode(const ObjectRecord& list);
   void ShowPicked(const ObjectRecord& list);
@@ -31,8 +37,9 @@ class ListView final : public TableView<ListView> {
   [[nodiscard]] QListWidget& List() const;
   void Picked();
   void SelectionChanged();
-  bool showing_ = false;     ///< what changes now is no choice of the user
-  bool picked_now_ = false;  ///< the press that comes has picked another entry already
+  bool showing_ = false;  ///< what changes now is no choice of the user
+  bool pressing_ = false;
+  bool keying_ = false;
 };
 
 class ComboView final : public TableView<ComboView> {
