@@ -49,6 +49,10 @@ void clsStyle::pRedraw() const {
   if (Redraw) Redraw();
 }
 
+void clsStyle::ShowSysMenu() const {
+  if (SysMenu) SysMenu();
+}
+
 bool ApplyBorderStyle(clsStyle& style, int code) {
   if (code < 0 || code > kLastBorderStyle) return false;
   const auto& row = kBorderStyles[static_cast<std::size_t>(code)];

@@ -28,12 +28,15 @@ class clsStyle {
   int hwnd = 0;
   /// Called after each change of a member.
   std::function<void()> Redraw;
+  /// Called when the window's system menu is wanted.
+  std::function<void()> SysMenu;
 
   /// A sizable window with a title bar and its three buttons.
   clsStyle() noexcept;
   [[nodiscard]] bool Get(Member member) const noexcept;
   void Set(Member member, bool value);
   void pRedraw() const;
+  void ShowSysMenu() const;
 
  private:
   unsigned bits_;

@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <set>
+#include <tuple>
 #include <utility>
 
 #include "basic/source/preprocessor.h"
+#include "basic/source/source_set.h"
 #include "basic/syntax/parser.h"
+#include "text/code_page.h"
 #include "text/strings.h"
 
 namespace tarnwick::editor {
@@ -15,6 +18,7 @@ namespace {
 /// The first line of a generated program. The parser accepts irregular lines of generated text
 /// only behind it.
 constexpr std::string_view kProgramBegin = "Dim Font As QFont\r\n";
+constexpr std::string_view kOwnInclude = "Tarnwick1.lib";
 constexpr std::string_view kEventBegin = "Sub Event\r\n";
 constexpr std::string_view kEventEnd = "\r\nEnd Sub\r\n";
 
@@ -38,63 +42,88 @@ void DropTokensBefore(std::vector<basic::SourceToken>& tokens, std::uint32_t fir
   });
 }
 
+/// The directives of a code by which the text of another event may read otherwise: they change what
+/// a name or a text is.
+struct OtherMacros {
+  std::string Undefined;  ///< these first, so that what is defined anywhere is defined
+  std::string Defined;
+
+  void Add(std::string_view code) {
+    for (std::size_t at = code.find('$'); at != std::string_view::npos; at = code.find('$', at)) {
+      const std::size_t begin = code.substr(0, at).find_last_of("\r\n") + 1;
+      const std::size_t end = std::min(code.find_first_of("\r\n", at), code.size());
+      const std::string_view line = Trim(code.substr(begin, end - begin));
+      if (StartsWithFolded(line, "$undef")) {
+        Undefined.append(line).append(kLineEnd);
+      } else if (StartsWithFolded(line, "$define") || StartsWithFolded(line, "$macro") ||
+                 EqualsFolded(line, "$escapechars on")) {
+        Defined.append(line).append(kLineEnd);
+      }
+      at = end;
+    }
+  }
+};
+
+/// Keeps the marks that `others` holds too.
+void KeepThoseOf(const std::vector<CodeMark>& others, std::vector<CodeMark>& marks) {
+  std::set<std::tuple<int, int, std::string_view>> known;
+  for (const CodeMark& mark : others) known.emplace(mark.Line, mark.Column, mark.Text);
+  std::erase_if(marks, [&known](const CodeMark& mark) {
+    return !known.contains({mark.Line, mark.Column, mark.Text});
+  });
+}
+
 }  // namespace
 
-class CodeMarks::Sources final : public basic::SourceReader {
+class CodeCheck::Sources final : public basic::SourceReader {
  public:
-  explicit Sources(CodeMarks& marks) : marks_(marks) {}
+  explicit Sources(const Files& files) : files_(files) {}
   std::optional<std::string> ReadSource(const std::string& path) override {
-    const auto [file, added] = marks_.included_.try_emplace(path);
-    if (added) file->second = marks_.files_.Read(path);
     // One file is looked for in several folders, under one name.
     std::string name = path.substr(path.find_last_of("\\/:") + 1);
-    if (file->second) {
+    const auto file = files_.find(path);
+    if (file != files_.end() && file->second) {
       missing_.erase(name);
-    } else {
-      missing_.insert(std::move(name));
+      return file->second;
     }
-    return file->second;
+    // The generated lines need the program's own file; what is checked here does without it.
+    if (name != kOwnInclude) missing_.insert(std::move(name));
+    if (file == files_.end()) unread_.insert(path);
+    return std::nullopt;
   }
   /// True when a file that was asked for is in none of the folders.
   [[nodiscard]] bool AnyMissing() const noexcept { return !missing_.empty(); }
+  [[nodiscard]] std::vector<std::string> Unread() const { return {unread_.begin(), unread_.end()}; }
 
  private:
-  CodeMarks& marks_;
+  const Files& files_;
   std::set<std::string> missing_;
+  std::set<std::string> unread_;
 };
 
-std::string CodeMarks::DeclarationsBefore(int form) const {
-  std::string all;
-  for (int number = 1; number < form; ++number) {
-    const FormRec* record = project_.IsLive(number) ? project_.Form(number) : nullptr;
-    if (record != nullptr) all.append(record->DeclarePbl).append(kLineEnd);
+CodeCheck::Found CodeCheck::Run() const {
+  Sources reader(*files_);
+  Found found{MarksBehind(before_, reader), {}};
+  if (!other_before_.empty() && !found.Marks.empty()) {
+    KeepThoseOf(MarksBehind(other_before_, reader), found.Marks);
   }
-  return all;
+  found.Unread = reader.Unread();
+  return found;
 }
 
-std::vector<CodeMark> CodeMarks::OfEvent(std::string_view code) {
-  return Check(DeclarationsBefore(project_.FormsCount + 1), kEventBegin, code, kEventEnd);
-}
-
-std::vector<CodeMark> CodeMarks::OfDeclarations(int form, std::string_view text) {
-  return Check(DeclarationsBefore(form), {}, text, kLineEnd);
-}
-
-std::vector<CodeMark> CodeMarks::Check(std::string_view before, std::string_view head,
-                                       std::string_view text, std::string_view tail) {
-  std::string program(kProgramBegin);
-  program.append(before).append(head);
+std::vector<CodeMark> CodeCheck::MarksBehind(std::string_view before, Sources& reader) const {
+  std::string program(before);
+  program.append(head_);
   const auto first = static_cast<std::uint32_t>(LineEndsIn(program) + 1);
-  const auto last = first + static_cast<std::uint32_t>(LineEndsIn(text));
-  program.append(text).append(tail);
+  const auto last = first + static_cast<std::uint32_t>(LineEndsIn(text_));
+  program.append(text_).append(tail_);
 
   basic::SourceSet files;
-  if (!files.Add(project_.ProjectFile, std::move(program))) return {};
-  Sources reader(*this);
+  if (!files.Add(project_file_, std::move(program))) return {};
   basic::Messages found;
-  basic::TokenStream stream = basic::Preprocess(files, reader, {project_.ProgramFolder}, found);
+  basic::TokenStream stream = basic::Preprocess(files, reader, {program_folder_}, found);
   if (!reader.AnyMissing()) {
-    DropTokensBefore(stream.Tokens, head.empty() ? first : first - 1);
+    DropTokensBefore(stream.Tokens, head_.empty() ? first : first - 1);
     // The tree itself is not needed.
     static_cast<void>(basic::Parse(stream, false, found));
   }
@@ -117,6 +146,58 @@ std::vector<CodeMark> CodeMarks::Check(std::string_view before, std::string_view
     marks.push_back(std::move(mark));
   }
   return marks;
+}
+
+std::string CodeMarks::DeclarationsBefore(int form) const {
+  std::string all(kProgramBegin);
+  all.append("$INCLUDE \"").append(project_.ProgramFolder).append("\\");
+  all.append(kOwnInclude).append("\"").append(kLineEnd);
+  for (int number = 1; number < form; ++number) {
+    const FormRec* record = project_.IsLive(number) ? project_.Form(number) : nullptr;
+    if (record != nullptr) all.append(record->DeclarePbl).append(kLineEnd);
+  }
+  return all;
+}
+
+std::string CodeMarks::MacrosOfEvents(std::string_view but_key) const {
+  OtherMacros macros;
+  project_.EventTable.ForEach([&](const std::string& key, const std::string& code) {
+    if (!EqualsFolded(key, but_key)) macros.Add(code);
+  });
+  return macros.Undefined + macros.Defined;
+}
+
+CodeCheck CodeMarks::CheckOf(std::string text) const {
+  CodeCheck check;
+  check.project_file_ = project_.ProjectFile;
+  check.program_folder_ = project_.ProgramFolder;
+  check.text_ = std::move(text);
+  check.files_ = included_;
+  return check;
+}
+
+CodeCheck CodeMarks::EventCheck(std::string_view key, std::string code) const {
+  CodeCheck check = CheckOf(std::move(code));
+  check.head_ = kEventBegin;
+  check.tail_ = kEventEnd;
+  check.before_ = DeclarationsBefore(project_.FormsCount + 1);
+  if (const std::string macros = MacrosOfEvents(key); !macros.empty()) {
+    check.other_before_ = check.before_ + macros;
+  }
+  return check;
+}
+
+CodeCheck CodeMarks::DeclarationsCheck(int form, std::string text) const {
+  CodeCheck check = CheckOf(std::move(text));
+  check.tail_ = kLineEnd;
+  check.before_ = DeclarationsBefore(form);
+  return check;
+}
+
+void CodeMarks::Read(const std::vector<std::string>& paths) {
+  CodeCheck::Files known = *included_;
+  for (const std::string& path : paths) known.insert_or_assign(path, files_.Read(path));
+  included_ = std::make_shared<const CodeCheck::Files>(std::move(known));
 }
 
 }  // namespace tarnwick::editor

@@ -1,14 +1,13 @@
 // The mistakes of a code that is being typed.
 #pragma once
 
-#include <cstddef>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "basic/source/source_set.h"
 #include "model/project_records.h"
 #include "platform/ports.h"
 
@@ -29,37 +28,70 @@ struct CodeMark {
   friend bool operator==(const CodeMark&, const CodeMark&) = default;
 };
 
+/// One check of a text, with copies of all that it reads: it may run on another thread.
+class CodeCheck {
+ public:
+  /// What included files hold, by path; nothing for one that is not there.
+  using Files = std::map<std::string, std::optional<std::string>>;
+  struct Found {
+    std::vector<CodeMark> Marks;  ///< sorted by place
+    /// Files that the program includes and the check does not know. They are taken as missing: to
+    /// be read, and the text checked again.
+    std::vector<std::string> Unread;
+  };
+
+  [[nodiscard]] Found Run() const;
+
+ private:
+  friend class CodeMarks;
+  class Sources;
+  [[nodiscard]] std::vector<CodeMark> MarksBehind(std::string_view before, Sources& reader) const;
+
+  std::string project_file_;
+  std::string program_folder_;
+  std::string before_;  ///< what the program holds ahead of the text
+  /// What it may hold there as well; "" for nothing else. A mistake is one behind both.
+  std::string other_before_;
+  std::string_view head_;
+  std::string text_;
+  std::string_view tail_;
+  std::shared_ptr<const Files> files_;
+};
+
 /// Finds mistakes with the language's own reader and parser: texts without closing quote, blocks
 /// without end, statements that cannot be read. Names are not looked up, because other forms and
 /// the generated lines declare many of them.
 ///
-/// A text is read as the generated program will hold it: behind the Public Declarations, whose
-/// macros and directives count in it. When a file that they include is not there, its macros are
-/// unknown, so only what does not depend on macros is reported.
+/// A text is read as the generated program will hold it: behind the program's own include file and
+/// the Public Declarations, whose macros and directives count in it. The code of other events may
+/// define macros too; whether it stands ahead of the text or behind it, what is no mistake with
+/// them or without them is not marked. When a file that the declarations include is not there, its
+/// macros are unknown, so only what does not depend on macros is reported.
 class CodeMarks {
  public:
   CodeMarks(const ProjectTables& project, FilePort& files) : project_(project), files_(files) {}
 
-  /// The marks of an event's code, sorted by place. The code is what stands between `Sub` and
-  /// `End Sub`, and may itself end that Sub and begin others.
-  [[nodiscard]] std::vector<CodeMark> OfEvent(std::string_view code);
-  /// The marks of a form's Public Declarations. Forms behind it do not count in them.
-  [[nodiscard]] std::vector<CodeMark> OfDeclarations(int form, std::string_view text);
+  /// The check of an event's code. The code is what stands between `Sub` and `End Sub`, and may
+  /// itself end that Sub and begin others. What is stored under `key` is not looked at.
+  [[nodiscard]] CodeCheck EventCheck(std::string_view key, std::string code) const;
+  /// The check of a form's Public Declarations. Forms behind it do not count in them.
+  [[nodiscard]] CodeCheck DeclarationsCheck(int form, std::string text) const;
+  /// Reads files for the checks that are made from now on.
+  void Read(const std::vector<std::string>& paths);
   /// Reads included files again at the next check.
-  void ForgetFiles() { included_.clear(); }
+  void ForgetFiles() { included_ = std::make_shared<const CodeCheck::Files>(); }
 
  private:
-  /// The Public Declarations of the forms in front of a number, each ending with a line end.
+  [[nodiscard]] CodeCheck CheckOf(std::string text) const;
+  /// The include file and the declarations of the forms in front of a number, each ending with a
+  /// line end.
   [[nodiscard]] std::string DeclarationsBefore(int form) const;
-  [[nodiscard]] std::vector<CodeMark> Check(std::string_view before, std::string_view head,
-                                            std::string_view text, std::string_view tail);
-
-  /// Reads included files once and keeps them.
-  class Sources;
+  [[nodiscard]] std::string MacrosOfEvents(std::string_view but_key) const;
 
   const ProjectTables& project_;
   FilePort& files_;
-  std::map<std::string, std::optional<std::string>> included_;
+  /// What was read so far; checks that run share it.
+  std::shared_ptr<const CodeCheck::Files> included_ = std::make_shared<const CodeCheck::Files>();
 };
 
 }  // namespace tarnwick::editor

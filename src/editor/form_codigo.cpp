@@ -67,7 +67,7 @@ void FormCodigo::Open() {
         LoadEvents(target_.KindWord);
       } else {
         project_.JumpKey.clear();
-        editor_.SetText("");
+        ShowText();
       }
   }
 }
@@ -93,7 +93,7 @@ void FormCodigo::LoadNamedItem(const EventKey& key) {
   caption_ = target_.NameObjet;
   events_ = {{"Sub " + caption_ + "_" + std::string(InfoOf(key.Id).Signature), key.Id}};
   event_row_ = 0;
-  ShowTextOf(ShownKey());
+  ShowText();
 }
 
 std::string FormCodigo::WantedEvent() {
@@ -111,7 +111,7 @@ void FormCodigo::LoadEvents(std::string_view kind_word) {
   if (wanted.empty() && target_.What == CodeTarget::Sort::Form) {
     settings_.WriteEventIndex(kEventsIndexSection, KeyPrefixOf(target_), kDefaultFormRow);
   }
-  ShowTextOf(ShownKey());
+  ShowText();
   IsLoading_ = false;
 }
 
@@ -121,47 +121,44 @@ std::string FormCodigo::ShownKey() const {
   return KeyPrefixOf(target_).append(InfoOf(event).Suffix);
 }
 
-void FormCodigo::ShowTextOf(const std::string& key) {
-  const std::string* code = key.empty() ? nullptr : project_.EventTable.Find(key);
+void FormCodigo::ShowText() {
+  std::string key = ShownKey();
   // An entry that is not there and an empty one show the same page.
-  shown_text_ = code == nullptr ? std::string() : *code;
-  editor_.SetText(shown_text_);
+  const std::string* code = key.empty() ? nullptr : project_.EventTable.Find(key);
+  typed_.Show(std::move(key), code);
 }
 
 void FormCodigo::StoreText(const std::string& text) {
-  const std::string key = ShownKey();
+  const std::string& key = typed_.Key();
   if (key.empty()) return;
-  // A new text takes the place of one that was lost; what was only looked at does not.
-  if (text != shown_text_) drafts_.Drop(key);
-  shown_text_ = text;
+  typed_.Stored(text);
+  const std::string* const entry = project_.EventTable.Find(key);
   if (target_.What == CodeTarget::Sort::NamedItem && text.empty()) {
     // An item that was opened by its name has no entry while it has no code.
     project_.EventTable.Remove(key);
-  } else {
+  } else if (entry == nullptr ? !text.empty() : *entry != text) {
     project_.EventTable.Replace(key, text);
   }
 }
 
 void FormCodigo::StoreShown() {
-  if (!IsOpen()) return;
-  const std::string text = editor_.Text();
-  if (text == shown_text_) return StoreText(text);
+  if (!typed_.Differs()) return;
   host_.AcceptBegins(target_.Form, "Code " + caption_);
-  StoreText(text);
+  StoreText(typed_.Text());
   host_.CodeAccepted(target_.Form);
 }
 
 void FormCodigo::Events_Click(int row) {
-  if (IsLoading_ || !IsOpen() || row < 0 || row >= static_cast<int>(events_.size())) return;
-  if (row == event_row_) return;
+  if (IsLoading_ || row == event_row_) return;
+  if (row < 0 || row >= static_cast<int>(events_.size())) return;
   StoreShown();
   event_row_ = row;
-  ShowTextOf(ShownKey());
+  ShowText();
 }
 
 void FormCodigo::Accept() {
   if (!IsOpen()) return;
-  const std::string text = editor_.Text();
+  const std::string text = typed_.Text();
   const int form = target_.Form;
   host_.AcceptBegins(form, "Code " + caption_);
   StoreText(text);
@@ -189,47 +186,7 @@ void FormCodigo::Accept() {
 }
 
 void FormCodigo::Cancel() {
-  if (!IsOpen()) return;
-  if (std::string text = editor_.Text(); text != shown_text_ && event_row_ >= 0) {
-    drafts_.Keep(ShownKey(), std::move(text));
-  }
-  Close();
-}
-
-const std::string* FormCodigo::Lost() const {
-  return IsOpen() ? drafts_.Find(ShownKey()) : nullptr;
-}
-
-void FormCodigo::RestoreLost() {
-  const std::string* lost = Lost();
-  if (lost == nullptr) return;
-  // As if it were typed: undo brings the stored text back.
-  const std::string text = *lost;
-  const int last = editor_.LineCount() - 1;
-  editor_.SetSel({0, 0, last, static_cast<int>(editor_.GetLine(last).size())});
-  editor_.SetSelText(text);
-  DiscardLost();
-}
-
-bool FormCodigo::HasTyped() const {
-  return IsOpen() && event_row_ >= 0 && editor_.Text() != shown_text_;
-}
-
-CodeDrafts::Texts FormCodigo::NotAccepted() const {
-  CodeDrafts::Texts texts = drafts_.All();
-  if (HasTyped()) texts.insert_or_assign(ShownKey(), editor_.Text());
-  return texts;
-}
-
-void FormCodigo::KeepDrafts(const CodeDrafts::Texts& texts) {
-  for (const auto& [key, text] : texts) {
-    const std::string* const stored = project_.EventTable.Find(key);
-    if (stored == nullptr ? !text.empty() : *stored != text) drafts_.Keep(key, text);
-  }
-}
-
-void FormCodigo::DiscardLost() {
-  if (IsOpen()) drafts_.Drop(ShownKey());
+  if (IsOpen()) Close();
 }
 
 void FormCodigo::NameChanged(int form, std::string_view old_name, std::string_view new_name) {
@@ -243,6 +200,7 @@ void FormCodigo::NameChanged(int form, std::string_view old_name, std::string_vi
 }
 
 void FormCodigo::Close() {
+  typed_.Leave();
   target_ = {};
   events_.clear();
   event_row_ = -1;

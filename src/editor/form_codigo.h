@@ -10,6 +10,7 @@
 #include "editor/code_target.h"
 #include "editor/edit_widget.h"
 #include "editor/function_panel.h"
+#include "editor/typed_text.h"
 #include "language/support_tables.h"
 #include "model/project_records.h"
 #include "persistence/settings.h"
@@ -24,17 +25,17 @@ namespace tarnwick::editor {
 ///   form_codigo.Accept();                   // or Cancel(); both end in CodeHost::Unload
 ///
 /// Only a change of event, StoreShown and Accept write to `EventTable`, each as a step of the
-/// history.
+/// history. A text that is the same as its entry writes nothing.
 class FormCodigo {
  public:
   FormCodigo(ProjectTables& project, const language::SupportTables& language, Settings& settings,
-             EditWidget& editor, CodeHost& host)
+             EditWidget& editor, CodeHost& host, CodeDrafts& drafts)
       : project_(project),
         language_(language),
         settings_(settings),
-        editor_(editor),
         host_(host),
-        functions_(language, editor) {}
+        functions_(language, editor),
+        typed_(editor, drafts) {}
 
   /// The load step: takes `JumpKey` or the selection of the current form and shows its code.
   /// Nothing without a current form.
@@ -63,21 +64,10 @@ class FormCodigo {
   /// The object or form was renamed: caption and rows follow when it is the one that is open.
   void NameChanged(int form, std::string_view old_name, std::string_view new_name);
 
-  /// What was typed on the shown event and lost by a Cancel; null when there is none.
-  [[nodiscard]] const std::string* Lost() const;
-  /// Puts what was lost into the editor, as one step that can be undone.
-  void RestoreLost();
-  void DiscardLost();
-  [[nodiscard]] CodeDrafts& Drafts() noexcept { return drafts_; }
-  /// True while the shown text differs from what is stored.
-  [[nodiscard]] bool HasTyped() const;
-  /// What would be lost if the program ended now: the text that is shown, when it differs from its
-  /// entry, and all drafts. To be kept with the unsaved project, and handed to KeepDrafts when that
-  /// is had back.
-  [[nodiscard]] CodeDrafts::Texts NotAccepted() const;
-  /// Offers texts at the next opening on their keys. One that is the same as its entry is not
-  /// offered.
-  void KeepDrafts(const CodeDrafts::Texts& texts);
+  /// The shown text with its key, and what was lost there. While the window is closed, and for a
+  /// kind without events, the key is "".
+  [[nodiscard]] TypedText& Typed() noexcept { return typed_; }
+  [[nodiscard]] const TypedText& Typed() const noexcept { return typed_; }
 
   /// `WndFunc`, the function panel.
   [[nodiscard]] FunctionPanel& Functions() noexcept { return functions_; }
@@ -93,19 +83,17 @@ class FormCodigo {
   void LoadNamedItem(const EventKey& key);
   [[nodiscard]] std::string WantedEvent();
   [[nodiscard]] std::string ShownKey() const;
-  void ShowTextOf(const std::string& key);
+  void ShowText();
   void StoreText(const std::string& text);
   void Close();
 
   ProjectTables& project_;
   const language::SupportTables& language_;
   Settings& settings_;
-  EditWidget& editor_;
   CodeHost& host_;
   FunctionPanel functions_;
+  TypedText typed_;
 
-  CodeDrafts drafts_;
-  std::string shown_text_;  ///< of the entry, as it was shown
   CodeTarget target_;
   std::string caption_;
   std::vector<EventRow> events_;

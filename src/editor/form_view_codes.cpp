@@ -2,22 +2,33 @@
 
 namespace tarnwick::editor {
 
+FormRec* FormViewCodes::Record() const {
+  return project_.IsLive(form_) ? project_.Form(form_) : nullptr;
+}
+
 bool FormViewCodes::Open(int form) {
-  const FormRec* record = project_.IsLive(form) ? project_.Form(form) : nullptr;
-  if (record == nullptr) return false;
+  if (!project_.IsLive(form)) return false;
+  if (form == form_) return true;
+  if (IsOpen()) typed_.Leave();
   form_ = form;
-  caption_ = "Form: " + record->Name + "  (Public Declarations)";
-  editor_.SetText(record->DeclarePbl);
+  typed_.Show(DeclarationsKey(form), &project_.Form(form)->DeclarePbl);
   return true;
 }
 
+std::string FormViewCodes::Caption() const {
+  const FormRec* const record = Record();
+  return record == nullptr ? std::string() : "Form: " + record->Name + "  (Public Declarations)";
+}
+
 void FormViewCodes::Accept() {
-  FormRec* record = IsOpen() ? project_.Form(form_) : nullptr;
-  if (record == nullptr) return;
-  const int form = form_;
-  host_.AcceptBegins(form, "Public Declarations");
-  record->DeclarePbl = editor_.Text();
-  host_.CodeAccepted(form);
+  if (!IsOpen()) return;
+  if (FormRec* const record = Record(); record != nullptr && typed_.Differs()) {
+    const std::string text = typed_.Text();
+    host_.AcceptBegins(form_, "Public Declarations");
+    record->DeclarePbl = text;
+    typed_.Stored(text);
+    host_.CodeAccepted(form_);
+  }
   Close();
 }
 
@@ -25,7 +36,12 @@ void FormViewCodes::Cancel() {
   if (IsOpen()) Close();
 }
 
+void FormViewCodes::Refresh() {
+  if (const FormRec* const record = Record()) typed_.Follow(record->DeclarePbl);
+}
+
 void FormViewCodes::Close() {
+  typed_.Leave();
   form_ = 0;
   host_.Unload();
 }

@@ -26,7 +26,6 @@ void Intellisense::Reset() {
   PrevKey_ = list_key::kNone;
   AsPending_ = false;
   ListMode_ = ListMode::Members;
-  ListSource_ = ListSource::None;
 }
 
 void Intellisense::HideList() {
@@ -41,31 +40,21 @@ void Intellisense::Select(int row) {
 }
 
 void Intellisense::Changed() {
-  opened_ = false;
   if (LastKey_ != list_key::kBackspace) {
     const std::string word = CurrentWord(editor_);
     if (EqualsFolded(word, kAs)) {
       AsPending_ = true;
     } else if (word.empty() && AsPending_) {
-      ListMode_ = ListMode::Types;
-      LineIntellisense(kAs);
-      AsPending_ = false;
-      ListSource_ = ListSource::Typed;
+      Open(ListMode::Types, kAs);
     } else if (ListMode_ == ListMode::TypesDismissed) {
-      ListMode_ = ListMode::Types;
-      LineIntellisense(LastWord_);
-      AsPending_ = false;
-      ListSource_ = ListSource::Typed;
+      Open(ListMode::Types, LastWord_);
+    } else if (Opens(word)) {
+      Open(ListMode::Members, word.ends_with('_') ? std::string_view("_") : LastWord_);
     } else {
       AsPending_ = false;
-      if (Opens(word)) {
-        ListMode_ = ListMode::Members;
-        LineIntellisense(word.ends_with('_') ? std::string_view("_") : LastWord_);
-        ListSource_ = ListSource::Typed;
-      }
     }
   }
-  if (visible_ && !opened_ && !CaretInServedWord()) HideList();
+  if (visible_ && !CaretInServedWord()) HideList();
   FilterList();
   LastWord_ = CurrentWord(editor_);
   PrevKey_ = LastKey_;
@@ -83,6 +72,7 @@ void Intellisense::CaretMoved() {
   LastWord_ = CurrentWord(editor_);
   PrevKey_ = list_key::kNone;
   AsPending_ = false;
+  if (ListMode_ == ListMode::TypesDismissed) ListMode_ = ListMode::Types;
 }
 
 bool Intellisense::CaretInServedWord() const {
@@ -93,6 +83,12 @@ bool Intellisense::CaretInServedWord() const {
   const auto end = std::min(line.size(), static_cast<std::size_t>(caret.EndColNo));
   return std::all_of(line.begin() + static_cast<std::ptrdiff_t>(begin),
                      line.begin() + static_cast<std::ptrdiff_t>(end), language::IsNameByte);
+}
+
+void Intellisense::Open(ListMode mode, std::string_view word) {
+  ListMode_ = mode;
+  AsPending_ = false;
+  LineIntellisense(word);
 }
 
 void Intellisense::LineIntellisense(std::string_view word) {
@@ -125,7 +121,6 @@ void Intellisense::Show(std::vector<std::string> rows, std::size_t name_length) 
   column_ = caret.EndColNo;
   name_length_ = name_length;
   visible_ = true;
-  opened_ = true;
   view_.showintellisense(rows_);
 }
 
@@ -158,12 +153,12 @@ void Intellisense::Insert(std::string_view text, int replaced) {
   editor_.SetCaretPos(line, column);
 }
 
-bool Intellisense::AcceptItem() {
+bool Intellisense::AcceptItem(ListSource source) {
   bool inserted = false;
   if (row_ >= 0 && row_ < static_cast<int>(rows_.size())) {
     const std::string row = rows_[static_cast<std::size_t>(row_)];
     const int typed = static_cast<int>(ListPrefix_.size());
-    if (ListSource_ == ListSource::DoubleClicked || !StartsWithFolded(row, ListPrefix_)) {
+    if (source == ListSource::DoubleClicked || !StartsWithFolded(row, ListPrefix_)) {
       // The row stands once, in place of what was typed of it.
       Insert(row, typed);
       inserted = true;
@@ -173,7 +168,6 @@ bool Intellisense::AcceptItem() {
       inserted = true;
     }
   }
-  ListSource_ = ListSource::Clicked;
   HideList();
   editor_.SetFocus();
   return inserted;
@@ -185,7 +179,7 @@ bool Intellisense::KeyDown(int key) {
     const std::string word = CurrentWord(editor_);
     switch (key) {
       case list_key::kEnter:
-        used = AcceptItem();
+        used = AcceptItem(ListSource::Typed);
         break;
       case list_key::kDown:
         if (row_ + 1 < static_cast<int>(rows_.size())) Select(row_ + 1);
@@ -216,26 +210,23 @@ bool Intellisense::KeyDown(int key) {
 }
 
 void Intellisense::KeyPress(int character) {
-  if (visible_ && character == list_key::kSpace) AcceptItem();
+  if (visible_ && character == list_key::kSpace) AcceptItem(ListSource::Typed);
   if (visible_ && character == list_key::kBackspace) FilterList();
 }
 
 void Intellisense::Click(int row) {
-  if (!visible_) return;
-  Select(row);
-  ListSource_ = ListSource::Clicked;
+  if (visible_) Select(row);
 }
 
 void Intellisense::DoubleClick(int row) {
   if (!visible_) return;
   Select(row);
-  ListSource_ = ListSource::DoubleClicked;
-  AcceptItem();
+  AcceptItem(ListSource::DoubleClicked);
 }
 
 void Intellisense::ListKeyDown(int key) {
   if (!visible_ || key == list_key::kUp || key == list_key::kDown) return;
-  AcceptItem();
+  AcceptItem(ListSource::Typed);
 }
 
 }  // namespace tarnwick::editor

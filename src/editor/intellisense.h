@@ -75,16 +75,17 @@ class Intellisense {
 
  private:
   enum class ListMode { Members, Types, TypesDismissed };
-  /// How the row that is taken was chosen.
-  enum class ListSource { None, Typed, Clicked, DoubleClicked };
+  /// How the row that is taken was chosen: a row of a double click goes in whole.
+  enum class ListSource { Typed, DoubleClicked };
 
   [[nodiscard]] bool Opens(std::string_view word);
+  void Open(ListMode mode, std::string_view word);
   void LineIntellisense(std::string_view word);
   void Show(std::vector<std::string> rows, std::size_t name_length);
   void FilterList();
   void Select(int row);
   /// True when a text was inserted.
-  bool AcceptItem();
+  bool AcceptItem(ListSource source);
   void Insert(std::string_view text, int replaced);
   /// True while the caret stands behind what opened the list, with nothing but a name between.
   [[nodiscard]] bool CaretInServedWord() const;
@@ -99,12 +100,10 @@ class Intellisense {
   int PrevKey_ = list_key::kNone;
   bool AsPending_ = false;
   ListMode ListMode_ = ListMode::Members;
-  ListSource ListSource_ = ListSource::None;
 
   std::vector<std::string> rows_;
   int row_ = -1;
   bool visible_ = false;
-  bool opened_ = false;          ///< the change that is being handled opened the list
   std::size_t name_length_ = 0;  ///< of an event list: the length of the name with its "_"
   int line_ = 0;                 ///< where the word that the list serves begins
   int column_ = 0;

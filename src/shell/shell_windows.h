@@ -35,9 +35,9 @@ class CodeWindows {
   virtual void ShowLine(int line) = 0;
   /// Object or form was renamed: the names that the editors show follow.
   virtual void NameChanged(int form, std::string_view old_name, std::string_view new_name) = 0;
-  /// True while `FormCodigo` shows a text that differs from what is stored.
+  /// True while `FormCodigo` or `FormViewCodes` shows a text that differs from what is stored.
   [[nodiscard]] virtual bool HasTypedCode() = 0;
-  /// The code that was typed and not accepted, by its keys in `EventTable`.
+  /// The code and the declarations that were typed and not accepted, by their keys.
   [[nodiscard]] virtual std::map<std::string, std::string> TypedCode() = 0;
   /// Offers such code at the next opening on its key.
   virtual void OfferCode(const std::map<std::string, std::string>& code) = 0;

@@ -12,6 +12,7 @@ namespace tarnwick {
 namespace {
 
 constexpr std::string_view kSection = "Window";
+constexpr std::string_view kPlaceKey = "Place";
 /// "" for a panel that no run begins with.
 constexpr std::array<std::string_view, kPanelCount> kPanelKeys{"Properties", "Forms", "EventsBar",
                                                                "ObjectBar", ""};
@@ -57,13 +58,33 @@ WindowRect FitInto(WindowRect window, const WindowRect& free) noexcept {
   return window;
 }
 
+WindowRect PlaceBeside(const WindowRect& program, const WindowRect& least,
+                       const WindowRect& free) noexcept {
+  // In parts of 100.
+  constexpr int kWidth = 66;
+  constexpr int kHeight = 78;
+  WindowRect window;
+  window.Width = std::max(least.Width, program.Width * kWidth / 100);
+  window.Height = std::max(least.Height, program.Height * kHeight / 100);
+  window.Left = program.Left + program.Width - window.Width;
+  window.Top = program.Top + program.Height - window.Height;
+  return FitInto(window, free);
+}
+
+WindowRect ReadPlace(const Settings& settings, std::string_view key) {
+  const std::vector<int> place =
+      NumbersOf(settings.Read(kSection, key)).value_or(std::vector<int>{});
+  const bool usable = place.size() == 4 && place[2] > 0 && place[3] > 0;
+  return usable ? WindowRect{place[0], place[1], place[2], place[3]} : WindowRect{};
+}
+
+void WritePlace(Settings& settings, std::string_view key, const WindowRect& place) {
+  settings.Write(kSection, key, TextOf({place.Left, place.Top, place.Width, place.Height}));
+}
+
 WindowPlacement ReadPlacement(const Settings& settings) {
   WindowPlacement placement;
-  const std::vector<int> place =
-      NumbersOf(settings.Read(kSection, "Place")).value_or(std::vector<int>{});
-  if (place.size() == 4 && place[2] > 0 && place[3] > 0) {
-    placement.Window = {place[0], place[1], place[2], place[3]};
-  }
+  placement.Window = ReadPlace(settings, kPlaceKey);
   placement.Maximised = settings.Read(kSection, "Maximised") == "1";
   placement.Columns = SizesOf(settings, "Columns");
   placement.Panels = SizesOf(settings, "Panels");
@@ -71,8 +92,7 @@ WindowPlacement ReadPlacement(const Settings& settings) {
 }
 
 void WritePlacement(Settings& settings, const WindowPlacement& placement) {
-  const WindowRect& place = placement.Window;
-  settings.Write(kSection, "Place", TextOf({place.Left, place.Top, place.Width, place.Height}));
+  WritePlace(settings, kPlaceKey, placement.Window);
   settings.Write(kSection, "Maximised", placement.Maximised ? "1" : "0");
   settings.Write(kSection, "Columns", TextOf(placement.Columns));
   settings.Write(kSection, "Panels", TextOf(placement.Panels));

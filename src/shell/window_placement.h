@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "persistence/settings.h"
@@ -29,6 +30,17 @@ struct WindowPlacement {
 
 /// The window as it stands on a screen whose free area is `free`: no larger, and wholly within it.
 [[nodiscard]] WindowRect FitInto(WindowRect window, const WindowRect& free) noexcept;
+
+/// Where a window that works beside the design forms stands the first time: in the lower right of
+/// the program's window, a good part of it large, and no smaller than `least` while the screen has
+/// the room.
+[[nodiscard]] WindowRect PlaceBeside(const WindowRect& program, const WindowRect& least,
+                                     const WindowRect& free) noexcept;
+
+/// The place of one window under a key of the section "Window"; a width of 0 when there is nothing
+/// that can be used.
+[[nodiscard]] WindowRect ReadPlace(const Settings& settings, std::string_view key);
+void WritePlace(Settings& settings, std::string_view key, const WindowRect& place);
 
 /// What the last run left in the settings, section "Window"; a width of 0 when there is nothing
 /// that can be used.

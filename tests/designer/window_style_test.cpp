@@ -53,6 +53,15 @@ TEST(WindowStyle, EverySetMemberRedrawsTheFrame) {
   EXPECT_EQ(redraws, 10);
 }
 
+TEST(WindowStyle, TheSystemMenuIsShownByTheWindowAlone) {
+  clsStyle style;
+  style.ShowSysMenu();
+  int shown = 0;
+  style.SysMenu = [&shown] { ++shown; };
+  style.ShowSysMenu();
+  EXPECT_EQ(shown, 1);
+}
+
 TEST(WindowStyle, ACodeWithoutARowTouchesNothing) {
   clsStyle style;
   EXPECT_FALSE(ApplyBorderStyle(style, 6));

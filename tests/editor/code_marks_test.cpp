@@ -1,5 +1,6 @@
 #include "editor/code_marks.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,10 +25,24 @@ class CodeMarksTest : public testing::Test {
     builder_.Tables.ProjectFile = "C:\\Work\\p.tnp";
   }
   void Declare(int form, std::string_view text) { builder_.Tables.Form(form)->DeclarePbl = text; }
+  /// Runs the check that `make` makes, again while it asks for files.
+  template <class Make>
+  Marks Run(Make make) {
+    for (;;) {
+      editor::CodeCheck::Found found = make().Run();
+      if (found.Unread.empty()) return found.Marks;
+      marks_.Read(found.Unread);
+    }
+  }
+  Marks MarksOfEvent(std::string_view code, std::string_view key = "Form1.OnShow") {
+    return Run([&] { return marks_.EventCheck(key, std::string(code)); });
+  }
   /// "LINE: TEXT" of each mark of an event's code, lines counted from 0.
-  std::vector<std::string> OfEvent(std::string_view code) { return Written(marks_.OfEvent(code)); }
+  std::vector<std::string> OfEvent(std::string_view code, std::string_view key = "Form1.OnShow") {
+    return Written(MarksOfEvent(code, key));
+  }
   std::vector<std::string> OfDeclarations(int form, std::string_view text) {
-    return Written(marks_.OfDeclarations(form, text));
+    return Written(Run([&] { return marks_.DeclarationsCheck(form, std::string(text)); }));
   }
   static std::vector<std::string> Written(const Marks& marks) {
     std::vector<std::string> texts;
@@ -55,7 +70,7 @@ TEST_F(CodeMarksTest, NamesOfOtherFormsAndUnknownOnesAreNoMistakes) {
 }
 
 TEST_F(CodeMarksTest, ATextWithoutItsClosingQuoteIsANoteAtTheText) {
-  const Marks marks = marks_.OfEvent("a = 1\r\nb = \"open");
+  const Marks marks = MarksOfEvent("a = 1\r\nb = \"open");
   ASSERT_EQ(marks.size(), 1U);
   EXPECT_EQ(marks[0].What, CodeMark::Sort::Note);
   EXPECT_EQ(marks[0].Line, 1);
@@ -77,7 +92,7 @@ TEST_F(CodeMarksTest, ABlockWithoutItsEndIsMarkedWhereItOpens) {
                                   {"Select Case a\r\nCase 1\r\n  b = 1", "END SELECT"},
                                   {"With a\r\n  .b = 1", "END WITH"},
                                   {"Create a As QForm\r\n  b = 1", "END CREATE"}}) {
-    const Marks marks = marks_.OfEvent("x = 1\r\n" + std::string(code));
+    const Marks marks = MarksOfEvent("x = 1\r\n" + std::string(code));
     ASSERT_FALSE(marks.empty()) << code;
     EXPECT_EQ(marks[0].What, CodeMark::Sort::Error) << code;
     EXPECT_TRUE(marks[0].Line == 1 || marks[0].Line == 2) << code << marks[0].Line;
@@ -100,7 +115,7 @@ TEST_F(CodeMarksTest, WhatClosesNothingIsMarkedOnItsLine) {
 }
 
 TEST_F(CodeMarksTest, AStatementThatCannotBeReadIsMarkedAtTheTokenThatDoesNotFit) {
-  const Marks marks = marks_.OfEvent("For i = 1 2");
+  const Marks marks = MarksOfEvent("For i = 1 2");
   ASSERT_FALSE(marks.empty());
   EXPECT_EQ(marks[0].Line, 0);
   EXPECT_EQ(marks[0].Column, 10);
@@ -169,6 +184,108 @@ TEST_F(CodeMarksTest, AnIncludedFileIsReadOnceUntilItIsForgotten) {
   EXPECT_EQ(OfEvent("If a Begin\r\nEnd If"), Texts{});
   marks_.ForgetFiles();
   EXPECT_FALSE(OfEvent("If a Begin\r\nEnd If").empty());
+}
+
+constexpr const char* kBeginsBlock = "If a Begin\r\n  Beep\r\nEnd If";
+
+TEST_F(CodeMarksTest, AMacroOfAnotherEventMakesNoFalseMarkWhereverThatEventStands) {
+  ASSERT_FALSE(OfEvent(kBeginsBlock).empty());
+  for (const char* const key : {"Form1.OnClick", "Form1.Button1.OnClick", "Form2.OnShow"}) {
+    builder_.Tables.EventTable.Replace(key, "Beep\r\n  $DEFINE Begin Then ' of this program\r\n");
+    EXPECT_EQ(OfEvent(kBeginsBlock), Texts{}) << key;
+    builder_.Tables.EventTable.Replace(key, "");
+  }
+}
+
+TEST_F(CodeMarksTest, WhatAnotherEventsMacroWouldBreakIsNotMarkedEither) {
+  builder_.Tables.EventTable.Replace("Form2.OnShow", "$DEFINE Beep Then");
+  EXPECT_EQ(OfEvent("Beep"), Texts{});
+  EXPECT_EQ(OfEvent("Beep\r\nWend"),
+            Texts{"1: This closes no block: the line that opens it is missing"});
+}
+
+TEST_F(CodeMarksTest, WhatAnotherEventDefinesCountsThoughAThirdTakesItBack) {
+  builder_.Tables.EventTable.Replace("Form1.OnClick", "$DEFINE Begin Then");
+  builder_.Tables.EventTable.Replace("Form2.OnShow", "$UNDEF Begin");
+  EXPECT_EQ(OfEvent(kBeginsBlock), Texts{});
+}
+
+TEST_F(CodeMarksTest, WhatIsDefinedUnderAConditionOfAnotherEventCounts) {
+  builder_.Tables.EventTable.Replace(
+      "Form1.OnClick", "$IFDEF Nowhere\r\n$DEFINE Begin Then\r\n$ELSE\r\nBeep\r\n$ENDIF");
+  EXPECT_EQ(OfEvent(kBeginsBlock), Texts{});
+}
+
+TEST_F(CodeMarksTest, AMacroWithParametersOfAnotherEventCounts) {
+  ASSERT_FALSE(OfEvent("For i = Range(1, 2)\r\nNext").empty());
+  builder_.Tables.EventTable.Replace("Form1.OnClick", "$MACRO Range(a, b) a To b");
+  EXPECT_EQ(OfEvent("For i = Range(1, 2)\r\nNext"), Texts{});
+}
+
+TEST_F(CodeMarksTest, AKeywordThatAnotherEventMadeANameMayBeOne) {
+  ASSERT_FALSE(OfEvent("Wend").empty());
+  builder_.Tables.EventTable.Replace("Form1.OnClick", "$UNDEF Wend");
+  EXPECT_EQ(OfEvent("Wend"), Texts{});
+}
+
+TEST_F(CodeMarksTest, EscapesThatAnotherEventTurnsOnCount) {
+  ASSERT_FALSE(OfEvent("a = \"x\\\"y\"").empty());
+  builder_.Tables.EventTable.Replace("Form1.OnClick", "$EscapeChars ON");
+  EXPECT_EQ(OfEvent("a = \"x\\\"y\""), Texts{});
+}
+
+TEST_F(CodeMarksTest, TheStoredTextOfTheEventItselfDoesNotCount) {
+  builder_.Tables.EventTable.Replace("Form1.OnShow", "$DEFINE Begin Then");
+  EXPECT_FALSE(OfEvent(kBeginsBlock, "form1.onshow").empty());
+  EXPECT_EQ(OfEvent("$DEFINE Begin Then\r\n" + std::string(kBeginsBlock)), Texts{});
+}
+
+TEST_F(CodeMarksTest, ADollarSignWithinALineOfAnotherEventDefinesNothing) {
+  builder_.Tables.EventTable.Replace("Form1.OnClick", "a$ = \"\" ' $DEFINE Begin Then");
+  EXPECT_FALSE(OfEvent(kBeginsBlock).empty());
+}
+
+TEST_F(CodeMarksTest, EventsMakeNoMacrosForTheDeclarationsInFrontOfThem) {
+  builder_.Tables.EventTable.Replace("Form1.OnClick", "$DEFINE Begin Then");
+  EXPECT_FALSE(OfDeclarations(1, "Sub Go\r\nIf a Begin\r\n  Beep\r\nEnd If\r\nEnd Sub").empty());
+}
+
+TEST_F(CodeMarksTest, TheProgramsOwnIncludeFileCountsAndIsNotMissedWhereItIsNotThere) {
+  ports_.Files.Put("C:\\Tarnwick\\Tarnwick1.lib", "$DEFINE Begin Then");
+  EXPECT_EQ(OfEvent(kBeginsBlock), Texts{});
+  EXPECT_EQ(OfDeclarations(1, "Sub Go\r\nIf a Begin\r\n  Beep\r\nEnd If\r\nEnd Sub"), Texts{});
+}
+
+TEST_F(CodeMarksTest, NamesOfConstantsVariablesAndRoutinesOfTheDeclarationsAreNoMistakes) {
+  Declare(1, "Const Most = 5\r\nDim Total(1 To Most) As Integer\r\nDeclare Sub Go (a As Integer)");
+  Declare(2, "Type TPoint\r\n  X As Integer\r\nEnd Type\r\nDim P As TPoint");
+  EXPECT_EQ(OfEvent("Dim Own(Most) As TPoint\r\nTotal(1) = Most\r\nGo 1\r\nGo(2)\r\nP.X = 3"),
+            Texts{});
+  EXPECT_EQ(OfDeclarations(2, "Total(2) = Most\r\nDim Q As TPoint"), Texts{});
+}
+
+TEST_F(CodeMarksTest, AMistakeOfAnotherEventIsNotMarkedHere) {
+  builder_.Tables.EventTable.Replace("Form1.OnClick", "$IFDEF Begin\r\n$DEFINE\r\nWend\r\na = \"b");
+  EXPECT_EQ(OfEvent("Beep"), Texts{});
+  EXPECT_EQ(OfEvent("Wend").size(), 1U);
+}
+
+TEST_F(CodeMarksTest, ACheckHoldsCopiesOfAllThatItReads) {
+  Declare(1, "$DEFINE Begin Then");
+  std::string code = kBeginsBlock;
+  const editor::CodeCheck check = marks_.EventCheck("Form1.OnShow", code);
+  Declare(1, "");
+  code.clear();
+  marks_.ForgetFiles();
+  EXPECT_TRUE(check.Run().Marks.empty());
+}
+
+TEST_F(CodeMarksTest, ACheckNamesTheFilesThatItDoesNotKnow) {
+  Declare(1, "$INCLUDE \"own.inc\"");
+  const std::vector<std::string> unread = marks_.EventCheck("", "Beep").Run().Unread;
+  EXPECT_EQ(std::count(unread.begin(), unread.end(), "C:\\Work\\own.inc"), 1);
+  marks_.Read(unread);
+  EXPECT_TRUE(marks_.EventCheck("", "Beep").Run().Unread.empty());
 }
 
 TEST_F(CodeMarksTest, LineEndsOfAnySortCountOnce) {

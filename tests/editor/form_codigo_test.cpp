@@ -1,13 +1,14 @@
 #include "editor/form_codigo.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "designer/selection.h"
 #include "editor/editor_project.h"
-#include "editor/form_view_codes.h"
+#include "fakes/fake_code_host.h"
 #include "fakes/fake_edit_widget.h"
 #include "fakes/fake_ports.h"
 
@@ -16,25 +17,6 @@ namespace {
 
 using editor::FormCodigo;
 using Rows = std::vector<std::string>;
-
-/// Log entries: "code N NAME", "no code N NAME", "accepted N", "unload".
-class FakeCodeHost final : public editor::CodeHost {
- public:
-  void PopBoockMarck(int form, std::string_view name) override {
-    Log.push_back("code " + std::to_string(form) + " " + std::string(name));
-  }
-  void DelBoockMarck(int form, std::string_view name) override {
-    Log.push_back("no code " + std::to_string(form) + " " + std::string(name));
-  }
-  void AcceptBegins(int form, std::string_view step) override {
-    Steps.push_back(std::to_string(form) + " " + std::string(step));
-  }
-  void CodeAccepted(int form) override { Log.push_back("accepted " + std::to_string(form)); }
-  void Unload() override { Log.emplace_back("unload"); }
-
-  Rows Log;
-  Rows Steps;  ///< "N NAME" of each step that began
-};
 
 class FormCodigoTest : public testing::Test {
  protected:
@@ -57,6 +39,12 @@ class FormCodigoTest : public testing::Test {
     for (const editor::EventRow& row : codigo_.Events()) texts.push_back(row.Text);
     return texts;
   }
+  /// What would be lost if the program ended now.
+  editor::CodeDrafts::Texts NotAccepted() {
+    editor::CodeDrafts::Texts texts = drafts_.All();
+    codigo_.Typed().AddTo(texts);
+    return texts;
+  }
   std::string Remembered(std::string_view section, std::string_view key) {
     return settings_.ReadEventIndex(section, key);
   }
@@ -66,7 +54,8 @@ class FormCodigoTest : public testing::Test {
   Settings settings_{ports_.Profiles, "C:\\Tarnwick"};
   FakeEditWidget editor_;
   FakeCodeHost host_;
-  FormCodigo codigo_{project_.Tables, project_.Language, settings_, editor_, host_};
+  editor::CodeDrafts drafts_{project_.Tables};
+  FormCodigo codigo_{project_.Tables, project_.Language, settings_, editor_, host_, drafts_};
 };
 
 TEST_F(FormCodigoTest, AFormThatWasNeverOpenedShowsOnShowTheTwelfthRow) {
@@ -294,16 +283,16 @@ TEST_F(FormCodigoTest, AnItemThatIsNamedLikeAnEventIsAnItem) {
 
 TEST_F(FormCodigoTest, TypedIsWhatDiffersFromTheStoredText) {
   Select(Kind::Button, 1);
-  EXPECT_FALSE(codigo_.HasTyped());
+  EXPECT_FALSE(codigo_.Typed().Differs());
   codigo_.Open();
-  EXPECT_FALSE(codigo_.HasTyped());
+  EXPECT_FALSE(codigo_.Typed().Differs());
   editor_.SetText("typed");
-  EXPECT_TRUE(codigo_.HasTyped());
+  EXPECT_TRUE(codigo_.Typed().Differs());
   codigo_.StoreShown();
-  EXPECT_FALSE(codigo_.HasTyped());
+  EXPECT_FALSE(codigo_.Typed().Differs());
   editor_.SetText("more");
   codigo_.Cancel();
-  EXPECT_FALSE(codigo_.HasTyped());
+  EXPECT_FALSE(codigo_.Typed().Differs());
 }
 
 TEST_F(FormCodigoTest, TextOfAJumpedItemThatIsDeletedLeavesNoEntry) {
@@ -400,18 +389,18 @@ TEST_F(FormCodigoTest, WhatACancelLostIsOfferedOnTheSameEventAndCanBeHadBack) {
   Select(Kind::Button, 1);
   SetCode("Form1.Button1.OnClick", "kept");
   codigo_.Open();
-  EXPECT_EQ(codigo_.Lost(), nullptr);
+  EXPECT_EQ(codigo_.Typed().Lost(), nullptr);
   editor_.SetSelText("line 1\r\nline 2\r\n");
   codigo_.Cancel();
   codigo_.Open();
   EXPECT_EQ(editor_.Text(), "kept");
-  ASSERT_NE(codigo_.Lost(), nullptr);
+  ASSERT_NE(codigo_.Typed().Lost(), nullptr);
   codigo_.Events_Click(1);
-  EXPECT_EQ(codigo_.Lost(), nullptr);
+  EXPECT_EQ(codigo_.Typed().Lost(), nullptr);
   codigo_.Events_Click(0);
-  codigo_.RestoreLost();
+  codigo_.Typed().RestoreLost();
   EXPECT_EQ(editor_.Text(), "line 1\r\nline 2\r\nkept");
-  EXPECT_EQ(codigo_.Lost(), nullptr);
+  EXPECT_EQ(codigo_.Typed().Lost(), nullptr);
 }
 
 TEST_F(FormCodigoTest, ACancelWithoutAChangeLosesNothing) {
@@ -419,7 +408,7 @@ TEST_F(FormCodigoTest, ACancelWithoutAChangeLosesNothing) {
   codigo_.Open();
   codigo_.Cancel();
   codigo_.Open();
-  EXPECT_EQ(codigo_.Lost(), nullptr);
+  EXPECT_EQ(codigo_.Typed().Lost(), nullptr);
 }
 
 TEST_F(FormCodigoTest, WhatWasLostCanBeDiscarded) {
@@ -428,16 +417,16 @@ TEST_F(FormCodigoTest, WhatWasLostCanBeDiscarded) {
   editor_.SetSelText("x");
   codigo_.Cancel();
   codigo_.Open();
-  codigo_.DiscardLost();
-  EXPECT_EQ(codigo_.Lost(), nullptr);
-  EXPECT_TRUE(codigo_.Drafts().All().empty());
+  codigo_.Typed().DiscardLost();
+  EXPECT_EQ(codigo_.Typed().Lost(), nullptr);
+  EXPECT_TRUE(drafts_.All().empty());
 }
 
 TEST_F(FormCodigoTest, WhatIsNotAcceptedIsTheShownTextAndAllThatWasLost) {
   Select(Kind::Button, 1);
   SetCode("Form1.Button1.OnClick", "kept");
   codigo_.Open();
-  EXPECT_TRUE(codigo_.NotAccepted().empty());
+  EXPECT_TRUE(NotAccepted().empty());
   editor_.SetSelText("a");
   codigo_.Cancel();
   codigo_.Open();
@@ -445,7 +434,7 @@ TEST_F(FormCodigoTest, WhatIsNotAcceptedIsTheShownTextAndAllThatWasLost) {
   editor_.SetSelText("b");
   const editor::CodeDrafts::Texts expected{{"Form1.Button1.OnClick", "akept"},
                                            {"Form1.Button1.OnKeyDown", "b"}};
-  EXPECT_EQ(codigo_.NotAccepted(), expected);
+  EXPECT_EQ(NotAccepted(), expected);
   EXPECT_EQ(Code("Form1.Button1.OnKeyDown"), "(none)");
 }
 
@@ -457,22 +446,22 @@ TEST_F(FormCodigoTest, WhatIsShownTakesThePlaceOfWhatWasLostThere) {
   codigo_.Open();
   editor_.SetSelText("new");
   const editor::CodeDrafts::Texts expected{{"Form1.Button1.OnClick", "new"}};
-  EXPECT_EQ(codigo_.NotAccepted(), expected);
+  EXPECT_EQ(NotAccepted(), expected);
 }
 
 TEST_F(FormCodigoTest, TextsOfAnEarlierRunAreOfferedAtTheNextOpeningOnTheirKey) {
   SetCode("Form1.Button1.OnKeyUp", "same");
-  codigo_.KeepDrafts({{"Form1.Button1.OnClick", "typed"},
-                      {"Form1.Button1.OnKeyDown", ""},
-                      {"Form1.Button1.OnKeyUp", "same"}});
+  drafts_.Offer({{"Form1.Button1.OnClick", "typed"},
+                 {"Form1.Button1.OnKeyDown", ""},
+                 {"Form1.Button1.OnKeyUp", "same"}});
   Select(Kind::Button, 1);
   codigo_.Open();
-  ASSERT_NE(codigo_.Lost(), nullptr);
-  EXPECT_EQ(*codigo_.Lost(), "typed");
+  ASSERT_NE(codigo_.Typed().Lost(), nullptr);
+  EXPECT_EQ(*codigo_.Typed().Lost(), "typed");
   codigo_.Events_Click(1);
-  EXPECT_EQ(codigo_.Lost(), nullptr);
+  EXPECT_EQ(codigo_.Typed().Lost(), nullptr);
   codigo_.Events_Click(3);
-  EXPECT_EQ(codigo_.Lost(), nullptr);
+  EXPECT_EQ(codigo_.Typed().Lost(), nullptr);
 }
 
 TEST_F(FormCodigoTest, ARenameShowsInTheOpenWindow) {
@@ -493,27 +482,144 @@ TEST_F(FormCodigoTest, NothingOpensWithoutAForm) {
   EXPECT_TRUE(host_.Log.empty());
 }
 
-TEST_F(FormCodigoTest, DeclarationsAreStoredByAcceptAlone) {
-  editor::FormViewCodes codes(project_.Tables, editor_, host_);
-  project_.Tables.Form(2)->DeclarePbl = "Dim a";
-  ASSERT_TRUE(codes.Open(2));
-  EXPECT_EQ(codes.Caption(), "Form: Other  (Public Declarations)");
-  EXPECT_EQ(editor_.Text(), "Dim a");
-  editor_.SetText("Dim b");
-  codes.Cancel();
-  EXPECT_EQ(project_.Tables.Form(2)->DeclarePbl, "Dim a");
-  EXPECT_TRUE(host_.Steps.empty());
-  ASSERT_TRUE(codes.Open(2));
-  editor_.SetText("Dim b");
-  codes.Accept();
-  EXPECT_EQ(host_.Steps, Rows{"2 Public Declarations"});
-  EXPECT_EQ(project_.Tables.Form(2)->DeclarePbl, "Dim b");
-  EXPECT_FALSE(codes.Open(3));
+TEST_F(FormCodigoTest, AnAcceptThatChangedNothingMakesNoEntry) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  codigo_.Events_Click(1);
+  codigo_.Accept();
+  EXPECT_EQ(Code("Form1.Button1.OnClick"), "(none)");
+  EXPECT_EQ(Code("Form1.Button1.OnKeyDown"), "(none)");
 }
 
-TEST(CodeFonts, TheNameOfTheDeclarationsFontStandsAsItIs) {
-  EXPECT_EQ(editor::kCodeFont, "Courier New");
-  EXPECT_EQ(editor::kDeclarationsFont, "Courdir new");
+TEST_F(FormCodigoTest, AChangeOfEventWithoutAChangeOfTextIsNoStep) {
+  Select(Kind::Button, 1);
+  SetCode("Form1.Button1.OnClick", "kept");
+  codigo_.Open();
+  codigo_.Events_Click(1);
+  EXPECT_TRUE(host_.Steps.empty());
+  EXPECT_EQ(Code("Form1.Button1.OnClick"), "kept");
+}
+
+TEST_F(FormCodigoTest, AnAcceptedTextDropsTheLostOneAndALookAtItDoesNot) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  editor_.SetSelText("lost");
+  codigo_.Cancel();
+  codigo_.Open();
+  codigo_.Accept();
+  codigo_.Open();
+  ASSERT_NE(codigo_.Typed().Lost(), nullptr) << "it was only looked at";
+  editor_.SetSelText("new");
+  codigo_.Accept();
+  codigo_.Open();
+  EXPECT_EQ(codigo_.Typed().Lost(), nullptr);
+}
+
+TEST_F(FormCodigoTest, WhileItsListIsFilledAChoiceOfEventDoesNothing) {
+  Select(Kind::Button, 1);
+  SetCode("Form1.Button1.OnClick", "click");
+  SetCode("Form1.Button1.OnKeyPress", "press");
+  // A list that is being filled may tell of its rows.
+  editor_.OnSetText = [this] { codigo_.Events_Click(2); };
+  codigo_.Open();
+  EXPECT_EQ(codigo_.EventRowNo(), 0);
+  EXPECT_EQ(editor_.Text(), "click");
+}
+
+TEST_F(FormCodigoTest, ARowThatIsNotThereChangesNothing) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  editor_.SetSelText("typed");
+  codigo_.Events_Click(7);
+  codigo_.Events_Click(-1);
+  codigo_.Events_Click(0);
+  EXPECT_EQ(editor_.Text(), "typed");
+  EXPECT_EQ(codigo_.EventRowNo(), 0);
+  EXPECT_EQ(Code("Form1.Button1.OnClick"), "(none)");
+}
+
+TEST_F(FormCodigoTest, AfterItsCloseNothingIsShownAndNoEventCanBeChosen) {
+  Select(Kind::Button, 1);
+  codigo_.Open();
+  codigo_.Events_Click(3);
+  codigo_.Cancel();
+  EXPECT_FALSE(codigo_.IsOpen());
+  EXPECT_EQ(codigo_.EventRowNo(), -1);
+  EXPECT_TRUE(codigo_.Events().empty());
+  EXPECT_EQ(codigo_.Typed().Key(), "");
+  codigo_.Events_Click(1);
+  codigo_.StoreShown();
+  codigo_.Cancel();
+  EXPECT_EQ(host_.Log, Rows{"unload"});
+}
+
+TEST_F(FormCodigoTest, TextTypedOnAKindWithoutEventsIsNeitherStoredNorKept) {
+  project_.Builder.Form(1).Add(Kind::WinSock, "Sock");
+  Select(Kind::WinSock, 1);
+  codigo_.Open();
+  editor_.SetSelText("x");
+  EXPECT_FALSE(codigo_.Typed().Differs());
+  EXPECT_TRUE(NotAccepted().empty());
+  codigo_.Cancel();
+  EXPECT_TRUE(drafts_.All().empty());
+}
+
+/// Every row of the table of kinds: the rows of `Events`, and the one that opens first.
+TEST_F(FormCodigoTest, EachKindWordHasItsRowsAndItsDefault) {
+  const std::string key_rows =
+      "OnKeyDown (Key As Word, Shift As Integer)#OnKeyPress (Key As Byte)#"
+      "OnKeyUp (Key As Word, Shift As Integer)#";
+  const std::string mouse_rows =
+      "OnMouseDown (Btn As Integer, X  As Integer, Y  As Integer, Shift  As Integer)#"
+      "OnMouseMove (X  As Integer, Y  As Integer, Shift  As Integer)#"
+      "OnMouseUp (Btn As Integer, X  As Integer, Y  As Integer, Shift  As Integer)#";
+  const std::pair<std::string, std::string> kinds[] = {
+      {"popupmenu", "OnPopUp#"},
+      {"form", "OnClick#OnClose (Action As Integer)#OnHint (Hint As String)#" + key_rows +
+                   mouse_rows + "OnPaint#OnResize#OnShow#"},
+      {"time", "OnTimer#"},
+      {"button", "OnClick#" + key_rows + mouse_rows},
+      {"textbox", "OnChange#" + key_rows},
+      {"richtextbox", "OnChange#" + key_rows + mouse_rows},
+      {"menu", "OnClick#"},
+      {"optionbutton", "OnClick#"},
+      {"checkbox", "OnClick#"},
+      {"label", "OnClick#OnDblClick#" + mouse_rows},
+      {"image", "OnClick#OnDblClick#" + mouse_rows},
+      {"images", "OnClick#OnDblClick#" + mouse_rows},
+      {"listbox", "OnClick#OnDblClick#OnEnter#"},
+      {"combobox", "OnChange#"},
+      {"filestream", ""}};
+  for (const auto& [word, expected] : kinds) {
+    std::string rows;
+    const std::vector<editor::EventRow> of_kind = editor::EventRowsOf(word, "A");
+    for (const editor::EventRow& row : of_kind) {
+      ASSERT_TRUE(row.Text.starts_with("Sub A_")) << row.Text;
+      rows += row.Text.substr(6) + "#";
+    }
+    EXPECT_EQ(rows, expected) << word;
+    const int first = word == "form" ? 11 : expected.empty() ? -1 : 0;
+    EXPECT_EQ(editor::DefaultRowOf(word, of_kind), first) << word;
+  }
+}
+
+TEST_F(FormCodigoTest, TheFormsLaterOpeningKeepsItsRememberedRow) {
+  tarnwick::Select(*Window(), nullptr);
+  codigo_.Open();
+  codigo_.Events_Click(0);
+  codigo_.Accept();
+  EXPECT_EQ(Remembered("EventsIndex", "Form1"), "0");
+  codigo_.Open();
+  EXPECT_EQ(codigo_.EventRowNo(), 0);
+  EXPECT_EQ(Remembered("EventsIndex", "Form1"), "0");
+}
+
+TEST_F(FormCodigoTest, OpeningTheFormTakesTheSelectionsObjectAway) {
+  Select(Kind::Button, 1);
+  Window()->NameObjet = "Form";
+  codigo_.Open();
+  EXPECT_EQ(codigo_.Caption(), "Main");
+  EXPECT_EQ(Window()->ControlSel, nullptr);
 }
 
 }  // namespace

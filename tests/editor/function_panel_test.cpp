@@ -133,6 +133,36 @@ TEST_F(FunctionPanelTest, EnterInTheFieldInsertsTheNameAlone) {
   EXPECT_EQ(editor_.CaretLine(), "Left$|");
 }
 
+TEST_F(FunctionPanelTest, EnterInTheFieldInsertsTheRowThatWasClickedLast) {
+  panel_.Click(FunctionListId::Further, 1);
+  EXPECT_EQ(panel_.RowOf(FunctionListId::Further), 1);
+  panel_.InsertSelected(FunctionListId::Further);
+  EXPECT_EQ(editor_.CaretLine(), "Beep|");
+}
+
+TEST_F(FunctionPanelTest, EnterInTheFieldOfTheSearchInsertsNothing) {
+  panel_.Search("beep", SearchIn::Names);
+  panel_.Click(FunctionListId::Found, 0);
+  panel_.InsertSelected(FunctionListId::Found);
+  EXPECT_EQ(editor_.Text(), "");
+}
+
+TEST_F(FunctionPanelTest, WhatIsInsertedReplacesTheSelection) {
+  editor_.SetText("x = old + 1");
+  editor_.SetSel({0, 4, 0, 7});
+  panel_.DoubleClick(FunctionListId::Further, 0);
+  EXPECT_EQ(editor_.CaretLine(), "x = Abs | + 1");
+}
+
+TEST_F(FunctionPanelTest, AnotherFillEmptiesWhatWasFoundAndKeepsTheHelp) {
+  panel_.Click(FunctionListId::Main, 1);
+  panel_.Search("e", SearchIn::Names);
+  panel_.Fill();
+  EXPECT_TRUE(panel_.ListFunc(FunctionListId::Found).empty());
+  EXPECT_EQ(panel_.RowOf(FunctionListId::Main), 0);
+  EXPECT_EQ(panel_.EditHelp(), "LEFT$\r\nThe first letters");
+}
+
 TEST_F(FunctionPanelTest, AWordOfTheCodeShowsItsHelpInAnyLetters) {
   EXPECT_TRUE(panel_.ShowHelpOf("mid$"));
   EXPECT_EQ(panel_.EditHelp(), "MID$\r\nA piece of a text");

@@ -108,6 +108,8 @@ struct IntellisenseCase {
       {"ATypeIsTakenByABlank", "Dim x As q ", "", "", "Dim x As qForm |"},
       {"BackspaceOverTheBlankDismissesTheTypes", "Dim x As \b", "", "", "Dim x As|"},
       {"TypingBringsDismissedTypesBack", "Dim x As \b ", "Integer,QForm", "Integer", "Dim x As |"},
+      {"TypesThatCameBackFilter", "Dim x As \b q", "Integer,QForm", "QForm", "Dim x As q|"},
+      {"AnUnderscoreWithinAMemberHidesItsList", "Ok.x_", "", "", "Ok.x_|"},
       {"ALongerWordForgetsAs", "Dim x Asa ", "", "", "Dim x Asa |"},
       {"ALineEndHidesTheList", "Ok.xy\rOk", "", "", "Ok.xy/Ok|"},
   };

@@ -184,6 +184,55 @@ TEST(Intellisense, AResetHidesTheListAndForgetsTheWord) {
   EXPECT_FALSE(typist.View.Visible);
 }
 
+TEST(Intellisense, AResetForgetsAs) {
+  Typist typist;
+  typist.Type("Dim x As");
+  typist.List.Reset();
+  typist.Editor.SetText("Dim y");
+  typist.Editor.SetCaretPos(0, 5);
+  typist.Type(" ");
+  EXPECT_FALSE(typist.View.Visible);
+}
+
+TEST(Intellisense, AMoveOfTheCaretForgetsTypesThatWereDismissed) {
+  Typist typist;
+  typist.Type("Ok\rDim x As \b");
+  ASSERT_FALSE(typist.View.Visible);
+  typist.Editor.SetCaretPos(0, 2);
+  typist.List.CaretMoved();
+  typist.Type("=");
+  EXPECT_FALSE(typist.View.Visible);
+}
+
+TEST(Intellisense, AMoveWithinTheTypesLeavesThemToBeDismissed) {
+  Typist typist;
+  typist.Type("Dim x As ");
+  typist.List.CaretMoved();
+  typist.Type("\b");
+  EXPECT_FALSE(typist.View.Visible);
+  typist.Type(" ");
+  EXPECT_EQ(typist.RowsShown(), "Integer,QForm");
+}
+
+TEST(Intellisense, ADotThatTouchesNoNameServesTheWordBeforeAlsoBehindABlank) {
+  Typist typist;
+  typist.Editor.SetText("=Ok");
+  typist.Editor.SetCaretPos(0, 1);
+  typist.List.CaretMoved();
+  typist.Type(" .");
+  EXPECT_EQ(typist.TextWithCaret(), "= .|Ok");
+  EXPECT_EQ(typist.RowsShown(), "Caption,Color,Click");
+}
+
+TEST(Intellisense, AClickOrKeyOnAListThatIsHiddenDoesNothing) {
+  Typist typist;
+  typist.Type("Ok.\x1B");
+  typist.List.Click(1);
+  typist.List.DoubleClick(1);
+  typist.List.ListKeyDown(key::kEnter);
+  EXPECT_EQ(typist.Editor.Text(), "Ok.");
+}
+
 TEST(Intellisense, TheWindowOfDeclarationsDoesNotKnowTheScreen) {
   Typist typist;
   const MemberLookup declarations(typist.Project.Tables, typist.Project.Language,
@@ -209,6 +258,30 @@ TEST(MemberLookup, MenuNamesCountOnlyWhileABarIsShown) {
   Typist typist;
   ClearMenuControls(*typist.Project.Tables.User(1));
   EXPECT_TRUE(typist.Lookup.MembersOf("mnuOpen").empty());
+}
+
+TEST(MemberLookup, AHiddenMenuControlIsNotOffered) {
+  Typist typist;
+  DesignControl& item = *typist.Project.Tables.User(1)->Element(Kind::MenuItem, 1);
+  item.Tag = "mnuHidden";
+  EXPECT_EQ(typist.Lookup.MembersOf("mnuHidden").front(), "Checked");
+  item.Visible = false;
+  EXPECT_TRUE(typist.Lookup.MembersOf("mnuHidden").empty());
+}
+
+TEST(MemberLookup, NamesOfTheMenuArraysCountWithoutAControlOfTheirOwn) {
+  Typist typist;
+  ProjectTables& tables = typist.Project.Tables;
+  tables.MenuTitles.emplace_back().Name = "mnuLaterTitle";
+  tables.MenuItems.emplace_back().Name = "mnuLaterItem";
+  EXPECT_EQ(typist.Lookup.MembersOf("mnulatertitle").front(), "Caption");
+  EXPECT_EQ(typist.Lookup.MembersOf("MNULATERITEM").front(), "Checked");
+}
+
+TEST(MemberLookup, TheRowInFrontOfTheFirstOfAMenuArrayIsNoName) {
+  Typist typist;
+  typist.Project.Tables.MenuTitles.at(0).Name = "mnuTemplate";
+  EXPECT_TRUE(typist.Lookup.MembersOf("mnuTemplate").empty());
 }
 
 TEST(MemberLookup, HiddenTemplatesAndObjectsWithoutANameAreNotOffered) {

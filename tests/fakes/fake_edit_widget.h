@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,7 @@ class FakeEditWidget final : public editor::EditWidget {
     if (lines_.empty()) lines_.emplace_back();
     sel_ = {};
     ++Histories;
+    if (OnSetText) OnSetText();
   }
   [[nodiscard]] int LineCount() const override { return static_cast<int>(lines_.size()); }
   [[nodiscard]] std::string GetLine(int line) const override {
@@ -68,6 +70,7 @@ class FakeEditWidget final : public editor::EditWidget {
 
   int Focused = 0;
   int Histories = 0;
+  std::function<void()> OnSetText;  ///< called at the end of each SetText
 
  private:
   std::vector<std::string> lines_{""};

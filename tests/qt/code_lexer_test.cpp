@@ -1,79 +1,72 @@
 // Colours and settings of the code windows' editing widget.
 #include "qt/editor/code_lexer.h"
 
-#include <QTest>
 #include <string>
+#include <string_view>
 
 #include <gtest/gtest.h>
 
-#include "editor/editor_project.h"
-#include "qt/editor/code_edit.h"
+#include "qt/code_edit_window.h"
 #include "qt/kit/theme.h"
 
 namespace tarnwick {
 namespace {
 
-class CodeColours : public testing::Test {
+class CodeColours : public CodeEditWindow {
  protected:
-  CodeColours() {
-    window_.resize(500, 300);
-    code_ = new CodeEdit(QStringLiteral("Editor"), {"PRINT", "If", "then"}, lookup_, "Courier New",
-                         &window_);
-    code_->setGeometry(0, 0, 500, 280);
-    window_.show();
-  }
-  /// A letter for the style of each character of the first line: "." plain, "k" keyword, "o"
-  /// operator, "s" scope keyword, "t" text, "c" comment, "n" number.
-  std::string StylesOf(std::string_view line) {
-    code_->SetText(line);
+  CodeColours() : CodeEditWindow({"PRINT", "If", "then"}) {}
+  void Colour(std::string_view text) {
+    code_->SetText(text);
     code_->SendScintilla(QsciScintilla::SCI_COLOURISE, 0UL, -1L);
-    std::string styles;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-      styles += ".kostcn"[code_->SendScintilla(QsciScintilla::SCI_GETSTYLEAT, i) % 7];
-    }
-    return styles;
+  }
+  long StyleAt(std::size_t place) {
+    return code_->SendScintilla(QsciScintilla::SCI_GETSTYLEAT, place);
   }
   [[nodiscard]] QColor ColorOf(int style) const { return code_->lexer()->color(style); }
-
-  test::EditorProject project_;
-  editor::MemberLookup lookup_{project_.Tables, project_.Language, editor::kFixedWordsOfCode};
-  QWidget window_;
-  CodeEdit* code_ = nullptr;
 };
 
-TEST_F(CodeColours, AKeywordIsColouredInAnyLetters) {
-  EXPECT_EQ(StylesOf("print PRINT Print printer"), "kkkkk.kkkkk.kkkkk........");
-  EXPECT_EQ(StylesOf("IF a THEN"), "kk...kkkk");
+/// A line and a letter for the style of each of its characters: "." plain, "k" keyword, "o"
+/// operator, "s" scope keyword, "t" text, "c" comment, "n" number.
+struct ColouredLine {
+  const char* Name;
+  std::string_view Line;
+  std::string_view Styles;
+};
+constexpr ColouredLine kColouredLines[] = {
+    {"AKeywordInAnyLetters", "print PRINT Print printer", "kkkkk.kkkkk.kkkkk........"},
+    {"AKeywordThatTheFileSpellsInSmallLetters", "IF a THEN", "kk...kkkk"},
+    {"AnApostropheStartsACommentAlsoInsideAWord", "ab'print", "..cccccc"},
+    {"SlashAndAsteriskAreOperatorsAndNoComment", "/* a */", "oo...oo"},
+    {"AllOperators", "a=b<c>d+e-f<=>g++--", ".o.o.o.o.o.ooo.oooo"},
+    {"OtherSignsArePlain", "a,b;c:d&e.f", "..........."},
+    {"BracketsAreScopeKeywords", "a(b)", ".s.s"},
+    {"AnApostropheWithinATextIsText", "a(\"x'y\",12)", ".sttttt.nns"},
+    {"AnOpenText", "a = \"open", "..o.ttttt"},
+};
+
+class ColouredLines : public CodeColours, public testing::WithParamInterface<ColouredLine> {};
+
+TEST_P(ColouredLines, HaveTheStyles) {
+  Colour(GetParam().Line);
+  std::string styles;
+  for (std::size_t i = 0; i < GetParam().Line.size(); ++i) styles += ".kostcn"[StyleAt(i) % 7];
+  EXPECT_EQ(styles, GetParam().Styles);
 }
 
-TEST_F(CodeColours, AnApostropheStartsACommentAlsoInsideAWord) {
-  EXPECT_EQ(StylesOf("ab'print"), "..cccccc");
-}
-
-TEST_F(CodeColours, SlashAndAsteriskAreOperatorsAndNoComment) {
-  EXPECT_EQ(StylesOf("/* a */"), "oo...oo");
-  EXPECT_EQ(StylesOf("a=b<c>d+e-f<=>g"), ".o.o.o.o.o.ooo.");
-  EXPECT_EQ(StylesOf("a,b;c:d&e.f"), "...........");
-}
-
-TEST_F(CodeColours, BracketsAreScopeKeywordsAndTextsStandInQuotes) {
-  EXPECT_EQ(StylesOf("a(\"x'y\",12)"), ".sttttt.nns");
-}
+INSTANTIATE_TEST_SUITE_P(Cases, ColouredLines, testing::ValuesIn(kColouredLines),
+                         [](const auto& tested) { return std::string(tested.param.Name); });
 
 TEST_F(CodeColours, AnOpenTextEndsWithItsLine) {
-  EXPECT_EQ(StylesOf("a = \"open"), "..o.ttttt");
-  code_->SetText("a = \"open\r\nprint");
-  code_->SendScintilla(QsciScintilla::SCI_COLOURISE, 0UL, -1L);
-  EXPECT_EQ(code_->SendScintilla(QsciScintilla::SCI_GETSTYLEAT, 11UL), CodeLexer::Keyword);
+  Colour("a = \"open\r\nprint");
+  EXPECT_EQ(StyleAt(11), CodeLexer::Keyword);
 }
 
 TEST_F(CodeColours, AnEditAboveColoursTheLinesBelow) {
-  code_->SetText("a\r\nprint");
-  code_->SendScintilla(QsciScintilla::SCI_COLOURISE, 0UL, -1L);
+  Colour("a\r\nprint");
   code_->SetSel({0, 0, 0, 0});
   code_->SetSelText("b\r\n");
   code_->SendScintilla(QsciScintilla::SCI_COLOURISE, 0UL, -1L);
-  EXPECT_EQ(code_->SendScintilla(QsciScintilla::SCI_GETSTYLEAT, 6UL), CodeLexer::Keyword);
+  EXPECT_EQ(StyleAt(6), CodeLexer::Keyword);
 }
 
 TEST_F(CodeColours, TheColoursAreThoseOfTheDefinition) {

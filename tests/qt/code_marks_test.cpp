@@ -102,6 +102,63 @@ TEST_F(CodeMarksWindow, TheCheckWaitsForAPauseInTyping) {
   EXPECT_TRUE(Marked(1));
 }
 
+/// Long enough for a check that is still running when the next key comes.
+std::string LongText() {
+  std::string text;
+  for (int line = 0; line < 50'000; ++line) text += "x = x + 1 ' line\r\n";
+  return text;
+}
+
+TEST_F(CodeMarksWindow, WhileALongTextIsCheckedTheWindowTakesKeysAndWhatIsOldIsNotShown) {
+  OpenCodeOfNewButton();
+  Editor().SetText(LongText() + "Wend");
+  // Seen from here, so the check runs beside the window.
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Marks().Checking(); }));
+  Editor().SetText("a = 1\r\n");
+  TypeCode(QStringLiteral("b = 2"));
+  EXPECT_EQ(Editor().Text(), "b = 2a = 1\r\n");
+  Editor().SetText("a = 1\r\n");
+  while (Marks().Checking()) {
+    QTest::qWait(1);
+    ASSERT_TRUE(Marks().Marks().empty());
+  }
+  QTest::qWait(600);
+  EXPECT_TRUE(Marks().Marks().empty()) << "the mark of the text before";
+}
+
+TEST_F(CodeMarksWindow, ALongTextIsMarkedAtItsEnd) {
+  OpenCodeOfNewButton();
+  Editor().SetText(LongText() + "Wend");
+  ASSERT_TRUE(Marked(1));
+  EXPECT_EQ(Marks().Marks()[0].Line, 50'000);
+}
+
+TEST_F(CodeMarksWindow, TheWindowMayCloseAndTheProgramEndWhileACheckRuns) {
+  OpenCodeOfNewButton();
+  Editor().SetText(LongText());
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Marks().Checking(); }));
+  program.Key(Qt::Key_Escape);
+  EXPECT_FALSE(Editor().isVisible());
+}
+
+TEST_F(CodeMarksWindow, AMacroOfTheDeclarationsTakesTheMarkOfTheOpenCodeAway) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("If a Begin\r  Beep\rEnd If"));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !Marks().Marks().empty(); }));
+  program.Key(Qt::Key_D, Qt::ControlModifier);
+  QTest::keyClicks(Editor("EditorPublic").viewport(), QStringLiteral("$DEFINE Begin Then"));
+  program.Find<QPushButton>(QStringLiteral("Command1")).click();
+  EXPECT_TRUE(Marked(0));
+}
+
+TEST_F(CodeMarksWindow, AMacroOfAnotherEventMakesNoFalseMark) {
+  program.Tables().EventTable.Replace("Form1.OnClick", "$DEFINE Begin Then");
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("If a Begin\r  Beep\rEnd If\rWend"));
+  ASSERT_TRUE(Marked(1));
+  EXPECT_EQ(Marks().Marks()[0].Line, 3);
+}
+
 TEST_F(CodeMarksWindow, F8GoesFromMarkToMark) {
   OpenCodeOfNewButton();
   TypeCode(QStringLiteral("a = 1\rWend\rb = 1\r  Loop\r"));

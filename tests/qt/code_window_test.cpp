@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTest>
@@ -403,6 +404,36 @@ TEST_F(CodeWindowTest, TheWindowRemembersItsSize) {
   QTest::keyClick(&Window(), Qt::Key_Escape);
   const std::string kept = program.Shell().SettingsFile().Read("Window", "FormCodigo");
   EXPECT_TRUE(Contains(kept, ",720,500")) << kept;
+}
+
+TEST_F(CodeWindowTest, AWindowThatWasLargerThanTheScreenComesBackWithinIt) {
+  program.Shell().SettingsFile().Write("Window", "FormCodigo", "-300,-200,5000,4000");
+  program.Shell().SettingsFile().Write("Window", "FormViewCodes", "9000,9000,700,500");
+  OpenCodeOfNewButton();
+  const QRect screen = Window().screen()->availableGeometry();
+  EXPECT_TRUE(screen.contains(Window().geometry()));
+  program.Key(Qt::Key_D, Qt::ControlModifier);
+  EXPECT_TRUE(screen.contains(program.Find<QWidget>(QStringLiteral("FormViewCodes")).geometry()));
+}
+
+TEST_F(CodeWindowTest, NoCodeWindowNeedsMoreThanASmallScreenHas) {
+  OpenCodeOfNewButton();
+  ASSERT_TRUE(program.Find<QWidget>(QStringLiteral("WndFunc")).isVisible());
+  const QSize small(1024 - 8, 600 - 36);
+  EXPECT_EQ(Window().minimumSizeHint().boundedTo(small), Window().minimumSizeHint());
+  program.Key(Qt::Key_D, Qt::ControlModifier);
+  const QSize least = program.Find<QWidget>(QStringLiteral("FormViewCodes")).minimumSizeHint();
+  EXPECT_EQ(least.boundedTo(small), least);
+}
+
+TEST_F(CodeWindowTest, WhileTheEditorIsOpenTheOtherWindowsCanBeUsed) {
+  OpenCodeOfNewButton();
+  EXPECT_TRUE(Window().isWindow());
+  EXPECT_FALSE(Window().isModal());
+  program.Window().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&program.Window()));
+  program.Choose(QStringLiteral("mnuForms"));
+  EXPECT_TRUE(Window().isVisible());
 }
 
 TEST_F(CodeWindowTest, TheFontOfTheCodeIsAskedForByItsName) {

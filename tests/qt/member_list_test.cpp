@@ -9,8 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "editor/editor_project.h"
-#include "qt/editor/code_edit.h"
+#include "qt/code_edit_window.h"
 #include "qt/editor/member_list_popup.h"
 
 namespace tarnwick {
@@ -19,36 +18,17 @@ namespace {
 /// The shadow stands 45 twips off the frame.
 constexpr int kShadow = 3;
 
-class MemberList : public testing::Test {
+class MemberList : public CodeEditWindow {
  protected:
-  MemberList() {
-    window_.resize(500, 300);
-    code_ = new CodeEdit(QStringLiteral("Editor"), {}, lookup_, "Courier New", &window_);
-    code_->setGeometry(0, 0, 500, 280);
-    window_.show();
-    window_.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
-    code_->setFocus();
-  }
   void Type(const char* text) { QTest::keyClicks(code_, QString::fromLatin1(text)); }
   QListWidget& List() { return *code_->findChild<QListWidget*>(QStringLiteral("lstIntellisense")); }
   QWidget& Frame() { return *code_->findChild<MemberListPopup*>(); }
   QPoint RowAt(int row) { return List().visualItemRect(List().item(row)).center(); }
   /// The left top of the caret's line at the caret, on the screen.
   QPoint CaretPlace() {
-    const long at = code_->SendScintilla(QsciScintilla::SCI_GETCURRENTPOS);
-    const long x = code_->SendScintilla(QsciScintilla::SCI_POINTXFROMPOSITION, 0UL, at);
-    const long y = code_->SendScintilla(QsciScintilla::SCI_POINTYFROMPOSITION, 0UL, at);
-    return code_->viewport()->mapToGlobal(QPoint(static_cast<int>(x), static_cast<int>(y)));
+    const editor::EditRange caret = code_->GetSel();
+    return code_->viewport()->mapToGlobal(PlaceOf(caret.EndLineNo, caret.EndColNo));
   }
-  int LineHeight() {
-    return static_cast<int>(code_->SendScintilla(QsciScintilla::SCI_TEXTHEIGHT, 0UL));
-  }
-
-  test::EditorProject project_;
-  editor::MemberLookup lookup_{project_.Tables, project_.Language, editor::kFixedWordsOfCode};
-  QWidget window_;
-  CodeEdit* code_ = nullptr;
 };
 
 TEST_F(MemberList, StandsOneLineBelowTheCaretAndStaysThere) {
@@ -68,13 +48,31 @@ TEST_F(MemberList, ItsShadowStandsRightAndBelow) {
   EXPECT_TRUE(Frame().mask().contains(QPoint(Frame().width() - 1, kShadow)));
 }
 
-TEST_F(MemberList, StaysOnTheScreen) {
+TEST_F(MemberList, NearTheRightEdgeOfTheScreenItMovesLeft) {
+  const QRect room = window_.screen()->availableGeometry();
+  window_.move(room.right() - 120, room.top() + 60);
+  Type("Ok.");
+  ASSERT_TRUE(List().isVisible());
+  EXPECT_EQ(Frame().geometry().right() + 1, room.right());
+  EXPECT_EQ(Frame().y(), CaretPlace().y() + LineHeight());
+}
+
+TEST_F(MemberList, NearTheLowerEdgeOfTheScreenItStandsAboveTheLine) {
+  const QRect room = window_.screen()->availableGeometry();
+  window_.move(room.left() + 40, room.bottom() - 60);
+  Type("Ok.");
+  ASSERT_TRUE(List().isVisible());
+  // It hides no letter of the line that is being typed.
+  EXPECT_EQ(Frame().geometry().bottom() + 1, CaretPlace().y());
+  EXPECT_EQ(Frame().x(), CaretPlace().x());
+}
+
+TEST_F(MemberList, InTheLowerRightCornerItStaysOnTheScreen) {
   const QRect room = window_.screen()->availableGeometry();
   window_.move(room.right() - 120, room.bottom() - 60);
   Type("Ok.");
   ASSERT_TRUE(List().isVisible());
   EXPECT_TRUE(room.contains(Frame().geometry()));
-  // It hides no letter of the line that is being typed.
   EXPECT_LE(Frame().geometry().bottom(), CaretPlace().y());
 }
 

@@ -1,7 +1,10 @@
 // Code that is typed: what a crash leaves of it, and its steps.
+#include <QApplication>
 #include <QComboBox>
 #include <QFrame>
+#include <QLabel>
 #include <QPushButton>
+#include <QTest>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -168,6 +171,142 @@ TEST_F(Typed, AcceptedDeclarationsAreAStep) {
   EXPECT_EQ(program.Shell().Commands().Caption(Command::Undo), "&Undo Public Declarations");
   program.Key(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(program.Record().DeclarePbl, "");
+}
+
+TEST_F(Typed, AnAcceptThatChangedNothingLeavesNoStep) {
+  program.Place(0, {20, 20});
+  const std::string before = program.Shell().Commands().Caption(Command::Undo);
+  program.Key(Qt::Key_F7);
+  program.Key(Qt::Key_Return, Qt::ControlModifier);
+  ASSERT_FALSE(Editor().isVisible());
+  EXPECT_EQ(program.Shell().Commands().Caption(Command::Undo), before);
+  program.Key(Qt::Key_D, Qt::ControlModifier);
+  program.Key(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(program.Shell().Commands().Caption(Command::Undo), before);
+  program.Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(program.Form().UBound(Kind::Button), 0) << "the step before is taken back";
+}
+
+/// The Public Declarations of the first form.
+class TypedDeclarations : public Typed {
+ protected:
+  QWidget& Declare() { return program.Find<QWidget>(QStringLiteral("FormViewCodes")); }
+  CodeEdit& Text() { return program.Find<CodeEdit>(QStringLiteral("EditorPublic")); }
+  QWidget& Offer() { return *Declare().findChild<QWidget*>(QStringLiteral("LostCode")); }
+  void Open() {
+    program.Key(Qt::Key_D, Qt::ControlModifier);
+    Program::Settle();
+    ASSERT_TRUE(Declare().isVisible());
+  }
+  void Press(const char* button) {
+    program.Click(*Declare().findChild<QPushButton*>(QString::fromLatin1(button)));
+  }
+};
+
+TEST_F(TypedDeclarations, WhatEscLostIsOfferedAtTheNextOpeningAndUndoneWithinTheText) {
+  Open();
+  EXPECT_FALSE(Offer().isVisible());
+  program.Type(QStringLiteral("Dim a"));
+  program.Key(Qt::Key_Escape);
+  EXPECT_EQ(program.Record().DeclarePbl, "");
+  Open();
+  EXPECT_EQ(Text().Text(), "");
+  ASSERT_TRUE(Offer().isVisible());
+  Press("RestoreCode");
+  EXPECT_EQ(Text().Text(), "Dim a");
+  EXPECT_FALSE(Offer().isVisible());
+  EXPECT_EQ(QApplication::focusWidget(), &Text());
+  program.Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Text().Text(), "");
+  program.Key(Qt::Key_Y, Qt::ControlModifier);
+  program.Key(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(program.Record().DeclarePbl, "Dim a");
+}
+
+TEST_F(TypedDeclarations, WhatIsDiscardedIsOfferedNoMore) {
+  Open();
+  program.Type(QStringLiteral("Dim a"));
+  Declare().close();
+  Open();
+  Press("DiscardCode");
+  EXPECT_FALSE(Offer().isVisible());
+  EXPECT_EQ(QApplication::focusWidget(), &Text());
+  program.Key(Qt::Key_Escape);
+  Open();
+  EXPECT_FALSE(Offer().isVisible());
+}
+
+TEST_F(TypedDeclarations, OpenedAgainWhileTheyAreOpenTheyKeepWhatIsTyped) {
+  Open();
+  program.Type(QStringLiteral("Dim a"));
+  program.Window().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&program.Window()));
+  Open();
+  EXPECT_EQ(Text().Text(), "Dim a");
+  EXPECT_FALSE(Offer().isVisible());
+}
+
+TEST_F(TypedDeclarations, ThoseOfALeftProjectAreAskedForAndOfferedWhenItIsRestored) {
+  Open();
+  program.Type(QStringLiteral("Dim a"));
+  program.User.No();
+  program.Shell().Commands().Run(Command::New);
+  EXPECT_TRUE(program.User.Done()) << "New asks while something is typed";
+  EXPECT_FALSE(Declare().isVisible());
+  Open();
+  EXPECT_FALSE(Offer().isVisible()) << "it belongs to the project that was left";
+  program.Key(Qt::Key_Escape);
+  const auto offers = program.Shell().Projects().UnsavedWork();
+  ASSERT_EQ(offers.size(), 1U);
+  program.Shell().Projects().Restore(offers[0]);
+  Program::Settle();
+  Open();
+  EXPECT_EQ(Text().Text(), "");
+  ASSERT_TRUE(Offer().isVisible());
+  Press("RestoreCode");
+  EXPECT_EQ(Text().Text(), "Dim a");
+}
+
+TEST_F(TypedDeclarations, TheyFollowAnUndoWhileNothingIsTyped) {
+  Open();
+  program.Type(QStringLiteral("Dim a"));
+  program.Key(Qt::Key_Return, Qt::ControlModifier);
+  Open();
+  program.Window().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&program.Window()));
+  program.Choose(QStringLiteral("mnuUndo"));
+  EXPECT_EQ(program.Record().DeclarePbl, "");
+  EXPECT_EQ(Text().Text(), "");
+  program.Choose(QStringLiteral("mnuRedo"));
+  EXPECT_EQ(Text().Text(), "Dim a");
+}
+
+TEST_F(TypedDeclarations, TheyCloseWithTheirFormAndAreOfferedWhenItComesBack) {
+  program.Shell().Commands().Run(Command::AddNewForm);
+  ASSERT_EQ(program.Form().Number(), 2);
+  Open();
+  EXPECT_EQ(Declare().windowTitle(), QStringLiteral("Form: Form2  (Public Declarations)"));
+  program.Type(QStringLiteral("Dim a"));
+  program.User.Yes();
+  program.Shell().Commands().Run(Command::Remove);
+  EXPECT_FALSE(Declare().isVisible());
+  program.Shell().Commands().Run(Command::Undo);
+  ASSERT_EQ(program.Form().Number(), 2);
+  Open();
+  EXPECT_TRUE(Offer().isVisible());
+}
+
+TEST_F(TypedDeclarations, TheirTitleFollowsTheFormsName) {
+  Open();
+  program.Window().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&program.Window()));
+  program.Click(program.Surface(), {300, 200});
+  ASSERT_EQ(program.Shell().Sheet().Label(0), "Name");
+  program.Click(program.Find<QLabel>(QStringLiteral("Label_0")));
+  program.Type(QStringLiteral("Main"));
+  program.Key(Qt::Key_Return);
+  ASSERT_EQ(program.Record().Name, "Main");
+  EXPECT_EQ(Declare().windowTitle(), QStringLiteral("Form: Main  (Public Declarations)"));
 }
 
 }  // namespace

@@ -22,6 +22,28 @@ TEST_F(WindowPlacementTest, AWindowPastAnEdgeMovesBackWithinIt) {
   EXPECT_EQ(FitInto({1200, 700, 400, 300}, {0, 0, 1366, 768}), (WindowRect{966, 468, 400, 300}));
 }
 
+TEST_F(WindowPlacementTest, ACodeWindowLeavesTheUpperLeftToTheDesignForms) {
+  const WindowRect least{0, 0, 640, 400};
+  // The program fills a screen of 1366 by 768 pixels.
+  const WindowRect place = PlaceBeside({4, 32, 1358, 732}, least, {4, 32, 1358, 732});
+  EXPECT_EQ(place, (WindowRect{466, 194, 896, 570}));
+}
+
+TEST_F(WindowPlacementTest, ACodeWindowFitsOnASmallScreen) {
+  const WindowRect least{0, 0, 640, 400};
+  EXPECT_EQ(PlaceBeside({4, 32, 1016, 564}, least, {4, 32, 1016, 564}),
+            (WindowRect{350, 157, 670, 439}));
+  EXPECT_EQ(PlaceBeside({4, 32, 632, 444}, least, {4, 32, 632, 444}),
+            (WindowRect{4, 76, 632, 400}));
+  EXPECT_EQ(PlaceBeside({0, 0, 300, 200}, least, {0, 0, 320, 240}), (WindowRect{0, 0, 320, 240}));
+}
+
+TEST_F(WindowPlacementTest, EachWindowHasAPlaceOfItsOwn) {
+  WritePlace(settings, "FormCodigo", {10, 20, 700, 500});
+  EXPECT_EQ(ReadPlace(settings, "FormCodigo"), (WindowRect{10, 20, 700, 500}));
+  EXPECT_EQ(ReadPlace(settings, "FormViewCodes").Width, 0);
+}
+
 TEST_F(WindowPlacementTest, WhatIsWrittenComesBack) {
   WritePlacement(settings, {{-8, 12, 1024, 700}, true, {700, 290}, {400, 120}});
   const WindowPlacement back = ReadPlacement(settings);

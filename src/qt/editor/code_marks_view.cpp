@@ -1,6 +1,5 @@
 #include "qt/editor/code_marks_view.h"
 
-#include <QElapsedTimer>
 #include <QHelpEvent>
 #include <QImage>
 #include <QLabel>
@@ -22,8 +21,6 @@ using Base = QsciScintillaBase;
 
 /// Milliseconds without typing ahead of a check.
 constexpr int kPause = 300;
-/// Checks take at most this part of the time.
-constexpr int kPauseByDuration = 10;
 constexpr int kMarginWidth = 18;
 constexpr int kSignSide = 14;
 constexpr int kErrorSign = 1;
@@ -67,8 +64,11 @@ QImage SignOf(CodeMark::Sort sort, Theme theme, qreal ratio) {
 
 }  // namespace
 
-CodeMarksView::CodeMarksView(CodeEdit& code, QLabel& words, Check check)
-    : QObject(&code), code_(code), words_(words), check_(std::move(check)) {
+CodeMarksView::CodeMarksView(CodeEdit& code, QLabel& words, editor::CodeMarks& checks,
+                             Prepare prepare)
+    : QObject(&code), code_(code), words_(words), checks_(checks), prepare_(std::move(prepare)) {
+  thread_.setMaxThreadCount(1);
+  thread_.setThreadPriority(QThread::LowPriority);
   words_.setObjectName(QStringLiteral("MarkText"));
   words_.setAccessibleName(QStringLiteral("Mistakes"));
   words_.setTextFormat(Qt::PlainText);
@@ -76,7 +76,10 @@ CodeMarksView::CodeMarksView(CodeEdit& code, QLabel& words, Check check)
   pause_.setSingleShot(true);
   pause_.setInterval(kPause);
   connect(&pause_, &QTimer::timeout, this, [this] { CheckNow(); });
-  connect(&code_, &QsciScintilla::textChanged, this, [this] { pause_.start(); });
+  connect(&code_, &QsciScintilla::textChanged, this, [this] {
+    ++version_;
+    pause_.start();
+  });
   connect(&code_, &QsciScintilla::cursorPositionChanged, this, [this] { ShowWords(); });
   code_.viewport()->installEventFilter(this);
   code_.installEventFilter(this);
@@ -112,17 +115,41 @@ void CodeMarksView::Clear() {
 void CodeMarksView::Restart() {
   Clear();
   ShowWords();
-  pause_.start(kPause);
+  CheckAgain();
+}
+
+void CodeMarksView::CheckAgain() {
+  ++version_;
+  checks_.ForgetFiles();
+  pause_.start();
 }
 
 void CodeMarksView::CheckNow() {
+  if (checking_) {
+    // One check at a time: this text's turn comes when the one that runs has ended.
+    pause_.start();
+    return;
+  }
   pause_.stop();
-  QElapsedTimer clock;
-  clock.start();
-  std::vector<CodeMark> found = check_(code_.Text());
-  pause_.setInterval(std::max(kPause, kPauseByDuration * static_cast<int>(clock.elapsed())));
+  checking_ = true;
+  thread_.start([this, check = prepare_(code_.Text()), version = version_] {
+    QMetaObject::invokeMethod(
+        this, [this, found = check.Run(), version] { Finish(found, version); },
+        Qt::QueuedConnection);
+  });
+}
+
+void CodeMarksView::Finish(editor::CodeCheck::Found found, unsigned version) {
+  checking_ = false;
+  // What was typed meanwhile has begun a pause of its own.
+  if (version != version_) return;
+  if (!found.Unread.empty()) {
+    checks_.Read(found.Unread);
+    CheckNow();
+    return;
+  }
   Clear();
-  marks_ = std::move(found);
+  marks_ = std::move(found.Marks);
   for (const CodeMark& mark : marks_) ShowMark(mark);
   ShowWords();
 }
@@ -157,6 +184,10 @@ void CodeMarksView::ShowWords() {
       text = QStringLiteral("%1 mistakes (F8). %2").arg(marks_.size()).arg(text);
     }
   }
+  Tell(text);
+}
+
+void CodeMarksView::Tell(const QString& text) {
   words_.setText(text);
   words_.setToolTip(text);
 }

@@ -1,11 +1,14 @@
 #include "qt/editor/code_tools.h"
 
+#include <QFrame>
 #include <QKeySequence>
 #include <QToolBar>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include "qt/editor/code_edit.h"
 #include "qt/kit/icon_set.h"
+#include "qt/kit/theme.h"
 
 namespace tarnwick {
 
@@ -53,6 +56,17 @@ void CodeTools::RunEdit(CodeEdit& code, int first) {
   };
   QObject::connect(&code, &QsciScintilla::textChanged, &code, refresh);
   refresh();
+}
+
+QFrame* FrameOf(CodeEdit& code) {
+  auto* frame = new QFrame;
+  frame->setProperty("panel", true);
+  auto* room = new QVBoxLayout(frame);
+  // The text keeps off the rounded corners.
+  room->setContentsMargins(1, kGap, 1, kGap);
+  code.setFrameShape(QFrame::NoFrame);
+  room->addWidget(&code);
+  return frame;
 }
 
 }  // namespace tarnwick

@@ -8,6 +8,7 @@
 #include <span>
 #include <vector>
 
+class QFrame;
 class QToolBar;
 class QWidget;
 
@@ -39,5 +40,8 @@ class CodeTools {
  private:
   std::vector<QAction*> actions_;
 };
+
+/// The frame around a code window's text, with the look of a panel.
+[[nodiscard]] QFrame* FrameOf(CodeEdit& code);
 
 }  // namespace tarnwick

@@ -2,26 +2,28 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QFrame>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QSignalBlocker>
-#include <QSplitter>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "qt/editor/code_marks_view.h"
 #include "qt/editor/find_dialog.h"
 #include "qt/editor/function_panel_view.h"
+#include "qt/editor/kept_place.h"
+#include "qt/editor/lost_code_bar.h"
+#include "qt/kit/grip_splitter.h"
 #include "qt/kit/icon_set.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
 #include "shell/command_center.h"
+#include "shell/status_text.h"
 
 namespace tarnwick {
 
@@ -57,9 +59,8 @@ enum Tool {
 constexpr int kMenuRows = 14;
 constexpr int kHelpRow = 13;
 
-constexpr std::string_view kWindowSection = "Window";
+/// Of its place among the settings.
 constexpr std::string_view kPlaceKey = "FormCodigo";
-constexpr QSize kStartSize(940, 600);
 
 }  // namespace
 
@@ -70,20 +71,21 @@ CodeWindow::CodeWindow(editor::FormCodigo& logic, CodeEdit& code, const CodeWind
       code_(code),
       ports_(ports),
       events_(new QComboBox),
-      lost_(new QFrame),
-      parts_(new QSplitter(Qt::Horizontal)),
+      lost_(new LostCodeBar(logic.Typed(), code)),
+      parts_(new GripSplitter(Qt::Horizontal, nullptr)),
       functions_(new FunctionPanelView(logic.Functions(), nullptr)),
       find_(new FindDialog(code, this)),
       mark_text_(new QLabel),
-      marks_(new CodeMarksView(
-          code, *mark_text_,
-          [this](const std::string& text) { return ports_.Marks.OfEvent(text); })),
+      marks_(new CodeMarksView(code, *mark_text_, ports.Marks,
+                               [this](std::string text) {
+                                 return ports_.Marks.EventCheck(logic_.Typed().Key(),
+                                                                std::move(text));
+                               })),
       bar_(new QToolBar) {
   setObjectName(QStringLiteral("FormCodigo"));
   setWindowIcon(IconOf(QStringLiteral("code")));
   BuildTools();
   BuildLayout();
-  TakePlace();
   connect(events_, &QComboBox::activated, this, [this](int row) {
     logic_.Events_Click(row);
     Refresh();
@@ -142,38 +144,12 @@ void CodeWindow::BuildLayout() {
   events_->setToolTip(QStringLiteral("Events of this object"));
   events_->setMaxVisibleItems(20);
 
-  lost_->setObjectName(QStringLiteral("LostCode"));
-  lost_->setProperty("panel", true);
-  auto* lost_text = new QLabel(QStringLiteral("Unsaved code was found."));
-  auto* restore = new QPushButton(QStringLiteral("&Restore"));
-  auto* discard = new QPushButton(QStringLiteral("&Discard"));
-  restore->setObjectName(QStringLiteral("RestoreCode"));
-  discard->setObjectName(QStringLiteral("DiscardCode"));
-  restore->setToolTip(QStringLiteral("Puts the lost text into the editor"));
-  discard->setToolTip(QStringLiteral("Forgets the lost text"));
-  connect(restore, &QPushButton::clicked, this, [this] {
-    logic_.RestoreLost();
-    Refresh();
-    code_.SetFocus();
-  });
-  connect(discard, &QPushButton::clicked, this, [this] {
-    logic_.DiscardLost();
-    Refresh();
-    code_.SetFocus();
-  });
-  auto* lost_line = new QHBoxLayout(lost_);
-  lost_line->setContentsMargins(kRoom, kGap, kGap, kGap);
-  lost_line->addWidget(lost_text, 1);
-  lost_line->addWidget(restore);
-  lost_line->addWidget(discard);
-
   parts_->setObjectName(QStringLiteral("WndEdit"));
   parts_->setChildrenCollapsible(false);
-  parts_->addWidget(&code_);
+  parts_->addWidget(FrameOf(code_));
   parts_->addWidget(functions_);
   parts_->setStretchFactor(0, 1);
   parts_->setSizes({540, 340});
-  code_.setFrameShape(QFrame::NoFrame);
 
   auto* ok = new QPushButton(QStringLiteral("Ok"));
   auto* cancel = new QPushButton(QStringLiteral("Cancel"));
@@ -200,7 +176,10 @@ void CodeWindow::BuildLayout() {
   whole->setSpacing(kRoom);
   whole->addWidget(bar_);
   whole->addLayout(head);
-  whole->addWidget(parts_, 1);
+  auto* middle = new QHBoxLayout;
+  middle->setContentsMargins(kRoom, 0, kRoom, 0);
+  middle->addWidget(parts_);
+  whole->addLayout(middle, 1);
   whole->addLayout(buttons);
   setTabOrder(&code_, events_);
 }
@@ -212,14 +191,18 @@ void CodeWindow::Refresh() {
   for (const editor::EventRow& row : logic_.Events()) events_->addItem(ToQString(row.Text));
   events_->setCurrentIndex(logic_.EventRowNo());
   events_->setEnabled(logic_.EventsEnabled());
-  lost_->setVisible(logic_.Lost() != nullptr);
+  lost_->Refresh();
+}
+
+void CodeWindow::CheckAgain() {
+  if (isVisible()) marks_->CheckAgain();
 }
 
 void CodeWindow::ShowOpened() {
+  if (!isVisible()) TakePlace(*this, ports_.SettingsFile, kPlaceKey);
   Refresh();
   functions_->Refresh(logic_.ComboSearch());
   ShowFunctions(logic_.WndFuncVisible());
-  ports_.Marks.ForgetFiles();
   marks_->Restart();
   BringToFront();
   code_.SetFocus();
@@ -269,25 +252,30 @@ void CodeWindow::ShowMenu(const QPoint& place) {
 
 void CodeWindow::OpenFile() {
   const auto path = ports_.Dialogs.OpenFile({"OPEN FILE - Tarnwick -", "All Files|*.*", "", ""});
-  if (path && !path->empty()) {
-    if (const auto text = ports_.Files.Read(*path)) {
-      const int last = code_.LineCount() - 1;
-      code_.beginUndoAction();
-      code_.SetSel({0, 0, last, static_cast<int>(code_.GetLine(last).size())});
-      code_.SetSelText(*text);
-      // Files of other systems end their lines otherwise.
-      code_.convertEols(QsciScintilla::EolWindows);
-      code_.endUndoAction();
-      code_.SetCaretPos(0, 0);
-    }
-  }
   code_.SetFocus();
+  if (!path || path->empty()) return;
+  const auto text = ports_.Files.Read(*path);
+  if (!text) {
+    marks_->Tell(ToQString(NotOpenedStatus(*path, "it cannot be read")));
+    return;
+  }
+  const int last = code_.LineCount() - 1;
+  code_.beginUndoAction();
+  code_.SetSel({0, 0, last, static_cast<int>(code_.GetLine(last).size())});
+  code_.SetSelText(*text);
+  // Files of other systems end their lines otherwise.
+  code_.convertEols(QsciScintilla::EolWindows);
+  code_.endUndoAction();
+  code_.SetCaretPos(0, 0);
 }
 
 void CodeWindow::SaveFile() {
   const auto path = ports_.Dialogs.SaveFile({"SAVE FILE - Tarnwick -", "All Files|*.*", "", ""});
-  if (path && !path->empty()) ports_.Files.Replace(*path, code_.Text());
   code_.SetFocus();
+  if (!path || path->empty()) return;
+  const bool saved = ports_.Files.Replace(*path, code_.Text());
+  marks_->Tell(saved ? QStringLiteral("Saved: %1").arg(ToQString(*path))
+                     : ToQString(NotSavedStatus({*path, ports_.Files.WhyNotReplaced()})));
 }
 
 bool CodeWindow::eventFilter(QObject* object, QEvent* event) {
@@ -312,7 +300,7 @@ bool CodeWindow::event(QEvent* event) {
       return true;
     }
   }
-  if (event->type() == QEvent::Hide) KeepPlace();
+  if (event->type() == QEvent::Hide) LeaveWindow(*this, ports_.SettingsFile, kPlaceKey);
   return QWidget::event(event);
 }
 
@@ -320,36 +308,6 @@ void CodeWindow::closeEvent(QCloseEvent* event) {
   // Every other way out is a Cancel; the window itself stays for the next opening.
   event->ignore();
   logic_.Cancel();
-}
-
-void CodeWindow::KeepPlace() {
-  const QRect place = geometry();
-  ports_.SettingsFile.Write(kWindowSection, kPlaceKey,
-                            QStringLiteral("%1,%2,%3,%4")
-                                .arg(place.x())
-                                .arg(place.y())
-                                .arg(place.width())
-                                .arg(place.height())
-                                .toStdString());
-}
-
-void CodeWindow::TakePlace() {
-  resize(kStartSize);
-  const QString kept = QString::fromStdString(ports_.SettingsFile.Read(kWindowSection, kPlaceKey));
-  const QStringList numbers = kept.split(u',');
-  if (numbers.size() != 4) {
-    // The first time it stands over the middle of the program.
-    move(parentWidget()->geometry().center() - rect().center());
-    return;
-  }
-  QRect place(numbers[0].toInt(), numbers[1].toInt(), numbers[2].toInt(), numbers[3].toInt());
-  const QRect free = screen()->availableGeometry();
-  place.setSize(place.size().boundedTo(free.size()).expandedTo({320, 240}));
-  place.moveLeft(
-      std::clamp(place.left(), free.left(), std::max(free.left(), free.right() - place.width())));
-  place.moveTop(
-      std::clamp(place.top(), free.top(), std::max(free.top(), free.bottom() - place.height())));
-  setGeometry(place);
 }
 
 }  // namespace tarnwick

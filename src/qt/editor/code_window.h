@@ -10,9 +10,7 @@
 #include "qt/editor/code_tools.h"
 
 class QComboBox;
-class QFrame;
 class QLabel;
-class QSplitter;
 class QToolBar;
 
 namespace tarnwick {
@@ -21,6 +19,8 @@ class CodeMarksView;
 class CommandCenter;
 class FindDialog;
 class FunctionPanelView;
+class GripSplitter;
+class LostCodeBar;
 
 /// What the window asks of the program around it, besides its own logic.
 struct CodeWindowPorts {
@@ -46,6 +46,8 @@ class CodeWindow final : public QWidget {
   void ShowOpened();
   /// Caption, events and the offer of lost code again.
   void Refresh();
+  /// The Public Declarations have changed: the text is checked with them.
+  void CheckAgain();
   void BringToFront();
 
  protected:
@@ -61,15 +63,13 @@ class CodeWindow final : public QWidget {
   void ShowFunctions(bool shown);
   void ShowHelpOf(const QString& word);
   void ShowMenu(const QPoint& place);
-  void KeepPlace();
-  void TakePlace();
 
   editor::FormCodigo& logic_;
   CodeEdit& code_;
   CodeWindowPorts ports_;
   QComboBox* events_;
-  QFrame* lost_;
-  QSplitter* parts_;
+  LostCodeBar* lost_;
+  GripSplitter* parts_;
   FunctionPanelView* functions_;
   FindDialog* find_;
   QLabel* mark_text_;

@@ -35,20 +35,25 @@ struct CodeWindowsView::Parts {
       : CodeLookup(shell.Tables(), shell.Support(), editor::kFixedWordsOfCode),
         DeclareLookup(shell.Tables(), shell.Support(), editor::kFixedWordsOfDeclarations),
         CodeHost(shell.Bar(), shell.Steps(), [this] { Code->hide(); }),
-        DeclareHost(shell.Bar(), shell.Steps(), [this] { Declare->hide(); }),
+        DeclareHost(shell.Bar(), shell.Steps(),
+                    [this] {
+                      Declare->hide();
+                      Code->CheckAgain();
+                    }),
         CodeText(new CodeEdit(QStringLiteral("Editor"), shell.Support().Keywords, CodeLookup,
                               editor::kCodeFont, nullptr)),
         DeclareText(new CodeEdit(QStringLiteral("EditorPublic"), shell.Support().Keywords,
                                  DeclareLookup, editor::kDeclarationsFont, nullptr)),
-        Codigo(shell.Tables(), shell.Support(), shell.SettingsFile(), *CodeText, CodeHost),
-        Declarations(shell.Tables(), *DeclareText, DeclareHost),
+        Drafts(shell.Tables()),
+        Codigo(shell.Tables(), shell.Support(), shell.SettingsFile(), *CodeText, CodeHost, Drafts),
+        Declarations(shell.Tables(), *DeclareText, DeclareHost, Drafts),
         Marks(shell.Tables(), shell.Context().Files),
         Code(new CodeWindow(Codigo, *CodeText,
                             {shell.Context().Files, shell.Context().Dialogs, shell.SettingsFile(),
                              shell.Commands(), Marks},
                             &parent)),
-        Declare(
-            new DeclarationsWindow(Declarations, *DeclareText, Marks, shell.Commands(), &parent)) {}
+        Declare(new DeclarationsWindow(Declarations, *DeclareText, Marks, shell.SettingsFile(),
+                                       shell.Commands(), &parent)) {}
 
   editor::MemberLookup CodeLookup;
   editor::MemberLookup DeclareLookup;
@@ -57,6 +62,7 @@ struct CodeWindowsView::Parts {
   // The windows own the widgets that their logic works on.
   CodeEdit* CodeText;
   CodeEdit* DeclareText;
+  editor::CodeDrafts Drafts;
   editor::FormCodigo Codigo;
   editor::FormViewCodes Declarations;
   editor::CodeMarks Marks;
@@ -75,7 +81,9 @@ CodeWindowsView::~CodeWindowsView() {
 }
 
 void CodeWindowsView::LoadCodeWindows() {
-  if (parts_ == nullptr) parts_ = std::make_unique<Parts>(shell_, main_window_);
+  if (parts_ != nullptr) return;
+  parts_ = std::make_unique<Parts>(shell_, main_window_);
+  shell_.AddObserver(*this);
 }
 
 void CodeWindowsView::OpenCode() {
@@ -113,7 +121,7 @@ void CodeWindowsView::CloseCode() {
   parts_->Codigo.Cancel();
   parts_->Declarations.Cancel();
   // What was lost belongs to the project that goes.
-  parts_->Codigo.Drafts().Clear();
+  parts_->Drafts.Clear();
 }
 
 void CodeWindowsView::OpenPublicDeclarations() {
@@ -127,17 +135,21 @@ void CodeWindowsView::OpenPublicDeclarations() {
 }
 
 bool CodeWindowsView::HasTypedCode() {
-  return parts_ != nullptr && parts_->Codigo.HasTyped();
+  return parts_ != nullptr &&
+         (parts_->Codigo.Typed().Differs() || parts_->Declarations.Typed().Differs());
 }
 
 std::map<std::string, std::string> CodeWindowsView::TypedCode() {
   if (parts_ == nullptr) return {};
-  return parts_->Codigo.NotAccepted();
+  editor::CodeDrafts::Texts texts = parts_->Drafts.All();
+  parts_->Codigo.Typed().AddTo(texts);
+  parts_->Declarations.Typed().AddTo(texts);
+  return texts;
 }
 
 void CodeWindowsView::OfferCode(const std::map<std::string, std::string>& code) {
   LoadCodeWindows();
-  parts_->Codigo.KeepDrafts(code);
+  parts_->Drafts.Offer(code);
 }
 
 void CodeWindowsView::ShowLine(int line) {
@@ -147,9 +159,22 @@ void CodeWindowsView::ShowLine(int line) {
 }
 
 void CodeWindowsView::NameChanged(int form, std::string_view old_name, std::string_view new_name) {
+  if (parts_ == nullptr) return;
+  parts_->Declare->Refresh();
   if (!IsCodeOpen()) return;
   parts_->Codigo.NameChanged(form, old_name, new_name);
   parts_->Code->Refresh();
+}
+
+void CodeWindowsView::FormChanged(int form) {
+  if (form != parts_->Declarations.Form()) return;
+  parts_->Declarations.Refresh();
+  parts_->Declare->Refresh();
+}
+
+void CodeWindowsView::FormClosing(int form) {
+  // What was typed on it is offered when the form comes back. No form goes while its code is open.
+  if (form == parts_->Declarations.Form()) parts_->Declarations.Cancel();
 }
 
 }  // namespace tarnwick

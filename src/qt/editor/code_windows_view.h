@@ -12,6 +12,7 @@
 #include "editor/form_codigo.h"
 #include "editor/form_view_codes.h"
 #include "editor/member_lookup.h"
+#include "model/project_observer.h"
 #include "shell/shell_windows.h"
 
 class QWidget;
@@ -26,7 +27,7 @@ class History;
 class MDIForm1;
 
 /// Builds `FormCodigo` and `FormViewCodes` once and joins them with events bar and project.
-class CodeWindowsView final : public CodeWindows {
+class CodeWindowsView final : public CodeWindows, public ProjectObserver {
  public:
   CodeWindowsView(MDIForm1& shell, QWidget& main_window);
   ~CodeWindowsView() override;
@@ -43,6 +44,10 @@ class CodeWindowsView final : public CodeWindows {
   [[nodiscard]] bool HasTypedCode() override;
   [[nodiscard]] std::map<std::string, std::string> TypedCode() override;
   void OfferCode(const std::map<std::string, std::string>& code) override;
+
+  // ProjectObserver
+  void FormChanged(int form) override;
+  void FormClosing(int form) override;
 
  private:
   /// Notifies events bars and history of what a window has stored, and hides the window at its

@@ -8,9 +8,12 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <array>
+#include <utility>
 
 #include "qt/editor/code_marks_view.h"
 #include "qt/editor/find_dialog.h"
+#include "qt/editor/kept_place.h"
+#include "qt/editor/lost_code_bar.h"
 #include "qt/kit/icon_set.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
@@ -31,22 +34,23 @@ constexpr std::array<CodeTool, 6> kTools{{
 }};
 constexpr int kSearch = 5;
 constexpr int kPopItems = 5;
-constexpr QSize kStartSize(700, 460);
+/// Of its place among the settings.
+constexpr std::string_view kPlaceKey = "FormViewCodes";
 
 }  // namespace
 
 DeclarationsWindow::DeclarationsWindow(editor::FormViewCodes& logic, CodeEdit& code,
-                                       editor::CodeMarks& marks, CommandCenter& commands,
-                                       QWidget* parent)
+                                       editor::CodeMarks& marks, Settings& settings,
+                                       CommandCenter& commands, QWidget* parent)
     : QWidget(parent, Qt::Window),
       logic_(logic),
       code_(code),
-      checks_(marks),
+      settings_(settings),
+      lost_(new LostCodeBar(logic.Typed(), code)),
       find_(new FindDialog(code, this)),
       bar_(new QToolBar) {
   setObjectName(QStringLiteral("FormViewCodes"));
   setWindowIcon(IconOf(QStringLiteral("declarations")));
-  resize(kStartSize);
   bar_->setIconSize({18, 18});
   tools_ = std::make_unique<CodeTools>(kTools, *bar_, *this);
   tools_->RunEdit(code_, 0);
@@ -68,18 +72,22 @@ DeclarationsWindow::DeclarationsWindow(editor::FormViewCodes& logic, CodeEdit& c
   buttons->setContentsMargins(kRoom, 0, kRoom, kRoom);
   auto* mark_text = new QLabel;
   mark_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  marks_ = new CodeMarksView(code_, *mark_text, [this](const std::string& text) {
-    return checks_.OfDeclarations(logic_.Form(), text);
+  marks_ = new CodeMarksView(code_, *mark_text, marks, [this, &marks](std::string text) {
+    return marks.DeclarationsCheck(logic_.Form(), std::move(text));
   });
   key(QKeySequence(Qt::Key_F8), [this] { marks_->GoToNext(); });
   buttons->addWidget(mark_text, 1);
   buttons->addWidget(ok);
-  code_.setFrameShape(QFrame::NoFrame);
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);
   whole->setSpacing(kRoom);
   whole->addWidget(bar_);
-  whole->addWidget(&code_, 1);
+  auto* head = new QVBoxLayout;
+  head->setContentsMargins(kRoom, 0, kRoom, 0);
+  head->setSpacing(kRoom);
+  head->addWidget(lost_);
+  head->addWidget(FrameOf(code_), 1);
+  whole->addLayout(head, 1);
   whole->addLayout(buttons);
   code_.setContextMenuPolicy(Qt::CustomContextMenu);
   connect(&code_, &QWidget::customContextMenuRequested, this, [this](const QPoint& place) {
@@ -92,9 +100,14 @@ DeclarationsWindow::DeclarationsWindow(editor::FormViewCodes& logic, CodeEdit& c
 
 DeclarationsWindow::~DeclarationsWindow() = default;
 
-void DeclarationsWindow::ShowOpened() {
+void DeclarationsWindow::Refresh() {
   setWindowTitle(ToQString(logic_.Caption()));
-  checks_.ForgetFiles();
+  lost_->Refresh();
+}
+
+void DeclarationsWindow::ShowOpened() {
+  if (!isVisible()) TakePlace(*this, settings_, kPlaceKey);
+  Refresh();
   marks_->Restart();
   if (isMinimized()) showNormal();
   show();
@@ -111,6 +124,7 @@ bool DeclarationsWindow::event(QEvent* event) {
       return true;
     }
   }
+  if (event->type() == QEvent::Hide) LeaveWindow(*this, settings_, kPlaceKey);
   return QWidget::event(event);
 }
 

@@ -6,6 +6,7 @@
 
 #include "editor/code_marks.h"
 #include "editor/form_view_codes.h"
+#include "persistence/settings.h"
 #include "qt/editor/code_edit.h"
 #include "qt/editor/code_tools.h"
 
@@ -16,6 +17,7 @@ namespace tarnwick {
 class CodeMarksView;
 class CommandCenter;
 class FindDialog;
+class LostCodeBar;
 
 /// An editor, a toolbar and an Ok; it stands beside the other windows.
 class DeclarationsWindow final : public QWidget {
@@ -24,10 +26,13 @@ class DeclarationsWindow final : public QWidget {
  public:
   /// Takes `code`, which `logic` works on, as the child that shows the text.
   DeclarationsWindow(editor::FormViewCodes& logic, CodeEdit& code, editor::CodeMarks& marks,
-                     CommandCenter& commands, QWidget* parent);
+                     Settings& settings, CommandCenter& commands, QWidget* parent);
   ~DeclarationsWindow() override;
 
+  /// Shows what the logic has opened.
   void ShowOpened();
+  /// Caption and the offer of a lost text again.
+  void Refresh();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -36,7 +41,8 @@ class DeclarationsWindow final : public QWidget {
  private:
   editor::FormViewCodes& logic_;
   CodeEdit& code_;
-  editor::CodeMarks& checks_;
+  Settings& settings_;
+  LostCodeBar* lost_;
   FindDialog* find_;
   CodeMarksView* marks_;
   QToolBar* bar_;

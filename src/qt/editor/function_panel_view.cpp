@@ -11,12 +11,12 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QSplitter>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "qt/kit/grip_splitter.h"
 #include "qt/kit/icon_set.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
@@ -78,7 +78,7 @@ FunctionPanelView::FunctionPanelView(editor::FunctionPanel& panel, QWidget* pare
     menu.exec(help_->mapToGlobal(place));
   });
 
-  auto* parts = new QSplitter(Qt::Vertical);
+  auto* parts = new GripSplitter(Qt::Vertical, this);
   parts->setChildrenCollapsible(false);
   parts->addWidget(tabs_);
   parts->addWidget(help_);

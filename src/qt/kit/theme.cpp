@@ -67,6 +67,20 @@ tarnwick--PropertyGrid QToolButton:focus { border-color: %3; background: %2; }
 QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid %5; border-radius: 3px; background: %4; }
 QCheckBox::indicator:checked { border-color: %3; background: %3; image: url(:/icons/tick-%8.svg); }
 QCheckBox::indicator:focus { border-color: %3; }
+QComboBox { border: 1px solid %1; border-radius: 5px; padding: 3px 6px; background: %4; }
+QComboBox:hover:enabled { background: %2; }
+QComboBox:focus, QComboBox:on { border-color: %3; }
+QComboBox:disabled { color: %7; }
+QComboBox::drop-down { border: none; width: 20px; }
+QComboBox::down-arrow { width: 12px; height: 12px; image: url(:/icons/open-list-%8.svg); }
+QComboBox::down-arrow:disabled { image: none; }
+QComboBox QAbstractItemView { border: 1px solid %1; border-radius: 5px; padding: 2px; background: %4; outline: 0; selection-background-color: %2; selection-color: palette(text); }
+QTabWidget::pane { border: none; border-top: 1px solid %1; }
+QTabBar { qproperty-drawBase: 0; }
+QTabBar::tab { border: none; border-bottom: 2px solid transparent; padding: 6px 10px; color: %5; background: transparent; }
+QTabBar::tab:hover { color: palette(text); background: %2; }
+QTabBar::tab:selected { border-bottom-color: %3; color: palette(text); }
+QTabBar::tab:focus { color: %3; }
 QDialogButtonBox, QMessageBox { dialogbuttonbox-buttons-have-icons: 0; }
 QPushButton { border: 1px solid %1; border-radius: 5px; padding: 5px 14px; background: %4; }
 QPushButton:hover:enabled, QPushButton:pressed { background: %2; }
