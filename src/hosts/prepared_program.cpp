@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "hosts/disk_files.h"
 #include "platform/native_files.h"
 #include "text/path_text.h"
 
@@ -29,9 +30,13 @@ PreparedProgram PrepareProgram(const std::string& path, const basic::ClassCatalo
   PreparedProgram prepared;
   prepared.Found = std::move(checked.Found);
   if (checked.Checked) {
+    DiskFiles disk;
     for (const basic::Resource& resource : checked.Checked->Resources) {
-      prepared.Resources.emplace_back(resource.File);
+      const std::string& file = prepared.Resources.emplace_back(resource.File);
+      if (disk.FileExists(file)) continue;
+      prepared.Found.Note(resource.At, "There is no file " + file, "It is taken as empty");
     }
+    prepared.Found.SortByPlace();
     basic::EmitResult emitted = basic::Emit(*checked.Checked);
     prepared.Good = emitted.Error.empty();
     if (!prepared.Good) prepared.Found.Error(emitted.At, emitted.Error);

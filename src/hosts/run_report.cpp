@@ -107,6 +107,8 @@ RunExit RunReport::SayResult(const basic::RunResult& result) const {
   }
   for (const EndRow& row : kEnds) {
     if (row.End != result.End) continue;
+    // A program that stopped this one knows it by the exit code.
+    if (row.Exit == RunExit::Stopped && form_ == ReportForm::Tab) return row.Exit;
     Say(at, row.Kind, row.Text);
     return row.Exit;
   }

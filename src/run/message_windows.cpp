@@ -1,5 +1,6 @@
 #include "run/message_windows.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -86,6 +87,16 @@ void ShowErrors(const QString& title, const QStringList& errors) {
   QObject::connect(buttons, &QDialogButtonBox::rejected, &box, &QDialog::reject);
   rows->addWidget(buttons);
   box.exec();
+}
+
+void CloseMessages() {
+  while (QWidget* const menu = QApplication::activePopupWidget()) {
+    if (!menu->close()) break;
+  }
+  while (auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+    box->reject();
+    if (box->isVisible()) break;
+  }
 }
 
 }  // namespace tarnwick::run

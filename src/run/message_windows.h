@@ -21,4 +21,8 @@ bool ShowFault(const FaultText& fault, bool can_show);
 /// Shows the errors of a source that cannot be run, and waits until the window is closed.
 void ShowErrors(const QString& title, const QStringList& errors);
 
+/// Closes the menus, messages and dialogs that are open, as Esc would, the innermost first: a
+/// program that is to end does not wait for the user.
+void CloseMessages();
+
 }  // namespace tarnwick::run

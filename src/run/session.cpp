@@ -6,6 +6,7 @@
 #include <chrono>
 #include <csignal>
 #include <memory>
+#include <mutex>
 
 #include <unistd.h>
 
@@ -24,6 +25,7 @@
 #include "run/message_windows.h"
 #include "run/stage.h"
 #include "run/stop_listener.h"
+#include "run/window_console.h"
 #include "text/code_page.h"
 #include "text/path_text.h"
 
@@ -52,48 +54,77 @@ objects::ProgramFacts FactsOf(const PreparedProgram& program, const RunnerArgume
   return {exe, std::string(title.substr(0, title.rfind('.'))), program.Resources};
 }
 
-/// The machine ends when the user of a terminal, the program that started this one, or the time
-/// says so, also while it waits for events.
+/// The request to stop, from the program that started this one. It may come at any time, also while
+/// a message is shown.
+class StopRequests {
+ public:
+  StopRequests(const RunnerArguments& arguments, std::FILE* in) {
+    if (!arguments.WithIde) return;
+    // What reads the report may end before the program does.
+    std::signal(SIGPIPE, SIG_IGN);
+    listener_ = std::make_unique<StopListener>(::fileno(in), [this] { Stop(); });
+  }
+  [[nodiscard]] bool Asked() const { return asked_; }
+  /// The machine that is to stop; null for none.
+  void SetMachine(basic::Machine* machine) {
+    const std::scoped_lock lock(mutex_);
+    machine_ = machine;
+    if (asked_ && machine_ != nullptr) machine_->Stop();
+  }
+
+ private:
+  /// Called by the listener's thread.
+  void Stop() {
+    {
+      const std::scoped_lock lock(mutex_);
+      asked_ = true;
+      if (machine_ != nullptr) machine_->Stop();
+    }
+    // Wakes a program that waits for events, and closes the message that it shows.
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [] { CloseMessages(); }, Qt::QueuedConnection);
+  }
+
+  std::mutex mutex_;
+  basic::Machine* machine_ = nullptr;
+  std::atomic<bool> asked_ = false;
+  std::unique_ptr<StopListener> listener_;  ///< last: its thread uses the others
+};
+
+/// While it lives, the machine ends when that is asked for or the time is over, also while it waits
+/// for events.
 class Stopping {
  public:
-  Stopping(basic::Machine& machine, const RunnerArguments& arguments, std::FILE* in)
-      : machine_(machine) {
-    if (arguments.WithIde) {
-      // What reads the report may end before the program does.
-      std::signal(SIGPIPE, SIG_IGN);
-      listener_ = std::make_unique<StopListener>(::fileno(in), [this] { Stop(); });
-    }
+  Stopping(basic::Machine& machine, const RunnerArguments& arguments, StopRequests& requests)
+      : machine_(machine), requests_(requests) {
+    requests_.SetMachine(&machine);
     if (arguments.MaxSeconds > 0) {
       timer_.setSingleShot(true);
       QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
         late_ = true;
         machine_.Stop();
+        CloseMessages();
       });
       timer_.start(std::chrono::milliseconds(static_cast<int>(arguments.MaxSeconds * 1000)));
     }
   }
+  Stopping(const Stopping&) = delete;
+  Stopping& operator=(const Stopping&) = delete;
+  ~Stopping() { requests_.SetMachine(nullptr); }
+
   /// What the end was, seen from outside.
   [[nodiscard]] basic::RunEnd EndOf(basic::RunEnd end) const {
     if (end != basic::RunEnd::Stopped && end != basic::RunEnd::Ended) return end;
     // A program that waited in its last line ends by itself when it is stopped.
     if (late_) return basic::RunEnd::TimeLimit;
-    return asked_ ? basic::RunEnd::Stopped : end;
+    return requests_.Asked() ? basic::RunEnd::Stopped : end;
   }
 
  private:
-  void Stop() {
-    asked_ = true;
-    machine_.Stop();
-    // Wakes a program that waits for events.
-    QMetaObject::invokeMethod(
-        QCoreApplication::instance(), [] {}, Qt::QueuedConnection);
-  }
-
   basic::Machine& machine_;
+  StopRequests& requests_;
   QTimer timer_;
   bool late_ = false;
-  std::atomic<bool> asked_ = false;
-  std::unique_ptr<StopListener> listener_;
 };
 
 /// Lets windows repaint while the program sleeps.
@@ -123,13 +154,20 @@ void WriteTrace(std::FILE* file, std::string_view line) {
 
 /// `trace` gets the changes that the windows show; null for none.
 basic::RunResult RunCode(const PreparedProgram& program, const RunnerArguments& arguments,
-                         const RunStreams& streams, std::FILE* trace) {
+                         const RunStreams& streams, StopRequests& requests, std::FILE* trace) {
   std::vector<std::string> words;
   for (const std::string& word : arguments.Arguments) words.push_back(Utf8ToCodePage(word));
   // Standard input belongs to the program that started this one, if there is one.
-  File nothing(nullptr, &std::fclose);
-  if (arguments.WithIde) nothing.reset(std::fopen("/dev/null", "rb"));
-  hosts::StreamConsole console(nothing ? nothing.get() : streams.In, streams.Out);
+  const objects::ProgramFacts facts = FactsOf(program, arguments);
+  std::unique_ptr<WindowConsole> window;
+  std::unique_ptr<hosts::StreamConsole> stream;
+  if (arguments.WithIde || arguments.Windows) {
+    window = std::make_unique<WindowConsole>(looks::ToQString(facts.Title), streams.Out);
+  } else {
+    stream = std::make_unique<hosts::StreamConsole>(streams.In, streams.Out);
+  }
+  basic::ConsoleHost* const console =
+      window != nullptr ? static_cast<basic::ConsoleHost*>(window.get()) : stream.get();
   hosts::DiskFiles files;
   hosts::LocalClock clock(arguments.Clock);
   DesktopSystem system(std::move(words), streams.Err);
@@ -139,19 +177,23 @@ basic::RunResult RunCode(const PreparedProgram& program, const RunnerArguments& 
   Stage stage;
   objects::TracedWidgets traced(stage, [&](std::string_view line) { WriteTrace(trace, line); });
   objects::ObjectWorld world(trace != nullptr ? static_cast<objects::WidgetPort&>(traced) : stage,
-                             &files, FactsOf(program, arguments));
+                             &files, facts);
   traced.Connect(world);
   stage.Connect(world);
-  basic::Machine machine(program.Code, {&console, &world, &files, &clock, &system, &natives},
+  basic::Machine machine(program.Code, {console, &world, &files, &clock, &system, &natives},
                          arguments.Options());
   machine.SetResources(program.Resources);
   world.Connect(machine);
+  if (window != nullptr) {
+    window->Ending = [&] { return machine.Ending(); };
+    window->Closed = [&] { machine.Stop(); };
+  }
   SleepingWindows sleeping(stage);
   clock.Ending = [&] {
     sleeping.Tick();
     return machine.Ending();
   };
-  const Stopping stopping(machine, arguments, streams.In);
+  const Stopping stopping(machine, arguments, requests);
   basic::RunResult result = machine.Run();
   result.End = stopping.EndOf(result.End);
   std::fflush(streams.Out);
@@ -208,9 +250,12 @@ RunExit Run(const RunnerArguments& arguments, const RunStreams& streams, RunRepo
     }
   }
   report.Signal("start");
-  const basic::RunResult result = RunCode(program, arguments, streams, trace.get());
+  StopRequests requests(arguments, streams.In);
+  const basic::RunResult result = RunCode(program, arguments, streams, requests, trace.get());
   const RunExit exit = report.SayResult(result);
-  if (result.End == basic::RunEnd::Error) ShowRunTimeError(program, report, result, arguments);
+  if (result.End == basic::RunEnd::Error && !requests.Asked()) {
+    ShowRunTimeError(program, report, result, arguments);
+  }
   return exit;
 }
 

@@ -12,6 +12,21 @@
 
 namespace tarnwick {
 
+namespace {
+
+bool IsRunWith(Command command) {
+  return command == Command::RunWithEither || command == Command::RunWithCompiler ||
+         command == Command::RunWithRunner;
+}
+
+/// What a row of Run With chooses.
+RunWith ChoiceOf(Command command) {
+  if (command == Command::RunWithCompiler) return RunWith::Compiler;
+  return command == Command::RunWithRunner ? RunWith::Runner : RunWith::Auto;
+}
+
+}  // namespace
+
 void CommandCenter::Run(Command command) {
   if (state_.Busy || !State(command).Enabled) return;
   if (command == Command::Exit) {
@@ -72,8 +87,14 @@ void CommandCenter::Dispatch(Command command) {
       return compile_.Run();
     case Command::Stop:
       return run_.Stop();
+    case Command::RunWithEither:
+    case Command::RunWithCompiler:
+    case Command::RunWithRunner:
+      return run_.Choose(ChoiceOf(command));
     case Command::Check:
       return ShowFindings();
+    case Command::Output:
+      return Toggle(Panel::Output);
     case Command::Help:
       return OpenHelp();
     case Command::Restore:
@@ -119,6 +140,9 @@ CommandState CommandCenter::State(Command command) const {
     return {state_.Flags.CommandsEnabled && state_.Steps.CanRedo(), false};
   }
   if (command == Command::Stop) return {run_.Running(), false};
+  if (IsRunWith(command)) {
+    return {state_.Flags.CommandsEnabled, run_.With() == ChoiceOf(command)};
+  }
   return StateOf(command, state_.Tables, state_.Flags);
 }
 

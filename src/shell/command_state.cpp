@@ -67,6 +67,8 @@ bool IsChecked(Command command, const DesignForm* form, const ShellFlags& flags)
       return form != nullptr && shown(Panel::EventsBar);
     case Command::ObjectBar:
       return shown(Panel::ObjectBar);
+    case Command::Output:
+      return shown(Panel::Output);
     default:
       return false;
   }

@@ -7,8 +7,9 @@ namespace tarnwick {
 namespace {
 
 constexpr MenuRow kSeparator{};
-/// The list of recent projects, a menu of its own.
-constexpr MenuRow kRecentProjects{"mnuRecent", "&Recent Projects", "", std::nullopt};
+constexpr MenuRow kRecentProjects{"mnuRecent", "&Recent Projects", "", std::nullopt,
+                                  SubMenu::RecentProjects};
+constexpr MenuRow kRunWith{"mnuRunWith", "Run &With", "", std::nullopt, SubMenu::RunWith};
 
 constexpr std::array kFileRows{
     MenuRow{"mnuNew", "&New Project", "Ctrl+N", Command::New},
@@ -64,7 +65,16 @@ constexpr std::array kProjectRows{
 constexpr std::array kRunRows{
     MenuRow{"mnuCompile", "&Compile and Run", "F5", Command::Compile},
     MenuRow{"mnuStop", "&Stop", "Shift+F5", Command::Stop},
+    kRunWith,
+    kSeparator,
     MenuRow{"mnuCheck", "C&heck", "Shift+F8", Command::Check},
+    MenuRow{"mnuOutput", "&Output", "", Command::Output},
+};
+
+constexpr std::array kRunWithRows{
+    MenuRow{"mnuRunWithAutomatic", "&Automatic", "", Command::RunWithEither},
+    MenuRow{"mnuRunWithCompiler", "&Compiler", "", Command::RunWithCompiler},
+    MenuRow{"mnuRunWithRunner", "&Runner", "", Command::RunWithRunner},
 };
 
 constexpr std::array kHelpRows{
@@ -121,6 +131,10 @@ constexpr std::array kObjectPopUp{
 std::span<const MenuColumn> MenuBar() noexcept {
   return kMenuBar;
 }
+std::span<const MenuRow> RowsOf(SubMenu menu) noexcept {
+  return menu == SubMenu::RunWith ? std::span<const MenuRow>(kRunWithRows)
+                                  : std::span<const MenuRow>();
+}
 std::span<const ToolbarButton> MainToolbar() noexcept {
   return kMainToolbar;
 }
@@ -132,12 +146,16 @@ std::span<const MenuRow> ObjectPopUpRows() noexcept {
 }
 
 const MenuRow* MenuRowOf(Command command) noexcept {
-  for (const MenuColumn& column : kMenuBar) {
-    for (const MenuRow& row : column.Rows) {
+  const auto find_in = [&](std::span<const MenuRow> rows) -> const MenuRow* {
+    for (const MenuRow& row : rows) {
       if (row.Does == command) return &row;
     }
+    return nullptr;
+  };
+  for (const MenuColumn& column : kMenuBar) {
+    if (const MenuRow* const row = find_in(column.Rows)) return row;
   }
-  return nullptr;
+  return find_in(kRunWithRows);
 }
 
 }  // namespace tarnwick

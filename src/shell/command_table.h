@@ -42,19 +42,31 @@ enum class Command : std::uint8_t {
   MenuEdit,
   Compile,
   Stop,
+  RunWithEither,
+  RunWithCompiler,
+  RunWithRunner,
   Check,
+  Output,
   Help,
   About,
 };
 inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(Command::About) + 1;
 
-/// A row of a menu. A row without a name is a separator, one with a name and no command is a menu
-/// whose rows the program fills: the recent projects.
+/// Menus that open from a row of another one.
+enum class SubMenu : std::uint8_t {
+  None,
+  RecentProjects,  ///< its rows are the projects, which the program fills in
+  RunWith,
+};
+
+/// A row of a menu. A row without a name is a separator; one with a name and no command opens a
+/// menu.
 struct MenuRow {
   std::string_view Name;  ///< of the entry, "mnuSave"
   std::string_view Caption;
   std::string_view Key;  ///< "Ctrl+S"; "" for none
   std::optional<Command> Does;
+  SubMenu Opens = SubMenu::None;
 };
 
 /// A menu of the menu bar. The menu with no rows of its own shows the tools, in screen order.
@@ -73,6 +85,8 @@ struct ToolbarButton {
 
 /// The menu bar of the main window, left to right.
 [[nodiscard]] std::span<const MenuColumn> MenuBar() noexcept;
+/// The rows of a menu that opens from a row; none for a menu that the program fills.
+[[nodiscard]] std::span<const MenuRow> RowsOf(SubMenu menu) noexcept;
 /// `BtnMenu` of the main window.
 [[nodiscard]] std::span<const ToolbarButton> MainToolbar() noexcept;
 /// `BtnBarMenu`, the small bar above the form list.

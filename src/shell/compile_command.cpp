@@ -10,7 +10,7 @@ void CompileCommand::Run() {
   ProjectTables& tables = state_.Tables;
   if (tables.ListaFrms.Empty()) return;
   if (run_.Running()) return run_.StopAndCompile();
-  const RunWith with = RunWithOf(state_.Settings);
+  const RunWith with = run_.ReadChoice();
   const bool may_run = with != RunWith::Compiler && run_.HasRunner();
   // "Runner" without a runner starts the compiler, which is better than nothing.
   const bool may_compile = with != RunWith::Runner || !may_run;

@@ -52,7 +52,7 @@ class FormCommands final : public project::ContainerHost {
   void WindowClosed(int form);
   /// Makes a form the current one; with 0 there is none.
   void Show(int form);
-  /// Tells that every form closes, then empties the project.
+  /// Notifies the observers that every form closes, then empties the project.
   void CloseAll();
 
   void HideContainer() override { state_.View->HideContainer(); }

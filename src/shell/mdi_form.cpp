@@ -68,7 +68,10 @@ struct MDIForm1::Rooms {
       if (FormUser* const user = Surfaces.Of(object.Form)) user->NumberMoved(object, back);
     };
     State.ProjectSaved = [this] { Findings.ProjectSaved(); };
-    State.ProjectReplaced = [this] { Findings.ProjectReplaced(); };
+    State.ProjectReplaced = [this] {
+      Findings.ProjectReplaced();
+      Run.ProjectReplaced();
+    };
     State.Run = [this](Command command) { Commands.Run(command); };
     State.Observer.Add(Surfaces);
     State.Observer.Add(Status);

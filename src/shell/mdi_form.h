@@ -91,7 +91,7 @@ class MDIForm1 {
   [[nodiscard]] FormUser* User(int form);
   /// The surface of the current form; null without one.
   [[nodiscard]] FormUser* CurrentUser();
-  /// Tells the view the selection's text again: after a change the shell did not make.
+  /// Gives the view the selection's text again: after a change the shell did not make.
   void RefreshStatus();
 
  private:

@@ -12,7 +12,8 @@ enum class Panel : std::uint8_t {
   EventsBar,   ///< the `FrmBarra` of the current form
   ObjectBar,   ///< the floating tool box
   Findings,    ///< the list of the check's findings
+  Output,      ///< what the running program printed
 };
-inline constexpr std::size_t kPanelCount = 5;
+inline constexpr std::size_t kPanelCount = 6;
 
 }  // namespace tarnwick

@@ -16,6 +16,18 @@ namespace {
 
 constexpr SettingKey kRunWith{"Run", "With"};
 
+struct RunWithRow {
+  RunWith With;
+  std::string_view Word;  ///< of the settings file
+  std::string_view Status;
+};
+/// The choices, by enumerator.
+constexpr RunWithRow kRunWithRows[] = {
+    {RunWith::Auto, "auto", "F5 starts Rc.exe, and the runner where there is none"},
+    {RunWith::Compiler, "compiler", "F5 starts Rc.exe"},
+    {RunWith::Runner, "runner", "F5 starts the runner, tarnwick-run"},
+};
+
 /// The name of a file, however its path is written.
 std::string_view FileNameOf(std::string_view path) {
   const std::size_t slash = path.find_last_of("\\/");
@@ -24,10 +36,25 @@ std::string_view FileNameOf(std::string_view path) {
 
 }  // namespace
 
-RunWith RunWithOf(const Settings& settings) {
-  const std::string with = Lower(settings.Read(kRunWith));
-  if (with == "compiler") return RunWith::Compiler;
-  return with == "runner" ? RunWith::Runner : RunWith::Auto;
+RunWith RunCommand::ReadChoice() {
+  const std::string word = state_.Settings.Read(kRunWith);
+  with_ = RunWith::Auto;
+  for (const RunWithRow& row : kRunWithRows) {
+    if (EqualsFolded(row.Word, word)) with_ = row.With;
+  }
+  return *with_;
+}
+
+RunWith RunCommand::With() {
+  return with_ ? *with_ : ReadChoice();
+}
+
+void RunCommand::Choose(RunWith with) {
+  with_ = with;
+  const RunWithRow& row = kRunWithRows[static_cast<std::size_t>(with)];
+  state_.Settings.Write(kRunWith, row.Word);
+  state_.Say(row.Status);
+  state_.View->CommandsChanged();
 }
 
 bool RunCommand::Start(std::string text, SourceMap map) {
@@ -38,10 +65,12 @@ bool RunCommand::Start(std::string text, SourceMap map) {
   map_ = std::move(map);
   main_form_ = FormListName(tables.MainFormName);
   first_error_.clear();
+  first_error_line_ = 0;
   notes_ = 0;
+  began_ = false;
+  opened_ = false;
   compile_again_ = false;
-  lines_.Clear();
-  ShowLines();
+  ClearLines();
   const bool started = runner_->Start({source_, tables.ProgramFolder, tables.ExeFile}, *this);
   if (started) state_.View->CommandsChanged();
   return started;
@@ -57,23 +86,47 @@ void RunCommand::StopAndCompile() {
   compile_again_ = true;
 }
 
+void RunCommand::ProjectReplaced() {
+  map_ = {};
+  text_.clear();
+  lines_.ForgetPlaces();
+}
+
+void RunCommand::ClearLines() {
+  lines_.Clear();
+  if (view_ != nullptr) view_->RunLinesChanged();
+}
+
+void RunCommand::ShowLines(bool must_see) {
+  if (view_ != nullptr) view_->RunLinesChanged();
+  if (!must_see && std::exchange(opened_, true)) return;
+  opened_ = true;
+  if (!state_.IsShown(Panel::Output)) state_.ShowPanel(Panel::Output, true);
+}
+
 void RunCommand::RunStarted() {
+  began_ = true;
   state_.Say("Running " + main_form_);
 }
 
 void RunCommand::RunOutput(std::string_view text) {
   lines_.Print(text);
-  ShowLines();
+  ShowLines(false);
 }
 
 void RunCommand::RunMessaged(const RunMessage& message) {
   const bool error = message.Severity == RunSeverity::Error;
   std::string text = TextOf(message);
-  if (error && first_error_.empty()) first_error_ = text;
+  const int line = IsOurs(message) ? message.Line : 0;
+  if (error && first_error_.empty()) {
+    first_error_ = text;
+    first_error_line_ = line;
+    // The program goes on showing its own message; what happened is known already.
+    if (began_) state_.Say("Stopped: " + text);
+  }
   if (!error) ++notes_;
-  lines_.Add(error ? RunLines::Sort::Error : RunLines::Sort::Note, std::move(text),
-             IsOurs(message) ? message.Line : 0);
-  ShowLines();
+  lines_.Add(error ? RunLines::Sort::Error : RunLines::Sort::Note, std::move(text), line);
+  ShowLines(error);
 }
 
 void RunCommand::RunShows(const RunMessage& place) {
@@ -86,10 +139,14 @@ bool RunCommand::IsOurs(const RunMessage& message) const {
 
 void RunCommand::RunEnded(RunnerEnd how) {
   state_.View->CommandsChanged();
+  const bool compile_again = std::exchange(compile_again_, false);
+  // What cannot be run is shown where it stands.
+  if (how == RunnerEnd::SourceFaulty && !compile_again && PlaceOf(first_error_line_)) {
+    GoToLine(first_error_line_);
+  }
   state_.Say(EndText(how));
-  if (!std::exchange(compile_again_, false)) return;
-  // A command that runs meanwhile has the user's attention; the program is asked for again then.
-  if (!state_.Busy) state_.Run(Command::Compile);
+  // While a command runs the program is not started again: the user asks for it then.
+  if (compile_again && !state_.Busy) state_.Run(Command::Compile);
 }
 
 std::optional<project::ProgramPlace> RunCommand::PlaceOf(int source_line) const {
@@ -130,8 +187,9 @@ std::string RunCommand::EndText(RunnerEnd how) const {
       return with_error("Not started");
     case RunnerEnd::RunTimeError:
       return with_error("Stopped");
-    case RunnerEnd::Limit:
     case RunnerEnd::Stopped:
+      return with_error("Stopped");
+    case RunnerEnd::Limit:
       return main_form_ + " stopped";
     case RunnerEnd::BadUsage:
     case RunnerEnd::RunnerFault:
@@ -155,8 +213,25 @@ bool RunCommand::GoToLine(int source_line) {
   return place.has_value();
 }
 
+void RunCommand::ShowCodeByKey(const project::ProgramPlace& place) {
+  // Nothing can be selected while the editor is open: the whole key says what is meant.
+  std::string& key = state_.Tables.JumpKey;
+  key = "Form";
+  AppendNumber(key, std::int64_t{place.Form});
+  if (place.Id != Kind::Form) key.append(".").append(place.Owner);
+  key.append(InfoOf(place.Of).Suffix);
+  state_.Busy = true;
+  state_.Code->OpenCode();
+  state_.Busy = false;
+  state_.Code->ShowLine(place.Line);
+}
+
 void RunCommand::GoTo(const project::ProgramPlace& place) {
-  if (state_.RaiseOpenCode()) return;
+  if (state_.Code->IsCodeOpen()) {
+    if (place.What == project::ProgramPlace::Sort::Code) return ShowCodeByKey(place);
+    state_.Code->BringCodeToFront();
+    return;
+  }
   ways_.Forms.BringUp(place.Form);
   switch (place.What) {
     case project::ProgramPlace::Sort::Declarations:

@@ -22,8 +22,6 @@ class PropertySheet;
 /// What starts a generated program: the compiler, the runner beside the IDE, or the one that is
 /// there, the compiler first.
 enum class RunWith : std::uint8_t { Auto, Compiler, Runner };
-/// The user's choice: "With" of section "Run" of the settings.
-[[nodiscard]] RunWith RunWithOf(const Settings& settings);
 
 /// One running program at a time. Its messages are lines of the output panel, and each knows its
 /// place in the project as it was when the program was made.
@@ -56,7 +54,18 @@ class RunCommand final : public RunListener {
   /// The same, and compiles again as soon as it has ended.
   void StopAndCompile();
 
+  /// The user's choice, "With" of section "Run" of the settings, as it was read or made last.
+  [[nodiscard]] RunWith With();
+  /// The same, read again.
+  RunWith ReadChoice();
+  /// Keeps the choice in the settings and says what F5 starts from now on.
+  void Choose(RunWith with);
+
+  /// The project is another one now, and so nothing of the running program has a place in it.
+  void ProjectReplaced();
+
   [[nodiscard]] const RunLines& Lines() const noexcept { return lines_; }
+  void ClearLines();
   /// Goes to the place of a line of the panel, from 0: to the code, the declarations or the row of
   /// the property sheet. False when the line has none, or a command runs.
   bool Jump(std::size_t line);
@@ -75,9 +84,11 @@ class RunCommand final : public RunListener {
   [[nodiscard]] std::string TextOf(const RunMessage& message) const;
   [[nodiscard]] std::string EndText(RunnerEnd how) const;
   void GoTo(const project::ProgramPlace& place);
-  void ShowLines() {
-    if (view_ != nullptr) view_->RunLinesChanged();
-  }
+  /// In the code editor, which is open already.
+  void ShowCodeByKey(const project::ProgramPlace& place);
+  /// Notifies the view, and opens the panel for the first line of a run and for each error: between
+  /// them the user can close it.
+  void ShowLines(bool must_see);
 
   ShellState& state_;
   Ways ways_;
@@ -89,8 +100,12 @@ class RunCommand final : public RunListener {
   SourceMap map_;
   std::string main_form_;
   std::string first_error_;
+  int first_error_line_ = 0;  ///< of the source that runs; 0 for none
   int notes_ = 0;
+  bool began_ = false;   ///< its first line has run
+  bool opened_ = false;  ///< the panel was opened for this run
   bool compile_again_ = false;
+  std::optional<RunWith> with_;
 };
 
 }  // namespace tarnwick

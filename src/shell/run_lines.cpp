@@ -1,5 +1,6 @@
 #include "shell/run_lines.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tarnwick {
@@ -14,16 +15,17 @@ void RunLines::Append(Line line) {
 
 void RunLines::Print(std::string_view text) {
   while (!text.empty()) {
-    const std::size_t end = text.find('\n');
-    std::string_view piece = text.substr(0, end);
-    if (end != std::string_view::npos && piece.ends_with('\r')) piece.remove_suffix(1);
-    if (open_) {
-      lines_.back().Text += piece;
-    } else {
-      Append({Sort::Print, std::string(piece), 0});
-    }
-    open_ = end == std::string_view::npos;
-    text.remove_prefix(open_ ? text.size() : end + 1);
+    if (open_ && lines_.back().Text.size() >= kLongest && text.front() != '\n') open_ = false;
+    if (!open_) Append({});
+    std::string& line = lines_.back().Text;
+    const std::string_view piece =
+        text.substr(0, std::min(text.find('\n'), kLongest - line.size()));
+    line += piece;
+    text.remove_prefix(piece.size());
+    open_ = !text.starts_with('\n');
+    if (open_) continue;
+    text.remove_prefix(1);
+    if (line.ends_with('\r')) line.pop_back();
   }
 }
 

@@ -23,11 +23,20 @@ class RunLines {
   void Print(std::string_view text);
   /// Appends a message as a line of its own.
   void Add(Sort what, std::string text, int source_line);
-  void Clear() { lines_.clear(); }
+  void Clear() {
+    lines_.clear();
+    open_ = false;
+  }
+  /// No line is about a line of the source any more.
+  void ForgetPlaces() {
+    for (Line& line : lines_) line.SourceLine = 0;
+  }
   [[nodiscard]] const std::vector<Line>& All() const noexcept { return lines_; }
 
   /// A program that prints without an end keeps only its last lines.
   static constexpr std::size_t kMost = 20000;
+  /// A printed line that is longer goes on in the next one.
+  static constexpr std::size_t kLongest = 2000;
 
  private:
   void Append(Line line);

@@ -11,7 +11,7 @@ class StatusFollower final : public ProjectObserver {
  public:
   explicit StatusFollower(ShellState& state) : state_(state) {}
 
-  /// Tells the view the selection's text and that commands may differ.
+  /// Gives the view the selection's text, and lets it read the commands' states again.
   void Refresh();
 
   void FormChanged(int /*form*/) override { Refresh(); }

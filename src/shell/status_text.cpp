@@ -54,9 +54,11 @@ std::string CompileStatus(const ProjectTables& tables, const project::CompileOut
 
 std::string NothingStartedStatus(const ProjectTables& tables,
                                  const project::CompileOutcome& outcome) {
-  std::string text = "Source text: " + tables.SourceFile + ". No compiler or runner found";
-  if (!outcome.CompilerFound) text.append("; Rc.exe belongs into ").append(tables.ProgramFolder);
-  return text;
+  std::string text =
+      outcome.CompilerFound
+          ? "Rc.exe could not be started, and tarnwick-run was not found"
+          : "Neither Rc.exe nor tarnwick-run was found: put Rc.exe into " + tables.ProgramFolder;
+  return text + ". Source text: " + tables.SourceFile;
 }
 
 std::string SavedStatus(std::string_view now) {

@@ -15,7 +15,7 @@ constexpr std::string_view kSection = "Window";
 constexpr std::string_view kPlaceKey = "Place";
 /// "" for a panel that no run begins with.
 constexpr std::array<std::string_view, kPanelCount> kPanelKeys{"Properties", "Forms", "EventsBar",
-                                                               "ObjectBar", ""};
+                                                               "ObjectBar",  "",      ""};
 /// Numbers beyond this are no pixels of a screen.
 constexpr int kMost = 100000;
 

@@ -65,6 +65,18 @@ TEST(RunReportTest, EveryEndHasItsExitCode) {
   EXPECT_EQ(exit_of(basic::RunEnd::Stopped), RunExit::Stopped);
 }
 
+TEST(RunReportTest, AStopIsSaidToPeopleOnly) {
+  const test::TextStream tab;
+  const test::TextStream people;
+  basic::RunResult result;
+  result.End = basic::RunEnd::Stopped;
+  EXPECT_EQ(RunReport(tab.File(), ReportForm::Tab, "runner").SayResult(result), RunExit::Stopped);
+  EXPECT_EQ(RunReport(people.File(), ReportForm::People, "runner").SayResult(result),
+            RunExit::Stopped);
+  EXPECT_EQ(tab.Text(), "");
+  EXPECT_EQ(people.Text(), "runner: note: Stopped\n");
+}
+
 TEST(RunReportTest, ALongChainIsShortened) {
   const test::TextStream err;
   RunReport report(err.File(), ReportForm::People, "runner");

@@ -96,6 +96,31 @@ TEST(RunnerProgramTest, TheEndOfTheInputStopsAProgramThatIsBusy) {
   EXPECT_EQ(runner.End().Exit, 5);
 }
 
+TEST(RunnerProgramTest, TheWordStopClosesTheMessageOfAnError) {
+  RunnerProcess runner("x = 0\nx = 1 \\ x\n", kIde);
+  ASSERT_TRUE(runner.WaitFor(QStringLiteral("error\t")));
+  runner.Write("stop\n");
+  EXPECT_EQ(runner.End().Exit, 3);
+}
+
+TEST(RunnerProgramTest, TheWordStopClosesAMessageOfTheProgram) {
+  RunnerProcess runner("ShowMessage \"wait\"\nPRINT \"not reached\"\n", kIde);
+  ASSERT_TRUE(runner.WaitFor(QStringLiteral("start")));
+  runner.Write("stop\n");
+  const Outcome outcome = runner.End();
+  EXPECT_EQ(outcome.Exit, 5);
+  EXPECT_EQ(outcome.Out, QString());
+}
+
+TEST(RunnerProgramTest, TheWordStopEndsAProgramThatWaitsForALine) {
+  RunnerProcess runner("INPUT \"name\"; n$\nPRINT \"not reached\"\n", kIde);
+  ASSERT_TRUE(runner.WaitFor(QStringLiteral("start")));
+  runner.Write("stop\n");
+  const Outcome outcome = runner.End();
+  EXPECT_EQ(outcome.Exit, 5);
+  EXPECT_FALSE(outcome.Out.contains(QStringLiteral("not reached")));
+}
+
 TEST(RunnerProgramTest, TheWordLeaveLetsAProgramGoOnAlone) {
   RunnerProcess runner("SLEEP 0.4\nPRINT \"still there\"\n", kIde);
   ASSERT_TRUE(runner.WaitFor(QStringLiteral("start")));
@@ -104,6 +129,28 @@ TEST(RunnerProgramTest, TheWordLeaveLetsAProgramGoOnAlone) {
   const Outcome outcome = runner.End();
   EXPECT_EQ(outcome.Exit, 0);
   EXPECT_EQ(outcome.Out, QStringLiteral("still there\n"));
+}
+
+/// Forms that are shown in each other's OnShow, each closed when the inner one is.
+std::string NestedForms(int depth) {
+  return "DIM F(250) AS QFORM\nDIM n AS INTEGER\n"
+         "SUB Shown (Sender AS QFORM)\nn = n + 1\nIF n < " +
+         std::to_string(depth) +
+         " THEN F(n).ShowModal\nSender.Close\nEND SUB\n"
+         "FOR i = 0 TO 250\nF(i).OnShow = Shown\nNEXT i\nF(0).ShowModal\nPRINT n; \" back\"\n";
+}
+
+TEST(RunnerProgramTest, WindowsWaitInEachOtherUpToALimit) {
+  RunnerProcess below(NestedForms(199), kIde);
+  const Outcome good = below.End();
+  EXPECT_EQ(good.Exit, 0) << good.Err.toStdString();
+  EXPECT_EQ(good.Out, QStringLiteral("199 back\n"));
+  RunnerProcess above(NestedForms(201), kIde);
+  ASSERT_TRUE(above.WaitFor(QStringLiteral("More than 200 events")));
+  above.Write("stop\n");
+  const Outcome bad = above.End();
+  EXPECT_EQ(bad.Exit, 3) << bad.Err.toStdString();
+  EXPECT_EQ(bad.Out, QString());
 }
 
 TEST(RunnerProgramTest, LimitsEndAProgramThatWaitsOrWorks) {

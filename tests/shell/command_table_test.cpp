@@ -39,6 +39,7 @@ TEST(CommandTable, EveryCommandStandsInTheMenuBarOnce) {
   for (const MenuColumn& column : MenuBar()) {
     for (const MenuRow& row : column.Rows) {
       if (row.Does) seen.insert(*row.Does);
+      for (const MenuRow& inner : RowsOf(row.Opens)) seen.insert(inner.Does.value());
     }
   }
   EXPECT_EQ(seen.size(), kCommandCount);
@@ -64,7 +65,7 @@ TEST(CommandTable, EachRowOfTheMenuBarHasItsNameCaptionKeyAndCommand) {
        {"mnuSaveForm", "Save &Form", "Ctrl+Alt+S", Command::SaveForm},
        {"mnuSaveFormAs", "Save For&m As...", "", Command::SaveFormAs},
        {},
-       {"mnuRecent", "&Recent Projects", "", std::nullopt},
+       {"mnuRecent", "&Recent Projects", "", std::nullopt, SubMenu::RecentProjects},
        {"mnuRestore", "Restore &Unsaved Work...", "", Command::Restore},
        {},
        {"mnuExit", "E&xit", "Ctrl+Q", Command::Exit}},
@@ -97,7 +98,10 @@ TEST(CommandTable, EachRowOfTheMenuBarHasItsNameCaptionKeyAndCommand) {
       {},
       {{"mnuCompile", "&Compile and Run", "F5", Command::Compile},
        {"mnuStop", "&Stop", "Shift+F5", Command::Stop},
-       {"mnuCheck", "C&heck", "Shift+F8", Command::Check}},
+       {"mnuRunWith", "Run &With", "", std::nullopt, SubMenu::RunWith},
+       {},
+       {"mnuCheck", "C&heck", "Shift+F8", Command::Check},
+       {"mnuOutput", "&Output", "", Command::Output}},
       {{"mnuHelp", "&Contents", "F1", Command::Help},
        {"mnuAbout", "&About Tarnwick", "", Command::About}},
   };
@@ -110,8 +114,25 @@ TEST(CommandTable, EachRowOfTheMenuBarHasItsNameCaptionKeyAndCommand) {
       EXPECT_EQ(rows[row].Caption, wanted[menu][row].Caption);
       EXPECT_EQ(rows[row].Key, wanted[menu][row].Key) << rows[row].Name;
       EXPECT_EQ(rows[row].Does, wanted[menu][row].Does) << rows[row].Name;
+      EXPECT_EQ(rows[row].Opens, wanted[menu][row].Opens) << rows[row].Name;
     }
   }
+}
+
+TEST(CommandTable, RunWithOffersItsThreeChoices) {
+  const std::vector<MenuRow> wanted{
+      {"mnuRunWithAutomatic", "&Automatic", "", Command::RunWithEither},
+      {"mnuRunWithCompiler", "&Compiler", "", Command::RunWithCompiler},
+      {"mnuRunWithRunner", "&Runner", "", Command::RunWithRunner}};
+  const auto rows = RowsOf(SubMenu::RunWith);
+  ASSERT_EQ(rows.size(), wanted.size());
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    EXPECT_EQ(rows[row].Name, wanted[row].Name);
+    EXPECT_EQ(rows[row].Caption, wanted[row].Caption);
+    EXPECT_EQ(rows[row].Does, wanted[row].Does);
+    EXPECT_EQ(MenuRowOf(*wanted[row].Does), &rows[row]);
+  }
+  EXPECT_TRUE(RowsOf(SubMenu::RecentProjects).empty()) << "the program fills them in";
 }
 
 TEST(CommandTable, EachRowOfThePopUpHasItsCaptionKeyAndCommand) {

@@ -78,9 +78,223 @@ TEST_F(RunCommandTest, NeitherThereIsSaidInTheStatusBar) {
   runner.Succeeds = false;
   Compile();
   EXPECT_EQ(view.Status,
-            "Source text: Z:\\p\\a.com. No compiler or runner found; Rc.exe belongs into "
-            "Z:\\opt\\tarnwick");
+            "Neither Rc.exe nor tarnwick-run was found: put Rc.exe into Z:\\opt\\tarnwick. "
+            "Source text: Z:\\p\\a.com");
   EXPECT_EQ(log().Count("show"), 0U);
+}
+
+TEST_F(RunCommandTest, ACompilerThatCannotBeStartedAndNoRunnerAreBothNamed) {
+  ports.Files.Put("Z:\\opt\\tarnwick\\Rc.exe", "MZ");
+  runner.Succeeds = false;
+  Compile();
+  EXPECT_EQ(view.Status,
+            "Rc.exe could not be started, and tarnwick-run was not found. Source text: "
+            "Z:\\p\\a.com");
+}
+
+// --- Run With
+
+TEST_F(RunCommandTest, RunWithIsAutomaticUntilSomethingElseIsChosen) {
+  EXPECT_TRUE(main.Commands().State(Command::RunWithEither).Checked);
+  EXPECT_FALSE(main.Commands().State(Command::RunWithCompiler).Checked);
+  EXPECT_FALSE(main.Commands().State(Command::RunWithRunner).Checked);
+  EXPECT_TRUE(main.Commands().State(Command::RunWithRunner).Enabled);
+}
+
+TEST_F(RunCommandTest, TheRunnerIsChosenByItsRow) {
+  ports.Processes.Succeeds = true;
+  main.Commands().Run(Command::RunWithRunner);
+  EXPECT_EQ(view.Status, "F5 starts the runner, tarnwick-run");
+  EXPECT_TRUE(main.Commands().State(Command::RunWithRunner).Checked);
+  EXPECT_FALSE(main.Commands().State(Command::RunWithEither).Checked);
+  Compile();
+  EXPECT_EQ(log().Count("start "), 0U);
+  EXPECT_EQ(log().Count("run "), 1U);
+}
+
+TEST_F(RunCommandTest, TheCompilerIsChosenByItsRow) {
+  main.Commands().Run(Command::RunWithCompiler);
+  EXPECT_EQ(view.Status, "F5 starts Rc.exe");
+  Compile();
+  EXPECT_EQ(log().Count("start "), 1U);
+  EXPECT_EQ(log().Count("run "), 0U);
+}
+
+TEST_F(RunCommandTest, AutomaticIsChosenAgainByItsRow) {
+  main.Commands().Run(Command::RunWithCompiler);
+  main.Commands().Run(Command::RunWithEither);
+  EXPECT_EQ(view.Status, "F5 starts Rc.exe, and the runner where there is none");
+  Compile();
+  EXPECT_EQ(log().Count("start "), 1U);
+  EXPECT_EQ(log().Count("run "), 1U);
+}
+
+TEST_F(RunCommandTest, TheChoiceIsRememberedForTheNextStart) {
+  main.Commands().Run(Command::RunWithRunner);
+  EXPECT_EQ(ports.Profiles.Read("Z:\\opt\\tarnwick\\Tarnwick.ini", "Run", "With", 50), "runner");
+  MDIForm1 next{ports.All(), instances, std::string(kProgram)};
+  next.Load(views);
+  EXPECT_TRUE(next.Commands().State(Command::RunWithRunner).Checked);
+}
+
+TEST_F(RunCommandTest, AnUnknownWordOfTheSettingsIsAutomatic) {
+  ports.Profiles.Write("Z:\\opt\\tarnwick\\Tarnwick.ini", "Run", "With", "both");
+  Compile();
+  EXPECT_TRUE(main.Commands().State(Command::RunWithEither).Checked);
+  EXPECT_EQ(log().Count("start "), 1U);
+}
+
+TEST_F(RunCommandTest, TheRunnerThatIsChosenAndNotThereGivesWayToTheCompiler) {
+  MDIForm1 bare{ports.All(), instances, std::string(kProgram)};
+  bare.Load(views);
+  bare.Time_Timer();
+  bare.Commands().Run(Command::RunWithRunner);
+  ports.Processes.Succeeds = true;
+  ports.Files.Put("Z:\\opt\\tarnwick\\Rc.exe", "MZ");
+  ports.Dialogs.SaveAnswers = {"Z:\\q\\b.tnp", "Z:\\q\\two.ftn"};
+  log().Clear();
+  bare.Commands().Run(Command::Compile);
+  EXPECT_EQ(log().Count("start "), 1U);
+}
+
+// --- The panel
+
+TEST_F(RunCommandTest, ThePanelOpensWithTheFirstLine) {
+  Compile();
+  runner.Begin();
+  EXPECT_FALSE(main.Commands().PanelShown(Panel::Output));
+  runner.Print("text");
+  EXPECT_TRUE(main.Commands().PanelShown(Panel::Output));
+  EXPECT_TRUE(main.Commands().State(Command::Output).Checked);
+}
+
+TEST_F(RunCommandTest, ThePanelThatTheUserClosedOpensAgainForAnErrorOnly) {
+  Compile();
+  runner.Begin();
+  runner.Print("text\n");
+  main.Commands().Run(Command::Output);
+  EXPECT_FALSE(main.Commands().PanelShown(Panel::Output));
+  runner.Print("more\n");
+  runner.Tell(RunSeverity::Note, 0, "a note");
+  EXPECT_FALSE(main.Commands().PanelShown(Panel::Output));
+  runner.Tell(RunSeverity::Error, 0, "an error");
+  EXPECT_TRUE(main.Commands().PanelShown(Panel::Output));
+}
+
+TEST_F(RunCommandTest, TheNextRunOpensThePanelAgain) {
+  Compile();
+  runner.Print("text\n");
+  main.Commands().Run(Command::Output);
+  runner.End(RunnerEnd::Ended);
+  Compile();
+  EXPECT_FALSE(main.Commands().PanelShown(Panel::Output));
+  runner.Print("text\n");
+  EXPECT_TRUE(main.Commands().PanelShown(Panel::Output));
+}
+
+TEST_F(RunCommandTest, ClearedLinesAreGoneAndNewOnesCome) {
+  Compile();
+  runner.Print("old");
+  main.Runner().ClearLines();
+  EXPECT_TRUE(Shown().empty());
+  runner.Print("new");
+  ASSERT_EQ(Shown().size(), 1U);
+  EXPECT_EQ(Shown()[0].Text, "new");
+}
+
+// --- Odd moments
+
+TEST_F(RunCommandTest, AnErrorIsSaidWhileTheProgramStillShowsIt) {
+  Compile();
+  runner.Begin();
+  runner.Tell(RunSeverity::Error, LineOf("a = Lable1"), "no");
+  EXPECT_EQ(view.Status, "Stopped: Form1.Push.OnClick, line 2: no");
+  main.Commands().Run(Command::Stop);
+  runner.End(RunnerEnd::Stopped);
+  EXPECT_EQ(view.Status, "Stopped: Form1.Push.OnClick, line 2: no");
+}
+
+TEST_F(RunCommandTest, AFaultySourceIsShownWhereItStands) {
+  Compile();
+  runner.Tell(RunSeverity::Error, LineOf("a = Lable1"), "no");
+  log().Clear();
+  runner.End(RunnerEnd::SourceFaulty);
+  ExpectOrder({"windows open code", "windows line 2"});
+  EXPECT_EQ(view.Status, "Not started: Form1.Push.OnClick, line 2: no");
+}
+
+TEST_F(RunCommandTest, TheOpenCodeEditorGoesToTheEventAndLine) {
+  windows.CodeOpen = true;
+  Compile();
+  runner.Tell(RunSeverity::Error, LineOf("a = Lable1"), "no");
+  runner.Tell(RunSeverity::Error, LineOf("Dim b As Integer"), "no");
+  log().Clear();
+  runner.End(RunnerEnd::SourceFaulty);
+  ExpectOrder({"windows open code", "windows line 2"});
+  EXPECT_EQ(tables().JumpKey, "Form1.Button1.OnClick");
+  // What is no code waits behind the editor.
+  log().Clear();
+  EXPECT_TRUE(main.Runner().Jump(1));
+  EXPECT_EQ(log().Count("windows code to front"), 1U);
+  EXPECT_EQ(log().Count("windows declarations"), 0U);
+}
+
+TEST_F(RunCommandTest, AFaultWithoutAPlaceShowsNothing) {
+  Compile();
+  runner.Tell(RunSeverity::Error, 1, "no");
+  log().Clear();
+  runner.End(RunnerEnd::SourceFaulty);
+  EXPECT_EQ(log().Count("windows"), 0U);
+  EXPECT_EQ(view.Status, "Not started: a.com, line 1: no");
+}
+
+TEST_F(RunCommandTest, AnotherProjectLeavesTheProgramRunningAndItsLinesWithoutAPlace) {
+  Compile();
+  runner.Begin();
+  const int line = LineOf("a = Lable1");
+  runner.Tell(RunSeverity::Note, line, "before");
+  main.Commands().Run(Command::New);
+  EXPECT_TRUE(runner.Running());
+  EXPECT_EQ(log().Count("stop run"), 0U);
+  runner.Tell(RunSeverity::Note, line, "behind");
+  ASSERT_EQ(Shown().size(), 2U);
+  EXPECT_EQ(Shown()[0].Text, "Form1.Push.OnClick, line 2: before");
+  EXPECT_EQ(Shown()[1].Text, "a.com, line " + std::to_string(line) + ": behind");
+  EXPECT_FALSE(main.Runner().Jump(0));
+  EXPECT_FALSE(main.Runner().Jump(1));
+  EXPECT_EQ(log().Count("windows open code"), 0U);
+  runner.End(RunnerEnd::Ended);
+  EXPECT_EQ(view.Status, "Form1 ended. 2 notes");
+}
+
+TEST_F(RunCommandTest, F5InAnotherProjectStopsTheProgramAndRunsThatOne) {
+  Compile();
+  runner.Begin();
+  main.Commands().Run(Command::New);
+  Compile();
+  EXPECT_EQ(log().Count("stop run"), 1U);
+  ports.Dialogs.SaveAnswers = {"Z:\\q\\b.tnp", "Z:\\q\\two.ftn"};
+  runner.End(RunnerEnd::Stopped);
+  EXPECT_EQ(runner.Last.Source, "Z:\\q\\b.com");
+}
+
+TEST_F(RunCommandTest, AFormThatIsGoneByNowHasNoPlace) {
+  Compile();
+  runner.Begin();
+  const int line = LineOf("a = Lable1");
+  main.Commands().Run(Command::AddNewForm);
+  main.Forms().GoTo(1);
+  ports.Messages.Answers = {true, true};
+  main.Commands().Run(Command::Remove);
+  runner.Tell(RunSeverity::Error, line, "no");
+  EXPECT_FALSE(main.Runner().Jump(0));
+}
+
+TEST_F(RunCommandTest, ARunnerThatDiesIsSaid) {
+  Compile();
+  runner.Begin();
+  runner.End(RunnerEnd::RunnerFault);
+  EXPECT_EQ(view.Status, "The runner failed while Form1 ran");
 }
 
 TEST_F(RunCommandTest, ASourceThatCannotBeWrittenIsNotRun) {
@@ -200,7 +414,7 @@ TEST_F(RunCommandTest, TheNextRunStartsWithNoLines) {
 TEST_F(RunCommandTest, AJumpIntoCodeOpensTheEditorAtEventAndLine) {
   Compile();
   runner.Tell(RunSeverity::Error, LineOf("a = Lable1"), "no");
-  runner.End(RunnerEnd::SourceFaulty);
+  runner.End(RunnerEnd::RunTimeError);
   log().Clear();
   EXPECT_TRUE(main.Runner().Jump(0));
   ExpectOrder({"windows open code", "windows line 2"});
@@ -235,6 +449,29 @@ TEST_F(RunCommandTest, ALineWithoutAPlaceIsNamedInTheStatusBar) {
   EXPECT_EQ(view.Status, "Line 1 of Z:\\p\\a.com");
   EXPECT_FALSE(main.Runner().Jump(1));
   EXPECT_FALSE(main.Runner().Jump(2));
+}
+
+TEST(RunLines, ALineWithoutEndIsCutInPieces) {
+  RunLines lines;
+  const std::string piece(RunLines::kLongest / 2 + 1, 'x');
+  for (int n = 0; n < 4; ++n) lines.Print(piece);
+  ASSERT_EQ(lines.All().size(), 3U);
+  EXPECT_EQ(lines.All()[0].Text.size(), RunLines::kLongest);
+  EXPECT_EQ(lines.All()[2].Text.size(), 4U);
+  lines.Clear();
+  lines.Print(std::string(RunLines::kLongest, 'x'));
+  lines.Print("\nnext");
+  ASSERT_EQ(lines.All().size(), 2U);
+  EXPECT_EQ(lines.All()[1].Text, "next");
+}
+
+TEST(RunLines, ALineEndMayComeInTwoPieces) {
+  RunLines lines;
+  lines.Print("one\r");
+  lines.Print("\n\ntwo");
+  ASSERT_EQ(lines.All().size(), 3U);
+  EXPECT_EQ(lines.All()[0].Text, "one");
+  EXPECT_EQ(lines.All()[1].Text, "");
 }
 
 TEST(RunLines, OnlyTheLastLinesOfAnEndlessPrinterAreKept) {

@@ -98,6 +98,28 @@ TEST(IncludeFile, KeysAndMessageBoxesHaveTheNumbersOfWindows) {
   EXPECT_EQ(constants["IDYES"], 6);
 }
 
+TEST(IncludeFile, MessageDialogsAndNumbersInStreamsHaveTheirNames) {
+  std::map<std::string, long> constants;
+  for (const Constant& constant : Constants()) constants[constant.Name] = constant.Value;
+  long number = 0;
+  for (const char* sign : {"mtWarning", "mtError", "mtInformation", "mtConfirmation", "mtCustom"}) {
+    ASSERT_TRUE(constants.contains(sign)) << sign;
+    EXPECT_EQ(constants[sign], number++) << sign;
+  }
+  long bit = 1;
+  for (const char* button :
+       {"mbYes", "mbNo", "mbOK", "mbCancel", "mbAbort", "mbRetry", "mbIgnore", "mbAll", "mbHelp"}) {
+    EXPECT_EQ(constants[button], bit) << button;
+    bit *= 2;
+  }
+  number = 1;
+  for (const char* type :
+       {"Num_BYTE", "Num_SHORT", "Num_WORD", "Num_LONG", "Num_DWORD", "Num_SINGLE", "Num_DOUBLE"}) {
+    EXPECT_EQ(constants[type], number++) << type;
+  }
+  EXPECT_EQ(constants["Num_INTEGER"], constants["Num_LONG"]);
+}
+
 TEST(IncludeFile, NothingOfTheLanguageIsDefinedAnew) {
   std::set<std::string> taken;
   for (const Word& word : Sources().Keywords) taken.insert(Lower(word.Text));

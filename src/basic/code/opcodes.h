@@ -144,9 +144,9 @@ BASIC_OP(SET_ELEMENT_C,   "sss", "")   // A(B) = C, counted
 BASIC_OP(GET_ELEMENT2,    "rss", "w")  // A = B(C, word A), plain or borrowed
 BASIC_OP(SET_ELEMENT2,    "sss", "w")  // A(B, C) = word A, plain
 BASIC_OP(REF_ELEMENTS,    "rs-", "a")  // A = address of the element of B at the indexes
-BASIC_OP(MAKE_ARRAY,      "svn", "a")  // array at reference A as B tells; arguments: low and high of
+BASIC_OP(MAKE_ARRAY,      "svn", "a")  // array at reference A of type B; arguments: low and high of
                                        // each dimension; C: kArray... bits
-BASIC_OP(NEED_ARRAY,      "rsv", "")   // A = array at reference B, made without bounds as C tells
+BASIC_OP(NEED_ARRAY,      "rsv", "")   // A = array at reference B, made without bounds of type C
                                        // when there is none
 BASIC_OP(BOUND,           "rss", "w")  // A = bound of array B in dimension C; word A: 1 upper
 BASIC_OP(CLEAR_ARRAY,     "s--", "")   // all elements of A as after DIM
@@ -154,7 +154,7 @@ BASIC_OP(REF_FLAT,        "rss", "")   // A = address of element C of array B, c
 BASIC_OP(SORT,            "sss", "w")  // sorts A from reference B to C; word A: 1 descending
 
 // ---- records
-BASIC_OP(MAKE_RECORD,     "svn", "")   // record at reference A as B tells, unless there is one; C: 1 local
+BASIC_OP(MAKE_RECORD,     "svn", "")   // record at reference A of type B, unless there is one; C: 1 local
 BASIC_OP(GET_FIELD,       "rsf", "")   // A = field C of B, plain or borrowed
 BASIC_OP(GET_FIELD_C,     "rsf", "")   // A = field C of B, counted
 BASIC_OP(SET_FIELD,       "sfs", "")   // field B of A = C, plain
@@ -162,7 +162,7 @@ BASIC_OP(SET_FIELD_C,     "sfs", "")   // field B of A = C, counted
 BASIC_OP(COPY_RECORD,     "ss-", "")   // the fields of record A = those of B
 
 // ---- objects
-BASIC_OP(MAKE_OBJECT,     "svn", "")   // object at reference A as B tells; C: 1 for a local variable
+BASIC_OP(MAKE_OBJECT,     "svn", "")   // object at reference A of class B; C: 1 for a local variable
 BASIC_OP(BUILT_IN,        "rn-", "")   // A = the object of class B
 BASIC_OP(GET_PROPERTY,    "rsm", "a")  // A = property C of object B; arguments: indexes
 BASIC_OP(SET_PROPERTY,    "ms-", "a")  // property A of object B; arguments: value, then indexes

@@ -86,7 +86,7 @@ struct FunctionInfo {
 /// rows differ in their number of arguments.
 [[nodiscard]] std::span<const FunctionInfo> FindFunctions(std::string_view name);
 /// The row of a name that takes so many arguments; null when there is none of that name, or none
-/// that takes them (FindFunctions tells which).
+/// that takes them (FindFunctions gives those).
 [[nodiscard]] const FunctionInfo* FindFunction(std::string_view name, std::size_t arguments);
 
 /// The word that the runner leaves out, with the reason and the remedy.

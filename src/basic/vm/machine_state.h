@@ -101,7 +101,7 @@ struct MachineState {
   // --- Values of a call's registers (host_calls.cpp)
   void ReadArguments(const Instruction* words, std::vector<Value>& arguments) const;
   void WriteArguments(const Instruction* words, std::vector<Value>& arguments);
-  /// Stores a value into a register as the kind that the shape tells.
+  /// Stores a value into a register as the kind that its shape has.
   void StoreResult(std::uint16_t target, SlotKind kind, Value value);
   bool CallLibrary(const Instruction* call);
   bool CallDll(const Instruction* call);

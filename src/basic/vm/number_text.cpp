@@ -129,7 +129,7 @@ double NumberIn(std::string_view text) {
   double value = 0;
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
   if (result.ec == std::errc::result_out_of_range) {
-    // Too large or too near to 0: the sign of the exponent tells which.
+    // Too large or too near to 0: the sign of the exponent shows which.
     value = number.find("e-") != std::string::npos ? 0 : std::numeric_limits<double>::infinity();
   }
   return negative ? -value : value;

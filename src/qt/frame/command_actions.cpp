@@ -1,6 +1,7 @@
 #include "qt/frame/command_actions.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QApplication>
 #include <QMainWindow>
 #include <QMenu>
@@ -35,6 +36,10 @@ bool IsToggle(Command command) {
     case Command::Forms:
     case Command::EventsBar:
     case Command::ObjectBar:
+    case Command::Output:
+    case Command::RunWithEither:
+    case Command::RunWithCompiler:
+    case Command::RunWithRunner:
       return true;
     default:
       return false;
@@ -92,9 +97,8 @@ void CommandActions::BuildMenuBar(QMainWindow& window) {
 
 void CommandActions::AddRows(QMenu& menu, std::span<const MenuRow> rows, bool takes_keys) {
   for (const MenuRow& row : rows) {
-    if (!row.Does && !row.Name.empty()) {
-      recent_ = menu.addMenu(ToQString(row.Caption));
-      recent_->setObjectName(ToQString(row.Name));
+    if (row.Opens != SubMenu::None) {
+      AddSubMenu(menu, row, takes_keys);
       continue;
     }
     if (!row.Does) {
@@ -116,6 +120,19 @@ void CommandActions::AddRows(QMenu& menu, std::span<const MenuRow> rows, bool ta
     connect(action, &QAction::triggered, this, [this, command] { Run(command); });
     entries_.push_back({command, action, nullptr});
   }
+}
+
+void CommandActions::AddSubMenu(QMenu& menu, const MenuRow& row, bool takes_keys) {
+  QMenu* const inner = menu.addMenu(ToQString(row.Caption));
+  inner->setObjectName(ToQString(row.Name));
+  if (row.Opens == SubMenu::RecentProjects) {
+    recent_ = inner;
+    return;
+  }
+  AddRows(*inner, RowsOf(row.Opens), takes_keys);
+  // One of them holds, so their marks are those of a group.
+  auto* const group = new QActionGroup(inner);
+  for (QAction* const action : inner->actions()) group->addAction(action);
 }
 
 void CommandActions::AddTools(QMenu& menu) {

@@ -48,6 +48,7 @@ class CommandActions final : public QObject {
   void BuildToolbar(QMainWindow& window);
   void BuildPopUp(QMainWindow& window);
   void AddRows(QMenu& menu, std::span<const MenuRow> rows, bool takes_keys);
+  void AddSubMenu(QMenu& menu, const MenuRow& row, bool takes_keys);
   void AddTools(QMenu& menu);
   void Run(Command command);
   /// The command's state; that of the focused text where the command would act on one.

@@ -195,6 +195,9 @@ void MainView::ShowPanel(Panel panel, bool shown) {
     case Panel::Findings:
       window_.SetFindingsVisible(shown);
       break;
+    case Panel::Output:
+      window_.SetOutputVisible(shown);
+      break;
   }
 }
 

@@ -60,7 +60,7 @@ MainWindow::MainWindow(MDIForm1& shell, FilePort& files)
       events_bar_(new EventsBarWindow(shell.Bar(), shell.Commands(), *container_, this)),
       findings_(new FindingsPanel(shell.Findings(), this)),
       examiner_(new ObjectsExaminerWindow(shell.Examiner(), this)),
-      output_(new OutputPanel(shell.Runner(), this)),
+      output_(new OutputPanel(shell.Runner(), *actions_, this)),
       panels_(new GripSplitter(Qt::Vertical, this)),
       right_(new RightColumn(panels_, icon_, this)),
       forms_(new GripSplitter(Qt::Vertical, this)),
@@ -77,6 +77,8 @@ MainWindow::MainWindow(MDIForm1& shell, FilePort& files)
           [this](bool shown) { shell_.Commands().SetPanelShown(Panel::Properties, shown); });
   connect(findings_, &FindingsPanel::HideWanted, this,
           [this] { shell_.Commands().SetPanelShown(Panel::Findings, false); });
+  connect(output_, &OutputPanel::HideWanted, this,
+          [this] { shell_.Commands().SetPanelShown(Panel::Output, false); });
   connect(properties_, &PropertyPanel::Left, this, [this] { GoToForm(); });
   connect(events_bar_, &EventsBarWindow::Left, this, [this] { GoToForm(); });
 }
@@ -238,6 +240,12 @@ void MainWindow::SetFormListVisible(bool visible) {
 void MainWindow::SetFindingsVisible(bool visible) {
   const bool had_focus = findings_->isAncestorOf(focusWidget());
   findings_->setVisible(visible);
+  if (!visible && had_focus) GoToForm();
+}
+
+void MainWindow::SetOutputVisible(bool visible) {
+  const bool had_focus = output_->isAncestorOf(focusWidget());
+  output_->setVisible(visible);
   if (!visible && had_focus) GoToForm();
 }
 

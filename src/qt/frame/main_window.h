@@ -63,6 +63,8 @@ class MainWindow final : public QMainWindow {
   void SetFormListVisible(bool visible);
   /// When the list of findings goes while it has the focus, the current form gets it.
   void SetFindingsVisible(bool visible);
+  /// Likewise for what the running program printed.
+  void SetOutputVisible(bool visible);
   /// Reads the findings and their number again.
   void RefreshFindings();
 

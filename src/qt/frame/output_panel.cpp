@@ -7,6 +7,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "qt/frame/command_actions.h"
 #include "qt/kit/icon_set.h"
 #include "qt/kit/panel_frame.h"
 #include "qt/kit/text_bridge.h"
@@ -17,6 +18,7 @@ namespace tarnwick {
 namespace {
 
 constexpr int kHeight = 150;
+constexpr int kButtonIcon = 14;
 constexpr int kRefreshWait = 50;  // milliseconds
 
 }  // namespace
@@ -53,34 +55,48 @@ class RunLinesModel final : public QAbstractListModel {
   int count_ = 0;  ///< as the list knows it
 };
 
-OutputPanel::OutputPanel(RunCommand& run, QWidget* parent)
+OutputPanel::OutputPanel(RunCommand& run, CommandActions& commands, QWidget* parent)
     : QWidget(parent),
       run_(run),
+      frame_(new PanelFrame(QStringLiteral("OutputFrame"), QStringLiteral("Output"), this)),
       model_(new RunLinesModel(run.Lines(), this)),
       list_(new QListView(this)) {
   setObjectName(QStringLiteral("OutputPanel"));
-  auto* frame = new PanelFrame(QStringLiteral("OutputFrame"), QStringLiteral("Output"), this);
-  auto* close = new QToolButton(this);
-  close->setObjectName(QStringLiteral("CloseOutput"));
-  close->setIcon(IconOf(QStringLiteral("close")));
-  close->setToolTip(QStringLiteral("Close"));
-  close->setAccessibleName(QStringLiteral("Close"));
-  frame->AddToHead(close);
+  frame_->AddToHead(
+      commands.MakeButton({"Stop", Command::Stop}, QStringLiteral("OutputStop"), 0, frame_));
+  connect(
+      AddButton(QStringLiteral("ClearOutput"), QStringLiteral("Clear"), QStringLiteral("delete")),
+      &QToolButton::clicked, this, [this] { run_.ClearLines(); });
+  connect(
+      AddButton(QStringLiteral("CloseOutput"), QStringLiteral("Close"), QStringLiteral("close")),
+      &QToolButton::clicked, this, &OutputPanel::HideWanted);
   list_->setObjectName(QStringLiteral("OutputLines"));
   list_->setAccessibleName(QStringLiteral("Output"));
   list_->setUniformItemSizes(true);
   list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   list_->setModel(model_);
-  frame->Body().addWidget(list_);
+  frame_->Body().addWidget(list_);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(frame);
+  layout->addWidget(frame_);
   setFixedHeight(kHeight);
   hide();
-  connect(close, &QToolButton::clicked, this, &QWidget::hide);
   connect(list_, &QListView::activated, this,
           [this](const QModelIndex& index) { run_.Jump(static_cast<std::size_t>(index.row())); });
   run_.SetView(this);
+}
+
+QToolButton* OutputPanel::AddButton(const QString& name, const QString& text, const QString& icon) {
+  auto* button = new QToolButton(frame_);
+  button->setObjectName(name);
+  button->setIcon(IconOf(icon));
+  button->setIconSize(QSize(kButtonIcon, kButtonIcon));
+  button->setToolTip(text);
+  button->setAccessibleName(text + QStringLiteral(" output"));
+  button->setAutoRaise(true);
+  button->setFocusPolicy(Qt::NoFocus);
+  frame_->AddToHead(button);
+  return button;
 }
 
 OutputPanel::~OutputPanel() {
@@ -105,7 +121,6 @@ void OutputPanel::Refresh() {
   } else {
     bar->setValue(at);
   }
-  if (!run_.Lines().All().empty()) show();
 }
 
 }  // namespace tarnwick

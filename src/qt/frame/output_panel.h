@@ -6,28 +6,37 @@
 #include "shell/run_lines.h"
 
 class QListView;
+class QToolButton;
 
 namespace tarnwick {
 
+class CommandActions;
+class PanelFrame;
 class RunCommand;
 class RunLinesModel;
 
-/// Hidden until the first line comes. A double click on a message, or Enter, goes to its place.
+/// The lines as a list. A double click on a message, or Enter, goes to its place.
 class OutputPanel final : public QWidget, public RunLinesView {
   Q_OBJECT
 
  public:
-  OutputPanel(RunCommand& run, QWidget* parent);
+  OutputPanel(RunCommand& run, CommandActions& commands, QWidget* parent);
   ~OutputPanel() override;
 
   /// Shows the lines soon: a program prints many in a moment.
   void RunLinesChanged() override;
   [[nodiscard]] QListView& List() { return *list_; }
 
+ signals:
+  /// The close button was pressed.
+  void HideWanted();
+
  private:
+  QToolButton* AddButton(const QString& name, const QString& text, const QString& icon);
   void Refresh();
 
   RunCommand& run_;
+  PanelFrame* frame_;
   RunLinesModel* model_;
   QListView* list_;
   bool refresh_waits_ = false;

@@ -132,7 +132,11 @@ constexpr std::array<CommandIcon, kCommandCount> kCommandIcons{{
     {Command::MenuEdit, "menu-edit"},
     {Command::Compile, "compile"},
     {Command::Stop, "stop"},
+    {Command::RunWithEither, "compile"},
+    {Command::RunWithCompiler, "compile"},
+    {Command::RunWithRunner, "compile"},
     {Command::Check, "check"},
+    {Command::Output, "code"},
     {Command::Help, "help"},
     {Command::About, "about"},
 }};

@@ -1,4 +1,4 @@
-' What programs in use write, although no manual tells it.
+' What programs in use write, although no manual has it.
 a$ = "one
 PRINT a$
 PRINT "str _

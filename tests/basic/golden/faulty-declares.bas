@@ -1,0 +1,2 @@
+DECLARE SUB Never (n AS INTEGER)
+Never 4
