@@ -37,7 +37,7 @@ bool MachineState::InputLine() {
   if (Host.Console == nullptr) return Fail("There is no console to read from");
   // At the end of the input all values are 0 and "".
   InputRest = Host.Console->ReadLine().value_or(std::string());
-  return !Ending;
+  return !EndsBehindWaiting();
 }
 
 void MachineState::InputField(Slot& target, bool rest) {

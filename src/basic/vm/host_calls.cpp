@@ -108,7 +108,7 @@ bool MachineState::CallLibrary(const Instruction* call) {
                       std::string()};
   function(library);
   TakeNotes();
-  if (Ending) return false;
+  if (EndsBehindWaiting()) return false;
   if (!library.Error.empty()) return Fail(std::move(library.Error));
   StoreResult(call->A, shape.Result, std::move(library.Result));
   return true;
@@ -146,7 +146,7 @@ bool MachineState::CallMethod(const Instruction* call) {
   Value result;
   const auto object = static_cast<ObjectId>(Base()[call->B].I);
   const bool done = Host.Objects->Call(object, static_cast<MemberId>(call->C), arguments, result);
-  if (Ending) return false;
+  if (EndsBehindWaiting()) return false;
   if (!done) return Fail(std::string(Host.Objects->Reason()));
   WriteArguments(call + 1, arguments);
   StoreResult(call->A, Program.Shapes[call[1].A].Result, std::move(result));

@@ -78,6 +78,12 @@ struct MachineState {
   void EndWith(RunEnd end);
   /// The rare part of the look at limits and the stop flag. False when the program ends.
   bool LookAround();
+  /// To be asked behind what may wait for the user: a program that was stopped meanwhile does not
+  /// go on with the line.
+  bool EndsBehindWaiting() {
+    if (StopAsked.load(std::memory_order_relaxed)) EndWith(RunEnd::Stopped);
+    return Ending;
+  }
 
   // --- Calls (calls.cpp)
   /// Opens the frame of a procedure; its parameters are still empty. False after an error.
