@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "editor/code_target.h"
 #include "inspector/property_sheet.h"
 #include "shell/design_surfaces.h"
 #include "shell/events_bar.h"
@@ -214,12 +215,17 @@ bool RunCommand::GoToLine(int source_line) {
 }
 
 void RunCommand::ShowCodeByKey(const project::ProgramPlace& place) {
-  // Nothing can be selected while the editor is open: the whole key says what is meant.
-  std::string& key = state_.Tables.JumpKey;
-  key = "Form";
-  AppendNumber(key, std::int64_t{place.Form});
-  if (place.Id != Kind::Form) key.append(".").append(place.Owner);
-  key.append(InfoOf(place.Of).Suffix);
+  std::string owner = "Form";
+  AppendNumber(owner, std::int64_t{place.Form});
+  if (place.Id != Kind::Form) owner.append(".").append(place.Owner);
+  // Nothing can be selected while the editor is open: of what is selected the event is enough,
+  // and for all else the whole key says what is meant.
+  const DesignForm* const current = state_.Tables.CurrentForm;
+  const bool selected =
+      current != nullptr &&
+      EqualsFolded(editor::KeyPrefixOf(editor::TargetOfSelection(*current)), owner);
+  state_.Tables.JumpKey =
+      selected ? std::string(InfoOf(place.Of).Name) : owner.append(InfoOf(place.Of).Suffix);
   state_.Busy = true;
   state_.Code->OpenCode();
   state_.Busy = false;

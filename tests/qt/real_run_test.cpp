@@ -106,6 +106,12 @@ class RealRun : public testing::Test {
     code->findChild<CodeEdit*>(QStringLiteral("Editor"))->getCursorPosition(&line, &column);
     return line + 1;
   }
+  /// The main window gets the keys again.
+  void CloseCodeEditor() {
+    CodeEditor()->close();
+    program->Window().activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&program->Window()));
+  }
   void Stop() { program->Key(Qt::Key_F5, Qt::ShiftModifier); }
 
   std::unique_ptr<NotedRunner> runner = std::make_unique<NotedRunner>();
@@ -167,7 +173,7 @@ TEST_F(RealRun, ARunTimeErrorLeadsToItsLineInTheCodeEditor) {
   QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
   QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
   ASSERT_TRUE(Until([] { return CaretLine() == 3; })) << CaretLine();
-  CodeEditor()->close();
+  CloseCodeEditor();
   // The message goes with the program, at once and not by force.
   QElapsedTimer time;
   time.start();
@@ -177,13 +183,26 @@ TEST_F(RealRun, ARunTimeErrorLeadsToItsLineInTheCodeEditor) {
   EXPECT_TRUE(UntilStatus("Stopped: Form1.OnShow, line 3: ")) << Status();
 }
 
+TEST_F(RealRun, TheCodeEditorRunsAndStopsTheProgramToo) {
+  PutOnShow("Print \"shown\"");
+  program->Key(Qt::Key_F7);
+  ASSERT_TRUE(Until([] { return CodeEditor() != nullptr; }));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(CodeEditor()));
+  program->Key(Qt::Key_F5);
+  ASSERT_TRUE(UntilShown("shown")) << Status();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(CodeEditor()));
+  Stop();
+  EXPECT_TRUE(UntilStatus("Form1 stopped")) << Status();
+  CloseCodeEditor();
+}
+
 TEST_F(RealRun, AFaultySourceDoesNotStartAndIsShownWhereItStands) {
   PutOnShow("Dim n As Integer\r\nLable1.Caption = \"x\"");
   program->Key(Qt::Key_F5);
   ASSERT_TRUE(UntilStatus("Not started: Form1.OnShow, line 2: ")) << Status();
   EXPECT_TRUE(UntilShown("Lable1")) << Shown();
   EXPECT_TRUE(Until([] { return CaretLine() == 2; })) << CaretLine();
-  CodeEditor()->close();
+  CloseCodeEditor();
 }
 
 TEST_F(RealRun, AProgramThatHangsDoesNotHangTheIde) {

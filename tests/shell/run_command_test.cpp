@@ -231,6 +231,9 @@ TEST_F(RunCommandTest, TheOpenCodeEditorGoesToTheEventAndLine) {
   log().Clear();
   runner.End(RunnerEnd::SourceFaulty);
   ExpectOrder({"windows open code", "windows line 2"});
+  EXPECT_EQ(tables().JumpKey, "OnClick") << "the button is selected";
+  main.CurrentUser()->SelectForm();
+  EXPECT_TRUE(main.Runner().Jump(0));
   EXPECT_EQ(tables().JumpKey, "Form1.Button1.OnClick");
   // What is no code waits behind the editor.
   log().Clear();

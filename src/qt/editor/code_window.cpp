@@ -134,6 +134,7 @@ void CodeWindow::BuildTools() {
   key(QKeySequence(Qt::CTRL | Qt::Key_S), [this] { ports_.Commands.Run(Command::Save); });
   key(QKeySequence(Qt::Key_F8), [this] { marks_->GoToNext(); });
   key(QKeySequence(Qt::Key_F5), [this] { ports_.Commands.Run(Command::Compile); });
+  key(QKeySequence(Qt::SHIFT | Qt::Key_F5), [this] { ports_.Commands.Run(Command::Stop); });
   key(QKeySequence(Qt::CTRL | Qt::Key_Return), [this] { logic_.Accept(); });
   key(QKeySequence(Qt::CTRL | Qt::Key_Enter), [this] { logic_.Accept(); });
 }

@@ -61,6 +61,7 @@ DeclarationsWindow::DeclarationsWindow(editor::FormViewCodes& logic, CodeEdit& c
   key(QKeySequence(Qt::Key_F3), [this] { find_->Find(true); });
   key(QKeySequence(Qt::SHIFT | Qt::Key_F3), [this] { find_->Find(false); });
   key(QKeySequence(Qt::Key_F5), [&commands] { commands.Run(Command::Compile); });
+  key(QKeySequence(Qt::SHIFT | Qt::Key_F5), [&commands] { commands.Run(Command::Stop); });
   key(QKeySequence(Qt::CTRL | Qt::Key_Return), [this] { logic_.Accept(); });
   key(QKeySequence(Qt::CTRL | Qt::Key_Enter), [this] { logic_.Accept(); });
 
