@@ -92,6 +92,22 @@ TEST_F(OutputPanelTest, ManyLinesAreShownInTimeAndTheLastIsInView) {
   EXPECT_TRUE(list.viewport()->rect().intersects(list.visualRect(list.model()->index(4999, 0))));
 }
 
+TEST_F(OutputPanelTest, ItsButtonsStopAndClear) {
+  runner.Print("printed\n");
+  Settle();
+  auto* stop = panel().findChild<QToolButton*>(QStringLiteral("OutputStop_0"));
+  ASSERT_TRUE(stop->isEnabled());
+  QTest::mouseClick(stop, Qt::LeftButton);
+  EXPECT_EQ(ports.Log.Count("stop run"), 1U);
+  runner.End(RunnerEnd::Stopped);
+  Settle();
+  EXPECT_FALSE(stop->isEnabled());
+  QTest::mouseClick(panel().findChild<QToolButton*>(QStringLiteral("ClearOutput")), Qt::LeftButton);
+  Settle();
+  EXPECT_EQ(panel().List().model()->rowCount(), 0);
+  EXPECT_TRUE(panel().isVisible());
+}
+
 TEST_F(OutputPanelTest, ItsButtonHidesIt) {
   runner.Print("printed\n");
   Settle();

@@ -94,7 +94,10 @@ const std::vector<Column>& ExpectedMenus() {
       {"&Run",
        {{"mnuCompile", "&Compile and Run", "F5"},
         {"mnuStop", "&Stop", "Shift+F5"},
-        {"mnuCheck", "C&heck", "Shift+F8"}}},
+        {"mnuRunWith", "Run &With", ""},
+        line,
+        {"mnuCheck", "C&heck", "Shift+F8"},
+        {"mnuOutput", "&Output", ""}}},
       {"&Help", {{"mnuHelp", "&Contents", "F1"}, {"mnuAbout", "&About Tarnwick", ""}}},
   };
   return menus;
@@ -122,6 +125,26 @@ TEST(Menus, EveryCommandIsThereWithCaptionAndKey) {
       EXPECT_EQ(row->shortcut(), QKeySequence(QString::fromLatin1(want.Key))) << want.Caption;
     }
   }
+}
+
+TEST(Menus, RunWithMarksTheOneThatIsChosen) {
+  Program program;
+  auto& menu = program.Find<QMenu>(QStringLiteral("mnuRunWith"));
+  const auto marked = [&menu] {
+    QStringList names;
+    for (const QAction* row : menu.actions()) {
+      if (row->isChecked()) names << row->text();
+    }
+    return names;
+  };
+  EXPECT_EQ(menu.actions().size(), 3);
+  EXPECT_EQ(marked(), QStringList{QStringLiteral("&Automatic")});
+  program.Action(QStringLiteral("mnuRunWithRunner")).trigger();
+  EXPECT_EQ(marked(), QStringList{QStringLiteral("&Runner")});
+  program.Action(QStringLiteral("mnuRunWithRunner")).trigger();
+  EXPECT_EQ(marked(), QStringList{QStringLiteral("&Runner")});
+  EXPECT_EQ(program.Find<QLabel>(QStringLiteral("StatusText")).text(),
+            QStringLiteral("F5 starts the runner, tarnwick-run"));
 }
 
 TEST(Menus, NoTwoRowsTakeTheSameKey) {
