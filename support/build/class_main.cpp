@@ -2,26 +2,10 @@
 // It writes both files or, when a table has a fault, none.
 
 #include <cstdio>
-#include <fstream>
 #include <string>
 
 #include "build/class_text.h"
-#include "build/source_reader.h"
-
-namespace {
-
-/// Writes a file unless it holds these bytes already, so that nothing is compiled in vain.
-bool Write(const std::string& path, const std::string& bytes) {
-  if (tarnwick::support::ReadFile(path) == bytes) return true;
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  out.close();
-  if (out) return true;
-  std::fprintf(stderr, "%s: cannot be written\n", path.c_str());
-  return false;
-}
-
-}  // namespace
+#include "build/files.h"
 
 int main(int argc, char** argv) {
   if (argc != 4) {
@@ -35,5 +19,5 @@ int main(int argc, char** argv) {
   const std::string source = ClassRowsSource(classes, faults);
   for (const std::string& line : faults.Lines()) std::fprintf(stderr, "%s\n", line.c_str());
   if (!faults.Empty()) return 1;
-  return Write(argv[2], header) && Write(argv[3], source) ? 0 : 1;
+  return WriteFile(argv[2], header) && WriteFile(argv[3], source) ? 0 : 1;
 }

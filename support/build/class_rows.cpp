@@ -5,6 +5,7 @@
 #include <map>
 #include <optional>
 
+#include "build/files.h"
 #include "build/source_reader.h"
 #include "text/code_page.h"
 #include "text/strings.h"

@@ -2,11 +2,11 @@
 // generated programs. It writes all of them or, when a source has a fault, none.
 
 #include <cstdio>
-#include <fstream>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "build/files.h"
 #include "build/support_format.h"
 
 namespace {
@@ -21,15 +21,6 @@ std::string Include(const std::string& folder, Faults& faults) {
     return {};
   }
   return IncludeFile(*text, file, faults);
-}
-
-bool Write(const std::string& path, const std::string& bytes) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  out.close();
-  if (out) return true;
-  std::fprintf(stderr, "%s: cannot be written\n", path.c_str());
-  return false;
 }
 
 }  // namespace
@@ -51,7 +42,7 @@ int main(int argc, char** argv) {
   for (const std::string& line : faults.Lines()) std::fprintf(stderr, "%s\n", line.c_str());
   if (!faults.Empty()) return 1;
   for (const auto& [name, bytes] : files) {
-    if (!Write(to + "/" + name, bytes)) return 1;
+    if (!WriteFile(to + "/" + name, bytes)) return 1;
   }
   return 0;
 }

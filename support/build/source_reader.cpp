@@ -1,8 +1,6 @@
 #include "build/source_reader.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 
 namespace tarnwick::support {
 
@@ -105,12 +103,6 @@ class BlockReader {
 };
 
 }  // namespace
-
-std::optional<std::string> ReadFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
 
 std::vector<TableRow> ParseTable(std::string_view text, const std::string& file,
                                  const std::vector<std::string>& columns, Faults& faults) {

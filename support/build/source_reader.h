@@ -3,7 +3,6 @@
 #pragma once
 
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,9 +31,6 @@ struct Word {
   std::string Text;
   Place Where;
 };
-
-/// A whole file; nothing when it cannot be read.
-[[nodiscard]] std::optional<std::string> ReadFile(const std::string& path);
 
 /// The rows of a tab-separated table whose first line must name exactly `columns`. A row with
 /// another number of cells is a fault and is left out. `file` names the table in faults.

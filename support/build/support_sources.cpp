@@ -3,6 +3,7 @@
 #include <map>
 #include <utility>
 
+#include "build/files.h"
 #include "text/code_page.h"
 
 namespace tarnwick::support {

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "build/files.h"
 #include "build/support_sources.h"
 #include "fakes/build_paths.h"
 #include "persistence/support_files.h"
