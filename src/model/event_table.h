@@ -1,9 +1,12 @@
 // `EventTable`: the code of every event of every form, object and menu item.
 #pragma once
 
+#include <array>
 #include <bitset>
 #include <cstddef>
-#include <map>
+#include <cstdint>
+#include <deque>
+#include <forward_list>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -20,6 +23,7 @@ struct ObjectPlace {
   int Form = 0;
   Kind Id = Kind::Button;
   int Number = 0;
+  friend bool operator==(const ObjectPlace&, const ObjectPlace&) = default;
 };
 
 /// The owner key of an object: "Form1.Button2".
@@ -75,10 +79,17 @@ class EventCodeTable {
     [[nodiscard]] const std::string* FindSlot(std::size_t slot) const noexcept;
     bool AddSlot(std::size_t slot, std::string_view code);
     void SetSlot(std::size_t slot, std::string_view code);
+    void DropCode(std::size_t slot) {
+      codes_.remove_if([slot](const Code& code) { return code.Slot == slot; });
+    }
 
     // A slot is an event; the last one is for a key that ends in no event.
+    struct Code {
+      std::size_t Slot;
+      std::string Text;
+    };
     std::bitset<kEventCount + 1> present_;
-    std::map<std::size_t, std::string> codes_;  ///< of the entries that are not empty
+    std::forward_list<Code> codes_;  ///< of the entries that are not empty: few, mostly none
   };
 
   EventCodeTable() = default;
@@ -89,11 +100,14 @@ class EventCodeTable {
   ~EventCodeTable() = default;
 
   /// The entry of a key; null when there is none.
-  [[nodiscard]] const std::string* Find(std::string_view key) const noexcept;
+  [[nodiscard]] const std::string* Find(std::string_view key) const;
   /// All entries under an owner's key; null when there never was one.
-  [[nodiscard]] const Owner* OwnerOf(std::string_view owner) const noexcept;
+  [[nodiscard]] const Owner* OwnerOf(std::string_view owner) const;
   /// The same for adding several entries; makes the owner where it is missing.
   Owner& OwnerFor(std::string_view owner);
+  /// Both for the owner whose key is the ObjectKey of these.
+  [[nodiscard]] const Owner* OwnerOf(const ObjectPlace& object) const;
+  Owner& OwnerFor(const ObjectPlace& object);
 
   /// Adds an entry; false, and nothing changed, when the key is there already.
   bool Add(std::string_view key, std::string_view value);
@@ -121,20 +135,23 @@ class EventCodeTable {
   /// The number of entries; counts them all.
   [[nodiscard]] std::size_t Size() const noexcept;
 
-  /// Calls `visit(key, owner)` for every owner, in the order in which they were made.
+  /// Calls `visit(object, owner)` for every owner that is an object with form and number from 1 on,
+  /// in the order in which they were made.
   template <class Visit>
-  void ForEachOwner(Visit visit) const {
-    for (const KeyedOwner* const owner : order_)
-      visit(std::string_view(owner->first), owner->second);
+  void ForEachObject(Visit visit) const {
+    for (const Row& row : rows_) {
+      if (row.Object != kNoObject) visit(row.Object, row.Entries);
+    }
   }
   /// Calls `visit(key, value)` for every entry: owners in the order in which they were made, the
   /// entries of each by enumerator.
   template <class Visit>
   void ForEach(Visit visit) const {
-    for (const KeyedOwner* const owner : order_) {
+    for (const Row& row : rows_) {
+      const std::string key = KeyOf(row);
       for (std::size_t slot = 0; slot <= kEventCount; ++slot) {
-        const std::string* const value = owner->second.FindSlot(slot);
-        if (value != nullptr) visit(owner->first + SuffixOf(slot), *value);
+        const std::string* const value = row.Entries.FindSlot(slot);
+        if (value != nullptr) visit(key + SuffixOf(slot), *value);
       }
     }
   }
@@ -148,15 +165,35 @@ class EventCodeTable {
   [[nodiscard]] static KeyParts PartsOf(std::string_view key) noexcept;
   [[nodiscard]] static std::string SuffixOf(std::size_t slot);
 
-  using KeyedOwner = std::pair<const std::string, Owner>;
+  /// An owner. One that is an object is found by form, kind and number: neighbours in a file are
+  /// neighbours in memory, and most keys need no text.
+  struct Row {
+    ObjectPlace Object;  ///< kNoObject for a form, a menu item and all other keys
+    std::string Key;     ///< as it was first written; "" when that is ObjectKey of the object
+    Owner Entries;
+  };
+  static constexpr ObjectPlace kNoObject{};
+  static constexpr int kBlock = 8;
+  using Block = std::array<Row*, kBlock>;
+
+  /// The object that an owner's key names, in any case; kNoObject for all other keys, and for
+  /// numbers with a sign or leading zeros, or too long ones.
+  [[nodiscard]] static ObjectPlace PlaceOf(std::string_view key);
+  [[nodiscard]] static std::uint64_t BlockOf(const ObjectPlace& object) noexcept;
+  [[nodiscard]] static std::string KeyOf(const Row& row);
+  [[nodiscard]] Row* FindRow(const ObjectPlace& object) const;
+  [[nodiscard]] Row* FindRow(std::string_view key) const;
+  /// A new row for an object that has none.
+  Row& AddRow(const ObjectPlace& object);
   [[nodiscard]] static Entries EntriesOf(const Owner& owner);
   /// Keeps an owner's entries as they are before their first change since TakeChanges.
-  void Note(const std::string& key, const Owner& owner);
+  Owner& Noted(Row& row);
   /// Has what is noted of an owner under another key.
   void MoveNote(const std::string& from, const std::string& to);
 
-  std::unordered_map<std::string, Owner, FoldedHash, FoldedEqual> owners_;
-  std::vector<const KeyedOwner*> order_;  ///< as they were made
+  std::deque<Row> rows_;                              ///< as they were made
+  std::unordered_map<std::uint64_t, Block> objects_;  ///< by BlockOf
+  std::unordered_map<std::string_view, Row*, FoldedHash, FoldedEqual> others_;  ///< by key
   bool watched_ = false;
   std::unordered_map<std::string, Entries, FoldedHash, FoldedEqual> noted_;  ///< by key
   std::vector<Changes::Removed> removed_;

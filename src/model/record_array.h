@@ -2,14 +2,17 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
+#include <optional>
 #include <unordered_map>
 #include <utility>
 
 namespace tarnwick {
 
 /// An array with slots 0 to UBound(), slot 0 normally left empty. Project files may name any
-/// number of the 16-bit range, so only the records that were written are held. A record stays where
-/// it is until Clear() or Splice().
+/// number of the 16-bit range, so only what was written is held, in blocks of neighbours. A record
+/// stays where it is until Clear() or Splice().
 template <class T>
 class RecordArray {
  public:
@@ -19,15 +22,20 @@ class RecordArray {
   /// The record at an index; null outside the array and where nothing was ever written: such a slot
   /// reads as an empty record.
   [[nodiscard]] const T* At(int index) const noexcept {
-    const auto found = records_.find(index);
-    return found == records_.end() ? nullptr : &found->second;
+    if (index < 0) return nullptr;
+    const auto block = blocks_.find(index / kBlock);
+    if (block == blocks_.end()) return nullptr;
+    const std::optional<T>& record = block->second[Slot(index)];
+    return record ? &*record : nullptr;
   }
 
   /// The record at an index for writing, made where it is missing; null outside the array. Never
   /// grows the array.
   [[nodiscard]] T* At(int index) {
     if (index < 0 || index > ubound_) return nullptr;
-    return &records_[index];
+    std::optional<T>& record = blocks_[index / kBlock][Slot(index)];
+    if (!record) record.emplace();
+    return &*record;
   }
 
   /// Puts `insert` empty records in the place of `remove` records from index `first` on; the
@@ -36,12 +44,11 @@ class RecordArray {
     const int behind = first + remove;
     const int shift = insert - remove;
     const int last = ubound_;
-    for (int i = first; i < behind; ++i) records_.erase(i);
+    for (int i = first; i < behind; ++i) Take(i);
     const auto move = [&](int i) {
-      auto record = records_.extract(i);
-      if (record.empty()) return;
-      record.key() = i + shift;
-      records_.insert(std::move(record));
+      if (std::optional<T> record = Take(i)) {
+        blocks_[(i + shift) / kBlock][Slot(i + shift)] = std::move(record);
+      }
     };
     if (shift > 0) {
       for (int i = last; i >= behind; --i) move(i);
@@ -63,12 +70,26 @@ class RecordArray {
   }
 
   void Clear() noexcept {
-    records_.clear();
+    blocks_.clear();
     ubound_ = 0;
   }
 
  private:
-  std::unordered_map<int, T> records_;
+  static constexpr int kBlock = 8;
+  using Block = std::array<std::optional<T>, kBlock>;
+
+  static constexpr std::size_t Slot(int index) noexcept {
+    return static_cast<std::size_t>(index % kBlock);
+  }
+
+  /// Takes a record out; null where none was written.
+  std::optional<T> Take(int index) {
+    const auto block = blocks_.find(index / kBlock);
+    if (index < 0 || block == blocks_.end()) return std::nullopt;
+    return std::exchange(block->second[Slot(index)], std::nullopt);
+  }
+
+  std::unordered_map<int, Block> blocks_;  ///< by number: index / kBlock
   int ubound_ = 0;
 };
 

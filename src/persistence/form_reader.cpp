@@ -122,7 +122,7 @@ void FormReader::ReadObject(Kind kind) {
   if (object.Number && *object.Number < 0) object.Number.reset();
   if (object.Number) {
     if (InfoOf(kind).Events != EventListId::None) {
-      object.Code = &tables_.EventTable.OwnerFor(ObjectKey(window_number_, kind, *object.Number));
+      object.Code = &tables_.EventTable.OwnerFor(ObjectPlace{window_number_, kind, *object.Number});
     }
     if (auto* const records = record_->Objects(kind)) {
       object.Record = records->Ensure(*object.Number);

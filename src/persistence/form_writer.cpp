@@ -87,7 +87,7 @@ class FormWriter {
   /// The look-up uses the element's index: it comes before the running number is stepped.
   void TakeCodes(const DesignControl& control) {
     const auto* owner =
-        tables_.EventTable.OwnerOf(ObjectKey(window_number_, control.Id, control.Index));
+        tables_.EventTable.OwnerOf(ObjectPlace{window_number_, control.Id, control.Index});
     if (owner == nullptr) return;
     for (const Event event : NewObjectEvents()) TakeCode(*owner, event);
     TakeCode(*owner, Event::OnPopUp);

@@ -126,6 +126,38 @@ TEST(EventTable, AnOwnerIsMadeOnceAndFoundInAnyCase) {
   EXPECT_EQ(*table.Find("Form2.Button5.OnClick"), "first");
 }
 
+TEST(EventTable, AnObjectIsTheOwnerOfItsKey) {
+  EventCodeTable table;
+  for (const ObjectPlace& object :
+       {ObjectPlace{2, Kind::Image, 5}, ObjectPlace{1, Kind::Button, 7},
+        ObjectPlace{1, Kind::Button, 8}, ObjectPlace{0, Kind::Button, 1},
+        ObjectPlace{1, Kind::Label, 0}, ObjectPlace{1, Kind::Label, -3},
+        ObjectPlace{1, Kind::Label, 2000000000}}) {
+    const std::string key = ObjectKey(object.Form, object.Id, object.Number);
+    EXPECT_EQ(table.OwnerOf(object), nullptr) << key;
+    auto& owner = table.OwnerFor(object);
+    EXPECT_EQ(table.OwnerOf(object), &owner) << key;
+    EXPECT_EQ(table.OwnerOf(key), &owner) << key;
+    owner.Add(Event::OnClick, key);
+    EXPECT_EQ(CodeOf(table, key + ".OnClick"), key);
+  }
+  EXPECT_EQ(table.Size(), 7U);
+}
+
+TEST(EventTable, AWalkOverObjectsLeavesOutAllOtherOwners) {
+  EventCodeTable table;
+  for (const char* key : {"Form1.Label9", "Form1", "FORM1.BUTTON2", "Form1.Item3", "Form0.Button1",
+                          "Form1.Button02"}) {
+    table.Add(key, Event::OnClick, "x");
+  }
+  std::vector<ObjectPlace> met;
+  table.ForEachObject([&](const ObjectPlace& object, const EventCodeTable::Owner& owner) {
+    EXPECT_TRUE(owner.HasCode());
+    met.push_back(object);
+  });
+  EXPECT_EQ(met, (std::vector<ObjectPlace>{{1, Kind::Label, 9}, {1, Kind::Button, 2}}));
+}
+
 TEST(EventTable, PointersStayValidWhileOtherEntriesCome) {
   EventCodeTable table;
   auto& owner = table.OwnerFor("Form1.Button1");
