@@ -39,11 +39,14 @@ int ReportUnread(LoadedProject& loaded, std::FILE* err) {
 int Generate(LoadedProject& loaded, const Arguments& arguments, std::FILE* out, std::FILE* err) {
   GeneratorState state;
   project::CheckMainForm(loaded.Tables);
-  const std::string source = GenerateSource(loaded.Tables, state);
   if (!arguments.OutputFile) {
-    const bool written = Print(out, source) && std::fflush(out) == 0;
+    bool written = true;
+    WriteSource(loaded.Tables, state,
+                [&](std::string_view piece) { written = written && Print(out, piece); });
+    written = written && std::fflush(out) == 0;
     return written ? ReportUnread(loaded, err) : Fail(err, "cannot write to", "standard output");
   }
+  const std::string source = GenerateSource(loaded.Tables, state);
   const std::string path = WindowsPathOf(*arguments.OutputFile);
   if (!loaded.Files.Replace(path, source)) return Fail(err, "cannot write", *arguments.OutputFile);
   return ReportUnread(loaded, err);
@@ -104,22 +107,22 @@ int Check(LoadedProject& loaded, std::FILE* out) {
 
 }  // namespace
 
-int RunCommand(const Arguments& arguments, std::FILE* out, std::FILE* err) {
-  if (arguments.What == Command::Convert) return Convert(arguments, err);
-  if (arguments.What == Command::Run) {
-    return static_cast<int>(RunProgram(arguments.Run, stdin, out, err));
+int CommandRun::Run() {
+  if (arguments_.What == Command::Convert) return Convert(arguments_, err_);
+  if (arguments_.What == Command::Run) {
+    return static_cast<int>(RunProgram(arguments_.Run, stdin, out_, err_));
   }
   // `check` lists missing files among its findings.
-  const bool quiet = arguments.What == Command::Check;
-  LoadedProject project(arguments.ProgramFolder, err, quiet);
-  if (!project.Load(arguments.Input)) return Fail(err, "cannot read", arguments.Input);
-  switch (arguments.What) {
+  const bool quiet = arguments_.What == Command::Check;
+  LoadedProject& project = project_.emplace(arguments_.ProgramFolder, err_, quiet);
+  if (!project.Load(arguments_.Input)) return Fail(err_, "cannot read", arguments_.Input);
+  switch (arguments_.What) {
     case Command::Generate:
-      return Generate(project, arguments, out, err);
+      return Generate(project, arguments_, out_, err_);
     case Command::Resave:
-      return Resave(project, arguments, err);
+      return Resave(project, arguments_, err_);
     default:
-      return Check(project, out);
+      return Check(project, out_);
   }
 }
 

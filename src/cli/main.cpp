@@ -1,5 +1,6 @@
 // tarnwick-cli: the project's logic with no display.
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -18,5 +19,10 @@ int main(int argc, char** argv) {
     std::fputs(wrong->Text.c_str(), stderr);
     return 2;
   }
-  return RunCommand(std::get<Arguments>(parsed), stdout, stderr);
+  CommandRun run(std::get<Arguments>(parsed), stdout, stderr);
+  const int code = run.Run();
+  // The system takes the memory of a large project back at once, where freeing it record by record
+  // takes a while.
+  std::fflush(nullptr);
+  std::_Exit(code);
 }

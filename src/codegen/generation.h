@@ -21,8 +21,8 @@ namespace tarnwick {
 /// One run of the generator: the tables it reads, the text it writes, and the form it is at.
 class Generation {
  public:
-  Generation(ProjectTables& tables, GeneratorState& state)
-      : Tables(tables), State(state), Code(tables.EventTable) {}
+  Generation(ProjectTables& tables, GeneratorState& state, SourceText out = {})
+      : Tables(tables), State(state), Out(std::move(out)), Code(tables.EventTable) {}
 
   /// Selects a form of the project; the members below are then about that form.
   void SelectForm(int form);

@@ -66,12 +66,21 @@ std::size_t ExpectedSize(const ProjectTables& tables) {
   return objects * kBytesPerObject;
 }
 
-std::string WriteSections(ProjectTables& tables, GeneratorState& state, SourceMap* map) {
-  Generation gen(tables, state);
-  gen.Map = map;
-  gen.Out.Expect(ExpectedSize(tables));
+/// Calls `use(form)` with the number of each form that has a transparent frame: it is not shown by
+/// its own name.
+template <class Use>
+void ForEachFramedForm(const ProjectTables& tables, Use use) {
+  for (int form = 1; form <= tables.FormsCount; ++form) {
+    if (tables.IsLive(form) && HasTransparentFrame(tables, form)) use(form);
+  }
+}
+
+/// Writes the program before its calls of Show are rewritten.
+void WriteSections(Generation& gen) {
+  gen.State.KindCounters.Reset(CounterLife::Form);
+  gen.State.DefaultIconDone = false;
   const auto mark_whole = [&](SourcePart part) {
-    if (map != nullptr) map->Begin(gen.Out.Size(), {.Part = part});
+    if (gen.Map != nullptr) gen.Map->Begin(gen.Out.Size(), {.Part = part});
   };
   mark_whole(SourcePart::Dims);
   gen.Out.Line("Dim Font As QFont");
@@ -92,26 +101,36 @@ std::string WriteSections(ProjectTables& tables, GeneratorState& state, SourceMa
   mark_whole(SourcePart::Start);
   WriteStartLine(gen);
   ForEachForm(gen, [&] { WriteFreeLines(gen); });
-  return gen.Out.Take();
 }
 
 }  // namespace
 
 std::string GenerateSource(ProjectTables& tables, GeneratorState& state, SourceMap* map) {
-  state.KindCounters.Reset(CounterLife::Form);
-  state.DefaultIconDone = false;
-  std::string text = WriteSections(tables, state, map);
-  // Forms with a transparent frame are not shown by their own name.
-  for (int i = 1; i <= tables.FormsCount; ++i) {
-    if (!tables.IsLive(i) || !HasTransparentFrame(tables, i)) continue;
+  Generation gen(tables, state);
+  gen.Map = map;
+  gen.Out.Expect(ExpectedSize(tables));
+  WriteSections(gen);
+  std::string text = gen.Out.Take();
+  ForEachFramedForm(tables, [&](int form) {
     std::vector<TextChange> changes;
-    text = RewriteShowCalls(text, tables.Form(i)->Name + ".show", TransparentFrameSubName(i),
+    text = RewriteShowCalls(text, tables.Form(form)->Name + ".show", TransparentFrameSubName(form),
                             map == nullptr ? nullptr : &changes);
     if (map != nullptr) map->Follow(changes);
-  }
+  });
   // The text is printed whole, as one more line.
   text += kLineEnd;
   return text;
+}
+
+void WriteSource(ProjectTables& tables, GeneratorState& state, const TextSink& sink) {
+  bool framed = false;
+  ForEachFramedForm(tables, [&](int) { framed = true; });
+  if (framed) return sink(GenerateSource(tables, state));
+  constexpr std::size_t kPieceBytes = std::size_t{32} << 10U;
+  Generation gen(tables, state, SourceText(sink, kPieceBytes));
+  WriteSections(gen);
+  gen.Out.Blank();
+  gen.Out.Flush();
 }
 
 }  // namespace tarnwick

@@ -5,6 +5,7 @@
 
 #include "codegen/generator_state.h"
 #include "codegen/source_map.h"
+#include "codegen/source_text.h"
 #include "model/project_records.h"
 
 namespace tarnwick {
@@ -15,5 +16,9 @@ namespace tarnwick {
 /// lines come from, its lines not counted yet; null for a caller who does not care.
 [[nodiscard]] std::string GenerateSource(ProjectTables& tables, GeneratorState& state,
                                          SourceMap* map = nullptr);
+
+/// The same program handed to `sink` in pieces, so that it is never in memory as a whole, unless a
+/// form has a transparent frame: calls of its Show are looked for in the whole text.
+void WriteSource(ProjectTables& tables, GeneratorState& state, const TextSink& sink);
 
 }  // namespace tarnwick

@@ -5,6 +5,7 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -30,12 +31,20 @@ struct Numbered {
 template <class T>
 concept WholeNumber = std::integral<T> && !std::same_as<T, bool> && !std::same_as<T, char>;
 
+/// Gets a text in pieces, from its beginning to its end.
+using TextSink = std::function<void(std::string_view)>;
+
 /// A text of lines, each ended by CR LF. A line is given as its parts: texts, numbers and the two
 /// above.
 ///
 ///   text.Line(name, ".Caption = ", Quoted{caption});
 class SourceText {
  public:
+  /// A text that is kept whole.
+  SourceText() = default;
+  /// A text that goes to `sink` whenever about so many bytes have come together, and with Flush().
+  SourceText(TextSink sink, std::size_t piece) : sink_(std::move(sink)) { bytes_.resize(piece); }
+
   template <class... Parts>
   void Line(const Parts&... parts) {
     // Room is made for the whole line, so that its parts need no check each.
@@ -47,14 +56,20 @@ class SourceText {
   }
   void Blank() { Line(); }
 
-  /// Prepares for a text of about so many bytes.
+  /// Prepares for a text of about so many bytes that is kept whole.
   void Expect(std::size_t bytes) { MakeRoom(bytes); }
   /// The bytes of all lines so far.
-  [[nodiscard]] std::size_t Size() const noexcept { return size_; }
+  [[nodiscard]] std::size_t Size() const noexcept { return passed_on_ + size_; }
+  /// The text without what went to the sink.
   [[nodiscard]] std::string_view Text() const noexcept {
     return std::string_view(bytes_).substr(0, size_);
   }
-  /// Moves the text out.
+  /// Hands what is left to the sink.
+  void Flush() {
+    passed_on_ += size_;
+    sink_(std::string_view(bytes_).substr(0, std::exchange(size_, 0)));
+  }
+  /// Moves a text out that is kept whole.
   [[nodiscard]] std::string Take() {
     bytes_.resize(std::exchange(size_, 0));
     return std::exchange(bytes_, {});
@@ -62,6 +77,8 @@ class SourceText {
 
  private:
   void MakeRoom(std::size_t bytes) {
+    if (bytes_.size() - size_ >= bytes) return;
+    if (sink_) Flush();
     if (bytes_.size() - size_ < bytes) bytes_.resize(size_ + std::max(bytes, size_));
   }
 
@@ -92,6 +109,8 @@ class SourceText {
 
   std::string bytes_;     ///< the text and free room behind it
   std::size_t size_ = 0;  ///< of the text
+  TextSink sink_;         ///< empty for a text that is kept whole
+  std::size_t passed_on_ = 0;
 };
 
 }  // namespace tarnwick

@@ -74,7 +74,7 @@ TEST(GenerateTest, AFullDeviceIsTold) {
   ASSERT_NE(full, nullptr);
   const test::TextStream err;
   const ParsedArguments parsed = ParseArguments({"generate", project});
-  EXPECT_EQ(RunCommand(std::get<Arguments>(parsed), full, err.File()), 1);
+  EXPECT_EQ(CommandRun(std::get<Arguments>(parsed), full, err.File()).Run(), 1);
   EXPECT_EQ(err.Text(), "tarnwick-cli: cannot write to standard output\n");
   std::fclose(full);
 }

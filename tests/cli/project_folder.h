@@ -26,7 +26,7 @@ inline CallResult Call(const std::vector<std::string>& words) {
   if (const auto* const wrong = std::get_if<WrongUsage>(&parsed)) return {2, "", wrong->Text};
   const TextStream out;
   const TextStream err;
-  const int exit = RunCommand(std::get<Arguments>(parsed), out.File(), err.File());
+  const int exit = CommandRun(std::get<Arguments>(parsed), out.File(), err.File()).Run();
   return {exit, out.Text(), err.Text()};
 }
 

@@ -80,6 +80,19 @@ TEST(RoundTrip, GeneratingTwiceDiffersOnlyInWinSockNumbers) {
   }
 }
 
+TEST(RoundTrip, AProgramInPiecesIsTheWholeProgram) {
+  for (std::uint32_t seed = 0; seed < kSeeds; ++seed) {
+    FakeProject project;
+    // Some have transparent frames, whose calls are looked for in the whole text.
+    RandomProject(seed).Fill(project.Builder, {.Forms = 3, .ObjectsPerForm = 200});
+    GeneratorState whole;
+    GeneratorState in_pieces;
+    std::string joined;
+    WriteSource(project.Tables, in_pieces, [&](std::string_view piece) { joined += piece; });
+    ASSERT_EQ(joined, GenerateSource(project.Tables, whole)) << seed;
+  }
+}
+
 TEST(RoundTrip, AReadProjectGeneratesWhatTheWrittenOneDid) {
   for (std::uint32_t seed = 0; seed < kSeeds; ++seed) {
     FakeProject project;
