@@ -20,12 +20,7 @@ constexpr std::string_view kAs = "as";
 
 void Intellisense::Reset() {
   HideList();
-  LastWord_.clear();
-  ListPrefix_.clear();
-  LastKey_ = list_key::kNone;
-  PrevKey_ = list_key::kNone;
-  AsPending_ = false;
-  ListMode_ = ListMode::Members;
+  typed_ = {};
 }
 
 void Intellisense::HideList() {
@@ -40,39 +35,39 @@ void Intellisense::Select(int row) {
 }
 
 void Intellisense::Changed() {
-  if (LastKey_ != list_key::kBackspace) {
+  if (typed_.LastKey != list_key::kBackspace) {
     const std::string word = CurrentWord(editor_);
     if (EqualsFolded(word, kAs)) {
-      AsPending_ = true;
-    } else if (word.empty() && AsPending_) {
+      typed_.AsPending = true;
+    } else if (word.empty() && typed_.AsPending) {
       Open(ListMode::Types, kAs);
-    } else if (ListMode_ == ListMode::TypesDismissed) {
-      Open(ListMode::Types, LastWord_);
+    } else if (typed_.Mode == ListMode::TypesDismissed) {
+      Open(ListMode::Types, typed_.LastWord);
     } else if (Opens(word)) {
-      Open(ListMode::Members, word.ends_with('_') ? std::string_view("_") : LastWord_);
+      Open(ListMode::Members, word.ends_with('_') ? std::string_view("_") : typed_.LastWord);
     } else {
-      AsPending_ = false;
+      typed_.AsPending = false;
     }
   }
   if (visible_ && !CaretInServedWord()) HideList();
   FilterList();
-  LastWord_ = CurrentWord(editor_);
-  PrevKey_ = LastKey_;
+  typed_.LastWord = CurrentWord(editor_);
+  typed_.PrevKey = typed_.LastKey;
 }
 
 bool Intellisense::Opens(std::string_view word) {
   if (std::find(kDotWords.begin(), kDotWords.end(), word) != kDotWords.end()) return true;
   // A blank in front of the dot opens nothing.
-  if (word.ends_with('.')) return !LastWord_.empty() && PrevKey_ != list_key::kSpace;
+  if (word.ends_with('.')) return !typed_.LastWord.empty() && typed_.PrevKey != list_key::kSpace;
   return word.ends_with('_');
 }
 
 void Intellisense::CaretMoved() {
   if (visible_ && !CaretInServedWord()) HideList();
-  LastWord_ = CurrentWord(editor_);
-  PrevKey_ = list_key::kNone;
-  AsPending_ = false;
-  if (ListMode_ == ListMode::TypesDismissed) ListMode_ = ListMode::Types;
+  typed_.LastWord = CurrentWord(editor_);
+  typed_.PrevKey = list_key::kNone;
+  typed_.AsPending = false;
+  if (typed_.Mode == ListMode::TypesDismissed) typed_.Mode = ListMode::Types;
 }
 
 bool Intellisense::CaretInServedWord() const {
@@ -86,8 +81,8 @@ bool Intellisense::CaretInServedWord() const {
 }
 
 void Intellisense::Open(ListMode mode, std::string_view word) {
-  ListMode_ = mode;
-  AsPending_ = false;
+  typed_.Mode = mode;
+  typed_.AsPending = false;
   LineIntellisense(word);
 }
 
@@ -110,8 +105,6 @@ void Intellisense::LineIntellisense(std::string_view word) {
 
 void Intellisense::Show(std::vector<std::string> rows, std::size_t name_length) {
   rows_ = std::move(rows);
-  row_ = -1;
-  ListPrefix_.clear();
   if (rows_.empty()) {
     HideList();
     return;
@@ -128,14 +121,14 @@ void Intellisense::FilterList() {
   if (!visible_) return;
   const std::string word = CurrentWord(editor_);
   if (word.empty() || word.ends_with('.')) {
-    ListPrefix_.clear();
+    typed_.ListPrefix.clear();
     Select(0);
     return;
   }
   // Of "Button1_On" the list serves what stands behind the "_" that opened it.
-  ListPrefix_ = word.substr(std::min(name_length_, word.size()));
+  typed_.ListPrefix = word.substr(std::min(name_length_, word.size()));
   const auto match = std::find_if(rows_.begin(), rows_.end(), [this](const std::string& row) {
-    return StartsWithFolded(row, ListPrefix_);
+    return StartsWithFolded(row, typed_.ListPrefix);
   });
   Select(match == rows_.end() ? -1 : static_cast<int>(match - rows_.begin()));
 }
@@ -155,16 +148,16 @@ void Intellisense::Insert(std::string_view text, int replaced) {
 
 bool Intellisense::AcceptItem(ListSource source) {
   bool inserted = false;
-  if (row_ >= 0 && row_ < static_cast<int>(rows_.size())) {
+  if (row_ >= 0) {
     const std::string row = rows_[static_cast<std::size_t>(row_)];
-    const int typed = static_cast<int>(ListPrefix_.size());
-    if (source == ListSource::DoubleClicked || !StartsWithFolded(row, ListPrefix_)) {
+    const int typed = static_cast<int>(typed_.ListPrefix.size());
+    if (source == ListSource::DoubleClicked || !StartsWithFolded(row, typed_.ListPrefix)) {
       // The row stands once, in place of what was typed of it.
       Insert(row, typed);
       inserted = true;
-    } else if (ListPrefix_.size() < row.size()) {
+    } else if (typed_.ListPrefix.size() < row.size()) {
       // What the user typed stands in the user's letters; only the rest of the row is added.
-      Insert(std::string_view(row).substr(ListPrefix_.size()), 0);
+      Insert(std::string_view(row).substr(typed_.ListPrefix.size()), 0);
       inserted = true;
     }
   }
@@ -182,7 +175,7 @@ bool Intellisense::KeyDown(int key) {
         used = AcceptItem(ListSource::Typed);
         break;
       case list_key::kDown:
-        if (row_ + 1 < static_cast<int>(rows_.size())) Select(row_ + 1);
+        if (HasRow(row_ + 1)) Select(row_ + 1);
         used = true;
         break;
       case list_key::kUp:
@@ -195,9 +188,9 @@ bool Intellisense::KeyDown(int key) {
       case list_key::kBackspace:
         if (word.ends_with('.')) {
           HideList();
-        } else if (ListMode_ == ListMode::Types && word.empty()) {
+        } else if (typed_.Mode == ListMode::Types && word.empty()) {
           // The next character brings the types back.
-          ListMode_ = ListMode::TypesDismissed;
+          typed_.Mode = ListMode::TypesDismissed;
           HideList();
         }
         break;
@@ -205,7 +198,7 @@ bool Intellisense::KeyDown(int key) {
         break;
     }
   }
-  LastKey_ = key;
+  typed_.LastKey = key;
   return used;
 }
 
@@ -215,11 +208,11 @@ void Intellisense::KeyPress(int character) {
 }
 
 void Intellisense::Click(int row) {
-  if (visible_) Select(row);
+  if (visible_ && HasRow(row)) Select(row);
 }
 
 void Intellisense::DoubleClick(int row) {
-  if (!visible_) return;
+  if (!visible_ || !HasRow(row)) return;
   Select(row);
   AcceptItem(ListSource::DoubleClicked);
 }

@@ -62,7 +62,8 @@ class Intellisense {
   void CaretMoved();
   void HideList();
 
-  /// A row of the list was clicked, or double-clicked, which takes it whole.
+  /// A row of the list was clicked, or double-clicked, which takes it whole. Nothing for a row that
+  /// is not there.
   void Click(int row);
   void DoubleClick(int row);
   /// A key on the list itself: any but Up and Down takes the selected row.
@@ -83,6 +84,9 @@ class Intellisense {
   void LineIntellisense(std::string_view word);
   void Show(std::vector<std::string> rows, std::size_t name_length);
   void FilterList();
+  [[nodiscard]] bool HasRow(int row) const noexcept {
+    return row >= 0 && row < static_cast<int>(rows_.size());
+  }
   void Select(int row);
   /// True when a text was inserted.
   bool AcceptItem(ListSource source);
@@ -94,12 +98,16 @@ class Intellisense {
   const MemberLookup& lookup_;
   MemberListView& view_;
 
-  std::string LastWord_;
-  std::string ListPrefix_;
-  int LastKey_ = list_key::kNone;
-  int PrevKey_ = list_key::kNone;
-  bool AsPending_ = false;
-  ListMode ListMode_ = ListMode::Members;
+  /// What has been typed since the window was opened.
+  struct Typed {
+    std::string LastWord;
+    std::string ListPrefix;
+    int LastKey = list_key::kNone;
+    int PrevKey = list_key::kNone;
+    bool AsPending = false;
+    ListMode Mode = ListMode::Members;
+  };
+  Typed typed_;
 
   std::vector<std::string> rows_;
   int row_ = -1;

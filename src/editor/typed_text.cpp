@@ -14,7 +14,6 @@ void TypedText::Leave() {
   std::string text = editor_.Text();
   if (!key_.empty() && text != stored_) drafts_.Keep(key_, std::move(text));
   key_.clear();
-  stored_.clear();
 }
 
 void TypedText::Stored(const std::string& text) {

@@ -156,6 +156,21 @@ TEST_F(CodeMarksTest, AMistakeOfTheDeclarationsIsNotMarkedInAnEvent) {
   EXPECT_EQ(OfEvent("Wend").size(), 1U);
 }
 
+TEST_F(CodeMarksTest, ManyMistakesOfTheDeclarationsLeaveRoomForThoseOfTheEvent) {
+  std::string declarations;
+  for (int line = 0; line < 60; ++line) declarations += "Wend\r\n";
+  Declare(1, declarations);
+  EXPECT_EQ(OfEvent("Wend").size(), 1U);
+}
+
+TEST_F(CodeMarksTest, ManyMistakesOfAnIncludedFileLeaveRoomForThoseOfTheEvent) {
+  Declare(1, "$INCLUDE \"own.inc\"");
+  std::string text(100, '\n');
+  for (int line = 0; line < 60; ++line) text += "Wend\r\n";
+  ports_.Files.Put("C:\\Work\\own.inc", text);
+  EXPECT_EQ(OfEvent("Wend").size(), 1U);
+}
+
 TEST_F(CodeMarksTest, ARemovedFormDeclaresNothing) {
   Declare(2, "$DEFINE Begin Then");
   builder_.Form(2).Remove();

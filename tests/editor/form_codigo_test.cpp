@@ -260,6 +260,14 @@ TEST_F(FormCodigoTest, AJumpWithADotOpensTheItemWhateverIsSelected) {
   EXPECT_EQ(project_.Tables.JumpKey, "");
 }
 
+TEST_F(FormCodigoTest, AJumpOpensTheItemOfTheFormThatItsKeyNames) {
+  SetCode("Form2.ppmCopy.OnClick", "two");
+  project_.Tables.JumpKey = "Form2.ppmCopy";
+  codigo_.Open();
+  EXPECT_EQ(editor_.Text(), "two");
+  EXPECT_EQ(codigo_.Target().Form, 2);
+}
+
 TEST_F(FormCodigoTest, AJumpToAWholeKeyOpensItsEventAlsoWithoutTheObject) {
   Select(Kind::Button, 1);
   SetCode("Form1.Button9.OnKeyDown", "left behind");
@@ -317,6 +325,14 @@ TEST_F(FormCodigoTest, AKindWithoutALineInTheSupportFileHasNoEvents) {
   editor_.SetText("x");
   codigo_.Accept();
   EXPECT_EQ(Code("Form1.WinSock1.OnClick"), "(none)");
+}
+
+TEST_F(FormCodigoTest, AJumpOnAKindWithoutEventsIsForgotten) {
+  project_.Builder.Form(1).Add(Kind::WinSock, "Sock");
+  Select(Kind::WinSock, 1);
+  project_.Tables.JumpKey = "OnKeyUp";
+  codigo_.Open();
+  EXPECT_EQ(project_.Tables.JumpKey, "");
 }
 
 TEST_F(FormCodigoTest, ARememberedEventThatIsNoRowGivesTheDefault) {
@@ -380,6 +396,11 @@ TEST_F(FormCodigoTest, TheRowOfTheSearchIsRememberedAndABadOneIsTheFirst) {
   codigo_.Cancel();
   codigo_.Open();
   EXPECT_EQ(codigo_.ComboSearch(), 2);
+  codigo_.SetComboSearch(0);
+  EXPECT_EQ(codigo_.ComboSearch(), 0);
+  codigo_.SetComboSearch(3);
+  EXPECT_EQ(codigo_.ComboSearch(), 2);
+  EXPECT_EQ(Remembered("Search", "Whr"), "2");
   settings_.WriteEventIndex("Search", "Whr", "9");
   codigo_.Open();
   EXPECT_EQ(codigo_.ComboSearch(), 0);

@@ -114,6 +114,8 @@ TEST_F(FunctionPanelTest, AClickOnNotFoundLeavesTheHelp) {
 
 TEST_F(FunctionPanelTest, ARowThatIsNotThereDoesNothing) {
   panel_.Click(FunctionListId::Main, 7);
+  panel_.Click(FunctionListId::Main, 2);
+  EXPECT_EQ(panel_.RowOf(FunctionListId::Main), 0);
   panel_.DoubleClick(FunctionListId::Main, -1);
   EXPECT_EQ(panel_.EditHelp(), "");
   EXPECT_EQ(editor_.Text(), "");

@@ -79,6 +79,7 @@ struct IntellisenseCase {
        "c",
        "", "", "Ok.c|"},
       {"BackspaceInTheWordFiltersAgain", "Ok.cl\b", "Caption,Color,Click", "Caption", "Ok.c|"},
+      {"BackspaceToTheDotKeepsTheList", "Ok.c\b", "Caption,Color,Click", "Caption", "Ok.|"},
       {"ASignEndsTheWordAndTheList", "Ok.ca=", "", "", "Ok.ca=|"},
       {"AnUnderscoreOpensTheEvents", "Ok_", "OnClick,OnKeyUp", "OnClick", "Ok_|"},
       {"TheEventsFilterBehindTheUnderscore", "Ok_onk", "OnClick,OnKeyUp", "OnKeyUp", "Ok_onk|"},

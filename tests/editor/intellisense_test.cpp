@@ -194,6 +194,19 @@ TEST(Intellisense, AResetForgetsAs) {
   EXPECT_FALSE(typist.View.Visible);
 }
 
+TEST(Intellisense, AResetForgetsTheLastKey) {
+  Typist typist;
+  typist.Type("a\b");
+  typist.List.Reset();
+  typist.Editor.SetText("Ok");
+  typist.Editor.SetCaretPos(0, 2);
+  typist.List.CaretMoved();
+  // Text that comes without a key, as by a paste.
+  typist.Editor.SetSelText(".");
+  typist.List.Changed();
+  EXPECT_EQ(typist.RowsShown(), "Caption,Color,Click");
+}
+
 TEST(Intellisense, AMoveOfTheCaretForgetsTypesThatWereDismissed) {
   Typist typist;
   typist.Type("Ok\rDim x As \b");
@@ -222,6 +235,25 @@ TEST(Intellisense, ADotThatTouchesNoNameServesTheWordBeforeAlsoBehindABlank) {
   typist.Type(" .");
   EXPECT_EQ(typist.TextWithCaret(), "= .|Ok");
   EXPECT_EQ(typist.RowsShown(), "Caption,Color,Click");
+}
+
+TEST(Intellisense, UpHidesTheListAlsoWhereTheCaretCannotMove) {
+  Typist typist;
+  typist.Type("Ok.");
+  EXPECT_FALSE(typist.List.KeyDown(key::kUp));
+  EXPECT_FALSE(typist.View.Visible);
+}
+
+TEST(Intellisense, ARowThatIsNotThereIsNotTaken) {
+  Typist typist;
+  typist.Type("Ok.");
+  typist.List.Click(3);
+  typist.List.Click(-1);
+  EXPECT_EQ(typist.SelectedRow(), "Caption");
+  typist.List.DoubleClick(3);
+  typist.List.DoubleClick(-1);
+  EXPECT_EQ(typist.Editor.Text(), "Ok.");
+  EXPECT_TRUE(typist.View.Visible);
 }
 
 TEST(Intellisense, AClickOrKeyOnAListThatIsHiddenDoesNothing) {

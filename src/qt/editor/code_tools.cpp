@@ -8,7 +8,6 @@
 
 #include "qt/editor/code_edit.h"
 #include "qt/kit/icon_set.h"
-#include "qt/kit/theme.h"
 
 namespace tarnwick {
 
@@ -60,10 +59,10 @@ void CodeTools::RunEdit(CodeEdit& code, int first) {
 
 QFrame* FrameOf(CodeEdit& code) {
   auto* frame = new QFrame;
+  frame->setObjectName(QStringLiteral("CodeFrame"));
   frame->setProperty("panel", true);
   auto* room = new QVBoxLayout(frame);
-  // The text keeps off the rounded corners.
-  room->setContentsMargins(1, kGap, 1, kGap);
+  room->setContentsMargins(1, 1, 1, 1);
   code.setFrameShape(QFrame::NoFrame);
   room->addWidget(&code);
   return frame;

@@ -57,7 +57,8 @@ void FindDialog::Build() {
   grid->addWidget(match_case_, 2, 1);
   grid->addWidget(whole_words_, 3, 1);
   grid->addWidget(wrap_, 4, 1);
-  grid->addWidget(said_, 5, 0, 1, 3);
+  said_->setWordWrap(true);
+  grid->addWidget(said_, 2, 0, 3, 1, Qt::AlignTop);
   int row = 0;
   const auto add = [&](const char* caption, const char* name, const char* tip, auto press) {
     auto* button = new QPushButton(QString::fromLatin1(caption));

@@ -61,6 +61,7 @@ QLineEdit { padding: 3px 4px; }
 QLineEdit:focus, QPlainTextEdit:focus { border-color: %3; }
 tarnwick--PropertyRowView QLineEdit { border: none; border-radius: 0; padding: 0 2px; }
 QPlainTextEdit#RowHelp { border: none; border-radius: 0; color: %5; }
+QFrame#CodeFrame, QListWidget#lstIntellisense { border-radius: 0; }
 QListWidget#ListBox { border: 1px solid %3; border-radius: 0; }
 tarnwick--PropertyGrid QToolButton { padding: 2px; background: %4; }
 tarnwick--PropertyGrid QToolButton:focus { border-color: %3; background: %2; }
