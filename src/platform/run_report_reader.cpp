@@ -13,6 +13,8 @@ namespace tarnwick {
 namespace {
 
 constexpr std::size_t kMessageFields = 6;
+/// What is longer is no report.
+constexpr std::size_t kLongestLine = 1'000'000;
 
 int NumberOf(std::string_view field) {
   return ToInt32(Val(field)).value_or(0);
@@ -42,6 +44,7 @@ void RunReportReader::Take(std::string_view bytes) {
     start = end + 1;
   }
   rest_.erase(0, start);
+  if (rest_.size() > kLongestLine) rest_.clear();
 }
 
 void RunReportReader::TakeLine(std::string_view line) {
@@ -50,6 +53,7 @@ void RunReportReader::TakeLine(std::string_view line) {
   const std::vector<std::string_view> fields = Split(line, "\t");
   const std::string_view word = fields.front();
   if (fields.size() < kMessageFields || (word != "error" && word != "note" && word != "show")) {
+    if (word != "end" && !Trim(line).empty()) last_other_ = Utf8ToCodePage(Trim(line));
     return;
   }
   // What the text holds of tabs belongs to it.

@@ -19,12 +19,16 @@ class RunReportReader {
   /// `listener` outlives the reader. The end of a run is not passed on: that is the process's own.
   explicit RunReportReader(RunListener& listener) : listener_(&listener) {}
   void Take(std::string_view bytes);
+  /// The last line that was no report, in the code page: what a runner that failed has to say. ""
+  /// when there was none.
+  [[nodiscard]] const std::string& LastOther() const noexcept { return last_other_; }
 
  private:
   void TakeLine(std::string_view line);
 
   RunListener* listener_;
   std::string rest_;  ///< the start of a line whose end has not come
+  std::string last_other_;
 };
 
 /// UTF-8 text in pieces, whose characters may be cut.

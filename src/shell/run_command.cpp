@@ -196,7 +196,8 @@ std::string RunCommand::EndText(RunnerEnd how) const {
     case RunnerEnd::RunnerFault:
       break;
   }
-  return "The runner failed while " + main_form_ + " ran";
+  const std::string text = "The runner failed while " + main_form_ + " ran";
+  return first_error_.empty() ? text : text + ": " + first_error_;
 }
 
 bool RunCommand::Jump(std::size_t line) {

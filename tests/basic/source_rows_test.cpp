@@ -30,6 +30,20 @@ TEST(SourceRows, OperatorsGiveWhatTheirRowsSay) {
 
 TEST(SourceRows, BothDispatchesGiveTheSame) {
   ExpectRows("operators.tsv", Dispatch::Switch);
+  ExpectRows("functions.tsv", Dispatch::Switch);
+}
+
+TEST(SourceRows, EveryOperatorHasFiveRows) {
+  std::map<std::string, int, std::less<>> count;
+  for (const char* file : {"functions.tsv", "operators.tsv"}) {
+    for (const ConformanceRow& row : ReadConformanceRows(file)) ++count[row.Word];
+  }
+  for (const char* word :
+       {"+",  "-",   "*",   "/",   "\\",  "^",   "&",         "=",         "<>",  "<",
+        ">",  "<=",  ">=",  "[]",  "++",  "--",  "+=",        "-=",        "NOT", "AND",
+        "OR", "XOR", "MOD", "INV", "SHL", "SHR", "narrowing", "precedence"}) {
+    EXPECT_GE(count[word], 5) << word;
+  }
 }
 
 TEST(SourceRows, AWrongNumberOfArgumentsIsAFaultOfTheProgram) {

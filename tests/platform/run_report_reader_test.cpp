@@ -58,6 +58,17 @@ TEST(RunReportReader, OtherLinesArePassedOver) {
   RunReportReader reader(listener);
   reader.Take("\nQt: something\nerror\tshort\nerrors\ta\t1\t1\t1\tx\n");
   EXPECT_TRUE(listener.Heard.empty());
+  EXPECT_EQ(reader.LastOther(), "errors\ta\t1\t1\t1\tx");
+  reader.Take("no caf\xC3\xA9 here \nend\t6\n\n");
+  EXPECT_EQ(reader.LastOther(), "no caf\xE9 here");
+}
+
+TEST(RunReportReader, ALineWithoutEndIsNotKeptForEver) {
+  Listener listener;
+  RunReportReader reader(listener);
+  reader.Take(std::string(1'000'001, 'x'));
+  reader.Take("start\n");
+  EXPECT_EQ(listener.Heard, std::vector<std::string>{"start"});
 }
 
 TEST(RunReportReader, NumbersThatAreNoneAreZeroAndTextIsOfTheCodePage) {

@@ -117,6 +117,14 @@ TEST_F(RunnerProcessTest, ARunnerThatDiesIsAFault) {
   EXPECT_EQ(listener.Ends, std::vector<RunnerEnd>{RunnerEnd::RunnerFault});
 }
 
+TEST_F(RunnerProcessTest, ARunnerThatFailsSaysWhyInItsOwnWords) {
+  RunnerProcess runner(Script("printf 'start\\nno display\\nend\\t6\\n' >&2\nexit 6\n"));
+  ASSERT_TRUE(runner.Start(request, listener));
+  ASSERT_TRUE(WaitForEnd());
+  EXPECT_EQ(listener.Messages, std::vector<std::string>{":0:no display"});
+  EXPECT_EQ(listener.Ends, std::vector<RunnerEnd>{RunnerEnd::RunnerFault});
+}
+
 TEST_F(RunnerProcessTest, WithoutARunnerNothingStarts) {
   RunnerProcess runner(folder.filePath(QStringLiteral("none")));
   EXPECT_FALSE(runner.Start(request, listener));

@@ -75,6 +75,7 @@ class LiveProgram {
   std::unique_ptr<basic::Machine> machine_;
   std::vector<std::function<void()>> steps_;
   std::size_t next_ = 0;
+  int waits_ = 0;  ///< for the focus, before the first step
   QObject context_;
 };
 

@@ -96,6 +96,16 @@ TEST(RunnerProgramTest, TheEndOfTheInputStopsAProgramThatIsBusy) {
   EXPECT_EQ(runner.End().Exit, 5);
 }
 
+TEST(RunnerProgramTest, TheEndOfTheInputStopsAProgramThatWaits) {
+  // What is left when the program that started it is killed.
+  for (const char* const text : {kWindow, "ShowMessage \"wait\"\n", "INPUT x\n"}) {
+    RunnerProcess runner(text, kIde);
+    ASSERT_TRUE(runner.WaitFor(QStringLiteral("start")));
+    runner.CloseInput();
+    EXPECT_EQ(runner.End().Exit, 5) << text;
+  }
+}
+
 TEST(RunnerProgramTest, TheWordStopClosesTheMessageOfAnError) {
   RunnerProcess runner("x = 0\nx = 1 \\ x\n", kIde);
   ASSERT_TRUE(runner.WaitFor(QStringLiteral("error\t")));

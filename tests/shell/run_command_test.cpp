@@ -300,6 +300,14 @@ TEST_F(RunCommandTest, ARunnerThatDiesIsSaid) {
   EXPECT_EQ(view.Status, "The runner failed while Form1 ran");
 }
 
+TEST_F(RunCommandTest, WhatARunnerThatFailedSaysIsShown) {
+  Compile();
+  runner.Tell({RunSeverity::Error, "", 0, 0, 0, "tarnwick-run: there is no display"});
+  runner.End(RunnerEnd::RunnerFault);
+  EXPECT_EQ(view.Status, "The runner failed while Form1 ran: tarnwick-run: there is no display");
+  EXPECT_TRUE(main.Commands().PanelShown(Panel::Output));
+}
+
 TEST_F(RunCommandTest, ASourceThatCannotBeWrittenIsNotRun) {
   ports.Files.SetReadOnly(true);
   Compile();

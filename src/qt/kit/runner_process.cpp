@@ -108,6 +108,13 @@ void RunnerProcess::Ended(int code, bool crashed) {
   if (run == nullptr) return;
   run->Process->deleteLater();
   RunnerEnd how = crashed ? RunnerEnd::RunnerFault : RunnerEndOf(code);
+  // A runner that failed says why in words of its own.
+  if (how == RunnerEnd::RunnerFault || how == RunnerEnd::BadUsage) {
+    const std::string& why = run->Report.LastOther();
+    if (!why.empty() && !run->Stopped) {
+      run->Listener.RunMessaged({RunSeverity::Error, {}, 0, 0, 0, why});
+    }
+  }
   // A stop that lets the program come to its end, or that had to be forced, is a stop all the same.
   if (run->Stopped && (crashed || how == RunnerEnd::Ended)) how = RunnerEnd::Stopped;
   run->Listener.RunEnded(how);
