@@ -48,7 +48,7 @@ class RunReport {
   /// Errors and notes of a check.
   void SayAll(const basic::Messages& messages) const;
   /// Notes, the error with its calls; returns the exit code.
-  RunExit SayResult(const basic::RunResult& result) const;
+  [[nodiscard]] RunExit SayResult(const basic::RunResult& result) const;
   /// A line of a word and a text for other programs: "start", "end"; nothing for people.
   void Signal(std::string_view word, std::string_view text = {}) const;
   /// Asks the program that reads the lines to show a place.

@@ -7,6 +7,7 @@
 #include <csignal>
 #include <memory>
 #include <mutex>
+#include <optional>
 
 #include <unistd.h>
 
@@ -159,15 +160,14 @@ basic::RunResult RunCode(const PreparedProgram& program, const RunnerArguments& 
   for (const std::string& word : arguments.Arguments) words.push_back(Utf8ToCodePage(word));
   // Standard input belongs to the program that started this one, if there is one.
   const objects::ProgramFacts facts = FactsOf(program, arguments);
-  std::unique_ptr<WindowConsole> window;
-  std::unique_ptr<hosts::StreamConsole> stream;
+  std::optional<WindowConsole> window;
+  std::optional<hosts::StreamConsole> stream;
+  basic::ConsoleHost* console = nullptr;
   if (arguments.WithIde || arguments.Windows) {
-    window = std::make_unique<WindowConsole>(looks::ToQString(facts.Title), streams.Out);
+    console = &window.emplace(looks::ToQString(facts.Title), streams.Out);
   } else {
-    stream = std::make_unique<hosts::StreamConsole>(streams.In, streams.Out);
+    console = &stream.emplace(streams.In, streams.Out);
   }
-  basic::ConsoleHost* const console =
-      window != nullptr ? static_cast<basic::ConsoleHost*>(window.get()) : stream.get();
   hosts::DiskFiles files;
   hosts::LocalClock clock(arguments.Clock);
   DesktopSystem system(std::move(words), streams.Err);
@@ -184,7 +184,7 @@ basic::RunResult RunCode(const PreparedProgram& program, const RunnerArguments& 
                          arguments.Options());
   machine.SetResources(program.Resources);
   world.Connect(machine);
-  if (window != nullptr) {
+  if (window) {
     window->Ending = [&] { return machine.Ending(); };
     window->Closed = [&] { machine.Stop(); };
   }

@@ -31,7 +31,7 @@ constexpr QRgb kColors[] = {0x000000, 0x000080, 0x008000, 0x008080, 0x800000, 0x
                             0xFF0000, 0xFF00FF, 0xFFFF00, 0xFFFFFF};
 
 QColor ColorOf(int number) {
-  return QColor(kColors[number & 15]);
+  return {kColors[number & 15]};
 }
 
 }  // namespace
@@ -233,12 +233,14 @@ std::string WindowConsole::Key() {
   if (keys_.empty()) {
     QEventLoop loop;
     window_->Pressed = [&loop] { loop.quit(); };
-    QTimer::singleShot(kKeyWait, &loop, &QEventLoop::quit);
+    QTimer wait;
+    QObject::connect(&wait, &QTimer::timeout, &loop, &QEventLoop::quit);
+    wait.start(kKeyWait);
     loop.exec();
     window_->Pressed = nullptr;
   }
   if (keys_.empty()) return {};
-  const std::string key = keys_.substr(0, 1);
+  std::string key = keys_.substr(0, 1);
   keys_.erase(0, 1);
   return key;
 }

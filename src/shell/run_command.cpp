@@ -187,7 +187,6 @@ std::string RunCommand::EndText(RunnerEnd how) const {
     case RunnerEnd::SourceFaulty:
       return with_error("Not started");
     case RunnerEnd::RunTimeError:
-      return with_error("Stopped");
     case RunnerEnd::Stopped:
       return with_error("Stopped");
     case RunnerEnd::Limit:

@@ -69,7 +69,7 @@ struct ShellState {
   }
   /// While the code editor is open: brings it to the front and returns true. Its text belongs to
   /// what is selected, so nothing else can be chosen meanwhile.
-  bool RaiseOpenCode() {
+  bool RaiseOpenCode() const {
     if (!Code->IsCodeOpen()) return false;
     Code->BringCodeToFront();
     return true;
