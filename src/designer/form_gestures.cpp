@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "designer/free_place.h"
 #include "designer/hit_test.h"
 #include "designer/object_kinds.h"
 #include "designer/selection.h"
@@ -144,6 +145,18 @@ void FormGestures::ReleaseAndOpenPopUp() {
 
 void FormGestures::End() {
   if (drag_.Mode() != DragMode::None) MouseUp();
+}
+
+bool FormGestures::PlaceByKey() {
+  const DesignForm& form = context_.Form;
+  const std::optional<Kind> kind = ArmedKind(form.Objeto);
+  if (!kind || !form.m_bDesignMode || !context_.Ready()) return false;
+  const ControlRef size = form.Element(*kind, 0);
+  const FormPlace place =
+      size ? FreePlaceFor(form, size->Width, size->Height) : FreePlaceFor(form, 0, 0);
+  Form_MouseDown(kLeftButton, 0, place.X, place.Y);
+  MouseUp();
+  return true;
 }
 
 void FormGestures::DoubleClick() {

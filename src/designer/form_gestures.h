@@ -29,6 +29,9 @@ class FormGestures {
   void MouseMove();
   /// Releases on the window, its objects and handles alike.
   void MouseUp();
+  /// Places an object of the armed tool on a free part of the form. False without an armed tool or
+  /// on a locked form.
+  bool PlaceByKey();
   /// Opens the code of the selection, when its kind has events.
   void DoubleClick();
 

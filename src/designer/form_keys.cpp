@@ -29,6 +29,9 @@ bool FormKeys::KeyDown(int KeyCode, int Shift) {
       WalkObjects((Shift & kShiftBit) == 0);
       return true;
     case keys::kReturn:
+      // Where a tool is armed, Enter does what a press on a free part of the form does.
+      if (!gestures_.PlaceByKey()) gestures_.DoubleClick();
+      return true;
     case keys::kF7:
       gestures_.DoubleClick();
       return true;
