@@ -15,6 +15,8 @@ namespace tarnwick {
 namespace {
 
 constexpr std::string_view kNumberRefused = "Not stored: the number is out of range.";
+constexpr std::string_view kColourUnknown = "Not stored: no colour has this name.";
+constexpr std::string_view kValueUnknown = "Not stored: the list has no such value.";
 constexpr std::string_view kTextRefused =
     "Not stored: \"<\" or \">\" stands beside a word that the form file uses as a mark.";
 
@@ -75,7 +77,10 @@ bool PropertySheet::ApplyTyped(const RowBinding& binding, const RowTarget& targe
   // In a row of a list a typed text counts once it names a value.
   if (WidgetsOf(RowMark(RowIndex_)).List) {
     const int index = list_.IndexOf(text);
-    if (index < 0) return false;
+    if (index < 0) {
+      if (!list_.Begins(text)) refusal_ = kValueUnknown;
+      return false;
+    }
     const std::string value = list_.Values()[static_cast<std::size_t>(index)];
     return edits_.Choice(binding, target, value, index);
   }
@@ -103,7 +108,7 @@ bool PropertySheet::ApplyNumber(const RowBinding& binding, const RowTarget& targ
   if (typed.Is == TypedNumber::State::Number && edits_.Number(binding, target, typed.Value)) {
     return true;
   }
-  refusal_ = kNumberRefused;
+  refusal_ = typed.Is == TypedNumber::State::Unknown ? kColourUnknown : kNumberRefused;
   if (number_at_entry_ && StoredNumber(binding, target) != number_at_entry_) {
     edits_.Number(binding, target, *number_at_entry_);
   }

@@ -232,8 +232,11 @@ const std::vector<project::Finding>& PropertySheet::Faults() const {
 }
 
 std::string PropertySheet::Help() const {
-  if (!is_row_selected_) return {};
-  return RowHelp(support_, SelKind_, Label(RowIndex_));
+  return is_row_selected_ ? HelpOf(RowIndex_) : std::string();
+}
+
+std::string PropertySheet::HelpOf(int row) const {
+  return RowHelp(support_, SelKind_, Label(row));
 }
 
 void PropertySheet::SetFilter(std::string_view text) {

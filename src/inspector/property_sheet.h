@@ -85,6 +85,8 @@ class PropertySheet {
   /// What the selected row is for; lines end in CR LF, "" when nothing is known or none is
   /// selected.
   [[nodiscard]] std::string Help() const;
+  /// What any row is for; "" where nothing is known.
+  [[nodiscard]] std::string HelpOf(int row) const;
 
   /// Shows only rows whose name holds the text, in any case; "" shows all. Row 0 always shows and
   /// rows keep their numbers.

@@ -17,6 +17,7 @@ namespace {
 
 constexpr TypedNumber kUnfinished{};
 constexpr TypedNumber kRefused{TypedNumber::State::Refused, 0};
+constexpr TypedNumber kUnknown{TypedNumber::State::Unknown, 0};
 constexpr std::size_t kRgbDigits = 6;
 constexpr std::size_t kMostHexDigits = 8;
 
@@ -56,7 +57,11 @@ TypedNumber ReadColour(std::string_view text) {
   if (StartsWithFolded(text, "&h")) return HexColour(text.substr(2), false);
   if (text.starts_with('$')) return HexColour(text.substr(1), true);
   if (const auto colour = language::ColourOfName(text)) return Number(*colour);
-  return kUnfinished;
+  const bool begins =
+      text == "&" ||
+      std::any_of(language::kColourNames.begin(), language::kColourNames.end(),
+                  [text](const auto& row) { return StartsWithFolded(row.Name, text); });
+  return begins ? kUnfinished : kUnknown;
 }
 
 bool BeginsANumber(std::string_view text) {

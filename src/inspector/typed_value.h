@@ -15,6 +15,7 @@ struct TypedNumber {
     Unfinished,  ///< empty, a sign alone, the beginning of a name: nothing to store yet
     Number,
     Refused,  ///< more than any field can hold
+    Unknown,  ///< a word that begins no colour's name
   };
   State Is = State::Unfinished;
   double Value = 0;
@@ -22,8 +23,8 @@ struct TypedNumber {
 
 /// Reads the text of a number row. Decimal numbers count by their leading digits, a word is 0. A
 /// colour row also takes the names of the language, `&H` with up to eight hexadecimal digits, `$`
-/// with six digits as red, green and blue, and `$` with another number of digits as `&H`; a word
-/// that is no colour is unfinished there.
+/// with six digits as red, green and blue, and `$` with another number of digits as `&H`; the
+/// beginning of a colour's name is unfinished there, another word unknown.
 [[nodiscard]] TypedNumber ReadTypedNumber(RowShape shape, std::string_view text);
 
 /// What a file row of a kind holds when it names no file: "(Default)" on a form, else "(None)".

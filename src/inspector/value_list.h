@@ -16,6 +16,9 @@ class ValueList {
   /// Index of a text among the values, blanks at the ends and case aside; -1 for none.
   [[nodiscard]] int IndexOf(std::string_view text) const noexcept;
 
+  /// True when a text, blanks at its ends and case aside, begins a value.
+  [[nodiscard]] bool Begins(std::string_view text) const noexcept;
+
   [[nodiscard]] bool IsOpen() const noexcept { return is_open_; }
   /// Index of the row's present value while the list is open; -1 for none.
   [[nodiscard]] int Marked() const noexcept { return marked_; }

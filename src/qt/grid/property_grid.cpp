@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QToolButton>
+#include <QToolTip>
 #include <algorithm>
 
 #include "inspector/property_sheet.h"
@@ -85,6 +86,8 @@ void PropertyGrid::MakeRows(int count) {
       EnterRow(pressed, FocusOn::ByRow);
       if (twice) PickOrCycle(pressed);
     });
+    connect(view, &PropertyRowView::TipWanted, this,
+            [this](int of, const QPoint& global) { ShowTip(of, global); });
     connect(view, &PropertyRowView::DividerDragged, this, [this](int x) { MoveDivider(x); });
     rows_.push_back(view);
   }
@@ -104,6 +107,15 @@ void PropertyGrid::ShowRow(int row) {
   PropertyRowView* view = ViewAt(row);
   if (view == nullptr) return;
   view->SetValue(sheet_.Text(row), LookOfRow(sheet_, pictures_, *this, row));
+}
+
+/// The row's name, what is wrong with its value and what it is for.
+void PropertyGrid::ShowTip(int row, const QPoint& global) {
+  QStringList parts{QStringLiteral("<b>%1</b>").arg(ToQString(sheet_.Label(row)).toHtmlEscaped())};
+  for (const std::string& text : {sheet_.RowFault(row), sheet_.HelpOf(row)}) {
+    if (!text.empty()) parts.append(ToQString(text).toHtmlEscaped());
+  }
+  QToolTip::showText(global, parts.join(QStringLiteral("<br>")), ViewAt(row));
 }
 
 /// Puts the shown rows one under the other; the rest stays for a kind with more rows.

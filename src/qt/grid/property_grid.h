@@ -73,6 +73,7 @@ class PropertyGrid final : public QWidget {
   void PlaceButtons();
   void SetTabStop(PropertyRowView* stop);
   void MoveDivider(int x);
+  void ShowTip(int row, const QPoint& global);
   void EnterRow(int row, FocusOn focus);
   void Type(int row, const QString& text);
   void MoveBy(int row, int steps);

@@ -29,7 +29,7 @@ namespace {
 constexpr int kCloseIcon = 14;
 /// The most and the least that the help takes by itself, and the rows that come before it.
 constexpr int kHelpHeight = 92;
-constexpr int kLeastHelp = 44;
+constexpr int kLeastHelp = 36;
 constexpr int kRowsFirst = 16;
 
 }  // namespace
@@ -137,8 +137,9 @@ void PropertyPanel::BuildHelp() {
   help_->setFrameShape(QFrame::NoFrame);
   help_->setFocusPolicy(Qt::ClickFocus);
   help_->document()->setDocumentMargin(0);
-  help_->setMinimumHeight(0);
-  help_part_->setMinimumHeight(0);
+  // Below what the toolkit asks for, which a height of 0 would bring back.
+  help_->setMinimumHeight(1);
+  help_part_->setMinimumHeight(1);
 }
 
 void PropertyPanel::resizeEvent(QResizeEvent* event) {

@@ -1,5 +1,6 @@
 #include "qt/grid/property_row_view.h"
 
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -59,7 +60,6 @@ void PropertyRowView::SetName(std::string_view name) {
   const QString shown = ToQString(name);
   if (label_->text() == shown) return;
   label_->setText(shown);
-  label_->setToolTip(shown);
   text_->setAccessibleName(shown);
 }
 
@@ -71,6 +71,7 @@ void PropertyRowView::SetValue(std::string_view text, const RowLook& look) {
                                                            : static_cast<int>(shown.size());
     text_->setText(shown);
     text_->setCursorPosition(text_->hasFocus() ? caret : 0);
+    if (!note_.isEmpty()) LayOut();
   }
   if (text_->isReadOnly() == look.Typed) text_->setReadOnly(!look.Typed);
   if (text_->font() != look.Face) text_->setFont(look.Face);
@@ -116,7 +117,11 @@ void PropertyRowView::LayOut() {
   label_->setGeometry(0, 0, left - kGrip, height() - 1);
   if (!picture_.isNull() || !fault_.isEmpty()) left += kGap + PicturePixels();
   int right = width() - button_room_;
-  if (!note_.isEmpty()) right -= fontMetrics().horizontalAdvance(note_) + kRoom;
+  const int note = note_.isEmpty() ? 0 : fontMetrics().horizontalAdvance(note_) + kRoom;
+  // Where the buttons of the selected row leave too little, the value comes first.
+  const int value = text_->fontMetrics().horizontalAdvance(text_->text()) + kRoom;
+  note_fits_ = button_room_ == 0 || right - note - left >= value;
+  if (note_fits_) right -= note;
   text_->setGeometry(left, 0, qMax(0, right - left), height() - 1);
   update();
 }
@@ -135,7 +140,7 @@ void PropertyRowView::paintEvent(QPaintEvent* /*event*/) {
         QPointF(left + kGap + (side - size.width()) / 2, (height() - 1 - size.height()) / 2),
         picture_);
   }
-  if (!note_.isEmpty()) {
+  if (!note_.isEmpty() && note_fits_) {
     painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(QRect(left, 0, width() - button_room_ - left - kGap, height() - 1),
                      Qt::AlignRight | Qt::AlignVCenter, note_);
@@ -143,6 +148,12 @@ void PropertyRowView::paintEvent(QPaintEvent* /*event*/) {
   const QColor line = LineOf(palette());
   painter.fillRect(0, height() - 1, width(), 1, line);
   painter.fillRect(left - 1, 0, 1, height(), line);
+}
+
+bool PropertyRowView::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  Q_EMIT TipWanted(row_, static_cast<QHelpEvent*>(event)->globalPos());
+  return true;
 }
 
 bool PropertyRowView::IsOnDivider(const QMouseEvent& event) const {

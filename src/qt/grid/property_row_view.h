@@ -50,8 +50,11 @@ class PropertyRowView final : public QWidget {
   void NamePressed(int row, bool twice);
   /// The line between the columns was dragged to a place within the row.
   void DividerDragged(int x);
+  /// The mouse rests on the name.
+  void TipWanted(int row, const QPoint& global);
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
@@ -73,6 +76,7 @@ class PropertyRowView final : public QWidget {
   bool selected_ = false;
   bool dragging_ = false;
   int button_room_ = 0;
+  bool note_fits_ = true;  ///< false while the value needs the note's room
 };
 
 }  // namespace tarnwick
