@@ -34,7 +34,8 @@ void FormSelection::SelectMenuItem(const ControlRef& item) {
   if (!context_.IsLive(item) || item->Class() != ControlClass::Menu) return;
   Clear();
   Select(context_.Form, item);
-  context_.Ports.Observer.SelectionChanged(context_.Number());
+  // The grid has no rows for it and shows its form.
+  Refresh();
 }
 
 void FormSelection::Clear() {

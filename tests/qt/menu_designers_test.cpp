@@ -386,6 +386,7 @@ TEST_F(MenuDesigners, TheMenuOfTheFormOpensAndAnItemIsSelectedForItsCode) {
     menu.Press(10);
     menu.Ok();
   });
+  program.Place(0, {40, 60});
   program.Click(Title(1));
   auto* items = qobject_cast<QMenu*>(QApplication::activePopupWidget());
   ASSERT_NE(items, nullptr);
@@ -398,6 +399,8 @@ TEST_F(MenuDesigners, TheMenuOfTheFormOpensAndAnItemIsSelectedForItsCode) {
   QWidget& code = Code();
   ASSERT_TRUE(code.isVisible());
   EXPECT_EQ(code.windowTitle(), "Form1mnuOpen");
+  // The grid has left the object that was selected before.
+  EXPECT_EQ(program.Shell().Sheet().SelName(), "Form1");
   auto* events = code.findChild<QComboBox*>(QStringLiteral("Events"));
   EXPECT_EQ(events->count(), 1);
   EXPECT_EQ(events->currentText(), "Sub Form1mnuOpen_OnClick");
