@@ -1,9 +1,11 @@
 #include "qt/editor/code_window.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDialog>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -89,6 +91,46 @@ TEST_F(CodeWindowTest, WhatIsTypedAndAcceptedReachesTheGeneratedSourceAndTheEven
   GeneratorState state;
   EXPECT_TRUE(Contains(GenerateSource(program.Tables(), state), "Sub Form1Btn1_OnClick\r\nBeep"));
   EXPECT_EQ(program.Shell().Tables().FormsBar.at(1)->Entries.size(), 1U);
+}
+
+TEST_F(CodeWindowTest, UndoIsOffWhereATextWasJustOpened) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("Beep"));
+  EXPECT_TRUE(Tool(5).isEnabled());
+  KeyInCode(Qt::Key_Return, Qt::ControlModifier);
+  program.Key(Qt::Key_F7);
+  Program::Settle();
+  ASSERT_EQ(Editor().Text(), "Beep");
+  EXPECT_FALSE(Tool(5).isEnabled());
+  EXPECT_FALSE(Tool(6).isEnabled());
+}
+
+TEST_F(CodeWindowTest, TheFunctionPanelOpensWithItsFieldInStepWithTheList) {
+  OpenCodeOfNewButton();
+  program.Key(Qt::Key_F2);
+  program.Type(QStringLiteral("mid"));
+  auto& field = program.Find<QLineEdit>(QStringLiteral("EditSearch_1"));
+  ASSERT_EQ(field.text(), QStringLiteral("mid"));
+  QTest::keyClick(&Window(), Qt::Key_Escape);
+  program.Key(Qt::Key_F7);
+  EXPECT_EQ(field.text(), QString());
+  EXPECT_EQ(program.Find<QListWidget>(QStringLiteral("ListFunc_1")).currentRow(), 0);
+}
+
+TEST_F(CodeWindowTest, NoTwoPartsOfFindAndReplaceShareALetter) {
+  OpenCodeOfNewButton();
+  program.Key(Qt::Key_F, Qt::ControlModifier);
+  auto& dialog = program.Find<QDialog>(QStringLiteral("FindDialog"));
+  ASSERT_TRUE(dialog.isVisible());
+  QStringList letters;
+  const auto take = [&letters](const QString& caption) {
+    const QString letter = QKeySequence::mnemonic(caption).toString();
+    if (!letter.isEmpty()) letters.append(letter);
+  };
+  for (const auto* button : dialog.findChildren<QAbstractButton*>()) take(button->text());
+  for (const auto* label : dialog.findChildren<QLabel*>()) take(label->text());
+  EXPECT_GE(letters.size(), 9);
+  EXPECT_EQ(letters.removeDuplicates(), 0) << letters.join(u' ').toStdString();
 }
 
 TEST_F(CodeWindowTest, AChangeOfEventKeepsTheTextOfTheOneBefore) {

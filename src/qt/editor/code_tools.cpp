@@ -54,6 +54,8 @@ void CodeTools::RunEdit(CodeEdit& code, int first) {
     Action(first + 4).setEnabled(code.isRedoAvailable());
   };
   QObject::connect(&code, &QsciScintilla::textChanged, &code, refresh);
+  // A text that is set empties the history behind its change.
+  QObject::connect(&code, &QsciScintillaBase::SCN_SAVEPOINTREACHED, &code, refresh);
   refresh();
 }
 

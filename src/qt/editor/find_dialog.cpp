@@ -31,7 +31,7 @@ FindDialog::FindDialog(CodeEdit& code, QWidget* parent)
       replace_(MakeField("ReplaceText")),
       match_case_(new QCheckBox(QStringLiteral("Match &case"))),
       whole_words_(new QCheckBox(QStringLiteral("Whole &words"))),
-      wrap_(new QCheckBox(QStringLiteral("Wrap &around"))),
+      wrap_(new QCheckBox(QStringLiteral("Wrap aroun&d"))),
       said_(new QLabel) {
   setObjectName(QStringLiteral("FindDialog"));
   setWindowTitle(QStringLiteral("Find and Replace"));

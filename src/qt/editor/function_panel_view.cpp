@@ -155,7 +155,10 @@ void FunctionPanelView::RefreshList(int tab) {
 }
 
 void FunctionPanelView::Refresh(int search_row) {
-  for (int tab = 0; tab < kTabs; ++tab) RefreshList(tab);
+  for (int tab = 0; tab < kTabs; ++tab) {
+    RefreshList(tab);
+    parts_[static_cast<std::size_t>(tab)].Field->clear();
+  }
   where_->setCurrentIndex(search_row);
   ShowHelp();
 }
