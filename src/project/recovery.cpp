@@ -60,19 +60,21 @@ bool Recovery::Keep() {
   return changed;
 }
 
-void Recovery::LeaveBehind() {
-  if (folder_.empty()) return;
+bool Recovery::LeaveBehind() {
+  if (folder_.empty()) return false;
+  bool is_kept = false;
   std::string text = KeptText(tables_);
   const TypedCode code = typed_();
   if (text != settled_ || !code.empty()) {
     text = WithTypedCode(std::move(text), tables_, code);
     std::string name(kLeftHead);
     name.append(std::to_string(++left_)).append(".tnr");
-    files_.Replace(PathOf(name), KeptFileText(now_(), text));
+    is_kept = files_.Replace(PathOf(name), KeptFileText(now_(), text));
     Prune();
   }
   files_.Remove(PathOf(kUnsaved));
   written_.clear();
+  return is_kept;
 }
 
 void Recovery::End() {

@@ -50,8 +50,8 @@ class Recovery {
   /// last. True when the project differs from what is settled.
   bool Keep();
   /// The project is about to be closed: when it differs from what is settled, or code was typed on
-  /// it, it stays on offer.
-  void LeaveBehind();
+  /// it, it stays on offer. True when it does.
+  bool LeaveBehind();
   /// The program ends: the folder goes when nothing was left behind in it.
   void End();
 

@@ -38,9 +38,10 @@ bool ProjectCommands::MayGiveWay() {
   return (!recovery_.Changed() && !state_.Code->HasTypedCode()) || MayLeave();
 }
 
-void ProjectCommands::LeaveProject() {
-  recovery_.LeaveBehind();
+bool ProjectCommands::LeaveProject() {
+  const bool is_kept = recovery_.LeaveBehind();
   state_.Code->CloseCode();
+  return is_kept;
 }
 
 void ProjectCommands::BeginChange() {
@@ -60,7 +61,7 @@ void ProjectCommands::EndChange() {
 void ProjectCommands::New() {
   ProjectTables& tables = state_.Tables;
   if (tables.AccionProject != "save" && !MayLeave()) return;
-  LeaveProject();
+  const bool is_kept = LeaveProject();
   state_.View->SetTitle(TitleOfOpened(DefaultProjectFile(tables)));
   files_.Remove(state_.Settings.EventIndexPath());
   BeginChange();
@@ -70,6 +71,7 @@ void ProjectCommands::New() {
   tables.AccionProject = "new";
   recovery_.Settle();
   state_.ProjectReplaced();
+  if (is_kept) state_.Say(LeftBehindStatus());
 }
 
 std::optional<std::string> ProjectCommands::ChooseProject(bool old_version) {
@@ -129,7 +131,7 @@ void ProjectCommands::OpenRecent(const std::string& path) {
 
 void ProjectCommands::Take(std::string path) {
   ProjectTables& tables = state_.Tables;
-  LeaveProject();
+  const bool is_kept = LeaveProject();
   BeginChange();
   tables.AccionProject = "open";
   SetProjectFile(tables, std::move(path));
@@ -144,6 +146,8 @@ void ProjectCommands::Take(std::string path) {
   state_.View->RecentProjectsChanged();
   if (recovery_.IsOpenElsewhere(tables.ProjectFile)) {
     state_.Say(OpenElsewhereStatus(tables.ProjectFile));
+  } else if (is_kept) {
+    state_.Say(LeftBehindStatus());
   }
 }
 

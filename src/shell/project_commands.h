@@ -79,7 +79,8 @@ class ProjectCommands {
   /// The project's path when it can be read, converted where it is an old one; otherwise the
   /// status bar says why not.
   [[nodiscard]] std::optional<std::string> ReadableProject(std::string path, bool old_version);
-  void LeaveProject();
+  /// True when unsaved changes stay on offer.
+  bool LeaveProject();
   void BeginChange();
   void EndChange();
   void Take(std::string path);

@@ -86,6 +86,10 @@ std::string RestoredStatus(std::string_view when) {
   return std::string("Restored as of ").append(when).append(", not saved yet");
 }
 
+std::string LeftBehindStatus() {
+  return "Changes that were not saved are kept: File, Restore Unsaved Work";
+}
+
 std::string NoHelpStatus(std::string_view path) {
   return std::string("The help is not installed: there is no ").append(path);
 }

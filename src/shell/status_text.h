@@ -27,6 +27,8 @@ namespace tarnwick {
 /// "Not opened: C:\\p.tnp: there is no such file".
 [[nodiscard]] std::string NotOpenedStatus(std::string_view path, std::string_view reason);
 [[nodiscard]] std::string OpenElsewhereStatus(std::string_view path);
+/// What became of changes that the project was left with.
+[[nodiscard]] std::string LeftBehindStatus();
 [[nodiscard]] std::string RestoredStatus(std::string_view when);
 /// The help file is no part of every installation.
 [[nodiscard]] std::string NoHelpStatus(std::string_view path);
