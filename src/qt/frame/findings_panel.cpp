@@ -22,8 +22,8 @@ using project::Severity;
 
 constexpr int kCloseIcon = 14;
 constexpr int kLeastList = 60;
-/// Widths of the columns but the last, which takes what is left.
-constexpr std::array<int, 4> kWidths{96, 110, 130, 110};
+/// The columns but the last are as wide as their texts, up to this; the last takes what is left.
+constexpr int kMostWidth = 160;
 
 struct SeverityLook {
   Severity Id;
@@ -65,9 +65,6 @@ FindingsPanel::FindingsPanel(FindingsList& findings, QWidget* parent)
   list_->setTextElideMode(Qt::ElideRight);
   list_->setFrameShape(QFrame::NoFrame);
   list_->setMinimumHeight(kLeastList);
-  for (int column = 0; column < static_cast<int>(kWidths.size()); ++column) {
-    list_->setColumnWidth(column, kWidths[static_cast<std::size_t>(column)]);
-  }
   list_->installEventFilter(this);
   connect(list_, &QTreeWidget::itemActivated, this,
           [this](QTreeWidgetItem* item) { findings_.GoTo(list_->indexOfTopLevelItem(item)); });
@@ -97,6 +94,10 @@ void FindingsPanel::Refresh() {
     rows.append(new QTreeWidgetItem({QStringLiteral("Nothing was found.")}));
   }
   list_->addTopLevelItems(rows);
+  for (int column = 0; column + 1 < list_->columnCount(); ++column) {
+    list_->resizeColumnToContents(column);
+    list_->setColumnWidth(column, qMin(list_->columnWidth(column), kMostWidth));
+  }
   // A row spans the columns of the tree that it is in.
   if (!any) rows.front()->setFirstColumnSpanned(true);
   if (selected >= 0) {

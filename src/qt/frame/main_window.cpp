@@ -110,7 +110,15 @@ void MainWindow::BuildPanels() {
 
   middle_->setObjectName(QStringLiteral("MiddleAndRight"));
   middle_->setHandleWidth(kRoom);
-  middle_->addWidget(forms_);
+  // What the program prints takes its room from the forms: beside them stand columns that would
+  // make the window grow.
+  auto* centre = new QWidget(this);
+  auto* forms_and_output = new QVBoxLayout(centre);
+  forms_and_output->setContentsMargins(0, 0, 0, 0);
+  forms_and_output->setSpacing(kRoom);
+  forms_and_output->addWidget(forms_, 1);
+  forms_and_output->addWidget(output_);
+  middle_->addWidget(centre);
   middle_->addWidget(right_);
   middle_->setStretchFactor(0, 1);
   middle_->setChildrenCollapsible(false);
@@ -125,7 +133,6 @@ void MainWindow::BuildPanels() {
   row->addWidget(tool_frame);
   row->addWidget(middle_, 1);
   column->addLayout(row, 1);
-  column->addWidget(output_);
   setCentralWidget(whole);
 }
 

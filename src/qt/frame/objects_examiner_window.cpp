@@ -15,6 +15,7 @@
 #include "qt/kit/icon_set.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
+#include "qt/kit/window_place.h"
 
 namespace tarnwick {
 
@@ -129,6 +130,7 @@ void ObjectsExaminerWindow::OpenExaminer() {
   }
   find_->clear();
   ShowKind();
+  PlaceOverParent(*this);
   if (home_ != nullptr) LetWorkAboveModal(*this, *home_);
   show();
   raise();

@@ -20,6 +20,7 @@ namespace {
 using Offer = project::Recovery::Offer;
 
 constexpr QSize kStartSize(640, 320);
+constexpr int kMostPath = 320;
 
 void Fill(QTreeWidget& list, const std::vector<Offer>& offers) {
   list.clear();
@@ -78,7 +79,9 @@ void RunRestoreDialog(ProjectCommands& projects, QWidget* parent) {
 
   const auto show = [&] {
     Fill(*list, offers);
-    list->resizeColumnToContents(0);
+    for (const int each : {0, 1}) list->resizeColumnToContents(each);
+    // The forms keep some room beside a long path.
+    list->setColumnWidth(1, qMin(list->columnWidth(1), kMostPath));
     const bool any = !offers.empty();
     label->setText(any ? QStringLiteral("&Work that was not saved")
                        : QStringLiteral("There is no unsaved work."));

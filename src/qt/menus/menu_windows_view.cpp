@@ -6,6 +6,7 @@
 #include <functional>
 #include <utility>
 
+#include "qt/kit/window_place.h"
 #include "qt/menus/menu_dialog.h"
 #include "shell/mdi_form.h"
 
@@ -66,19 +67,14 @@ void MenuWindowsView::OpenCode() {
     return;
   }
   // A modal dialog lets no window work but its own ones, so the editor is one of them for a while.
-  const Qt::WindowFlags flags = editor->windowFlags();
-  const QByteArray place = editor->saveGeometry();
-  editor->setParent(dialog_, flags);
-  editor->restoreGeometry(place);
+  GiveToParent(*editor, *dialog_);
   dialog_->SetWaiting(true);
   code_.OpenCode();
   auto* watch = new HideWatch(dialog_);
-  const auto give_back = [this, editor, flags, dialog = QPointer<MenuDialog>(dialog_), watch] {
+  const auto give_back = [this, editor, dialog = QPointer<MenuDialog>(dialog_), watch] {
     editor->removeEventFilter(watch);
     watch->deleteLater();
-    const QByteArray left = editor->saveGeometry();
-    editor->setParent(&main_window_, flags);
-    editor->restoreGeometry(left);
+    GiveToParent(*editor, main_window_);
     if (dialog == nullptr) return;
     dialog->SetWaiting(false);
     dialog->activateWindow();
