@@ -20,15 +20,19 @@ std::string FormViewCodes::Caption() const {
   return record == nullptr ? std::string() : "Form: " + record->Name + "  (Public Declarations)";
 }
 
+void FormViewCodes::Store() {
+  FormRec* const record = Record();
+  if (record == nullptr || !typed_.Differs()) return;
+  const std::string text = typed_.Text();
+  host_.AcceptBegins(form_, "Public Declarations");
+  record->DeclarePbl = text;
+  typed_.Stored(text);
+  host_.CodeAccepted(form_);
+}
+
 void FormViewCodes::Accept() {
   if (!IsOpen()) return;
-  if (FormRec* const record = Record(); record != nullptr && typed_.Differs()) {
-    const std::string text = typed_.Text();
-    host_.AcceptBegins(form_, "Public Declarations");
-    record->DeclarePbl = text;
-    typed_.Stored(text);
-    host_.CodeAccepted(form_);
-  }
+  Store();
   Close();
 }
 

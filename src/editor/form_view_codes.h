@@ -17,8 +17,8 @@ inline constexpr std::string_view kCodeFont = "Courier New";
 inline constexpr std::string_view kDeclarationsFont = "Courdir new";
 inline constexpr int kCodeFontPoints = 10;
 
-/// The window without its widgets. Only Accept writes; every other way out keeps what was typed as
-/// a draft, which the next opening on the form offers.
+/// The window without its widgets. Only Store and Accept write; every other way out keeps what was
+/// typed as a draft, which the next opening on the form offers.
 class FormViewCodes {
  public:
   FormViewCodes(ProjectTables& project, EditWidget& editor, CodeHost& host, CodeDrafts& drafts)
@@ -32,6 +32,9 @@ class FormViewCodes {
   [[nodiscard]] int Form() const noexcept { return form_; }
   /// "Form: Main  (Public Declarations)".
   [[nodiscard]] std::string Caption() const;
+  /// Stores the text, as one step; nothing for the text that is stored, and for a form that has
+  /// gone.
+  void Store();
   /// `Command1`: stores the text and closes. The text of a form that has gone is a draft.
   void Accept();
   /// Every other way out: the declarations stay as they were.

@@ -60,6 +60,20 @@ TEST_F(FormViewCodesTest, AnAcceptThatChangedNothingIsNoStep) {
   EXPECT_EQ(host_.Log, Rows{"unload"});
 }
 
+TEST_F(FormViewCodesTest, AStoreIsAStepAndTheWindowStays) {
+  codes_.Open(2);
+  codes_.Store();
+  EXPECT_TRUE(host_.Steps.empty());
+  editor_.SetText("Dim b");
+  codes_.Store();
+  EXPECT_EQ(Declarations(2), "Dim b");
+  EXPECT_EQ(host_.Steps, Rows{"2 Public Declarations"});
+  EXPECT_EQ(host_.Log, Rows{"accepted 2"});
+  EXPECT_TRUE(codes_.IsOpen());
+  codes_.Cancel();
+  EXPECT_TRUE(drafts_.All().empty());
+}
+
 TEST_F(FormViewCodesTest, ACancelLeavesTheDeclarationsAndTheNextOpeningOffersWhatWasTyped) {
   codes_.Open(2);
   EXPECT_EQ(codes_.Typed().Lost(), nullptr);

@@ -179,6 +179,29 @@ TEST_F(CodeWindowTest, CtrlEnterAccepts) {
   EXPECT_FALSE(Window().isVisible());
 }
 
+TEST_F(CodeWindowTest, EscHidesTheMemberListFirstAndClosesTheWindowThen) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("Form1Btn1."));
+  auto& list = *Editor().findChild<QListWidget*>(QStringLiteral("lstIntellisense"));
+  ASSERT_TRUE(list.isVisible());
+  program.Key(Qt::Key_Escape);
+  EXPECT_FALSE(list.isVisible());
+  EXPECT_TRUE(Window().isVisible());
+  program.Key(Qt::Key_Escape);
+  EXPECT_FALSE(Window().isVisible());
+}
+
+TEST_F(CodeWindowTest, CtrlEnterWithAnOpenMemberListKeepsTheTextAsItStands) {
+  OpenCodeOfNewButton();
+  TypeCode(QStringLiteral("Form1Btn1."));
+  auto& list = *Editor().findChild<QListWidget*>(QStringLiteral("lstIntellisense"));
+  ASSERT_TRUE(list.isVisible());
+  program.Key(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(Code("Form1.Button1.OnClick"), "Form1Btn1.");
+  EXPECT_FALSE(Window().isVisible());
+  EXPECT_FALSE(list.isVisible());
+}
+
 TEST_F(CodeWindowTest, TheCodeOfADeletedNeighbourGoesAndItsOwnStays) {
   OpenCodeOfNewButton();
   TypeCode(QStringLiteral("mine"));

@@ -223,6 +223,18 @@ TEST_F(TypedDeclarations, WhatEscLostIsOfferedAtTheNextOpeningAndUndoneWithinThe
   EXPECT_EQ(program.Record().DeclarePbl, "Dim a");
 }
 
+TEST_F(TypedDeclarations, CtrlSInThemStoresThemAndSavesTheProject) {
+  Open();
+  program.Type(QStringLiteral("Dim a"));
+  program.Dialogs.SaveAnswers = {program.Projects.Path("p.tnp"),
+                                 program.Projects.Path("Form1.ftn")};
+  program.Key(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_TRUE(Declare().isVisible());
+  EXPECT_EQ(QApplication::focusWidget(), &Text());
+  EXPECT_EQ(program.Record().DeclarePbl, "Dim a");
+  EXPECT_NE(program.Projects.Read("Form1.ftn").find("Dim a"), std::string::npos);
+}
+
 TEST_F(TypedDeclarations, WhatIsDiscardedIsOfferedNoMore) {
   Open();
   program.Type(QStringLiteral("Dim a"));

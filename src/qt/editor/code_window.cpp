@@ -150,7 +150,8 @@ void CodeWindow::BuildLayout() {
   parts_->addWidget(FrameOf(code_));
   parts_->addWidget(functions_);
   parts_->setStretchFactor(0, 1);
-  parts_->setSizes({540, 340});
+  // The panel is as wide as its tabs; the text has the rest.
+  parts_->setSizes({1000, 1});
 
   auto* ok = new QPushButton(QStringLiteral("Ok"));
   auto* cancel = new QPushButton(QStringLiteral("Cancel"));

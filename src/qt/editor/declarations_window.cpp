@@ -60,7 +60,13 @@ DeclarationsWindow::DeclarationsWindow(editor::FormViewCodes& logic, CodeEdit& c
   };
   key(QKeySequence(Qt::Key_F3), [this] { find_->Find(true); });
   key(QKeySequence(Qt::SHIFT | Qt::Key_F3), [this] { find_->Find(false); });
-  key(QKeySequence(Qt::Key_F5), [&commands] { commands.Run(Command::Compile); });
+  // What is asked for here is meant with the text that stands here.
+  const auto run = [this, &commands](Command command) {
+    logic_.Store();
+    commands.Run(command);
+  };
+  key(QKeySequence(Qt::CTRL | Qt::Key_S), [run] { run(Command::Save); });
+  key(QKeySequence(Qt::Key_F5), [run] { run(Command::Compile); });
   key(QKeySequence(Qt::SHIFT | Qt::Key_F5), [&commands] { commands.Run(Command::Stop); });
   key(QKeySequence(Qt::CTRL | Qt::Key_Return), [this] { logic_.Accept(); });
   key(QKeySequence(Qt::CTRL | Qt::Key_Enter), [this] { logic_.Accept(); });
