@@ -32,6 +32,10 @@ class Preprocessor {
         macros_(out.Memory, messages) {}
 
   void Run() {
+    // About as many tokens as most files have; what is not used of it is never touched.
+    constexpr std::size_t kBytesPerToken = 2;
+    constexpr std::size_t kMostExpected = std::size_t{1} << 21U;
+    out_.Tokens.reserve(std::min(files_.File(0).Bytes.size() / kBytesPerToken, kMostExpected));
     ReadFile(0, 0);
     SourcePlace end;
     if (!out_.Tokens.empty()) end = out_.Tokens.back().At;

@@ -1,6 +1,5 @@
 // Frames: calls, returns, and procedures started by the outside.
 #include <algorithm>
-#include <cstring>
 
 #include "basic/vm/machine_state.h"
 #include "basic/vm/variants.h"
@@ -8,43 +7,23 @@
 namespace tarnwick::basic {
 
 bool MachineState::Push(const ProcedureCode& procedure, std::uint16_t result, bool activation) {
-  Slot* base = Stack.get();
-  if (!Frames.empty()) base = Frames.back().Base + Frames.back().Procedure->Start.size();
+  Slot* const base = Frames.empty() ? Stack.get() : Frames.back().End;
   const std::size_t size = procedure.Start.size();
-  const auto used = static_cast<std::size_t>(base - Stack.get());
-  if (Frames.size() >= kMostCalls || size > Options.StackSlots - used) {
+  if (Frames.size() >= kMostCalls || size > static_cast<std::size_t>(StackEnd - base)) {
     return Fail("More than " + std::to_string(std::min(Frames.size(), kMostCalls)) +
                 " calls inside each other");
   }
-  if (size != 0) std::memcpy(base, procedure.Start.data(), size * sizeof(Slot));
-  Frame& frame = Frames.emplace_back();
-  frame.Procedure = &procedure;
-  frame.Pc = Program.Instructions.data() + procedure.First;
-  frame.Base = base;
-  frame.Result = result;
-  frame.Activation = activation;
-  frame.Gosubs = Gosubs.size();
-  frame.Objects = LocalObjects.size();
+  std::copy_n(procedure.Start.data(), size, base);
+  OpenFrame(procedure, base, result).Activation = activation;
   return true;
 }
 
 bool MachineState::Enter(const Instruction* call) {
   const ProcedureCode& procedure = Program.Procedures[call->B];
-  Slot* const caller = Base();
-  if (procedure.Variadic) {
-    std::vector<Value> values;
-    ReadArguments(call + 1, values);
-    return PushVariadic(procedure, std::move(values), call->A, false);
-  }
-  if (!Push(procedure, call->A, false)) return false;
-  Slot* const base = Base();
-  const std::size_t count = std::min<std::size_t>(call[1].B, procedure.ParameterCount);
-  const SlotKind* const kinds = procedure.Parameters.data();
-  for (std::size_t i = 0; i < count; ++i) {
-    base[i] = caller[ArgumentRegister(call + 2, i)];
-    if (IsCounted(kinds[i])) Retain(base[i].B);
-  }
-  return true;
+  if (!procedure.Variadic) return Push(procedure, call->A, false);  // which has no room
+  std::vector<Value> values;
+  ReadArguments(call + 1, values);
+  return PushVariadic(procedure, std::move(values), call->A, false);
 }
 
 bool MachineState::EnterPointer(const Instruction* call) {
@@ -109,33 +88,7 @@ bool MachineState::TooManyActivations() {
               " events or pointer calls inside each other");
 }
 
-bool MachineState::LeavePlain() {
-  const Frame& frame = Frames.back();
-  if (frame.Activation || frame.Variadic || Gosubs.size() != frame.Gosubs ||
-      LocalObjects.size() != frame.Objects || Addresses.DeepestCall() >= Frames.size()) {
-    return false;
-  }
-  const ProcedureCode& procedure = *frame.Procedure;
-  Slot* const base = frame.Base;
-  const std::uint16_t result = frame.Result;
-  const bool counted = IsCounted(procedure.Result);
-  if (counted && result == kNoRegister) return false;
-  Slot value{0};
-  if (procedure.Result != SlotKind::Empty) {
-    value = base[procedure.ResultRegister];
-    if (counted) base[procedure.ResultRegister].B = nullptr;
-  }
-  for (const std::uint16_t number : procedure.Counted) Release(base[number].B);
-  Frames.pop_back();
-  if (procedure.Result == SlotKind::Empty || result == kNoRegister) return true;
-  Slot& target = Frames.back().Base[result];
-  if (counted) Release(target.B);
-  target = value;
-  return true;
-}
-
 bool MachineState::Leave() {
-  if (LeavePlain()) return false;
   const Frame frame = Frames.back();
   const ProcedureCode& procedure = *frame.Procedure;
   Slot result{0};

@@ -7,6 +7,7 @@
 #include "basic/semantics.h"
 #include "basic/vm/machine_state.h"
 #include "basic/vm/number_text.h"
+#include "basic/vm/plain_calls.h"
 #include "basic/vm/texts.h"
 #include "basic/vm/variants.h"
 #include "basic/vm/whole_numbers.h"

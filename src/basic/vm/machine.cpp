@@ -18,7 +18,8 @@ MachineState::MachineState(const Code& program, const Hosts& hosts, const RunOpt
       Options(options),
       DllEntries(program.Natives.size()),
       DllFound(program.Natives.size(), false),
-      Stack(new Slot[options.StackSlots]) {
+      Stack(new Slot[options.StackSlots]),
+      StackEnd(Stack.get() + options.StackSlots) {
   Library.Random.Restart(options.Seed);
   Library.Memory = &Addresses;
   for (const FunctionInfo& function : Functions()) Natives.push_back(NativeOf(function.Id));

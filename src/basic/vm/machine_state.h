@@ -21,14 +21,15 @@ namespace tarnwick::basic {
 /// One running call.
 struct Frame {
   const ProcedureCode* Procedure = nullptr;
-  const Instruction* Pc = nullptr;     ///< where it is; of a caller its CALL
-  Slot* Base = nullptr;                ///< its first register
+  const Instruction* Pc = nullptr;  ///< where it is; of a caller its CALL
+  Slot* Base = nullptr;             ///< its first register
+  Slot* End = nullptr;              ///< behind its last one
+  std::uint32_t Gosubs = 0;         ///< heights of the lists below when it began
+  std::uint32_t Objects = 0;
   std::uint16_t Result = kNoRegister;  ///< of the caller
   bool Activation = false;             ///< started by the outside: its end leaves the loop
   bool Variadic = false;               ///< owns the last row of `Variadics`
   std::vector<Value>* Out = nullptr;   ///< gets the parameters at the end
-  std::size_t Gosubs = 0;              ///< heights of the lists below when it began
-  std::size_t Objects = 0;
 };
 
 /// The arguments of a SUBI or FUNCTIONI.
@@ -50,6 +51,7 @@ struct MachineState {
   std::vector<bool> DllFound;
 
   std::unique_ptr<Slot[]> Stack;
+  Slot* StackEnd = nullptr;
   Slot* Globals = nullptr;  ///< the registers of the top level
   std::vector<Frame> Frames;
   std::vector<const Instruction*> Gosubs;
@@ -88,13 +90,23 @@ struct MachineState {
   // --- Calls (calls.cpp)
   /// Opens the frame of a procedure; its parameters are still empty. False after an error.
   bool Push(const ProcedureCode& procedure, std::uint16_t result, bool activation);
-  /// CALL: arguments from the caller's registers as they stand.
+  /// The frame itself, at a place on the stack that has room for it.
+  Frame& OpenFrame(const ProcedureCode& procedure, Slot* base, std::uint16_t result) {
+    Frame& frame = Frames.emplace_back();
+    frame.Procedure = &procedure;
+    frame.Pc = Program.Instructions.data() + procedure.First;
+    frame.Base = base;
+    frame.End = base + procedure.Start.size();
+    frame.Gosubs = static_cast<std::uint32_t>(Gosubs.size());
+    frame.Objects = static_cast<std::uint32_t>(LocalObjects.size());
+    frame.Result = result;
+    return frame;
+  }
+  /// CALL where EnterPlain (plain_calls.h) does not do it.
   bool Enter(const Instruction* call);
   bool EnterPointer(const Instruction* call);
   /// Closes the running frame and hands its result over. True when it was an activation.
   bool Leave();
-  /// The same for a call that left nothing behind but its result. False: nothing was done.
-  bool LeavePlain();
   /// Frees all frames from the last one on, down to `count` of them.
   void Unwind(std::size_t count);
   bool PushVariadic(const ProcedureCode& procedure, std::vector<Value> values, std::uint16_t result,
