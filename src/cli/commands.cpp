@@ -1,14 +1,17 @@
 #include "cli/commands.h"
 
 #include <filesystem>
+#include <iterator>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
-#include "cli/check_code.h"
 #include "cli/loaded_project.h"
 #include "codegen/program_source.h"
 #include "platform/program_folder.h"
 #include "project/check.h"
+#include "project/check_code.h"
 #include "project/compile.h"
 #include "project/convert_project.h"
 #include "project/save_project.h"
@@ -83,26 +86,18 @@ int Convert(const Arguments& arguments, std::FILE* err) {
 }
 
 int Check(LoadedProject& loaded, std::FILE* out) {
-  bool found = false;
-  bool compiles = true;
-  const auto print = [&](const std::string& line) {
-    Print(out, CodePageToUtf8(line) + "\n");
-    found = true;
+  std::vector<project::Finding> findings = project::CheckFiles(loaded.Tables, loaded.Files);
+  const auto add = [&](std::vector<project::Finding> more) {
+    std::move(more.begin(), more.end(), std::back_inserter(findings));
   };
-  const auto print_all = [&](const std::vector<project::Finding>& findings) {
-    for (const project::Finding& finding : findings) {
-      print(finding.Line());
-      compiles = compiles && finding.How() != project::Severity::Error;
-    }
-  };
-  print_all(project::CheckFiles(loaded.Tables, loaded.Files));
-  print_all(project::CheckProject(loaded.Tables, loaded.Files));
-  // What is wrong with names and texts makes lines that are faulty too.
-  if (!compiles) return 1;
-  for (const std::string& fault : CodeFaults(loaded.Tables, loaded.Files, ExecutableFolder())) {
-    print(fault);
+  add(project::CheckProject(loaded.Tables, loaded.Files));
+  if (project::MakesAProgram(findings)) {
+    add(project::CheckCode(loaded.Tables, loaded.Files, ExecutableFolder()));
   }
-  return found ? 1 : 0;
+  for (const project::Finding& finding : findings) {
+    Print(out, CodePageToUtf8(finding.Line()) + "\n");
+  }
+  return findings.empty() ? 0 : 1;
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "model/kinds.h"
+#include "project/program_place.h"
 #include "text/enum_table.h"
 
 namespace tarnwick::project {
@@ -44,8 +45,9 @@ enum class FindingId : std::uint8_t {
   PictureMissing,
   CodeOwnerless,
   CodeLeftOut,
+  CodeFaulty,
 };
-inline constexpr std::size_t kFindingCount = static_cast<std::size_t>(FindingId::CodeLeftOut) + 1;
+inline constexpr std::size_t kFindingCount = static_cast<std::size_t>(FindingId::CodeFaulty) + 1;
 
 struct FindingInfo {
   FindingId Id;
@@ -83,6 +85,7 @@ inline constexpr std::array<FindingInfo, kFindingCount> kFindings{{
     {FindingId::PictureMissing, Severity::Error, "put the file back or choose another"},
     {FindingId::CodeOwnerless, Severity::Note, "move the code to an object that is there"},
     {FindingId::CodeLeftOut, Severity::Note, "move the code to an event that the object has"},
+    {FindingId::CodeFaulty, Severity::Error, "correct the code"},
 }};
 static_assert(HasRowOfEach(kFindings, kFindingCount));
 
@@ -99,9 +102,13 @@ struct Finding {
   std::string Place{};     ///< form and object by their names, "Form1.Btn1"; "" for the project
   std::string_view Row{};  ///< the row of the property grid, "Caption"; "" for none
   std::string Text{};      ///< what is wrong
+  std::string Remedy{};    ///< what to do, where more is known than for every finding of its sort
+  std::optional<ProgramPlace> In{};  ///< the line, of a fault of code
 
   [[nodiscard]] Severity How() const noexcept { return InfoOf(Id).How; }
-  [[nodiscard]] std::string_view ToDo() const noexcept { return InfoOf(Id).ToDo; }
+  [[nodiscard]] std::string_view ToDo() const noexcept {
+    return Remedy.empty() ? InfoOf(Id).ToDo : std::string_view(Remedy);
+  }
   /// The whole finding in one line: place, what is wrong, what to do.
   [[nodiscard]] std::string Line() const;
 };

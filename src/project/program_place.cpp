@@ -93,6 +93,13 @@ std::optional<ProgramPlace> PlaceOfLine(const ProjectTables& tables, const Sourc
   return std::nullopt;
 }
 
+std::string CodeKey(const ProgramPlace& place) {
+  std::string key(InfoOf(Kind::Form).Array);
+  AppendNumber(key, std::int64_t{place.Form});
+  if (place.Id != Kind::Form) key.append(".").append(place.Owner);
+  return key.append(InfoOf(place.Of).Suffix);
+}
+
 std::string PlaceText(const ProjectTables& tables, const ProgramPlace& place) {
   const FormRec* const form = tables.Form(place.Form);
   std::string text = form == nullptr ? std::string() : form->Name;

@@ -28,6 +28,8 @@ struct ProgramPlace {
 [[nodiscard]] std::optional<ProgramPlace> PlaceOfLine(const ProjectTables& tables,
                                                       const SourceLine& line,
                                                       std::string_view line_text);
+/// The key in `EventTable` of a place in code: "Form1.Button1.OnClick".
+[[nodiscard]] std::string CodeKey(const ProgramPlace& place);
 /// A place as messages name it: "Form1.Button1.OnClick, line 3".
 [[nodiscard]] std::string PlaceText(const ProjectTables& tables, const ProgramPlace& place);
 

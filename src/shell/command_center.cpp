@@ -115,7 +115,7 @@ void CommandCenter::OpenHelp() {
 
 void CommandCenter::ShowFindings() {
   project_.TakePending();
-  findings_.Check();
+  findings_.CheckAll();
   SetPanelShown(Panel::Findings, true);
   state_.View->FocusFindings();
 }

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "project/check.h"
+#include "project/check_code.h"
 #include "shell/design_surfaces.h"
 #include "text/code_page.h"
 #include "text/numbers.h"
@@ -18,6 +19,7 @@ namespace {
 
 using project::Finding;
 using project::FindingId;
+using project::ProgramPlace;
 
 bool IsAboutCode(FindingId id) noexcept {
   return id == FindingId::CodeOwnerless || id == FindingId::CodeLeftOut;
@@ -42,17 +44,22 @@ bool HasEvent(Kind kind, Event event) noexcept {
 
 }  // namespace
 
-void FindingsList::Check() {
+void FindingsList::Check(bool with_code) {
   on_files_ = project::CheckFiles(state_.Tables, state_.Ports.Files);
-  Find();
+  Find(with_code);
 }
 
 bool FindingsList::IsShown() const {
   return state_.IsShown(Panel::Findings) || !findings_.empty();
 }
 
+bool FindingsList::FollowsCode() const {
+  const auto faulty = [](const Finding& finding) { return finding.Id == FindingId::CodeFaulty; };
+  return state_.IsShown(Panel::Findings) || std::any_of(findings_.begin(), findings_.end(), faulty);
+}
+
 void FindingsList::Refresh() {
-  if (IsShown()) Find();
+  if (IsShown()) Find(FollowsCode());
 }
 
 void FindingsList::ProjectSaved() {
@@ -65,10 +72,15 @@ void FindingsList::ProjectReplaced() {
   Take({});
 }
 
-void FindingsList::Find() {
+void FindingsList::Find(bool with_code) {
   std::vector<Finding> all = on_files_;
-  std::vector<Finding> found = project::CheckProject(state_.Tables, state_.Ports.Files);
-  std::move(found.begin(), found.end(), std::back_inserter(all));
+  const auto add = [&all](std::vector<Finding> found) {
+    std::move(found.begin(), found.end(), std::back_inserter(all));
+  };
+  add(project::CheckProject(state_.Tables, state_.Ports.Files));
+  if (with_code && project::MakesAProgram(all)) {
+    add(project::CheckCode(state_.Tables, state_.Ports.Files, state_.Tables.ExecutableFolder));
+  }
   const auto before = [](const Finding& a, const Finding& b) {
     return std::tuple(b.How(), a.Form) < std::tuple(a.How(), b.Form);
   };
@@ -92,19 +104,36 @@ FindingLine FindingsList::LineOf(const Finding& finding) const {
   const FormRec* form =
       state_.Tables.IsLive(finding.Form) ? state_.Tables.Form(finding.Form) : nullptr;
   if (form != nullptr) line.Form = form->Name;
-  if (!IsAboutCode(finding.Id)) {
+  if (IsAboutCode(finding.Id)) {
+    NameCode(finding.Place, finding, line);
+  } else if (finding.Id != FindingId::CodeFaulty) {
     line.Object = ObjectIn(finding.Place, line.Form);
-    return line;
+  } else if (!finding.In) {
+    line.Text.insert(0, finding.Place + ": ");
+  } else if (finding.In->What == ProgramPlace::Sort::Property) {
+    line.Row = finding.In->Member;
+    if (const ControlRef object = ObjectOf(finding)) line.Object = object->Tag;
+  } else {
+    line.Text.insert(0, "line " + NumberText(std::int64_t{finding.In->Line}) + ": ");
+    if (finding.In->What == ProgramPlace::Sort::Declarations) {
+      line.Row = "Declarations";
+    } else {
+      NameCode(project::CodeKey(*finding.In), finding, line);
+    }
   }
-  line.Row = EventIn(finding.Place);
-  const std::string_view owner =
-      std::string_view(finding.Place).substr(0, finding.Place.size() - line.Row.size() - 1);
+  return line;
+}
+
+/// Names object and event of a key such as "Form1.Button2.OnClick".
+void FindingsList::NameCode(const std::string& key, const Finding& finding,
+                            FindingLine& line) const {
+  line.Row = EventIn(key);
+  const std::string_view owner = std::string_view(key).substr(0, key.size() - line.Row.size() - 1);
   if (const ControlRef object = ObjectOf(finding)) {
     line.Object = object->Tag;
   } else if (const std::size_t dot = owner.find('.'); dot != std::string_view::npos) {
     line.Object = owner.substr(dot + 1);
   }
-  return line;
 }
 
 /// The object that a finding is about; null for the form, and for an object that has gone.
@@ -117,7 +146,16 @@ ControlRef FindingsList::ObjectOf(const Finding& finding) const {
   }
   // What a line of a file is about goes by its name alone.
   const std::string_view name = ObjectIn(finding.Place, state_.Tables.Form(finding.Form)->Name);
-  return IsAboutCode(finding.Id) || name.empty() ? nullptr : form->FindByTag(name);
+  const bool of_code = IsAboutCode(finding.Id) || finding.Id == FindingId::CodeFaulty;
+  return of_code || name.empty() ? nullptr : form->FindByTag(name);
+}
+
+/// True while the object is the selection of the current form; of null the form itself.
+bool FindingsList::IsSelected(int form, const ControlRef& object) const {
+  const DesignForm* const current = state_.Tables.CurrentForm;
+  if (current == nullptr || current->Number() != form) return false;
+  return object == nullptr ? current->NameObjet == InfoOf(Kind::Form).NameWord
+                           : current->ControlSel == object;
 }
 
 std::string FindingsList::Word() const {
@@ -131,7 +169,9 @@ void FindingsList::GoTo(int line) {
   if (state_.Busy || line < 0 || static_cast<std::size_t>(line) >= findings_.size()) return;
   // By value: a command on the way may check again.
   const Finding finding = findings_[static_cast<std::size_t>(line)];
-  if (IsAboutCode(finding.Id)) return GoToCode(finding);
+  if (IsAboutCode(finding.Id)) return GoToCode(finding, finding.Place);
+  const bool property = finding.In && finding.In->What == ProgramPlace::Sort::Property;
+  if (finding.Id == FindingId::CodeFaulty && !property) return GoToFault(finding);
   if (finding.Id == FindingId::MainFormGone) return state_.Run(Command::SelectMainForm);
   if (state_.RaiseOpenCode() || !state_.Tables.IsLive(finding.Form)) return;
   forms_.GoTo(finding.Form);
@@ -147,7 +187,29 @@ void FindingsList::GoTo(int line) {
     surface->SelectObject(object);
   }
   // The row of an object that has gone is no row of the form.
-  if (finding.Of == Kind::Form || object != nullptr) GoToRow(finding.Row);
+  if (finding.Of != Kind::Form && object == nullptr) return;
+  GoToRow(property ? std::string_view(finding.In->Member) : finding.Row);
+}
+
+/// To the line of the code that is faulty; nowhere for a line that the user has no place for.
+void FindingsList::GoToFault(const Finding& finding) {
+  if (!finding.In || !state_.Tables.IsLive(finding.Form)) return;
+  const ProgramPlace& place = *finding.In;
+  if (place.What == ProgramPlace::Sort::Declarations) return GoToDeclarations(place);
+  // The key of a form's own code reads like that of an item: it is reached by the selection alone.
+  const bool by_selection = place.Id == Kind::Form && !IsSelected(place.Form, nullptr);
+  if (by_selection && state_.RaiseOpenCode()) return;
+  GoToCode(finding, project::CodeKey(place));
+  state_.Code->ShowLine(place.Line);
+}
+
+void FindingsList::GoToDeclarations(const ProgramPlace& place) {
+  const DesignForm* const current = state_.Tables.CurrentForm;
+  const bool there = current != nullptr && current->Number() == place.Form;
+  if (!there && state_.RaiseOpenCode()) return;
+  if (!there) forms_.GoTo(place.Form);
+  state_.Run(Command::PublicDeclarations);
+  state_.Code->ShowLine(place.Line);
 }
 
 void FindingsList::GoToRow(std::string_view name) {
@@ -161,13 +223,12 @@ void FindingsList::GoToRow(std::string_view name) {
   }
 }
 
-void FindingsList::GoToCode(const Finding& finding) {
+void FindingsList::GoToCode(const Finding& finding, const std::string& key) {
   FormUser* const surface = surfaces_.Of(finding.Form);
   if (surface == nullptr) return;
-  const std::optional<Event> event = EventOfName(EventIn(finding.Place));
+  const std::optional<Event> event = EventOfName(EventIn(key));
   const ControlRef object = ObjectOf(finding);
-  // While the editor is open nothing can be selected: the whole key says what is meant.
-  bool by_key = true;
+  const bool is_form = key.find('.') == key.rfind('.');
   if (!state_.Code->IsCodeOpen()) {
     forms_.GoTo(finding.Form);
     if (object == nullptr) {
@@ -175,10 +236,12 @@ void FindingsList::GoToCode(const Finding& finding) {
     } else {
       surface->SelectObject(object);
     }
-    const bool is_form = finding.Place.find('.') == finding.Place.rfind('.');
-    by_key = !is_form && (object == nullptr || !event || !HasEvent(object->Id, *event));
   }
-  state_.Tables.JumpKey = by_key || !event ? finding.Place : std::string(InfoOf(*event).Name);
+  // While the editor is open nothing else can be selected: the whole key says what is meant. So it
+  // does where no list of events has the event.
+  const bool listed = object != nullptr && event && HasEvent(object->Id, *event);
+  const bool by_key = !is_form && !(listed && IsSelected(finding.Form, object));
+  state_.Tables.JumpKey = by_key || !event ? key : std::string(InfoOf(*event).Name);
   state_.Busy = true;
   state_.Code->OpenCode();
   state_.Busy = false;

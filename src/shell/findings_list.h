@@ -30,8 +30,11 @@ class FindingsList {
                PropertySheet& sheet)
       : state_(state), surfaces_(surfaces), forms_(forms), sheet_(sheet) {}
 
-  /// Checks the project as it stands, and its files as they lie on disk.
-  void Check();
+  /// Checks the project as it stands, and its files as they lie on disk. The code line by line as
+  /// well while the list is shown or names a fault of it: that reads the whole program.
+  void Check() { Check(FollowsCode()); }
+  /// The same with the code in any case.
+  void CheckAll() { Check(true); }
   /// Checks the project again while the list or the word is shown; its files have not changed.
   void Refresh();
   /// The files have changed: checks both again while the list or the word is shown.
@@ -51,11 +54,17 @@ class FindingsList {
 
  private:
   [[nodiscard]] bool IsShown() const;
-  void Find();
+  [[nodiscard]] bool FollowsCode() const;
+  void Check(bool with_code);
+  void Find(bool with_code);
   void Take(std::vector<project::Finding> findings);
   [[nodiscard]] FindingLine LineOf(const project::Finding& finding) const;
+  void NameCode(const std::string& key, const project::Finding& finding, FindingLine& line) const;
   [[nodiscard]] ControlRef ObjectOf(const project::Finding& finding) const;
-  void GoToCode(const project::Finding& finding);
+  [[nodiscard]] bool IsSelected(int form, const ControlRef& object) const;
+  void GoToFault(const project::Finding& finding);
+  void GoToCode(const project::Finding& finding, const std::string& key);
+  void GoToDeclarations(const project::ProgramPlace& place);
   void GoToRow(std::string_view name);
 
   ShellState& state_;

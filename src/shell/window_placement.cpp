@@ -88,6 +88,8 @@ WindowPlacement ReadPlacement(const Settings& settings) {
   placement.Maximised = settings.Read(kSection, "Maximised") == "1";
   placement.Columns = SizesOf(settings, "Columns");
   placement.Panels = SizesOf(settings, "Panels");
+  const std::vector<int> findings = SizesOf(settings, "Findings");
+  if (findings.size() == 1) placement.Findings = findings.front();
   return placement;
 }
 
@@ -96,6 +98,7 @@ void WritePlacement(Settings& settings, const WindowPlacement& placement) {
   settings.Write(kSection, "Maximised", placement.Maximised ? "1" : "0");
   settings.Write(kSection, "Columns", TextOf(placement.Columns));
   settings.Write(kSection, "Panels", TextOf(placement.Panels));
+  settings.Write(kSection, "Findings", TextOf({placement.Findings}));
 }
 
 void ReadPanels(const Settings& settings, std::array<bool, kPanelCount>& shown) {

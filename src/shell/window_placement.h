@@ -26,6 +26,7 @@ struct WindowPlacement {
   bool Maximised = false;
   std::vector<int> Columns;  ///< widths left and right of the splitter; empty: as they come
   std::vector<int> Panels;   ///< heights in the right column; likewise
+  int Findings = 0;          ///< height of the list of findings; 0: as it comes
 };
 
 /// The window as it stands on a screen whose free area is `free`: no larger, and wholly within it.

@@ -74,6 +74,17 @@ TEST_F(CommandLine, SourceWithoutItsEndingGetsOneAppended) {
             "\"C:\\Work\\out.EXE\" \"C:\\Tarnwick\\UnTitle.exe\"");
 }
 
+TEST_F(CommandLine, TheCompilerOfTheProgramFolderGoesAheadOfTheOneBesideTheProgram) {
+  project.Tables.ExecutableFolder = "C:\\Program Files\\Tarnwick";
+  EXPECT_EQ(CompilerPath(project.Tables, ports.Files), "C:\\Tarnwick\\Rc.exe");
+  ports.Files.Put("C:\\Program Files\\Tarnwick\\Rc.exe", "MZ");
+  EXPECT_EQ(CompilerPath(project.Tables, ports.Files), "C:\\Program Files\\Tarnwick\\Rc.exe");
+  EXPECT_EQ(Of("C:\\Tarnwick\\UnTitle.com").find("C:\\Program Files\\Tarnwick\\Rc.exe /COMPILE  "),
+            0U);
+  ports.Files.Put("C:\\Tarnwick\\Rc.exe", "MZ");
+  EXPECT_EQ(CompilerPath(project.Tables, ports.Files), "C:\\Tarnwick\\Rc.exe");
+}
+
 TEST_F(CommandLine, EndingCountsInEitherCase) {
   ports.Files.Put("C:\\Work\\OUT.COM", "");
   EXPECT_NE(Of("C:\\Work\\OUT.COM").find("\"C:\\Work\\OUT.COM\" \"C:\\Work\\OUT.EXE\""),

@@ -413,6 +413,7 @@ TEST_F(FileCommands, AMissingFormFileIsTold) {
             "Error: File ' " + program.Projects.Path("f.ftn") + " ' does not exist!");
   EXPECT_EQ(seen[0].Title, QStringLiteral("Tarnwick"));
   EXPECT_EQ(seen[0].Buttons, QMessageBox::Ok);
+  EXPECT_EQ(seen[0].Icon, QMessageBox::Warning);
   // Without a form in the project an empty one is there to go on with.
   EXPECT_EQ(program.Form().Number(), 1);
 }

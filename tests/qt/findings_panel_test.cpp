@@ -3,6 +3,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QLineEdit>
+#include <QSplitter>
+#include <QTest>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -143,6 +145,63 @@ TEST_F(Findings, CodeOfAnObjectThatIsGoneOpensInTheEditorAtItsEvent) {
   EXPECT_TRUE(editor->isVisible());
   EXPECT_EQ(editor->Text(), "Beep");
   program.Shell().Commands().Run(Command::Code);
+}
+
+TEST_F(Findings, AFaultOfTheCodeLeadsToItsLine) {
+  program.Place(0, {20, 20});
+  program.Tables().EventTable.Replace("Form1.Button1.OnClick",
+                                      "Dim n As Integer\r\nForm1Btn1.Captoin = 1\r\nn = 1");
+  program.Click(program.Surface(), {300, 200});
+  program.Key(Qt::Key_F8, Qt::ShiftModifier);
+  ASSERT_EQ(List().topLevelItemCount(), 1);
+  EXPECT_EQ(Cell(0, 0), QStringLiteral("Error"));
+  EXPECT_EQ(Cell(0, 1), QStringLiteral("Form1"));
+  EXPECT_EQ(Cell(0, 2), QStringLiteral("Form1Btn1"));
+  EXPECT_EQ(Cell(0, 3), QStringLiteral("OnClick"));
+  EXPECT_TRUE(Cell(0, 4).startsWith(QStringLiteral("line 2: "))) << Cell(0, 4).toStdString();
+  program.Key(Qt::Key_Return);
+  auto* editor = program.Window().findChild<CodeEdit*>(QStringLiteral("Editor"));
+  ASSERT_NE(editor, nullptr);
+  ASSERT_TRUE(editor->isVisible());
+  EXPECT_EQ(program.Form().NameObjet, "Button1");
+  int line = 0;
+  int column = 0;
+  editor->getCursorPosition(&line, &column);
+  EXPECT_EQ(line, 1);
+  // The next key is the editor's; what is mended and accepted leaves the list.
+  ASSERT_TRUE(QTest::qWaitFor([editor] { return editor->hasFocus(); }));
+  program.Key(Qt::Key_End, Qt::ShiftModifier);
+  program.Key(Qt::Key_Delete);
+  program.Key(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !Word().isVisible(); }, 5000));
+}
+
+TEST_F(Findings, TheListComesBackAsHighAsItWasLeft) {
+  program.Key(Qt::Key_F8, Qt::ShiftModifier);
+  program.Settle();
+  auto& panel = program.Find<QWidget>(QStringLiteral("FindingsPanel"));
+  auto& splitter = program.Find<QSplitter>(QStringLiteral("FormsAndFindings"));
+  const int before = panel.height();
+  const QPoint grip = splitter.handle(1)->rect().center();
+  program.Drag(*splitter.handle(1), grip, grip - QPoint(0, 70));
+  program.Settle();
+  const int dragged = panel.height();
+  EXPECT_GT(dragged, before);
+  program.Key(Qt::Key_Escape);
+  const WindowPlacement left = program.Window().Placement();
+  EXPECT_EQ(left.Findings, dragged);
+  program.Key(Qt::Key_F8, Qt::ShiftModifier);
+  program.Settle();
+  EXPECT_EQ(panel.height(), dragged);
+  EXPECT_EQ(program.Window().Placement().Findings, dragged);
+  // The next run takes it from the settings.
+  program.Key(Qt::Key_Escape);
+  WindowPlacement next = left;
+  next.Findings = before + 20;
+  program.Window().TakePlacement(next);
+  program.Key(Qt::Key_F8, Qt::ShiftModifier);
+  program.Settle();
+  EXPECT_EQ(panel.height(), before + 20);
 }
 
 TEST_F(Findings, AccessibleAsAListWithItsCells) {

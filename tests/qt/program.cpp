@@ -115,7 +115,15 @@ void Attendant::Look() {
   QTest::mouseClick(button, Qt::LeftButton);
 }
 
+void ResetLook() {
+  static const QString first = QApplication::style()->name();
+  if (!qApp->styleSheet().isEmpty()) qApp->setStyleSheet({});
+  if (QApplication::style()->name() != first) QApplication::setStyle(first);
+  QApplication::setPalette(QPalette());
+}
+
 Program::Program(FileDialogs dialogs) {
+  ResetLook();
   FillProgramFolder(files_, PathFromNative(test::ProgramFolder()), Home.Path());
   DialogPort& chosen = dialogs == FileDialogs::Real ? static_cast<DialogPort&>(real_dialogs_)
                                                     : static_cast<DialogPort&>(Dialogs);

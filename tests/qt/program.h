@@ -104,6 +104,10 @@ class NotedProcesses final : public ProcessPort {
   NativeProcess native_;
 };
 
+/// Gives the application the look that every test begins with: the style of the platform, its own
+/// palette, no style sheet.
+void ResetLook();
+
 /// The program after its start, on the real files of two temporary folders. Message boxes are the
 /// real ones; file, colour and font dialogs have scripted answers unless real ones are asked for.
 ///

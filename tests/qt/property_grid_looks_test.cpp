@@ -23,7 +23,6 @@ class PropertyGridLooks : public GridWindow {};
 
 TEST_F(PropertyGridLooks, ARowKeepsItsTextInBothPalettes) {
   program.Place(0, {20, 20});
-  const QPalette before = QApplication::palette();
   for (const Theme theme : {Theme::Light, Theme::Dark}) {
     QApplication::setPalette(PaletteOf(theme));
     Program::Settle();
@@ -37,7 +36,7 @@ TEST_F(PropertyGridLooks, ARowKeepsItsTextInBothPalettes) {
     }
     EXPECT_GT(furthest, 120) << static_cast<int>(theme);
   }
-  QApplication::setPalette(before);
+  ResetLook();
 }
 
 TEST_F(PropertyGridLooks, AColourRowShowsItsColour) {

@@ -17,7 +17,6 @@ class PropertyGridWindow : public GridWindow {};
 
 TEST_F(PropertyGridWindow, ASelectedRowHasTheAccentOfItsPaletteAndNoOther) {
   program.Place(0, {20, 20});
-  const QPalette before = QApplication::palette();
   for (const Theme theme : {Theme::Light, Theme::Dark}) {
     const QPalette palette = PaletteOf(theme);
     QApplication::setPalette(palette);
@@ -30,7 +29,7 @@ TEST_F(PropertyGridWindow, ASelectedRowHasTheAccentOfItsPaletteAndNoOther) {
     Enter("Height");
     EXPECT_EQ(BackOf("Caption"), palette.color(QPalette::Base));
   }
-  QApplication::setPalette(before);
+  ResetLook();
 }
 
 TEST_F(PropertyGridWindow, APressOnTheFormTakesTheColoursOffTheRows) {

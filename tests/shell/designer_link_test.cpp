@@ -1,5 +1,5 @@
 // What design surfaces and property sheet ask of the main window.
-#include "random_user.h"
+#include "delivered_files.h"
 #include "shell_fixture.h"
 
 namespace tarnwick {
@@ -8,7 +8,7 @@ namespace {
 class DesignerLinkTest : public ShellTest {
  protected:
   void SetUp() override {
-    ports.Files.Put(std::string(kProgram) + "\\Add004.tn", RandomUser::GridFile());
+    PutDeliveredFiles(ports.Files, std::string(kProgram));
     Start();
   }
 };

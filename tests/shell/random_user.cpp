@@ -1,20 +1,40 @@
 #include "random_user.h"
 
 #include <algorithm>
-#include <fstream>
 #include <iterator>
 
 #include "designer/tool_box.h"
-#include "fakes/build_paths.h"
+#include "editor/form_codigo.h"
 #include "inspector/form_add_items.h"
 #include "project/save_project.h"
+#include "shell/events_bar.h"
 #include "text/numbers.h"
+#include "text/strings.h"
 
 namespace tarnwick {
 
 namespace {
 
 constexpr float kTwips = 15;
+
+/// What the code window asks of the main window.
+class CodeHost final : public editor::CodeHost, public menus::CodeOpener {
+ public:
+  explicit CodeHost(MDIForm1& main) : main_(main) {}
+  void PopBoockMarck(int form, std::string_view name) override {
+    main_.Bar().PopBoockMarck(form, name);
+  }
+  void DelBoockMarck(int form, std::string_view name) override {
+    main_.Bar().DelBoockMarck(form, name);
+  }
+  void AcceptBegins(int form, std::string_view step) override { main_.Steps().Begin(form, step); }
+  void CodeAccepted(int /*form*/) override { main_.Steps().End(); }
+  void Unload() override {}
+  void OpenCode() override {}
+
+ private:
+  MDIForm1& main_;
+};
 
 }  // namespace
 
@@ -43,7 +63,7 @@ std::vector<ControlRef> RandomUser::Objects() {
 }
 
 void RandomUser::Act() {
-  switch (Below(20)) {
+  switch (Below(23)) {
     case 0:
     case 1:
     case 2:
@@ -72,6 +92,12 @@ void RandomUser::Act() {
       return ChooseForm();
     case 18:
       return AddOrRemoveForm();
+    case 19:
+      return EditMenu();
+    case 20:
+      return EditPopUp();
+    case 21:
+      return SizeWindow();
     default:
       return SaveOrStartAnew();
   }
@@ -164,24 +190,107 @@ void RandomUser::RunCommand() {
   main_.Commands().Run(command);
 }
 
+/// Code of an object or of the form, typed into its window and accepted or not.
 void RandomUser::EditCode() {
-  if (Form() == nullptr) return;
+  FormUser* surface = main_.CurrentUser();
+  if (surface == nullptr) return;
   const std::vector<ControlRef> objects = Objects();
-  std::string owner = Form()->KeyPrefix();
-  Event event = Event::OnShow;
-  if (!objects.empty() && Below(4) != 0) {
-    const ControlRef object =
-        objects[static_cast<std::size_t>(Below(static_cast<int>(objects.size())))];
-    const EventList& events = ListOf(InfoOf(object->Id).Events);
-    if (events.Events.empty()) return;
-    owner += "." + object->ArrayAndIndex();
-    event = events.Events[static_cast<std::size_t>(Below(static_cast<int>(events.Events.size())))];
+  if (objects.empty() || Below(4) == 0) {
+    surface->SelectForm();
+  } else {
+    surface->SelectObject(
+        objects[static_cast<std::size_t>(Below(static_cast<int>(objects.size())))]);
   }
-  const std::string code = "x = " + std::to_string(Below(100)) + "\r\nPrint x, \"done\"";
-  if (RecordsItsEdits) main_.Steps().Begin(Form()->Number(), "Code");
-  main_.Tables().EventTable.Replace(owner, event, code);
-  if (RecordsItsEdits) main_.Steps().End();
-  Did("code of " + owner + std::string(InfoOf(event).Suffix));
+  CodeHost host(main_);
+  editor::CodeDrafts drafts;
+  editor::FormCodigo window(main_.Tables(), main_.Support(), main_.SettingsFile(), code_text_, host,
+                            drafts);
+  window.Open();
+  const int events = static_cast<int>(window.Events().size());
+  if (events > 1 && Below(3) == 0) {
+    window.Events_Click(Below(events));
+    window.Cancel();
+    return Did("look at the code of " + Form()->NameObjet);
+  }
+  if (events > 1) {
+    // Opened at another event: a look at the default one would be a deed of its own.
+    const auto row = static_cast<std::size_t>(Below(events));
+    main_.Tables().JumpKey = InfoOf(window.Events()[row].Id).Name;
+    window.Cancel();
+    window.Open();
+  }
+  std::string code = "x = " + std::to_string(Below(100)) + "\r\nPrint x, \"done\"";
+  if (Below(5) == 0) code.clear();
+  code_text_.SetText(code);
+  const bool keeps = Below(5) != 0;
+  if (keeps) {
+    window.Accept();
+  } else {
+    window.Cancel();
+  }
+  Did(std::string(keeps ? "accept" : "cancel") + " code of " + Form()->NameObjet);
+}
+
+/// Rows typed into a designer of menus, some of them moved, deleted or made deeper.
+void RandomUser::EditRows(menus::MenuDesigner& designer) {
+  menus::RowList& list = designer.List();
+  for (int i = 1 + Below(6); i > 0; --i) {
+    const std::string name = "mnu" + std::to_string(++names_given_);
+    switch (Below(8)) {
+      case 0:
+        list.Indent();
+        break;
+      case 1:
+        list.Outdent();
+        break;
+      case 2:
+        list.DeleteRow();
+        break;
+      case 3:
+        list.Select(Below(static_cast<int>(list.ListMenu().size()) + 1));
+        list.Up();
+        break;
+      default:
+        list.SetTexts({Below(5) == 0 ? "-" : "&Row, " + name, name});
+        list.Enter();
+        break;
+    }
+  }
+  if (Below(8) == 0) list.DeleteAll();
+  if (Below(6) != 0) designer.Ok();
+}
+
+void RandomUser::EditMenu() {
+  if (Form() == nullptr) return;
+  menus::FormMenu designer(main_.Context(), main_.Steps(), Form()->Number());
+  EditRows(designer);
+  Did("menu bar");
+}
+
+void RandomUser::EditPopUp() {
+  for (const ControlRef& object : Objects()) {
+    if (object->Id != Kind::PopUpMenu || Below(2) == 0) continue;
+    CodeHost host(main_);
+    menus::FormPopUp designer(main_.Context(), main_.Steps(), host, Form()->Number(),
+                              object->Index);
+    EditRows(designer);
+    return Did("rows of " + object->Tag);
+  }
+}
+
+/// The design window is dragged by its border, rolled up or maximised.
+void RandomUser::SizeWindow() {
+  FormUser* surface = main_.CurrentUser();
+  if (surface == nullptr) return;
+  static constexpr WindowState kStates[]{WindowState::Normal, WindowState::Normal,
+                                         WindowState::Minimised, WindowState::Maximised};
+  const WindowState state = kStates[Below(4)];
+  for (int i = 1 + Below(3); i > 0; --i) {
+    surface->Frame().Form_Resize(static_cast<float>(150 + Below(500)) * kTwips,
+                                 static_cast<float>(120 + Below(400)) * kTwips, state);
+  }
+  surface->Frame().ResizeEnded();
+  Did("size the window, state " + std::to_string(static_cast<int>(state)));
 }
 
 /// Edits a row in one of the ways that its type has.
@@ -319,14 +428,12 @@ std::map<std::string, std::string> RandomUser::SavedFiles() const {
     const std::size_t open = bytes.find('(');
     const std::size_t close = bytes.find(')');
     if (bytes.starts_with("[Form]")) bytes.replace(open, close - open, "(");
+    // The entries of a menu bar stand for empty lines wherever they were made; reading a file puts
+    // them behind the objects.
+    while (Contains(bytes, "\r\n\r\n")) bytes = ReplaceAll(bytes, "\r\n\r\n", "\r\n");
     files[path] = std::move(bytes);
   }
   return files;
-}
-
-std::string RandomUser::GridFile() {
-  std::ifstream file(test::ProgramFolder() + "/Add004.tn", std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 std::map<std::string, std::string> RandomUser::Saved() {

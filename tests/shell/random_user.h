@@ -8,8 +8,10 @@
 #include <vector>
 
 #include "designer/form_user.h"
+#include "fakes/fake_edit_widget.h"
 #include "fakes/fake_ports.h"
 #include "inspector/property_sheet.h"
+#include "menus/menu_designer.h"
 #include "shell/command_center.h"
 #include "shell/form_commands.h"
 #include "shell/mdi_form.h"
@@ -43,11 +45,7 @@ class RandomUser {
 
   /// Saves and returns the bytes of the project's files by path.
   [[nodiscard]] std::map<std::string, std::string> Saved();
-  /// The support file of the grid rows as it is delivered.
-  [[nodiscard]] static std::string GridFile();
 
-  /// Code that is changed here without a window is a step of its own.
-  bool RecordsItsEdits = false;
   /// Whether a new project may be started, and whether forms may be added and removed.
   bool StartsAnew = true;
   bool Saves = true;
@@ -73,6 +71,10 @@ class RandomUser {
   void EditProperty();
   void TypeIntoRow(int row);
   void EditItems();
+  void EditMenu();
+  void EditPopUp();
+  void EditRows(menus::MenuDesigner& designer);
+  void SizeWindow();
   void ChooseForm();
   void AddOrRemoveForm();
   void SaveOrStartAnew();
@@ -85,6 +87,7 @@ class RandomUser {
   std::mt19937 random_;
   unsigned seed_;
   int names_given_ = 0;
+  test::FakeEditWidget code_text_;
   std::size_t objects_read_ = 0;
   std::vector<std::string> deeds_;
 };

@@ -1,5 +1,6 @@
 #include "random_user.h"
 
+#include "delivered_files.h"
 #include "shell/shell_fixture.h"
 
 namespace tarnwick {
@@ -8,7 +9,7 @@ namespace {
 class RandomUserTest : public ShellTest, public ::testing::WithParamInterface<unsigned> {
  protected:
   void SetUp() override {
-    ports.Files.Put(std::string(kProgram) + "\\Add004.tn", RandomUser::GridFile());
+    PutDeliveredFiles(ports.Files, std::string(kProgram));
     Start();
   }
 };

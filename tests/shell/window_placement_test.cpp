@@ -45,12 +45,13 @@ TEST_F(WindowPlacementTest, EachWindowHasAPlaceOfItsOwn) {
 }
 
 TEST_F(WindowPlacementTest, WhatIsWrittenComesBack) {
-  WritePlacement(settings, {{-8, 12, 1024, 700}, true, {700, 290}, {400, 120}});
+  WritePlacement(settings, {{-8, 12, 1024, 700}, true, {700, 290}, {400, 120}, 155});
   const WindowPlacement back = ReadPlacement(settings);
   EXPECT_EQ(back.Window, (WindowRect{-8, 12, 1024, 700}));
   EXPECT_TRUE(back.Maximised);
   EXPECT_EQ(back.Columns, (std::vector<int>{700, 290}));
   EXPECT_EQ(back.Panels, (std::vector<int>{400, 120}));
+  EXPECT_EQ(back.Findings, 155);
 }
 
 TEST_F(WindowPlacementTest, AFirstRunAndSpoiltSettingsGiveNoPlace) {
@@ -61,6 +62,10 @@ TEST_F(WindowPlacementTest, AFirstRunAndSpoiltSettingsGiveNoPlace) {
   }
   settings.Write("Window", "Columns", "700,-1");
   EXPECT_TRUE(ReadPlacement(settings).Columns.empty());
+  for (const char* spoilt : {"-5", "1,2", "x"}) {
+    settings.Write("Window", "Findings", spoilt);
+    EXPECT_EQ(ReadPlacement(settings).Findings, 0) << spoilt;
+  }
 }
 
 TEST_F(WindowPlacementTest, PanelsComeBackAsTheyWereLeft) {

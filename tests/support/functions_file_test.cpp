@@ -63,6 +63,21 @@ TEST(FunctionsFile, TheFirstTabHasTheLanguageTheSecondTheFurtherParts) {
   EXPECT_TRUE(has(tables.ListFunc0, "TwAsk"));
 }
 
+// NOT turns every bit over: of TRUE, which is 1, it makes a number that is true as well.
+TEST(FunctionsFile, ExamplesTurnRoundOnlyWhatIsMinusOneWhenItIsTrue) {
+  for (const char* name : {"Add001.tn", "Add002.tn"}) {
+    const std::string text = Delivered(name);
+    for (std::size_t at = text.find("NOT "); at != std::string::npos;
+         at = text.find("NOT ", at + 1)) {
+      const auto ends = [](char c) { return c <= ' '; };  // separators count as negative
+      const auto from = text.begin() + static_cast<std::ptrdiff_t>(at) + 4;
+      const std::string operand(from, std::find_if(from, text.end(), ends));
+      EXPECT_TRUE(operand == "a" || operand.starts_with("(") || operand.ends_with(".EOF"))
+          << name << ": NOT " << operand;
+    }
+  }
+}
+
 TEST(FunctionsFile, CommasAreStoredByTheirStandIn) {
   const std::string text = Delivered("Add002.tn");
   const std::size_t functions = text.find("\r\n", text.find("\r\n") + 2);

@@ -31,6 +31,14 @@ TEST(ObjectsFile, EveryRequiredMemberListIsThere) {
   EXPECT_EQ(DeliveredTables().MemberLists.Size(), kListWords.size());
 }
 
+TEST(ObjectsFile, WhatChangesInAViewerIsNoText) {
+  for (const MemberEntry& member : Sources().Members) {
+    if (member.Name != "Modified") continue;
+    EXPECT_EQ(member.Description.find("the text") != std::string::npos, member.Kind != "HtmlViewer")
+        << member.Kind;
+  }
+}
+
 TEST(ObjectsFile, EveryObjectArrayHasMembersAndEvents) {
   for (const KindInfo& kind : AllKinds().first<kObjectKindCount>()) {
     EXPECT_NE(DeliveredTables().MemberLists.Find(kind.Tag), nullptr) << kind.Name;

@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "qt/frame/name_labels.h"
@@ -21,7 +22,9 @@ void RunAboutDialog(std::string_view program_folder, QWidget* parent) {
       new QLabel(QStringLiteral("Visual development environment for RapidQ BASIC"), &dialog);
   auto* folder = new QLabel(ToQString(program_folder), &dialog);
   folder->setProperty("quiet", true);
-  folder->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  // To be copied, by keys as well.
+  folder->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  folder->setFocusPolicy(Qt::StrongFocus);
   auto* texts = new QVBoxLayout;
   texts->setSpacing(kGap);
   texts->addWidget(MakeNameLabel(1.6, &dialog));
@@ -35,6 +38,7 @@ void RunAboutDialog(std::string_view program_folder, QWidget* parent) {
   row->addWidget(MakePictureLabel(&dialog), 0, Qt::AlignTop);
   row->addLayout(texts, 1);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, &dialog);
+  buttons->button(QDialogButtonBox::Ok)->setToolTip(QStringLiteral("Close (Enter)"));
   QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
   auto* column = new QVBoxLayout(&dialog);
   column->setContentsMargins(2 * kRoom, 2 * kRoom, 2 * kRoom, 2 * kRoom);

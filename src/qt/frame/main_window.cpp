@@ -40,7 +40,6 @@ constexpr int kToolColumns = 2;
 constexpr int kRightWidth = 290;
 constexpr int kPropertiesHeight = 590;
 constexpr int kFormsHeight = 130;
-constexpr int kFindingsHeight = 180;
 /// Room for the window frame where the desktop does not report its size.
 constexpr int kFrameSide = 4;
 constexpr int kFrameTop = 32;
@@ -105,7 +104,6 @@ void MainWindow::BuildPanels() {
   forms_->addWidget(findings_);
   forms_->setStretchFactor(0, 1);
   forms_->setChildrenCollapsible(false);
-  forms_->setSizes({height() - kFindingsHeight, kFindingsHeight});
   findings_->hide();
 
   middle_->setObjectName(QStringLiteral("MiddleAndRight"));
@@ -175,7 +173,8 @@ WindowPlacement MainWindow::Placement() const {
   return {{place.x(), place.y(), place.width(), place.height()},
           isMaximized(),
           sizes(*middle_),
-          sizes(*panels_)};
+          sizes(*panels_),
+          findings_->isHidden() ? findings_height_ : findings_->height()};
 }
 
 void MainWindow::TakePlacement(const WindowPlacement& last) {
@@ -203,6 +202,7 @@ void MainWindow::TakePlacement(const WindowPlacement& last) {
   };
   give(*middle_, last.Columns);
   give(*panels_, last.Panels);
+  if (last.Findings > 0) findings_height_ = last.Findings;
   if (last.Maximised) setWindowState(windowState() | Qt::WindowMaximized);
 }
 
@@ -245,8 +245,11 @@ void MainWindow::SetFormListVisible(bool visible) {
 }
 
 void MainWindow::SetFindingsVisible(bool visible) {
+  if (visible == findings_->isVisibleTo(this)) return;
   const bool had_focus = findings_->isAncestorOf(focusWidget());
+  if (!visible) findings_height_ = findings_->height();
   findings_->setVisible(visible);
+  if (visible) forms_->setSizes({forms_->height() - findings_height_, findings_height_});
   if (!visible && had_focus) GoToForm();
 }
 

@@ -95,6 +95,7 @@ class MainWindow final : public QMainWindow {
   RightColumn* right_;
   QSplitter* forms_;  ///< the container, with the findings below it
   QSplitter* middle_;
+  int findings_height_ = 180;  ///< of the findings when they are shown next
   QLabel* status_;
   QToolButton* findings_word_;
   QLabel* selection_;

@@ -1,7 +1,6 @@
 #include "qt/grid/font_dialog.h"
 
 #include <QCheckBox>
-#include <QColorDialog>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFontComboBox>
@@ -15,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include "looks/platform_colors.h"
+#include "qt/kit/color_dialog.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
 
@@ -128,9 +128,7 @@ class FontDialog final : public QDialog {
   }
 
   void PickColor() {
-    const QColor color =
-        QColorDialog::getColor(looks::ColorOf(color_), this, QStringLiteral("Colour"));
-    if (color.isValid()) color_ = looks::NumberOf(color);
+    color_ = RunColorDialog(color_, this).value_or(color_);
     ShowSample();
   }
 

@@ -2,14 +2,13 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QColorDialog>
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
 
-#include "looks/platform_colors.h"
 #include "platform/native_path.h"
 #include "qt/grid/font_dialog.h"
+#include "qt/kit/color_dialog.h"
 #include "qt/kit/text_bridge.h"
 #include "text/path_text.h"
 #include "text/strings.h"
@@ -145,10 +144,7 @@ std::optional<std::string> QtDialogs::SaveFile(const FileDialogRequest& request)
 }
 
 std::optional<std::int32_t> QtDialogs::PickColor(std::int32_t start) {
-  const QColor color =
-      QColorDialog::getColor(looks::ColorOf(start), Above(), QStringLiteral("Colour"));
-  if (!color.isValid()) return std::nullopt;
-  return looks::NumberOf(color);
+  return RunColorDialog(start, Above());
 }
 
 std::optional<FontChoice> QtDialogs::PickFont(const FontChoice& start) {

@@ -4,7 +4,6 @@
 #include <QPointer>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTimer>
 #include <utility>
 
 #include "platform/run_report_reader.h"
@@ -42,7 +41,14 @@ struct RunnerProcess::Run {
   bool Stopped = false;  ///< it was asked to end
 };
 
-RunnerProcess::RunnerProcess(QString program) : program_(std::move(program)) {}
+RunnerProcess::RunnerProcess(QString program) : program_(std::move(program)) {
+  for (QTimer* timer : {&first_read_, &stop_wait_}) timer->setSingleShot(true);
+  stop_wait_.setInterval(kStopWait);
+  QObject::connect(&first_read_, &QTimer::timeout, &receiver_, [this] { Read(); });
+  QObject::connect(&stop_wait_, &QTimer::timeout, &receiver_, [this] {
+    if (run_ != nullptr) run_->Process->kill();
+  });
+}
 
 RunnerProcess::~RunnerProcess() {
   if (run_ == nullptr) return;
@@ -68,44 +74,49 @@ bool RunnerProcess::Start(const RunRequest& request, RunListener& listener) {
   }
   run_ = std::move(run);
   // Queued, so that nothing is heard before this call has returned.
-  const auto read_report = [this] {
-    if (run_ != nullptr) run_->Report.Take(ViewOf(run_->Process->readAllStandardError()));
-  };
-  const auto read_output = [this] {
-    if (run_ == nullptr) return;
-    const std::string text = run_->Printed.Take(ViewOf(run_->Process->readAllStandardOutput()));
-    if (!text.empty()) run_->Listener.RunOutput(text);
-  };
-  QObject::connect(process, &QProcess::readyReadStandardError, &receiver_, read_report,
-                   Qt::QueuedConnection);
-  QObject::connect(process, &QProcess::readyReadStandardOutput, &receiver_, read_output,
-                   Qt::QueuedConnection);
+  QObject::connect(
+      process, &QProcess::readyReadStandardError, &receiver_, [this] { ReadReport(); },
+      Qt::QueuedConnection);
+  QObject::connect(
+      process, &QProcess::readyReadStandardOutput, &receiver_, [this] { ReadOutput(); },
+      Qt::QueuedConnection);
   QObject::connect(
       process, &QProcess::finished, &receiver_,
-      [this, read_report, read_output](int code, QProcess::ExitStatus status) {
-        read_report();
-        read_output();
+      [this](int code, QProcess::ExitStatus status) {
+        Read();
         Ended(code, status == QProcess::CrashExit);
       },
       Qt::QueuedConnection);
   // What came while the start was waited for, and a program that has ended already.
-  QTimer::singleShot(0, &receiver_, [read_report, read_output] {
-    read_report();
-    read_output();
-  });
+  first_read_.start();
   return true;
+}
+
+void RunnerProcess::ReadReport() {
+  if (run_ != nullptr) run_->Report.Take(ViewOf(run_->Process->readAllStandardError()));
+}
+
+void RunnerProcess::ReadOutput() {
+  if (run_ == nullptr) return;
+  const std::string text = run_->Printed.Take(ViewOf(run_->Process->readAllStandardOutput()));
+  if (!text.empty()) run_->Listener.RunOutput(text);
+}
+
+void RunnerProcess::Read() {
+  ReadReport();
+  ReadOutput();
 }
 
 void RunnerProcess::Stop() {
   if (run_ == nullptr || std::exchange(run_->Stopped, true)) return;
-  QProcess* const process = run_->Process;
-  process->write("stop\n");
-  QTimer::singleShot(kStopWait, process, [process] { process->kill(); });
+  run_->Process->write("stop\n");
+  stop_wait_.start();
 }
 
 void RunnerProcess::Ended(int code, bool crashed) {
   const std::unique_ptr<Run> run = std::move(run_);
   if (run == nullptr) return;
+  stop_wait_.stop();
   run->Process->deleteLater();
   RunnerEnd how = crashed ? RunnerEnd::RunnerFault : RunnerEndOf(code);
   // A runner that failed says why in words of its own.

@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QTimer>
 #include <memory>
 
 #include "platform/runner_port.h"
@@ -27,10 +28,15 @@ class RunnerProcess final : public RunnerPort {
 
  private:
   struct Run;
+  void ReadReport();
+  void ReadOutput();
+  void Read();
   void Ended(int code, bool crashed);
 
   QString program_;
   std::unique_ptr<Run> run_;  ///< null while no program runs
+  QTimer first_read_;         ///< for what a program wrote before its start was known
+  QTimer stop_wait_;          ///< until a program that was asked to stop is ended
   QObject receiver_;          ///< of the calls that wait in the queue, which end with it
 };
 

@@ -41,21 +41,14 @@ QAccessible::Role RoleOf(Kind kind) {
   }
 }
 
-/// An object of a design form. It lives as long as its surface and is not valid any more when
-/// the object was removed from the form.
-class ObjectAccess final : public QAccessibleInterface, public QAccessibleActionInterface {
+/// What is painted and has no widget: a leaf below a widget, which takes a press.
+class PaintedAccess : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
-  ObjectAccess(DesignSurface& surface, std::weak_ptr<DesignControl> object)
-      : surface_(surface), object_(std::move(object)) {}
+  explicit PaintedAccess(QWidget& above) : above_(above) {}
 
-  [[nodiscard]] bool isValid() const override {
-    const ControlRef object = object_.lock();
-    const DesignForm* const form = surface_.Form();
-    return object && form != nullptr && form->Element(object->Id, object->Index) == object;
-  }
   [[nodiscard]] QObject* object() const override { return nullptr; }
   [[nodiscard]] QAccessibleInterface* parent() const override {
-    return QAccessible::queryAccessibleInterface(&surface_);
+    return QAccessible::queryAccessibleInterface(&above_);
   }
   [[nodiscard]] QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
   [[nodiscard]] QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override {
@@ -65,19 +58,49 @@ class ObjectAccess final : public QAccessibleInterface, public QAccessibleAction
   [[nodiscard]] int indexOfChild(const QAccessibleInterface* /*child*/) const override {
     return -1;
   }
+  void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
+  [[nodiscard]] QRect rect() const override {
+    const QRect place = Place();
+    return {above_.mapToGlobal(place.topLeft()), place.size()};
+  }
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
+                                                : nullptr;
+  }
+  [[nodiscard]] QStringList actionNames() const override { return {pressAction()}; }
+  void doAction(const QString& action) override {
+    if (action == pressAction() && isValid()) Press();
+  }
+  [[nodiscard]] QStringList keyBindingsForAction(const QString& /*action*/) const override {
+    return {};
+  }
+
+ private:
+  /// In pixels of the widget; empty for a part that is not there.
+  [[nodiscard]] virtual QRect Place() const = 0;
+  virtual void Press() = 0;
+
+  QWidget& above_;
+};
+
+/// An object of a design form. It lives as long as its surface and is not valid any more when
+/// the object was removed from the form.
+class ObjectAccess final : public PaintedAccess {
+ public:
+  ObjectAccess(DesignSurface& surface, std::weak_ptr<DesignControl> object)
+      : PaintedAccess(surface), surface_(surface), object_(std::move(object)) {}
+
+  [[nodiscard]] bool isValid() const override {
+    const ControlRef object = object_.lock();
+    const DesignForm* const form = surface_.Form();
+    return object && form != nullptr && form->Element(object->Id, object->Index) == object;
+  }
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
     const ControlRef object = object_.lock();
     if (!object) return {};
     if (kind == QAccessible::Name) return ToQString(object->Tag);
     if (kind == QAccessible::Description) return ToQString(InfoOf(object->Id).Name);
     return {};
-  }
-  void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
-  [[nodiscard]] QRect rect() const override {
-    const ControlRef object = object_.lock();
-    if (!object) return {};
-    const QRect place = PixelRectOf(*object);
-    return {surface_.mapToGlobal(place.topLeft()), place.size()};
   }
   [[nodiscard]] QAccessible::Role role() const override {
     const ControlRef object = object_.lock();
@@ -95,20 +118,14 @@ class ObjectAccess final : public QAccessibleInterface, public QAccessibleAction
     state.focused = selected && surface_.hasFocus();
     return state;
   }
-  void* interface_cast(QAccessible::InterfaceType type) override {
-    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                : nullptr;
-  }
-
-  [[nodiscard]] QStringList actionNames() const override { return {pressAction()}; }
-  void doAction(const QString& action) override {
-    if (action == pressAction() && isValid()) surface_.PressObject(object_.lock());
-  }
-  [[nodiscard]] QStringList keyBindingsForAction(const QString& /*action*/) const override {
-    return {};
-  }
 
  private:
+  [[nodiscard]] QRect Place() const override {
+    const ControlRef object = object_.lock();
+    return object ? PixelRectOf(*object) : QRect();
+  }
+  void Press() override { surface_.PressObject(object_.lock()); }
+
   DesignSurface& surface_;
   std::weak_ptr<DesignControl> object_;
 };
@@ -184,23 +201,12 @@ class SurfaceAccess final : public QAccessibleWidget {
 constexpr std::array kFrameButtons{FramePart::Minimise, FramePart::Maximise, FramePart::Close};
 
 /// A painted button of the frame of a design window. It lives as long as the window's interface.
-class FrameButtonAccess final : public QAccessibleInterface, public QAccessibleActionInterface {
+class FrameButtonAccess final : public PaintedAccess {
  public:
-  FrameButtonAccess(DesignWindow& window, FramePart part) : window_(window), part_(part) {}
+  FrameButtonAccess(DesignWindow& window, FramePart part)
+      : PaintedAccess(window), window_(window), part_(part) {}
 
   [[nodiscard]] bool isValid() const override { return true; }
-  [[nodiscard]] QObject* object() const override { return nullptr; }
-  [[nodiscard]] QAccessibleInterface* parent() const override {
-    return QAccessible::queryAccessibleInterface(&window_);
-  }
-  [[nodiscard]] QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
-  [[nodiscard]] QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override {
-    return nullptr;
-  }
-  [[nodiscard]] int childCount() const override { return 0; }
-  [[nodiscard]] int indexOfChild(const QAccessibleInterface* /*child*/) const override {
-    return -1;
-  }
   /// The name says what a press does now.
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
     if (kind != QAccessible::Name) return {};
@@ -210,31 +216,17 @@ class FrameButtonAccess final : public QAccessibleInterface, public QAccessibleA
     if (window_.State() == state) return QStringLiteral("Restore");
     return maximises ? QStringLiteral("Maximise") : QStringLiteral("Minimise");
   }
-  void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
-  [[nodiscard]] QRect rect() const override {
-    const QRect button = window_.Frame().ButtonRect(part_);
-    return {window_.mapToGlobal(button.topLeft()), button.size()};
-  }
   [[nodiscard]] QAccessible::Role role() const override { return QAccessible::PushButton; }
   [[nodiscard]] QAccessible::State state() const override {
     QAccessible::State state;
     state.invisible = window_.Frame().ButtonRect(part_).isEmpty() || !window_.isVisible();
     return state;
   }
-  void* interface_cast(QAccessible::InterfaceType type) override {
-    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                : nullptr;
-  }
-
-  [[nodiscard]] QStringList actionNames() const override { return {pressAction()}; }
-  void doAction(const QString& action) override {
-    if (action == pressAction()) window_.PressButton(part_);
-  }
-  [[nodiscard]] QStringList keyBindingsForAction(const QString& /*action*/) const override {
-    return {};
-  }
 
  private:
+  [[nodiscard]] QRect Place() const override { return window_.Frame().ButtonRect(part_); }
+  void Press() override { window_.PressButton(part_); }
+
   DesignWindow& window_;
   FramePart part_;
 };

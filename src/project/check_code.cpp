@@ -1,8 +1,10 @@
-#include "cli/check_code.h"
+#include "project/check_code.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "basic/check/front_end.h"
 #include "codegen/program_source.h"
@@ -12,7 +14,8 @@
 #include "text/path_text.h"
 #include "text/strings.h"
 
-namespace tarnwick {
+namespace tarnwick::project {
+
 namespace {
 
 constexpr std::string_view kInclude = "Tarnwick1.lib";
@@ -45,37 +48,58 @@ class GeneratedSources final : public basic::SourceReader {
   bool missing_ = false;
 };
 
-/// "Form1.Button1.OnClick, line 3", or the line itself where the user has no place for it.
-std::string PlaceOf(const ProjectTables& tables, const SourceMap& map, std::string_view text,
-                    std::size_t number) {
+/// The finding for what is wrong in a line of the text.
+Finding FindingAt(const ProjectTables& tables, const SourceMap& map, std::string_view text,
+                  std::size_t number) {
+  Finding finding{.Id = FindingId::CodeFaulty};
   const std::string_view line = LineOf(text, number);
   const std::optional<SourceLine> from = map.At(number);
-  const auto place = from ? project::PlaceOfLine(tables, *from, line) : std::nullopt;
-  return place ? project::PlaceText(tables, *place) : "the line " + std::string(Trim(line));
+  std::optional<ProgramPlace> place = from ? PlaceOfLine(tables, *from, line) : std::nullopt;
+  if (!place) {
+    finding.Place = "the line " + std::string(Trim(line));
+    return finding;
+  }
+  finding.Form = place->Form;
+  finding.Place = PlaceText(tables, *place);
+  // The code of an item goes by its name alone.
+  const bool item = place->Id == Kind::PopUpMenu && place->What == ProgramPlace::Sort::Code &&
+                    place->Of != Event::OnPopUp;
+  if (IsObjectKind(place->Id) && !item) {
+    finding.Of = place->Id;
+    finding.Index = place->Index;
+  }
+  finding.In = std::move(place);
+  return finding;
 }
 
 }  // namespace
 
-std::vector<std::string> CodeFaults(ProjectTables& tables, FilePort& files,
-                                    const std::string& program_folder) {
+std::vector<Finding> CheckCode(ProjectTables& tables, FilePort& files,
+                               const std::string& include_folder) {
   GeneratorState state;
   SourceMap map;
   const std::string text = GenerateSource(tables, state, &map);
   map.CountLines(text);
-  GeneratedSources sources(text, files, program_folder);
+  GeneratedSources sources(text, files, include_folder);
   const basic::FrontEndResult checked =
       basic::CheckProgram("C:\\Generated.bas", sources, objects::ClassTable(), {});
-  std::vector<std::string> faults;
-  if (sources.LacksInclude()) return faults;
+  std::vector<Finding> findings;
+  if (sources.LacksInclude()) return findings;
   for (const basic::Message& message : checked.Found.All()) {
     const bool error = message.Level == basic::Severity::Error;
     if (!error || message.At.File != 0 || Contains(message.Text, basic::kNotSupported)) continue;
-    std::string to_do = message.Remedy.empty() ? "correct the code" : message.Remedy;
-    to_do.front() = LowerByte(to_do.front());
-    faults.push_back(PlaceOf(tables, map, text, message.At.Line) + ": " + message.Text + "; " +
-                     to_do);
+    Finding finding = FindingAt(tables, map, text, message.At.Line);
+    finding.Text = message.Text;
+    finding.Remedy = message.Remedy;
+    if (!finding.Remedy.empty()) finding.Remedy.front() = LowerByte(finding.Remedy.front());
+    findings.push_back(std::move(finding));
   }
-  return faults;
+  return findings;
 }
 
-}  // namespace tarnwick
+bool MakesAProgram(const std::vector<Finding>& findings) noexcept {
+  return std::none_of(findings.begin(), findings.end(),
+                      [](const Finding& finding) { return finding.How() == Severity::Error; });
+}
+
+}  // namespace tarnwick::project
