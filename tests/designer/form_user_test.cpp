@@ -41,6 +41,12 @@ TEST_F(FormUserTest, LoadingPaintsTheGridWithAYieldAfterEachDotAndSizesTheHandle
   EXPECT_EQ(user.Frame().Style().hwnd, 1);
 }
 
+TEST_F(FormUserTest, SizedHandlesArePaintedAtTheirSize) {
+  ports.Log.Clear();
+  user.PintaPuntitos();
+  EXPECT_EQ(ports.Log.Count("paint"), 1U);
+}
+
 TEST_F(FormUserTest, AMenuItemIsSelectedByItsNameAndItsCodeOpened) {
   const ControlRef item = form.Load(Kind::MenuItem);
   item->Tag = "Form1mnuSave";

@@ -1,3 +1,4 @@
+#include "shell/command_table.h"
 #include "shell/shell_fixture.h"
 
 namespace tarnwick {
@@ -237,6 +238,15 @@ TEST_F(OtherCommandsTest, WindowsOfOtherRoomsOpen) {
   main.Commands().Run(Command::MenuEdit);
   EXPECT_EQ(log().Entries(), (std::vector<std::string>{"windows declarations", "windows examiner",
                                                        "windows menu edit"}));
+}
+
+TEST_F(OtherCommandsTest, OnlyEntriesThatAreOnOrOffHaveACheckMark) {
+  for (std::size_t i = 0; i < kCommandCount; ++i) {
+    const auto command = static_cast<Command>(i);
+    const bool shown = command == Command::Properties || command == Command::Forms ||
+                       command == Command::EventsBar;
+    EXPECT_EQ(main.Commands().State(command).Checked, shown) << i;
+  }
 }
 
 TEST_F(OtherCommandsTest, EachPanelIsShownAndHiddenByItsEntry) {

@@ -69,6 +69,27 @@ class EventsBarTest : public ShellTest {
 
 using Texts = std::vector<std::string>;
 
+/// Counts what views of the bar hear.
+class BarWatcher final : public ProjectObserver {
+ public:
+  int Changes = 0;
+  void EventsBarChanged(int /*form*/) override { ++Changes; }
+};
+
+TEST_F(EventsBarTest, ViewsHearOfEachButtonThatComesOrGoesOnce) {
+  static BarWatcher watcher;  // the main window goes after the test and knows it until then
+  watcher.Changes = 0;
+  main.AddObserver(watcher);
+  Store("Button1", Event::OnClick, "a = 1");
+  EXPECT_EQ(watcher.Changes, 1);
+  Store("Button1", Event::OnKeyDown, "a = 2");
+  EXPECT_EQ(watcher.Changes, 1);
+  Store("Button1", Event::OnKeyDown, "");
+  EXPECT_EQ(watcher.Changes, 1);
+  Store("Button1", Event::OnClick, "");
+  EXPECT_EQ(watcher.Changes, 2);
+}
+
 TEST_F(EventsBarTest, TheFirstCodeOfAnObjectAddsOneButtonAndASecondEventNone) {
   Store("Button1", Event::OnClick, "a = 1");
   Store("Button1", Event::OnKeyDown, "a = 2");

@@ -373,6 +373,16 @@ TEST_F(RunCommandTest, StopIsOnWhileAProgramRuns) {
   EXPECT_FALSE(main.Commands().State(Command::Stop).Enabled);
 }
 
+TEST_F(RunCommandTest, OnlyAStartThatSucceedsChangesTheCommands) {
+  const int before = view.CommandChanges;
+  runner.Succeeds = false;
+  EXPECT_FALSE(main.Runner().Start("", {}));
+  EXPECT_EQ(view.CommandChanges, before);
+  runner.Succeeds = true;
+  EXPECT_TRUE(main.Runner().Start("", {}));
+  EXPECT_EQ(view.CommandChanges, before + 1);
+}
+
 TEST_F(RunCommandTest, ASecondF5StopsTheProgramAndStartsItAgainAfterItsEnd) {
   Compile();
   runner.Begin();
