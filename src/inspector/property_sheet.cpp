@@ -69,7 +69,6 @@ void PropertySheet::ClearPanelAndCombo() {
   SelName_.clear();
   head_.Clear();
   rows_.Build({}, nullptr);
-  faults_.reset();
   if (view_ != nullptr) view_->RowsChanged();
 }
 
@@ -95,6 +94,7 @@ void PropertySheet::TakeSubject() {
 /// the object away, or show another.
 void PropertySheet::BuildRows() {
   const RowSubject subject = subject_;
+  faults_.reset();
   {
     const std::optional<RowTarget> target = Target();
     rows_.Build(PropertyRowsOf(support_, SelKind_), target ? &*target : nullptr);
@@ -109,7 +109,6 @@ void PropertySheet::BuildRows() {
     ports_.Screen.Yield();
     if (!subject.IsSame(subject_)) return;
   }
-  faults_.reset();
   if (view_ != nullptr) view_->RowsChanged();
 }
 

@@ -21,6 +21,18 @@ TEST_F(FormKeysTest, TheDeleteKeyDeletesUnlessTheFormIsBlocked) {
   EXPECT_EQ(form.UBound(Kind::Button), 0);
 }
 
+TEST_F(FormKeysTest, AKeyWithAMeaningIsTakenAndNoOther) {
+  Place("Button", 10, 10);
+  for (const int key :
+       {keys::kLeft, keys::kUp, keys::kRight, keys::kDown, keys::kTab, keys::kReturn, keys::kF7}) {
+    EXPECT_TRUE(user.Keys().KeyDown(key, 0)) << key;
+  }
+  for (const int key : {keys::kC, keys::kV, keys::kX}) {
+    EXPECT_FALSE(user.Keys().KeyDown(key, 0)) << key;
+    EXPECT_TRUE(user.Keys().KeyDown(key, kCtrlBit)) << key;
+  }
+}
+
 TEST_F(FormKeysTest, F5CompilesAndF8DoesNothing) {
   EXPECT_TRUE(user.Keys().KeyDown(keys::kF5, 0));
   EXPECT_EQ(Log(), Entries{"compile"});

@@ -18,6 +18,15 @@ TEST(SheetState, WithoutASelectedRowThereIsNoHelp) {
   EXPECT_EQ(bench.Sheet.Help(), "");
 }
 
+TEST(SheetState, AnEmptiedPanelHasNoFaults) {
+  SheetBench bench;
+  bench.Make(Kind::Button);
+  bench.Type("Name", "End");
+  ASSERT_NE(bench.Sheet.RowFault(0), "");
+  bench.Sheet.ClearPanelAndCombo();
+  EXPECT_EQ(bench.Sheet.RowFault(0), "");
+}
+
 TEST(SheetState, AnEmptiedPanelHasNoNameNoHeadRowAndTakesNoEdit) {
   SheetBench bench;
   const ControlRef button = bench.Make(Kind::Button);

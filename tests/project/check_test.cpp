@@ -463,6 +463,8 @@ TEST_F(CheckFilesTest, AListedFileWithoutAFormRecordIsFound) {
   const Finding finding = OnlyOfFiles();
   EXPECT_EQ(finding.Id, FindingId::NoFormRecord);
   EXPECT_EQ(finding.Text, "the file holds no form record: C:\\Work\\b.ftn");
+  EXPECT_EQ(finding.Form, 0) << "no form of the project";
+  EXPECT_EQ(finding.Place, "");
   EXPECT_EQ(UnreadForms(project_.Tables, project_.Ports.Files),
             std::vector<std::string>{"C:\\Work\\b.ftn"});
 }

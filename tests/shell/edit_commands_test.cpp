@@ -244,7 +244,7 @@ TEST_F(OtherCommandsTest, OnlyEntriesThatAreOnOrOffHaveACheckMark) {
   for (std::size_t i = 0; i < kCommandCount; ++i) {
     const auto command = static_cast<Command>(i);
     const bool shown = command == Command::Properties || command == Command::Forms ||
-                       command == Command::EventsBar;
+                       command == Command::EventsBar || command == Command::RunWithEither;
     EXPECT_EQ(main.Commands().State(command).Checked, shown) << i;
   }
 }
@@ -275,7 +275,9 @@ TEST_F(OtherCommandsTest, APropertyPanelShownAgainShowsTheSelection) {
   main.Commands().SetPanelShown(Panel::Properties, false);
   Place(0, 10, 10);
   EXPECT_NE(main.Sheet().SelName(), "Form1Btn1");
+  EXPECT_FALSE(main.Sheet().PanelVisible());
   main.Commands().SetPanelShown(Panel::Properties, true);
+  EXPECT_TRUE(main.Sheet().PanelVisible());
   EXPECT_EQ(main.Sheet().SelName(), "Form1Btn1");
   EXPECT_EQ(main.Sheet().SelKind(), "Button");
 }
