@@ -91,7 +91,6 @@ void ShowCopiedRecord(const SourceRecord& source_record, const DesignControl* so
 void ObjectClipboard::Copy(const DesignForm& form) {
   CopySource = form.ControlSel;
   CopyReady = true;
-  CopyKind = form.NameObjet;
   CopyIndex = form.IndexObjet;
   last_pasted_ = nullptr;
 }

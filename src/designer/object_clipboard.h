@@ -14,7 +14,6 @@ namespace tarnwick {
 class ObjectClipboard {
  public:
   ControlRef CopySource;
-  std::string CopyKind;        ///< `NameObjet` at the copy
   std::int16_t CopyIndex = 0;  ///< `IndexObjet` at the copy
   bool CopyReady = false;
 

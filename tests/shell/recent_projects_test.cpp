@@ -43,7 +43,9 @@ TEST_F(RecentProjectsTest, SavedAndOpenedProjectsComeIntoTheList) {
 TEST_F(RecentProjectsTest, AProjectThatHasGoneLeavesTheListWithAWord) {
   Start();
   recent.Add("Z:\\gone.tnp");
+  log().Clear();
   main.Commands().OpenRecent("Z:\\gone.tnp");
+  EXPECT_EQ(log().Count("view recent"), 1U) << "the menu loses its row";
   EXPECT_EQ(view.Status, "Not opened: Z:\\gone.tnp: there is no such file");
   EXPECT_TRUE(recent.List().empty());
 }
