@@ -219,6 +219,14 @@ TEST(ProjectWriter, WritingAFormPutsItsTextIntoItsFileAndLetsTheWindowsRepaint) 
   EXPECT_GE(project.Ports.Screen.Yields, 1);
 }
 
+TEST(ProjectWriter, AFormWhoseWindowIsMissingIsNeverAnEmptyFile) {
+  FakeProject project;
+  AddForms(project, 1);
+  project.Tables.FormsUser[1].reset();
+  EXPECT_TRUE(WriteFormFile(project.Context, 1));
+  EXPECT_EQ(project.Ports.Files.Bytes("C:\\Work\\f1.ftn")->substr(0, 6), "[Form]");
+}
+
 TEST(ProjectWriter, ACaptionWithACommaComesBackAsItWas) {
   FakeProject project;
   AddForms(project, 1);
