@@ -215,17 +215,15 @@ bool RunCommand::GoToLine(int source_line) {
 }
 
 void RunCommand::ShowCodeByKey(const project::ProgramPlace& place) {
-  std::string owner = "Form";
-  AppendNumber(owner, std::int64_t{place.Form});
-  if (place.Id != Kind::Form) owner.append(".").append(place.Owner);
+  std::string key = project::CodeKey(place);
+  const std::string_view owner = std::string_view(key).substr(0, key.rfind('.'));
   // Nothing can be selected while the editor is open: of what is selected the event is enough,
   // and for all else the whole key says what is meant.
   const DesignForm* const current = state_.Tables.CurrentForm;
   const bool selected =
       current != nullptr &&
       EqualsFolded(editor::KeyPrefixOf(editor::TargetOfSelection(*current)), owner);
-  state_.Tables.JumpKey =
-      selected ? std::string(InfoOf(place.Of).Name) : owner.append(InfoOf(place.Of).Suffix);
+  state_.Tables.JumpKey = selected ? std::string(InfoOf(place.Of).Name) : std::move(key);
   state_.Busy = true;
   state_.Code->OpenCode();
   state_.Busy = false;
