@@ -202,7 +202,7 @@ void RandomUser::EditCode() {
         objects[static_cast<std::size_t>(Below(static_cast<int>(objects.size())))]);
   }
   CodeHost host(main_);
-  editor::CodeDrafts drafts;
+  editor::CodeDrafts drafts(main_.Tables());
   editor::FormCodigo window(main_.Tables(), main_.Support(), main_.SettingsFile(), code_text_, host,
                             drafts);
   window.Open();
