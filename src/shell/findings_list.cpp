@@ -68,7 +68,6 @@ void FindingsList::ProjectSaved() {
 
 void FindingsList::ProjectReplaced() {
   if (state_.IsShown(Panel::Findings)) return Check();
-  on_files_.clear();
   Take({});
 }
 
