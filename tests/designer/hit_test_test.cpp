@@ -33,6 +33,16 @@ TEST_F(HitTesting, VisibleHandlesLieOnTopOfAll) {
   EXPECT_EQ(hit.Object, button);
 }
 
+TEST_F(HitTesting, PaintedAreTheVisibleObjectsAndNothingElse) {
+  const ControlRef button = Place("Button", 100, 100);
+  const ControlRef label = Place("Label", 200, 200);
+  const ControlRef hidden = Place("Button", 10, 10);
+  hidden->Visible = false;
+  const ControlRef title = form.Load(Kind::Menu);
+  title->Visible = true;
+  EXPECT_EQ(PaintOrder(form), (std::vector<ControlRef>{label, button}));
+}
+
 TEST_F(HitTesting, ThePlacingPressLooksInTheOrderOfCreation) {
   const ControlRef first = Place("Label", 100, 100);
   const ControlRef second = Place("Button", 200, 200);
