@@ -67,6 +67,16 @@ TEST(ObjectComboRows, NamesCompareWhole) {
   EXPECT_EQ(ComboRowName("Ok(1)   (Button)"), "Ok(1)");
 }
 
+TEST(ObjectComboRows, AFilledListIsThereToBeChosenFrom) {
+  SheetBench bench;
+  const ControlRef button = bench.Make(Kind::Button);
+  bench.Make(Kind::Label);
+  bench.Sheet.FillCombo();
+  ASSERT_EQ(bench.Sheet.Combo().Rows().size(), 3U) << "filled anew, not twice";
+  bench.Sheet.ChooseComboRow(1);
+  EXPECT_EQ(bench.Form().ControlSel, button);
+}
+
 TEST(ObjectComboRows, ChoosingARowSelectsAsAPressDoes) {
   SheetBench bench;
   bench.Make(Kind::Image);
