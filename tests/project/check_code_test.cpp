@@ -60,9 +60,10 @@ TEST_F(CheckCodeTest, AFaultOfTheFormsOwnCodeNamesItsEvent) {
 }
 
 TEST_F(CheckCodeTest, AnItemOfAPopUpIsKnownByItsName) {
-  const Finding finding = Only(std::string(kForm) +
-                               "[Sub]{ppCopy} Click<F.Captoin = 1>Click\r\n"
-                               "[PopUpMenu] (1) {Pop} Items<&Copy\x8DppCopy\x8E>Items\r\n");
+  const Finding finding =
+      Only(std::string(kForm) +
+           "[Sub]{ppCopy} Click<F.Captoin = 1>Click\r\n"
+           "[PopUpMenu] (1) {Pop} Items<&Copy\x8DppCopy\x8E>Items Click<>Click\r\n");
   ASSERT_TRUE(finding.In);
   EXPECT_EQ(CodeKey(*finding.In), "Form1.ppCopy.OnClick");
   EXPECT_EQ(finding.Of, Kind::Form) << "its code goes by its name alone";
