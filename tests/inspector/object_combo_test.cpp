@@ -141,6 +141,14 @@ TEST(ObjectComboRows, ADeletedObjectsRowGoesAndTheViewIsTold) {
   EXPECT_EQ(bench.View.Combos, told + 1);
 }
 
+TEST(ObjectComboRows, WithTheRowOfTheSelectionNoneIsSelected) {
+  SheetBench bench;
+  const ControlRef button = bench.Make(Kind::Button);
+  ASSERT_EQ(bench.Sheet.Combo().Selected(), 1);
+  bench.Sheet.RemoveComboRow(*button);
+  EXPECT_EQ(bench.Sheet.Combo().Selected(), -1);
+}
+
 TEST(ObjectComboRows, OfTwoObjectsWithOneNameTheDeletedOnesRowGoes) {
   SheetBench bench;
   bench.Make(Kind::Button)->Tag = "Ok";

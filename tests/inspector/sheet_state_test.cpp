@@ -18,13 +18,14 @@ TEST(SheetState, WithoutASelectedRowThereIsNoHelp) {
   EXPECT_EQ(bench.Sheet.Help(), "");
 }
 
-TEST(SheetState, AnEmptiedPanelHasNoFaults) {
+TEST(SheetState, RowsOfAKindThatIsNotSelectedTakeNoEdit) {
   SheetBench bench;
   bench.Make(Kind::Button);
-  bench.Type("Name", "End");
-  ASSERT_NE(bench.Sheet.RowFault(0), "");
-  bench.Sheet.ClearPanelAndCombo();
-  EXPECT_EQ(bench.Sheet.RowFault(0), "");
+  const ControlRef label = bench.Make(Kind::Label);
+  bench.Sheet.ShowProperties("Button1", "Form1Btn1");
+  bench.Sheet.SelectRow(bench.RowOf("Caption"));
+  EXPECT_FALSE(bench.Sheet.ApplyText("late"));
+  EXPECT_EQ(label->Caption, "Form1Label1");
 }
 
 TEST(SheetState, AnEmptiedPanelHasNoNameNoHeadRowAndTakesNoEdit) {

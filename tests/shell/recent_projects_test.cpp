@@ -36,8 +36,10 @@ TEST_F(RecentProjectsTest, SavedAndOpenedProjectsComeIntoTheList) {
   SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
   main.Commands().Run(Command::New);
   EXPECT_EQ(main.Projects().Recent(), std::vector<std::string>{"Z:\\p\\a.tnp"});
+  log().Clear();
   main.Commands().OpenRecent("Z:\\p\\a.tnp");
   EXPECT_EQ(tables().ProjectFile, "Z:\\p\\a.tnp");
+  EXPECT_EQ(log().Count("view recent"), 1U);
 }
 
 TEST_F(RecentProjectsTest, AProjectThatHasGoneLeavesTheListWithAWord) {

@@ -119,6 +119,7 @@ TEST_F(StartUpTest, AllPanelsAreShownButTheFloatingToolBox) {
   EXPECT_TRUE(view.PanelShown[Panel::Forms]);
   EXPECT_TRUE(view.PanelShown[Panel::EventsBar]);
   EXPECT_FALSE(view.PanelShown[Panel::ObjectBar]);
+  EXPECT_EQ(view.PanelShown.size(), kPanelCount) << "each is shown or hidden, and no other";
 }
 
 }  // namespace

@@ -40,8 +40,11 @@ TEST_F(UnsavedWorkTest, RestoredWorkIsAProjectWithItsOldPathsNotSaved) {
   Place(0, 20, 20);
   main.KeepWork();
   Crash();
+  next.AddObserver(observer);
+  log().Clear();
   next.Projects().Restore(next.Projects().UnsavedWork().at(0));
   EXPECT_EQ(log().Count("ask"), 0U);
+  EXPECT_NE(log().Count("told list"), 0U);
   ProjectTables& back = next.Tables();
   EXPECT_EQ(back.ProjectFile, "Z:\\p\\a.tnp");
   EXPECT_EQ(back.Form(1)->FileName, "Z:\\p\\one.ftn");
