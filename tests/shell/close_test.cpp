@@ -56,6 +56,8 @@ TEST_F(CloseTest, ACancelledSaveDialogAfterYesKeepsTheProgramOpen) {
   EXPECT_EQ(log().Count("view unload"), 0U);
   EXPECT_TRUE(main.Commands().State(Command::Save).Enabled);
   EXPECT_EQ(tables().FormsCount, 1);
+  main.Commands().Run(Command::AddNewForm);
+  EXPECT_EQ(tables().FormsCount, 2) << "commands run again";
 }
 
 TEST_F(CloseTest, ACancelledFormDialogAfterYesKeepsItOpenToo) {

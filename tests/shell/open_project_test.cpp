@@ -164,6 +164,7 @@ TEST_F(OpenProjectTest, AMissingFormFileIsNamedAndTheRestIsRead) {
   EXPECT_EQ(tables().FormsCount, 1);
   EXPECT_EQ(tables().MainFormName, "Form1 ()");
   ASSERT_NE(tables().CurrentForm, nullptr);
+  EXPECT_EQ(log().Count("told opened 1"), 1U) << "its window stands";
 }
 
 TEST_F(OpenProjectTest, TheIconDisplayShowsTheIconOfFormOne) {

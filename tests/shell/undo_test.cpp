@@ -48,6 +48,15 @@ TEST_F(Undo, TheEntriesOfTheEditMenuNameTheStep) {
   EXPECT_EQ(tables().User(1)->UBound(Kind::Button), 1);
 }
 
+TEST_F(Undo, WhatIsTypedInTheGridIsTakenFirst) {
+  Place(0, 10, 10);
+  for (const Command command : {Command::Undo, Command::Redo}) {
+    log().Clear();
+    main.Commands().Run(command);
+    EXPECT_EQ(log().Count("view commit"), 1U);
+  }
+}
+
 TEST_F(Undo, WhileTheCodeIsOpenNothingIsTakenBack) {
   Place(0, 10, 10);
   windows.CodeOpen = true;

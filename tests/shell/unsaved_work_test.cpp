@@ -32,6 +32,9 @@ TEST_F(UnsavedWorkTest, ACrashedRunIsOfferedAtTheNextStartWithProjectDateAndForm
   EXPECT_EQ(offers[0].Project.When.size(), std::string_view("2026-03-01 14:05:09").size());
   ASSERT_EQ(offers[0].Project.Forms.size(), 1U);
   EXPECT_EQ(offers[0].Project.Forms[0].Name, "Form1");
+  // The offer is no command that goes on.
+  next.Commands().Run(Command::AddNewForm);
+  EXPECT_EQ(next.Tables().FormsCount, 2);
 }
 
 TEST_F(UnsavedWorkTest, RestoredWorkIsAProjectWithItsOldPathsNotSaved) {

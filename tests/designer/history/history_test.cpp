@@ -68,6 +68,17 @@ TEST_F(HistoryTest, PlacingAndDraggingAtOnceIsOneStep) {
   EXPECT_EQ(form.Element(Kind::Button, 1)->Left, Twips(90));
 }
 
+TEST_F(HistoryTest, ADragBehindOneThatWasEndedIsAStepOfItsOwn) {
+  const ControlRef button = Place("Button", 20, 20);
+  PressOn(button);
+  gestures.DragEnd();
+  ExpectStep("Move Form1Btn1", [&] {
+    PressOn(button);
+    MoveTo(90, 90);
+    gestures.MouseUp();
+  });
+}
+
 TEST_F(HistoryTest, EveryKindComesBackWithItsRecordEntriesAndNumbers) {
   for (const std::string_view kind :
        {"Button", "Label", "Image", "CheckBox", "OptionButton", "TextBox", "RichTextBox", "ListBox",
