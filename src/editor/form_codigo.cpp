@@ -97,7 +97,8 @@ void FormCodigo::LoadNamedItem(const EventKey& key) {
 }
 
 std::string FormCodigo::WantedEvent() {
-  if (!project_.JumpKey.empty()) return "." + std::exchange(project_.JumpKey, {});
+  if (!project_.JumpKey.empty())
+    return std::string(".").append(std::exchange(project_.JumpKey, {}));
   if (target_.What == CodeTarget::Sort::MenuItem) return {};
   return settings_.ReadEventIndex(kEventsSection, KeyPrefixOf(target_));
 }

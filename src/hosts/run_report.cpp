@@ -117,7 +117,9 @@ RunExit RunReport::SayResult(const basic::RunResult& result) const {
 
 void RunReport::Signal(std::string_view word, std::string_view text) const {
   if (form_ != ReportForm::Tab) return;
-  Write(std::string(word) + (text.empty() ? "" : "\t" + OneField(text)) + "\n");
+  std::string line(word);
+  if (!text.empty()) line.append("\t").append(OneField(text));
+  Write(line.append("\n"));
 }
 
 void RunReport::Show(basic::SourcePlace at) const {

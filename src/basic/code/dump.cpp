@@ -62,7 +62,7 @@ std::string OperandText(char letter, std::uint16_t value) {
     case 'v':
       return " variable" + number;
     case 'l':
-      return " " + std::string(FunctionOf(static_cast<FunctionId>(value)).Name);
+      return std::string(" ").append(FunctionOf(static_cast<FunctionId>(value)).Name);
     case 'n':
       return " " + number;
     default:

@@ -122,7 +122,7 @@ std::string GeneralText(const Decimal& decimal, int precision, int least) {
   }
   std::string text = decimal.Negative ? "-" : "";
   text += decimal.Digits[0];
-  if (decimal.Digits.size() > 1) text += "." + decimal.Digits.substr(1);
+  if (decimal.Digits.size() > 1) text.append(".").append(decimal.Digits, 1);
   const int exponent = decimal.Point - 1;
   return text + (exponent < 0 ? "E-" : "E") + ExponentDigits(exponent, least);
 }

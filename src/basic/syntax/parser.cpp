@@ -258,7 +258,7 @@ void Parser::EndOfStatement() {
   } else if (token.Kind == SourceTokenKind::Text) {
     Error(token.At, "A text is not expected here");
   } else {
-    Error(token.At, "\"" + std::string(token.Text) + "\" is not expected here");
+    Error(token.At, std::string("\"").append(token.Text).append("\" is not expected here"));
   }
   SkipLine();
 }

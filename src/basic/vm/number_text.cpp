@@ -76,7 +76,7 @@ std::string NumberText(double number) {
   const int exponent = digits.Exponent;
   if (exponent > kLargestPlainExponent || exponent < kSmallestPlainExponent) {
     text += digits.All[0];
-    if (digits.All.size() > 1) text += "." + digits.All.substr(1);
+    if (digits.All.size() > 1) text.append(".").append(digits.All, 1);
     return text + "E" + std::to_string(exponent);
   }
   if (exponent < 0) {
