@@ -82,7 +82,9 @@ void DrawButtonFace(QPainter& painter, FormTexts& texts, const QRect& rect, cons
     DrawFrame(painter, rect, kDarkShadow, kDarkShadow);
     face.adjust(1, 1, -1, -1);
   }
-  if (button.Down) {
+  if (button.Flat && !button.Down) {
+    painter.fillRect(face, button.Face);
+  } else if (button.Down) {
     painter.fillRect(face, button.Face);
     DrawFrame(painter, face, kDarkShadow, kLight);
     DrawFrame(painter, face.adjusted(1, 1, -1, -1), kShadow, kInnerLight);
@@ -119,20 +121,43 @@ void DrawLabelFace(QPainter& painter, FormTexts& texts, const QRect& rect, const
                face.Wraps ? TextFlow::Wrapped : TextFlow::Line);
 }
 
-QPoint MarkPlace(const QRect& rect) {
-  return {rect.x(), rect.y() + (rect.height() - kMarkSize) / 2};
+QPoint MarkPlace(const QRect& rect, bool text_left) {
+  const int left = text_left ? rect.right() + 1 - kMarkSize : rect.x();
+  return {left, rect.y() + (rect.height() - kMarkSize) / 2};
 }
 
 void DrawMarkFace(QPainter& painter, FormTexts& texts, const QRect& rect, const FaceText& caption,
-                  bool option, bool checked, const QColor& ground) {
+                  bool option, bool checked, const QColor& ground, bool text_left) {
   painter.fillRect(rect, ground);
   if (option) {
-    DrawOption(painter, MarkPlace(rect), checked, caption.Enabled);
+    DrawOption(painter, MarkPlace(rect, text_left), checked, caption.Enabled);
   } else {
-    DrawCheckBox(painter, MarkPlace(rect), checked, caption.Enabled);
+    DrawCheckBox(painter, MarkPlace(rect, text_left), checked, caption.Enabled);
   }
-  DrawFaceText(painter, texts, rect.adjusted(kMarkSize + kMarkGap, 0, 0, 0), caption,
-               Qt::AlignVCenter, TextFlow::Line);
+  constexpr int kRoom = kMarkSize + kMarkGap;
+  DrawFaceText(painter, texts, rect.adjusted(text_left ? 0 : kRoom, 0, text_left ? -kRoom : 0, 0),
+               caption, Qt::AlignVCenter, TextFlow::Line);
+}
+
+void DrawOvalFace(QPainter& painter, FormTexts& texts, const QRect& rect, const FaceText& caption,
+                  const ButtonFace& face) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF oval = QRectF(rect).adjusted(1, 1, -1, -1);
+  painter.setBrush(face.Face);
+  painter.setPen(Qt::NoPen);
+  painter.drawEllipse(oval);
+  // Light from the upper left: two halves of the edge.
+  constexpr int kQuarter = 45 * 16;
+  constexpr int kHalf = 180 * 16;
+  painter.setPen(QPen(face.Down ? kDarkShadow : kLight, 2));
+  painter.drawArc(oval, kQuarter, kHalf);
+  painter.setPen(QPen(face.Down ? kLight : kDarkShadow, 2));
+  painter.drawArc(oval, kQuarter + kHalf, kHalf);
+  painter.restore();
+  QRect inside = rect.adjusted(4, 4, -4, -4);
+  if (face.Down) inside.translate(1, 1);
+  DrawFaceText(painter, texts, inside, caption, Qt::AlignCenter, TextFlow::Line);
 }
 
 void DrawField(QPainter& painter, const QRect& rect, FieldEdge edge, const QColor& paper) {

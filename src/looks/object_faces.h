@@ -39,6 +39,7 @@ struct ButtonFace {
   int Spacing = 4;  ///< pixels between picture and caption
   bool Default = false;
   bool Down = false;
+  bool Flat = false;  ///< without an edge
   QColor Face{0xC0, 0xC0, 0xC0};
 };
 
@@ -60,10 +61,14 @@ void DrawButtonFace(QPainter& painter, FormTexts& texts, const QRect& rect, cons
                               bool wraps, int width);
 void DrawLabelFace(QPainter& painter, FormTexts& texts, const QRect& rect, const FaceText& caption,
                    const LabelFace& face);
-/// Where the box of a check box or the mark of an option button is.
-[[nodiscard]] QPoint MarkPlace(const QRect& rect);
+/// Where the box of a check box or the mark of an option button is: left of its text, or right.
+[[nodiscard]] QPoint MarkPlace(const QRect& rect, bool text_left = false);
 void DrawMarkFace(QPainter& painter, FormTexts& texts, const QRect& rect, const FaceText& caption,
-                  bool option, bool checked, const QColor& ground = QColor(0xC0, 0xC0, 0xC0));
+                  bool option, bool checked, const QColor& ground = QColor(0xC0, 0xC0, 0xC0),
+                  bool text_left = false);
+/// A button that is as round as its rectangle allows.
+void DrawOvalFace(QPainter& painter, FormTexts& texts, const QRect& rect, const FaceText& caption,
+                  const ButtonFace& face);
 /// A field without its text.
 void DrawField(QPainter& painter, const QRect& rect, FieldEdge edge, const QColor& paper);
 /// The button of a drop-down list within the list's rectangle.

@@ -50,6 +50,7 @@ using BehaviourRows = std::span<const BehaviourRow>;
 [[nodiscard]] BehaviourRows StreamDataBehaviour();
 [[nodiscard]] BehaviourRows SystemBehaviour();
 [[nodiscard]] BehaviourRows GridBehaviour();
+[[nodiscard]] BehaviourRows PageBehaviour();
 
 // --- Functions that several groups use
 

@@ -9,7 +9,7 @@ namespace {
 constexpr std::array kGroups = {
     FormBehaviour,       ButtonBehaviour, ListBehaviour,    MenuBehaviour,   TextBehaviour,
     LabelBehaviour,      FontBehaviour,   PictureBehaviour, DialogBehaviour, StreamBehaviour,
-    StreamDataBehaviour, SystemBehaviour, GridBehaviour};
+    StreamDataBehaviour, SystemBehaviour, GridBehaviour,    PageBehaviour};
 
 using ClassBehaviour = std::vector<Behaviour>;  ///< by member
 

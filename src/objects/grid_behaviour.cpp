@@ -1,5 +1,6 @@
-// Grids of texts, and panels of status bars.
+// Grids of texts, and the panels of status bars.
 #include <algorithm>
+#include <utility>
 
 #include "objects/behaviour.h"
 
@@ -108,21 +109,75 @@ bool ChangeRows(ObjectWorld& world, ObjectRecord& grid, const MemberInfo& method
   return true;
 }
 
+/// A cell that is picked by the program lies within the grid.
+bool SetPicked(ObjectWorld& world, ObjectRecord& grid, const MemberInfo& member,
+               std::span<const Value>, const Value& in) {
+  const std::int64_t count =
+      grid.Number(member.Name == Word::Row ? Word::RowCount : Word::ColCount);
+  const std::int64_t index = std::clamp<std::int64_t>(in.AsInteger(), 0, count - 1);
+  world.Change(grid, member, Value::Integer(index), Origin::Code);
+  return true;
+}
+
+bool ChangeOptions(ObjectWorld& world, ObjectRecord& grid, const MemberInfo& method,
+                   std::span<Value> arguments, Value&) {
+  constexpr std::int64_t kMost = 31;
+  std::uint32_t& options = grid.As<GridCells>()->Options;
+  for (const Value& argument : arguments) {
+    const std::int64_t option = argument.AsInteger();
+    if (option < 0 || option > kMost) continue;
+    const std::uint32_t bit = std::uint32_t{1} << static_cast<unsigned>(option);
+    options = method.Name == Word::AddOptions ? options | bit : options & ~bit;
+  }
+  ShowCells(world, grid);
+  return true;
+}
+
 // --- Status bars
+
+void ShowPanels(ObjectWorld& world, const ObjectRecord& bar) {
+  world.ShowItems(bar, {ItemsChange::Kind::All, 0, bar.As<Panels>()->All.size()});
+}
 
 bool AddPanels(ObjectWorld& world, ObjectRecord& bar, const MemberInfo&, std::span<Value> arguments,
                Value&) {
-  Panels& panels = *bar.As<Panels>();
-  for (const Value& argument : arguments) panels.All.push_back({argument.AsText(), 0});
-  world.ShowItems(bar, {ItemsChange::Kind::All, 0, panels.All.size()});
+  for (const Value& argument : arguments) {
+    const std::size_t index = bar.As<Panels>()->All.size();
+    const ObjectId made = world.Create(static_cast<basic::ClassId>(ObjectClass::QStatusPanel),
+                                       bar.FullName() + ".Panel", static_cast<int>(index));
+    ObjectRecord& panel = *world.Find(made);
+    panel.Put(Word::Caption, Value::Text(argument.AsText()));
+    panel.Parent = bar.Id;
+    bar.Children.push_back(made);
+    bar.As<Panels>()->All.push_back(made);
+  }
+  ShowPanels(world, bar);
   return true;
 }
 
 bool ClearPanels(ObjectWorld& world, ObjectRecord& bar, const MemberInfo&, std::span<Value>,
                  Value&) {
-  bar.As<Panels>()->All.clear();
-  world.ShowItems(bar, {ItemsChange::Kind::All, 0, 0});
+  const std::vector<ObjectId> going = std::exchange(bar.As<Panels>()->All, {});
+  for (const ObjectId id : going) world.Free(id);
+  ShowPanels(world, bar);
   return true;
+}
+
+bool GetPanel(ObjectWorld& world, ObjectRecord& bar, const MemberInfo&,
+              std::span<const Value> index, Value& out) {
+  const std::vector<ObjectId>& panels = bar.As<Panels>()->All;
+  const std::int64_t number = index[0].AsInteger();
+  if (number < 0 || number >= static_cast<std::int64_t>(panels.size())) {
+    return world.Fail(bar.FullName() + " has no panel " + std::to_string(number) + ": it has " +
+                      std::to_string(panels.size()) + ", counted from 0");
+  }
+  out = Value::Object(panels[static_cast<std::size_t>(number)]);
+  return true;
+}
+
+void PanelChanged(ObjectWorld& world, ObjectRecord& panel, const MemberInfo&, Origin) {
+  const ObjectRecord* const bar = world.Find(panel.Parent);
+  if (bar != nullptr && bar->As<Panels>() != nullptr) ShowPanels(world, *bar);
 }
 
 bool CountPanels(ObjectWorld&, ObjectRecord& bar, const MemberInfo&, std::span<const Value>,
@@ -145,6 +200,15 @@ constexpr BehaviourRow kRows[] = {
     {QStatusBar, Word::AddPanels, {.Call = AddPanels}},
     {QStatusBar, Word::Clear, {.Call = ClearPanels}},
     {QStatusBar, Word::PanelCount, {.Get = CountPanels}},
+    {QStatusBar, Word::Panel, {.Get = GetPanel}},
+    {QStatusPanel, Word::Caption, {.Changed = PanelChanged}},
+    {QStatusPanel, Word::Width, {.Changed = PanelChanged}},
+    {QStringGrid, Word::AddOptions, {.Call = ChangeOptions}},
+    {QStringGrid, Word::DelOptions, {.Call = ChangeOptions}},
+    {QStringGrid, Word::TopRow, {.Get = LiveValue}},
+    {QStringGrid, Word::LeftCol, {.Get = LiveValue}},
+    {QStringGrid, Word::Row, {.Set = SetPicked}},
+    {QStringGrid, Word::Col, {.Set = SetPicked}},
 };
 
 }  // namespace

@@ -291,6 +291,8 @@ constexpr BehaviourRow kRows[] = {
     {QComboBox, Word::Text, {.Changed = ComboTyped}},
     {QTabControl, Word::TabIndex, {.Set = SetIndex, .Changed = TabPicked}},
     {QListBox, Word::Selected, {.Get = GetSelected, .Set = SetSelected}},
+    {QListBox, Word::TopIndex, {.Get = LiveValue}},
+    {QListBox, Word::ItemHeight, {.Get = LiveValue}},
     {QListBox, Word::SelCount, {.Get = CountSelected}},
     {QStringList, Word::Text, {.Get = GetText, .Set = SetText}},
     {QStringList, Word::Sort, {.Call = Sort}},

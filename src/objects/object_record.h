@@ -58,15 +58,12 @@ struct GridCells {
   std::map<std::uint32_t, std::string> Texts;
   std::map<int, int> ColumnWidths;
   std::map<int, int> RowHeights;
+  std::uint32_t Options = 31;  ///< bit n: option n; lines and a range of cells at first
 };
 
-/// Texts of the panels of a status bar with their widths (0: not set).
+/// The panels of a status bar, objects of their own, from the left.
 struct Panels {
-  struct Panel {
-    std::string Caption;
-    int Width = 0;
-  };
-  std::vector<Panel> All;
+  std::vector<ObjectId> All;
 };
 
 /// What a form keeps besides its properties.

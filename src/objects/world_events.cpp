@@ -20,9 +20,22 @@ void SwitchOn(ObjectWorld& world, ObjectRecord& object) {
   world.Change(object, Word::Checked, Value::Integer(1), Origin::User);
 }
 
-/// Boxes whose OnClick follows from the change of Checked.
+/// A flat button of a group stays down; when all may be up a second click lets it go.
+void Press(ObjectWorld& world, ObjectRecord& button) {
+  const ObjectId id = button.Id;
+  if (button.Number(Word::GroupIndex) != 0) {
+    const bool up = button.Truth(Word::Down) && button.Truth(Word::AllowAllUp);
+    if (world.Change(button, Word::Down, Value::Integer(up ? 0 : 1), Origin::User)) {
+      world.Show(*world.Find(id), Word::Down);
+    }
+  }
+  world.Raise(id, Word::OnClick);
+}
+
+/// Boxes whose OnClick follows from the change of Checked, and buttons that stay down.
 constexpr ClickRow kClickRows[] = {{ObjectClass::QCheckBox, Toggle},
-                                   {ObjectClass::QRadioButton, SwitchOn}};
+                                   {ObjectClass::QRadioButton, SwitchOn},
+                                   {ObjectClass::QCoolBtn, Press}};
 
 }  // namespace
 

@@ -13,8 +13,9 @@ namespace {
 constexpr int kLargestSide = 16'384;
 
 /// The classes that have a surface of their own.
-constexpr ObjectClass kDrawn[] = {ObjectClass::QForm, ObjectClass::QImage, ObjectClass::QCanvas,
-                                  ObjectClass::QBitmap};
+constexpr ObjectClass kDrawn[] = {ObjectClass::QForm,    ObjectClass::QImage,
+                                  ObjectClass::QCanvas,  ObjectClass::QBitmap,
+                                  ObjectClass::QListBox, ObjectClass::QStringGrid};
 /// The properties that assign a picture.
 constexpr Word kPictures[] = {Word::Bmp, Word::BMPHandle, Word::Icon, Word::IcoHandle};
 

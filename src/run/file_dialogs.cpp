@@ -2,10 +2,12 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFontDialog>
 #include <algorithm>
 
 #include "looks/text_bridge.h"
 #include "platform/native_path.h"
+#include "run/stage.h"
 #include "text/path_text.h"
 
 namespace tarnwick::run {
@@ -82,6 +84,36 @@ objects::PickedNames PickFilesByDialog(const ObjectRecord& dialog, QWidget* pare
   }
   picked.FilterIndex = filters.indexOf(shown.selectedNameFilter()) + 1;
   return picked;
+}
+
+bool PickFontByDialog(Stage& stage, const ObjectRecord& dialog, QWidget* parent) {
+  constexpr int kPointsPerInch = 72;
+  constexpr int kPixelsPerInch = 96;
+  QFontDialog shown(stage.FontOf(dialog).Font, parent);
+  shown.setOption(QFontDialog::DontUseNativeDialog);
+  shown.setObjectName(looks::ToQString(dialog.FullName()));
+  const QString caption = looks::ToQString(dialog.Text(Word::Caption));
+  if (!caption.isEmpty()) shown.setWindowTitle(caption);
+  const ObjectId font = dialog.Object(Word::Font);
+  if (shown.exec() != QDialog::Accepted) return false;
+  objects::ObjectWorld& world = stage.World();
+  objects::ObjectRecord* const kept = world.Find(font);
+  if (kept == nullptr) return false;
+  const QFont picked = shown.selectedFont();
+  const int points =
+      picked.pointSize() > 0
+          ? picked.pointSize()
+          : (picked.pixelSize() * kPointsPerInch + kPixelsPerInch / 2) / kPixelsPerInch;
+  const auto put = [&](Word property, const Value& value) {
+    world.Change(*kept, property, value, objects::Origin::Code);
+  };
+  put(Word::Name, Value::Text(looks::FromQString(picked.family())));
+  put(Word::Size, Value::Integer(points));
+  put(Word::Bold, Value::Integer(picked.bold() ? 1 : 0));
+  put(Word::Italic, Value::Integer(picked.italic() ? 1 : 0));
+  put(Word::Underline, Value::Integer(picked.underline() ? 1 : 0));
+  put(Word::StrikeOut, Value::Integer(picked.strikeOut() ? 1 : 0));
+  return true;
 }
 
 }  // namespace tarnwick::run

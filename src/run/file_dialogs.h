@@ -1,4 +1,4 @@
-// Dialogs in which the user picks files.
+// Dialogs in which the user picks files or a font.
 #pragma once
 
 #include <QStringList>
@@ -14,5 +14,9 @@ namespace tarnwick::run {
 /// Shows the dialog of a QOPENDIALOG or QSAVEDIALOG and returns the Windows paths picked, none when
 /// the user gave up, and the filter chosen.
 [[nodiscard]] objects::PickedNames PickFilesByDialog(const ObjectRecord& dialog, QWidget* parent);
+
+/// Shows the dialog of a QFONTDIALOG and stores the font that was picked in its Font. False when
+/// the user gave up.
+[[nodiscard]] bool PickFontByDialog(Stage& stage, const ObjectRecord& dialog, QWidget* parent);
 
 }  // namespace tarnwick::run

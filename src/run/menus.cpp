@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QIcon>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
@@ -13,6 +14,7 @@
 #include "looks/frame_metrics.h"
 #include "looks/menu_look.h"
 #include "looks/text_bridge.h"
+#include "run/drawing_surfaces.h"
 #include "run/stage.h"
 
 namespace tarnwick::run {
@@ -145,6 +147,8 @@ QAction* AddRow(Stage& stage, QMenu& menu, const ObjectRecord& row, int depth) {
   }
   action->setText(looks::ToQString(row.Text(Word::Caption)));
   action->setObjectName(looks::ToQString(row.FullName()));
+  const QPixmap& picture = stage.Surfaces().PictureOf(row);
+  if (!picture.isNull()) action->setIcon(QIcon(picture));
   action->setEnabled(row.Truth(Word::Enabled));
   action->setCheckable(row.Truth(Word::Checked));
   action->setChecked(row.Truth(Word::Checked));

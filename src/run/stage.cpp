@@ -157,11 +157,14 @@ void Stage::RunReports() {
 
 bool Stage::PumpEvents(int wait_ms) {
   if (depth_ == 0) {
+    // Reports may be those of views whose objects are gone by now.
+    ++depth_;
+    if (!reports_.empty()) RunReports();
+    --depth_;
     // No event is being handled: what the views of freed objects held can go.
     for (ObjectView* const view : retired_) delete view;
     retired_.clear();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    if (!reports_.empty()) RunReports();
   }
   RebuildMenus();
   ++depth_;

@@ -74,6 +74,12 @@ class Stage final : public objects::WidgetPort {
   [[nodiscard]] bool Ending() const { return world_ == nullptr || world_->Ending(); }
   /// Opens a popup menu at a position of the screen. Nothing when there is no such menu.
   void Popup(ObjectId menu, const QPoint& at);
+  /// Runs a dialog of the toolkit, which handles events until it is closed.
+  void Within(const std::function<void()>& dialog) {
+    ++depth_;
+    dialog();
+    --depth_;
+  }
   /// The form's window got a menu bar or lost it.
   void ShowMenus() { RebuildMenus(); }
   /// Forms that wait for the user, the innermost last.

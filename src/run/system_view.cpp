@@ -9,8 +9,10 @@
 #include <QScreen>
 #include <QToolTip>
 
+#include "looks/platform_colors.h"
 #include "looks/text_bridge.h"
 #include "run/drawing_surfaces.h"
+#include "run/file_dialogs.h"
 #include "run/stage.h"
 #include "run/widget_view.h"
 
@@ -85,6 +87,13 @@ void ShowApplicationIcon(Stage& stage, const ObjectRecord& application) {
   if (!picture.isNull()) QApplication::setWindowIcon(QIcon(picture));
 }
 
+void ShowHintColor(Stage& /*stage*/, const ObjectRecord& application) {
+  QPalette palette = QToolTip::palette();
+  palette.setColor(QPalette::ToolTipBase,
+                   looks::ColorOf(static_cast<std::int32_t>(application.Number(Word::HintColor))));
+  QToolTip::setPalette(palette);
+}
+
 void ShowTitle(Stage& /*stage*/, const ObjectRecord& application) {
   QGuiApplication::setApplicationDisplayName(looks::ToQString(application.Text(Word::Title)));
 }
@@ -104,6 +113,7 @@ constexpr ApplyRow kApply[] = {
     {ObjectClass::Application, Word::Icon, ShowApplicationIcon},
     {ObjectClass::Application, Word::IcoHandle, ShowApplicationIcon},
     {ObjectClass::Application, Word::Title, ShowTitle},
+    {ObjectClass::Application, Word::HintColor, ShowHintColor},
     {ObjectClass::Clipboard, Word::Text, ShowClipboard},
 };
 
@@ -161,6 +171,12 @@ bool InvokeSystem(Stage& stage, const ObjectRecord& object, Word method, std::sp
   if (object.Is(ObjectClass::QPopupMenu) && method == Word::Popup && arguments.size() == 2) {
     stage.Popup(object.Id, QPoint(static_cast<int>(arguments[0].AsInteger()),
                                   static_cast<int>(arguments[1].AsInteger())));
+    return true;
+  }
+  if (object.Is(ObjectClass::QFontDialog) && method == Word::Execute) {
+    bool picked = false;
+    stage.Within([&] { picked = PickFontByDialog(stage, object, QApplication::activeWindow()); });
+    result = Value::Integer(picked ? 1 : 0);
     return true;
   }
   for (const InvokeRow& row : kInvoke) {

@@ -38,9 +38,17 @@ void WidgetEvents::Watch(QWidget& keys, QWidget& mouse) {
   mouse.setAttribute(Qt::WA_NoMousePropagation);
 }
 
+void WidgetEvents::WatchPart(QWidget& part) {
+  part_ = &part;
+  part.installEventFilter(this);
+  part.setMouseTracking(true);
+  part.setContextMenuPolicy(Qt::NoContextMenu);
+}
+
 bool WidgetEvents::eventFilter(QObject* watched, QEvent* event) {
   if (sending_ || stage_.Ending() || stage_.World().Find(object_) == nullptr) return false;
-  if (watched == pointed_ && pointed_->isEnabled() && ByMouse(*event)) return true;
+  const bool pointed = watched == pointed_ || watched == part_;
+  if (pointed && pointed_->isEnabled() && ByMouse(*event)) return true;
   return watched == keys_ && keys_->isEnabled() && ByKey(*keys_, *event);
 }
 
@@ -54,6 +62,10 @@ bool WidgetEvents::ByMouse(QEvent& event) {
       return Moved(static_cast<QMouseEvent&>(event));
     case QEvent::MouseButtonDblClick:
       return DoubleClicked(static_cast<QMouseEvent&>(event));
+    case QEvent::Enter:
+    case QEvent::Leave:
+      ShowHint(event.type() == QEvent::Enter);
+      return false;
     case QEvent::ContextMenu: {
       // With a popup menu of its own the widget's is not shown.
       const ObjectRecord* const object = stage_.World().Find(object_);
@@ -102,7 +114,7 @@ bool WidgetEvents::Released(const QMouseEvent& event) {
   const QPoint at = Within(event);
   const QPoint global = event.globalPosition().toPoint();
   const bool left = event.button() == Qt::LeftButton;
-  const bool click = left && pressed_ && mouse_ == Mouse::Plain && pointed_->rect().contains(at);
+  const bool click = left && pressed_ && mouse_ != Mouse::Own && pointed_->rect().contains(at);
   if (left) pressed_ = false;
   if (click) stage_.Report([this] { stage_.World().Click(object_); });
   stage_.Raise(
@@ -111,6 +123,24 @@ bool WidgetEvents::Released(const QMouseEvent& event) {
        Value::Integer(ShiftBits(event.modifiers(), event.buttons()))});
   if (event.button() == Qt::RightButton) ShowPopup(global);
   return mouse_ == Mouse::Plain;
+}
+
+void WidgetEvents::ShowHint(bool enters) {
+  const ObjectRecord* const object = stage_.World().Find(object_);
+  const std::string hint(enters && object != nullptr ? object->Text(Word::Hint) : "");
+  stage_.Report([&stage = stage_, id = object_, hint] {
+    objects::ObjectWorld& world = stage.World();
+    const ObjectId application =
+        world.BuiltIn(static_cast<basic::ClassId>(ObjectClass::Application));
+    objects::ObjectRecord* const program = world.Find(application);
+    if (program == nullptr || program->Text(Word::Hint) == hint) return;
+    program->Put(Word::Hint, Value::Text(hint));
+    if (!world.Raise(application, Word::OnHint)) return;
+    const ObjectRecord* const over = world.Find(id);
+    const ObjectRecord* const form = over == nullptr ? nullptr : world.FormOf(*over);
+    Value argument = Value::Text(hint);
+    if (form != nullptr) world.Raise(form->Id, Word::OnHint, {&argument, 1});
+  });
 }
 
 bool WidgetEvents::Moved(const QMouseEvent& event) {

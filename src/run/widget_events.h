@@ -17,14 +17,17 @@ class WidgetEvents final : public QObject {
  public:
   /// What the widget does with the mouse by itself.
   enum class Mouse {
-    Own,   ///< it is a control: events go on to it
-    Plain  ///< it has none of its own: a press and release within it is a click
+    Own,        ///< it is a control: events go on to it
+    OwnClicks,  ///< it is a control that reports no clicks: a press and release within it is one
+    Plain       ///< it has none of its own: a press and release within it is a click
   };
   WidgetEvents(Stage& stage, ObjectId object, Mouse mouse)
       : stage_(stage), object_(object), mouse_(mouse) {}
 
   /// Begins to watch: the widget that has the focus, and the one that the pointer meets.
   void Watch(QWidget& keys, QWidget& mouse);
+  /// One more part that the pointer meets.
+  void WatchPart(QWidget& part);
   [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -36,6 +39,8 @@ class WidgetEvents final : public QObject {
   [[nodiscard]] bool KeyReleased(const QKeyEvent& event);
   void ShowPopup(const QPoint& global);
   [[nodiscard]] QPoint Within(const QMouseEvent& event) const;
+  /// The pointer comes to the object or leaves it: its hint is that of the application.
+  void ShowHint(bool enters);
   [[nodiscard]] bool ByMouse(QEvent& event);
   [[nodiscard]] bool ByKey(QWidget& widget, QEvent& event);
 
@@ -44,6 +49,7 @@ class WidgetEvents final : public QObject {
   Mouse mouse_;
   QWidget* keys_ = nullptr;
   QWidget* pointed_ = nullptr;
+  QWidget* part_ = nullptr;
   bool pressed_ = false;
   bool sending_ = false;
 };

@@ -6,6 +6,7 @@
 #include "looks/text_bridge.h"
 #include "run/classic_palette.h"
 #include "run/stage.h"
+#include "run/views/form_view.h"
 
 namespace tarnwick::run {
 namespace {
@@ -100,14 +101,14 @@ WidgetView::~WidgetView() {
   delete widget_.data();
 }
 
-const ShowRow<WidgetView> WidgetView::kRows[13] = {
+const ShowRow<WidgetView> WidgetView::kRows[14] = {
     {Word::Parent, &WidgetView::ShowParent},   {Word::Left, &WidgetView::ShowPlace},
     {Word::Top, &WidgetView::ShowPlace},       {Word::Width, &WidgetView::ShowPlace},
     {Word::Height, &WidgetView::ShowPlace},    {Word::Font, &WidgetView::FontChanged},
     {Word::Color, &WidgetView::ColorChanged},  {Word::Hint, &WidgetView::ShowHint},
     {Word::ShowHint, &WidgetView::ShowHint},   {Word::Cursor, &WidgetView::ShowCursor},
     {Word::Enabled, &WidgetView::ShowEnabled}, {Word::Visible, &WidgetView::ShowVisible},
-    {Word::Align, &WidgetView::ShowAlign},
+    {Word::Align, &WidgetView::ShowAlign},     {Word::TabOrder, &WidgetView::ShowTabOrder},
 };
 
 void WidgetView::Build(const ObjectRecord& object) {
@@ -157,6 +158,12 @@ void WidgetView::ShowAlign(const ObjectRecord& object) {
 void WidgetView::ShowVisible(const ObjectRecord& object) {
   // Without a parent it would be a window of its own.
   widget_->setVisible(object.Truth(Word::Visible) && widget_->parentWidget() != nullptr);
+  ShowAlign(object);
+}
+
+void WidgetView::ShowTabOrder(const ObjectRecord& object) {
+  const ObjectRecord* const form = stage().World().FormOf(object);
+  if (form != nullptr && widget_->isVisible()) OrderTabs(stage(), form->Id);
 }
 
 void WidgetView::ShowEnabled(const ObjectRecord& object) {

@@ -38,6 +38,7 @@ class WidgetView : public ObjectView {
   void ShowPlace(const ObjectRecord& object);
   void ShowAlign(const ObjectRecord& object);
   void ShowVisible(const ObjectRecord& object);
+  void ShowTabOrder(const ObjectRecord& object);
   void ShowEnabled(const ObjectRecord& object);
   void ShowHint(const ObjectRecord& object);
   void ShowCursor(const ObjectRecord& object);
@@ -45,7 +46,7 @@ class WidgetView : public ObjectView {
   void FontChanged(const ObjectRecord& object) { ShowFont(object); }
   void ColorChanged(const ObjectRecord& object) { ShowColor(object); }
 
-  static const ShowRow<WidgetView> kRows[13];
+  static const ShowRow<WidgetView> kRows[14];
   QPointer<QWidget> widget_;
   WidgetEvents events_;
 };

@@ -7,7 +7,10 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QProcess>
+#include <QPushButton>
 #include <QTest>
 #include <QTextEdit>
 #include <filesystem>
@@ -52,6 +55,35 @@ class ExampleSource {
 
 void Click(const LiveProgram& live, std::string_view name) {
   QTest::mouseClick(live.Widget(name), Qt::LeftButton);
+}
+
+/// The row of a menu by its object's name; null when it is not there.
+QAction* RowOf(const QList<QAction*>& rows, const QString& name) {
+  for (QAction* const row : rows) {
+    if (row->objectName() == name) return row;
+    QAction* const below = row->menu() == nullptr ? nullptr : RowOf(row->menu()->actions(), name);
+    if (below != nullptr) return below;
+  }
+  return nullptr;
+}
+
+/// Picks a row of the menu bar of a form.
+void Pick(const LiveProgram& live, std::string_view form, const char* row) {
+  const QMenuBar* const bar = live.Widget(form)->findChild<QMenuBar*>();
+  ASSERT_NE(bar, nullptr);
+  QAction* const action = RowOf(bar->actions(), QString::fromLatin1(row));
+  ASSERT_NE(action, nullptr) << row;
+  action->trigger();
+}
+
+/// Gives the name of a file to the dialog that is open.
+void NameFile(const std::string& path) {
+  auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+  ASSERT_NE(dialog, nullptr);
+  auto* const name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  ASSERT_NE(name, nullptr);
+  name->setText(QString::fromStdString(path));
+  QTest::keyClick(name, Qt::Key_Return);
 }
 
 TEST(RunExamplesTest, TemperatureConvertsWhatIsTyped) {
@@ -170,10 +202,162 @@ TEST(RunExamplesTest, TheNotepadSavesWhatWasTyped) {
   live.Run();
 }
 
-TEST(RunExamplesTest, TheConvertedNotesRun) {
+TEST(RunExamplesTest, TheConverterHasItsListsAndAResultThatIsReadOnly) {
+  const ExampleSource source("converter");
+  LiveProgram live("", source.Path);
+  live.Then([&] {
+    auto& kinds = live.The<QListWidget>("KindList");
+    EXPECT_EQ(kinds.count(), 5) << "length, mass, temperature, volume and speed";
+    auto& result = live.The<QLineEdit>("ResultText");
+    const QString before = result.text();
+    result.setFocus();
+    QTest::keyClicks(&result, QStringLiteral("9"));
+    EXPECT_EQ(result.text(), before);
+    EXPECT_EQ(live.Get("Digits(1)", "Caption").empty(), false);
+    Click(live, "Digits(1)");
+    Click(live, "Digits(3)");
+    EXPECT_EQ(live.Get("Digits(1)", "Checked") + live.Get("Digits(3)", "Checked"), "01");
+  });
+  live.Run();
+}
+
+TEST(RunExamplesTest, TheClockDrawsItsHandsInTheColourOfItsMenu) {
+  const ExampleSource source("clock");
+  LiveProgram live("", source.Path);
+  live.ExeName = live.Folder.Path("clock.exe");
+  const auto reds = [&] {
+    const QImage face = live.Widget("ClockFace")->grab().toImage();
+    int count = 0;
+    for (int y = 0; y < face.height(); ++y) {
+      for (int x = 0; x < face.width(); ++x) {
+        const QColor at = face.pixelColor(x, y);
+        if (at.red() > 200 && at.green() < 60 && at.blue() < 60) ++count;
+      }
+    }
+    return count;
+  };
+  int before = 0;
+  live.Then([&] {
+    before = reds();
+    EXPECT_FALSE(live.Widget("ClockForm")->windowIcon().isNull());
+    EXPECT_GT(live.Widget("SettingsBtn")->height(), 0);
+    QTest::mouseClick(live.Widget("ClockFace"), Qt::RightButton);
+  });
+  live.Then([&] {
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    QAction* const red = RowOf(menu->actions(), QStringLiteral("popRed"));
+    ASSERT_NE(red, nullptr);
+    EXPECT_FALSE(red->isChecked());
+    red->trigger();
+    menu->hide();
+  });
+  // The hands are drawn with the next second.
+  for (int i = 0; i < 75; ++i) live.Then([] {});
+  live.Then([&] {
+    EXPECT_GT(reds(), before + 20);
+    QTest::mouseClick(live.Widget("ClockFace"), Qt::RightButton);
+  });
+  live.Then([&] {
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    EXPECT_TRUE(RowOf(menu->actions(), QStringLiteral("popRed"))->isChecked());
+    menu->hide();
+  });
+  live.Run();
+}
+
+TEST(RunExamplesTest, TheNotepadHasItsMenusAndFollowsTheWindow) {
+  const ExampleSource source("notepad");
+  LiveProgram live("", source.Path);
+  live.Then([&] {
+    const QMenuBar* const bar = live.Widget("NoteForm")->findChild<QMenuBar*>();
+    ASSERT_EQ(bar->actions().size(), 5);
+    EXPECT_TRUE(RowOf(bar->actions(), QStringLiteral("sepExit")) == nullptr)
+        << "a separator has no name";
+    EXPECT_EQ(RowOf(bar->actions(), QStringLiteral("mnuFind"))->shortcut().toString(),
+              QStringLiteral("Ctrl+F"));
+    EXPECT_FALSE(RowOf(bar->actions(), QStringLiteral("mnuSize"))->isEnabled())
+        << "the heading of the text sizes";
+    const int before = live.Widget("NoteText")->font().pixelSize();
+    Pick(live, "NoteForm", "mnuLarge");
+    EXPECT_GT(live.Widget("NoteText")->font().pixelSize(), before);
+    live.Widget("NoteForm")->resize(500, 400);
+  });
+  live.Then([&] {
+    EXPECT_EQ(live.Widget("NoteText")->width(), 500);
+    EXPECT_EQ(std::to_string(live.Widget("NoteText")->height() + 20),
+              live.Get("NoteForm", "ClientHeight"));
+  });
+  live.Run();
+}
+
+TEST(RunExamplesTest, TheNotepadOpensFindsAndAsksBeforeItCloses) {
+  const ExampleSource source("notepad");
+  LiveProgram live("", source.Path);
+  live.Folder.Write("list.txt", "Milk and bread\r\nMore milk");
+  live.Then([&] { Pick(live, "NoteForm", "mnuOpen"); });
+  live.Then([&] { NameFile(live.Folder.Native("list.txt")); });
+  live.Then([&] {
+    EXPECT_EQ(live.Get("NoteText", "Text"), "Milk and bread\r\nMore milk");
+    Pick(live, "NoteForm", "mnuFind");
+  });
+  live.Then([&] {
+    ASSERT_TRUE(live.Widget("FindForm")->isVisible());
+    EXPECT_TRUE(live.Widget("FindForm")->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    auto& wanted = live.The<QLineEdit>("FindText");
+    wanted.setFocus();
+    QTest::keyClicks(&wanted, QStringLiteral("milk"));
+    Click(live, "FindNextBtn");
+    EXPECT_EQ(live.Get("NoteText", "SelText"), "Milk");
+    Click(live, "FindNextBtn");
+    EXPECT_EQ(live.Get("NoteText", "SelText"), "milk");
+    EXPECT_EQ(live.Get("NoteText", "SelStart"), "21");
+    Click(live, "FindCloseBtn");
+    Pick(live, "NoteForm", "mnuAbout");
+  });
+  live.Then([&] {
+    ASSERT_TRUE(live.Widget("AboutForm")->isVisible());
+    Click(live, "AboutBtn");
+  });
+  live.Then([&] {
+    live.Widget("NoteText")->setFocus();
+    QTest::keyClicks(live.Widget("NoteText"), QStringLiteral("x"));
+    live.Widget("NoteForm")->close();
+  });
+  live.Then([&] {
+    auto* const question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(question, nullptr);
+    QTest::mouseClick(question->button(QMessageBox::Cancel), Qt::LeftButton);
+  });
+  live.Then([&] { EXPECT_TRUE(live.Widget("NoteForm")->isVisible()); });
+  live.Run();
+}
+
+TEST(RunExamplesTest, TheConvertedNotesAreKept) {
   const ExampleSource source("old", "notes");
   LiveProgram live("", source.Path);
-  live.Then([&] { EXPECT_NE(QApplication::activeWindow(), nullptr); });
+  live.ExeName = live.Folder.Path("notes.exe");
+  live.Then([&] {
+    auto& text = live.The<QLineEdit>("Text1");
+    text.setFocus();
+    QTest::keyClicks(&text, QStringLiteral("one"));
+    Click(live, "Btn1");
+    QTest::keyClicks(&text, QStringLiteral("two"));
+    Click(live, "Btn1");
+    auto& list = live.The<QListWidget>("List1");
+    ASSERT_EQ(list.count(), 2);
+    EXPECT_EQ(list.item(0)->text(), QStringLiteral("two")) << "the latest first";
+    Pick(live, "Form", "mnuKeep");
+    EXPECT_EQ(live.Folder.Read("notes.txt"), "two\r\none\r\n");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                      list.visualItemRect(list.item(1)).center());
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {},
+                       list.visualItemRect(list.item(1)).center());
+    EXPECT_EQ(list.count(), 1);
+    Pick(live, "Form", "mnuEnd");
+    EXPECT_FALSE(live.Widget("Form")->isVisible());
+  });
   live.Run();
 }
 

@@ -34,27 +34,26 @@ LiveProgram::LiveProgram(const std::string& text, const std::string& path,
 LiveProgram::~LiveProgram() = default;
 
 void LiveProgram::Step() {
-  // A window gets the focus some time after it is shown, on a busy machine later than the first
-  // step. Programs without a window have none to wait for.
-  constexpr int kMostWaits = 50;
-  if (next_ == 0 && QApplication::activeWindow() == nullptr && waits_++ < kMostWaits) {
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    if (std::any_of(windows.begin(), windows.end(), [](QWidget* w) { return w->isVisible(); })) {
-      QTimer::singleShot(20, &context_, [this] { Step(); });
-      return;
-    }
-  }
   // A timer does not fire while it is being handled: the next step has one of its own.
-  if (next_ <= steps_.size()) QTimer::singleShot(20, &context_, [this] { Step(); });
+  if (next_ <= steps_.size()) QTimer::singleShot(pause_, &context_, [this] { Step(); });
+  // The user waits for a window that has just been shown to become the active one.
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const bool shown = std::any_of(windows.begin(), windows.end(),
+                                 [](const QWidget* window) { return window->isVisible(); });
+  if (shown && QApplication::activeWindow() == nullptr && ++waited_ < 100) return;
   if (next_ < steps_.size()) {
     const std::function<void()> step = steps_[next_++];
+    ++depth_;
     try {
       step();
     } catch (const std::exception& fault) {
       ADD_FAILURE() << "step " << next_ << ": " << fault.what();
     }
+    --depth_;
     return;
   }
+  // The last step may wait for a window that it opened.
+  if (depth_ > 0 && ++waited_ < 250) return;
   ++next_;
   machine_->Terminate();
 }
@@ -74,7 +73,7 @@ void LiveProgram::Run() {
       options);
   machine_->SetResources(Program.Resources);
   World->Connect(*machine_);
-  QTimer::singleShot(20, &context_, [this] { Step(); });
+  QTimer::singleShot(pause_, &context_, [this] { Step(); });
   Result = machine_->Run();
   EXPECT_GE(next_, steps_.size()) << "steps were left: " << Result.Text;
 }

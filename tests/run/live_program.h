@@ -37,6 +37,11 @@ class LiveProgram {
     steps_.push_back(std::move(step));
     return *this;
   }
+  /// Pauses between the steps, milliseconds.
+  LiveProgram& Pause(int milliseconds) {
+    pause_ = milliseconds;
+    return *this;
+  }
   /// Runs to the end; what was printed is in `Printed`.
   void Run();
 
@@ -75,7 +80,9 @@ class LiveProgram {
   std::unique_ptr<basic::Machine> machine_;
   std::vector<std::function<void()>> steps_;
   std::size_t next_ = 0;
-  int waits_ = 0;  ///< for the focus, before the first step
+  int waited_ = 0;
+  int depth_ = 0;
+  int pause_ = 20;
   QObject context_;
 };
 

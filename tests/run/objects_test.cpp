@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -199,6 +200,24 @@ TEST(RunObjectsTest, OfManyEntriesEachClickCountsAtOnce) {
   });
   live.Run();
   EXPECT_EQ(live.Printed, "0:1 2:2 2:1 1:1 1:2 ");
+}
+
+TEST(RunObjectsTest, TheFilterThatIsChosenComesBack) {
+  LiveProgram live(
+      FormWith("DIM D AS QSAVEDIALOG: D.Filter = \"Texts|*.txt|Lists|*.lst\"",
+               "DIM B AS QBUTTON: B.Parent = F\n"
+               "SUB OnB\nIF D.Execute THEN PRINT D.FilterIndex;\nEND SUB\nB.OnClick = OnB"));
+  live.Then([&] { QTest::mouseClick(live.Widget("B"), Qt::LeftButton); });
+  live.Then([&] {
+    auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    dialog->selectNameFilter(dialog->nameFilters().at(1));
+    auto* const name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    name->setText(QString::fromStdString(live.Folder.Native("a.lst")));
+    QTest::keyClick(name, Qt::Key_Return);
+  });
+  live.Run();
+  EXPECT_EQ(live.Printed, "2");
 }
 
 TEST(RunObjectsTest, AComboIsPickedByKeysAndTyped) {

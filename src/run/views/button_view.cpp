@@ -48,6 +48,11 @@ void DrawFocus(QPainter& painter, const QRect& rect) {
   painter.drawRect(rect.adjusted(0, 0, -1, -1));
 }
 
+/// The text of a box stands right of its mark, or left.
+bool TextIsLeft(const ObjectRecord& box) {
+  return box.Number(Word::Alignment) == 0;
+}
+
 QWidget* MakeMark(MarkView& view, const ObjectRecord& box) {
   if (box.Is(ObjectClass::QRadioButton)) return new PaintedButton<QRadioButton, MarkView>(view);
   return new PaintedButton<QCheckBox, MarkView>(view);
@@ -56,6 +61,19 @@ QWidget* MakeMark(MarkView& view, const ObjectRecord& box) {
 void ReportClicks(Stage& stage, ObjectId id, QAbstractButton& button) {
   QObject::connect(&button, &QAbstractButton::clicked, &button,
                    [&stage, id] { stage.Report([&stage, id] { stage.World().Click(id); }); });
+}
+
+/// The part of a picture that shows the state of a button: up, disabled, clicked, stays down stand
+/// side by side in it. A state without a part of its own is shown by the first.
+QPixmap PartOf(const QPixmap& picture, const ObjectRecord& button, const QAbstractButton& widget) {
+  const auto parts = static_cast<int>(std::clamp<std::int64_t>(button.Number(Word::NumBMPs), 1, 4));
+  if (picture.isNull() || parts == 1) return picture;
+  int part = 0;
+  if (!widget.isEnabled()) part = 1;
+  if (button.Truth(Word::Down)) part = 3;
+  if (widget.isDown()) part = 2;
+  const int width = picture.width() / parts;
+  return picture.copy(part < parts ? part * width : 0, 0, width, picture.height());
 }
 
 /// The focus is shown once the user has come by key.
@@ -70,6 +88,9 @@ ButtonView::ButtonView(Stage& stage, const ObjectRecord& button)
                 WidgetEvents::Mouse::Own) {
   auto& widget = *static_cast<QPushButton*>(Widget());
   widget.setAutoDefault(false);
+  // Flat and oval buttons stay out of the order of Tab.
+  if (!button.Is(ObjectClass::QButton)) widget.setFocusPolicy(Qt::NoFocus);
+  widget.setAttribute(Qt::WA_Hover);
   ReportClicks(stage, button.Id, widget);
 }
 
@@ -82,17 +103,22 @@ void ButtonView::Paint(QPainter& painter) const {
   const ObjectRecord* const button = Record();
   if (button == nullptr) return;
   const auto& widget = *static_cast<QPushButton*>(Widget());
-  const QPixmap picture = stage().Surfaces().Shown(*button);
+  const QPixmap picture = PartOf(stage().Surfaces().Shown(*button), *button, widget);
   const std::int64_t layout = button->Number(Word::Layout);
   looks::ButtonFace face;
   face.Picture = &picture;
   face.Side = static_cast<looks::PictureSide>(layout >= 0 && layout <= 3 ? layout : 0);
   face.Spacing = static_cast<int>(std::clamp<std::int64_t>(button->Number(Word::Spacing), 0, 64));
   face.Default = button->Truth(Word::Default);
-  face.Down = widget.isDown();
+  face.Down = widget.isDown() || button->Truth(Word::Down);
+  face.Flat = button->Truth(Word::Flat) && !widget.underMouse();
+  if (!button->Is(ObjectClass::QButton)) {
+    face.Face = looks::ColorOf(static_cast<std::int32_t>(button->Number(Word::Color)));
+  }
   const looks::FaceText caption{button->Text(Word::Caption), stage().FontOf(*button),
                                 InkOf(stage(), *button), widget.isEnabled()};
-  looks::DrawButtonFace(painter, stage().Texts(), widget.rect(), caption, face);
+  const auto draw = button->Is(ObjectClass::QOvalBtn) ? looks::DrawOvalFace : looks::DrawButtonFace;
+  draw(painter, stage().Texts(), widget.rect(), caption, face);
   if (ShowsFocus(widget)) DrawFocus(painter, widget.rect().adjusted(4, 4, -4, -4));
 }
 
@@ -121,11 +147,12 @@ void MarkView::Paint(QPainter& painter) const {
                                 InkOf(stage(), *box), widget.isEnabled()};
   looks::DrawMarkFace(painter, stage().Texts(), widget.rect(), caption,
                       box->Is(ObjectClass::QRadioButton), widget.isChecked(),
-                      looks::ColorOf(static_cast<std::int32_t>(box->Number(Word::Color))));
+                      looks::ColorOf(static_cast<std::int32_t>(box->Number(Word::Color))),
+                      TextIsLeft(*box));
   if (!ShowsFocus(widget)) return;
   const looks::LaidText& laid =
       stage().Texts().Lay(box->Text(Word::Caption), caption.Font, looks::TextFlow::Line, 0);
-  const int left = looks::kMarkSize + looks::kMarkGap - 1;
+  const int left = TextIsLeft(*box) ? 0 : looks::kMarkSize + looks::kMarkGap - 1;
   const int top = (widget.height() - laid.Height) / 2;
   DrawFocus(painter, QRect(left, top, laid.Width + 2, laid.Height) & widget.rect());
 }

@@ -92,8 +92,8 @@ void ComboView::ShowStyle(const ObjectRecord& combo) {
     line->setCompleter(nullptr);
     line->setTextMargins(-2, 0, 0, 0);
     line->setObjectName(Combo().objectName() + QStringLiteral(".Edit"));
-    // What is typed comes to the line, whose keys are the list's.
-    Events().Watch(*line, Combo());
+    // Keys come to the list, which has the focus for the line; the pointer meets the line.
+    Events().WatchPart(*line);
     line->setGeometry(looks::ComboTextOf(Combo().rect()));
   }
   showing_ = false;

@@ -37,7 +37,7 @@ constexpr int kLongest = 32'767;
 }  // namespace
 
 EditView::EditView(Stage& stage, const ObjectRecord& box)
-    : TableView(stage, box, new LineField(*this), WidgetEvents::Mouse::Own) {
+    : TableView(stage, box, new LineField(*this), WidgetEvents::Mouse::OwnClicks) {
   connect(&Edit(), &QLineEdit::textChanged, this, [this] { Typed(); });
   connect(&Edit(), &QLineEdit::selectionChanged, this, [this] { SelectionMoved(); });
   connect(&Edit(), &QLineEdit::cursorPositionChanged, this, [this] { SelectionMoved(); });
@@ -96,11 +96,14 @@ void EditView::ShowText(const ObjectRecord& box) {
 
 void EditView::ShowLimits(const ObjectRecord& box) {
   const std::int64_t most = box.Number(Word::MaxLength);
+  // The toolkit sets the text again, and moves the caret with it.
+  showing_ = true;
   Edit().setMaxLength(most > 0 && most < kLongest ? static_cast<int>(most) : kLongest);
   const Value& mark = box.At(Word::PasswordChar);
   const bool hidden = !mark.View().empty() || mark.AsInteger() != 0;
   Edit().setEchoMode(hidden ? QLineEdit::Password : QLineEdit::Normal);
   Edit().setReadOnly(box.Truth(Word::ReadOnly));
+  showing_ = false;
 }
 
 void EditView::ShowSelection(const ObjectRecord& box) {

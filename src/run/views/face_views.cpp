@@ -1,5 +1,6 @@
 #include "run/views/face_views.h"
 
+#include <QBitmap>
 #include <QPainter>
 
 #include "looks/object_faces.h"
@@ -7,25 +8,11 @@
 #include "looks/text_bridge.h"
 #include "run/drawing_surfaces.h"
 #include "run/stage.h"
+#include "run/views/fields.h"
+#include "run/views/painted_face.h"
 
 namespace tarnwick::run {
 namespace {
-
-/// A widget without a behaviour of its own that its view paints.
-template <class View>
-class Face final : public QWidget {
- public:
-  explicit Face(View& view) : view_(view) {}
-
- protected:
-  void paintEvent(QPaintEvent* /*event*/) override {
-    QPainter painter(this);
-    view_.Paint(painter);
-  }
-
- private:
-  View& view_;
-};
 
 constexpr Qt::Alignment kAcross[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 constexpr Qt::Alignment kDown[] = {Qt::AlignTop, Qt::AlignVCenter, Qt::AlignBottom};
@@ -37,7 +24,7 @@ Qt::Alignment Picked(const Qt::Alignment (&from)[3], std::int64_t number) {
 }  // namespace
 
 LabelView::LabelView(Stage& stage, const ObjectRecord& label)
-    : TableView(stage, label, new Face<LabelView>(*this), WidgetEvents::Mouse::Plain) {}
+    : TableView(stage, label, new PaintedFace<LabelView>(*this), WidgetEvents::Mouse::Plain) {}
 
 void LabelView::ShowCaption(const ObjectRecord& label) {
   Widget()->setAccessibleName(looks::ToQString(label.Text(Word::Caption)));
@@ -62,7 +49,7 @@ void LabelView::Paint(QPainter& painter) const {
 }
 
 ImageView::ImageView(Stage& stage, const ObjectRecord& image)
-    : TableView(stage, image, new Face<ImageView>(*this), WidgetEvents::Mouse::Plain) {}
+    : TableView(stage, image, new PaintedFace<ImageView>(*this), WidgetEvents::Mouse::Plain) {}
 
 void ImageView::ShowPicture(const ObjectRecord& image) {
   Widget()->update();
@@ -76,11 +63,33 @@ void ImageView::ShowPicture(const ObjectRecord& image) {
   });
 }
 
+void ImageView::ShowGround(const ObjectRecord& image) {
+  // A canvas is painted when it appears; what is drawn then lasts until its picture changes.
+  if (!image.Is(ObjectClass::QCanvas)) return;
+  QMetaObject::invokeMethod(
+      this, [this] { stage().Raise(Id(), Word::OnPaint); }, Qt::QueuedConnection);
+}
+
+bool ImageView::Invoke(const ObjectRecord& image, const MemberInfo& method,
+                       std::span<Value> arguments, Value& result) {
+  const bool repaints = method.Name == Word::Repaint && image.Is(ObjectClass::QCanvas);
+  const bool done = WidgetView::Invoke(image, method, arguments, result);
+  if (repaints) stage().Raise(Id(), Word::OnPaint);
+  return done;
+}
+
 void ImageView::Paint(QPainter& painter) const {
   const ObjectRecord* const image = Record();
   if (image == nullptr) return;
-  const QPixmap picture = stage().Surfaces().Shown(*image);
+  if (image->Is(ObjectClass::QCanvas)) painter.fillRect(Widget()->rect(), PaperOf(*image));
+  QPixmap picture = stage().Surfaces().Shown(*image);
   if (picture.isNull()) return;
+  if (image->Truth(Word::Transparent)) {
+    // The colour of the lower left corner is that of the ground.
+    const QImage pixels = picture.toImage();
+    const QRgb ground = pixels.pixel(0, pixels.height() - 1);
+    picture.setMask(QBitmap::fromImage(pixels.createMaskFromColor(ground, Qt::MaskOutColor)));
+  }
   QRect area = Widget()->rect();
   if (image->Truth(Word::Center) && !image->Truth(Word::Stretch)) {
     const QSize rest = (area.size() - picture.size()).expandedTo(QSize(0, 0));

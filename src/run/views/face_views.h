@@ -20,12 +20,15 @@ class ImageView final : public TableView<ImageView> {
   ImageView(Stage& stage, const ObjectRecord& image);
   void Paint(QPainter& painter) const;
 
+  bool Invoke(const ObjectRecord& image, const MemberInfo& method, std::span<Value> arguments,
+              Value& result) override;
+
   void ShowPicture(const ObjectRecord& image);
-  static constexpr ShowRow<ImageView> kRows[] = {{Word::Bmp, &ImageView::ShowPicture},
-                                                 {Word::BMPHandle, &ImageView::ShowPicture},
-                                                 {Word::Icon, &ImageView::ShowPicture},
-                                                 {Word::IcoHandle, &ImageView::ShowPicture},
-                                                 {Word::AutoSize, &ImageView::ShowPicture}};
+  void ShowGround(const ObjectRecord& image);
+  static constexpr ShowRow<ImageView> kRows[] = {
+      {Word::OnPaint, &ImageView::ShowGround},    {Word::Bmp, &ImageView::ShowPicture},
+      {Word::BMPHandle, &ImageView::ShowPicture}, {Word::Icon, &ImageView::ShowPicture},
+      {Word::IcoHandle, &ImageView::ShowPicture}, {Word::AutoSize, &ImageView::ShowPicture}};
 };
 
 }  // namespace tarnwick::run

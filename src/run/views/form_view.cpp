@@ -292,6 +292,11 @@ void FormView::StateChanged() {
   std::int64_t state = 0;
   if (window_->isMaximized()) state = kMaximized;
   if (window_->isMinimized()) state = kMinimized;
+  const std::int64_t before = Record()->Number(Word::WindowState);
+  const ObjectId application =
+      stage().World().BuiltIn(static_cast<basic::ClassId>(ObjectClass::Application));
+  if (state == kMinimized && before != kMinimized) stage().Raise(application, Word::OnMinimize);
+  if (state != kMinimized && before == kMinimized) stage().Raise(application, Word::OnRestore);
   stage().Report(
       [this, state] { stage().World().UserSet(Id(), Word::WindowState, Value::Integer(state)); });
 }

@@ -8,6 +8,7 @@
 #include "looks/classic_look.h"
 #include "looks/platform_colors.h"
 #include "looks/text_bridge.h"
+#include "run/drawing_surfaces.h"
 #include "run/stage.h"
 #include "run/views/fields.h"
 #include "run/views/list_views.h"
@@ -25,6 +26,8 @@ class RowPainter final : public QStyledItemDelegate {
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override {
+    // The program draws them itself.
+    if (Drawn) return;
     const bool chosen = (option.state & QStyle::State_Selected) != 0;
     const bool enabled = (option.state & QStyle::State_Enabled) != 0;
     const QPalette& palette = option.palette;
@@ -36,10 +39,15 @@ class RowPainter final : public QStyledItemDelegate {
                       Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, index.data().toString());
   }
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    return {
-        option.fontMetrics.horizontalAdvance(index.data().toString()) + 2 * looks::kListTextLeft,
-        option.fontMetrics.height()};
+    const int width =
+        option.fontMetrics.horizontalAdvance(index.data().toString()) + 2 * looks::kListTextLeft;
+    const QVariant own = index.data(Qt::UserRole);
+    if (own.isValid()) return {width, own.toInt()};
+    return {width, Height > 0 ? Height : option.fontMetrics.height()};
   }
+
+  bool Drawn = false;
+  int Height = 0;  ///< of the entries without one of their own; 0: that of the font
 };
 
 class ListField final : public QListWidget {
@@ -48,13 +56,28 @@ class ListField final : public QListWidget {
     setFrameStyle(QFrame::Panel | QFrame::Sunken);
     setLineWidth(looks::kListEdge);
     viewport()->setAutoFillBackground(false);
-    setItemDelegate(new RowPainter(this));
+    setItemDelegate(&Rows);
     setUniformItemSizes(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setEditTriggers(NoEditTriggers);
   }
 
+  RowPainter Rows;
+
  protected:
+  void paintEvent(QPaintEvent* event) override {
+    QListWidget::paintEvent(event);
+    QPainter painter(viewport());
+    view_.PaintDrawn(painter);
+  }
+  void scrollContentsBy(int dx, int dy) override {
+    QListWidget::scrollContentsBy(dx, dy);
+    view_.Moved();
+  }
+  void resizeEvent(QResizeEvent* event) override {
+    QListWidget::resizeEvent(event);
+    view_.Moved();
+  }
   bool event(QEvent* event) override {
     if (event->type() != QEvent::Paint) return QListWidget::event(event);
     PaintField(*this, view_);
@@ -86,7 +109,8 @@ QListWidget* MakeListField(ListView& view) {
 }  // namespace
 
 ListView::ListView(Stage& stage, const ObjectRecord& list)
-    : TableView(stage, list, MakeListField(*this), WidgetEvents::Mouse::Own) {
+    : TableView(stage, list, MakeListField(*this), WidgetEvents::Mouse::Own),
+      drawing_(stage, list.Id, Word::OnDrawItem, [this] { return Parts(); }) {
   Events().Watch(List(), *List().viewport());
   connect(&List(), &QListWidget::currentRowChanged, this, [this] { Picked(); });
   connect(&List(), &QListWidget::itemSelectionChanged, this, [this] { SelectionChanged(); });
@@ -96,6 +120,53 @@ ListView::ListView(Stage& stage, const ObjectRecord& list)
 
 QListWidget& ListView::List() const {
   return *static_cast<QListWidget*>(Widget());
+}
+
+void ListView::PaintDrawn(QPainter& painter) const {
+  stage().Surfaces().Paint(painter, Id(), QPoint());
+}
+
+void ListView::ShowDrawing() {
+  List().viewport()->update();
+}
+
+std::vector<DrawnPart> ListView::Parts() const {
+  std::vector<DrawnPart> parts;
+  const ObjectRecord* const list = Record();
+  if (list == nullptr || list->Number(Word::Style) == 0) return parts;
+  const QRect seen = List().viewport()->rect();
+  for (int row = std::max(0, List().indexAt(QPoint(1, 1)).row()); row < List().count(); ++row) {
+    const QListWidgetItem* const item = List().item(row);
+    const QRect place = List().visualItemRect(item);
+    if (place.top() > seen.bottom()) break;
+    std::int64_t state = item->isSelected() ? kPartSelected : 0;
+    if (!List().isEnabled()) state |= kPartDisabled;
+    if (List().currentRow() == row && List().hasFocus()) state |= kPartFocused;
+    parts.push_back({{row}, state, place});
+  }
+  return parts;
+}
+
+void ListView::ShowHeights(const ObjectRecord& list) {
+  constexpr std::int64_t kVariable = 2;
+  const std::int64_t style = list.Number(Word::Style);
+  RowPainter& rows = static_cast<ListField&>(List()).Rows;
+  rows.Drawn = style != 0 && list.IsHooked(Word::OnDrawItem);
+  const auto fitted = [](std::int64_t height) {
+    constexpr std::int64_t kTallest = 10'000;
+    return static_cast<int>(std::clamp<std::int64_t>(height, 0, kTallest));
+  };
+  rows.Height = style == 0 ? 0 : fitted(list.Number(Word::ItemHeight));
+  List().setUniformItemSizes(style != kVariable);
+  for (int row = 0; row < List().count() && style == kVariable; ++row) {
+    Value arguments[] = {Value::Integer(row), Value::Integer(rows.Height)};
+    if (!stage().World().Raise(Id(), Word::OnMeasureItem, arguments) || Record() == nullptr) return;
+    if (QListWidgetItem* const item = List().item(row)) {
+      item->setData(Qt::UserRole, fitted(arguments[1].AsInteger()));
+    }
+  }
+  List().doItemsLayout();
+  drawing_.Want();
 }
 
 void ListView::Picked() {
@@ -122,6 +193,7 @@ void ListView::Pressed(int row) {
 }
 
 void ListView::SelectionChanged() {
+  drawing_.Want();
   const ObjectRecord* const list = Record();
   if (showing_ || list == nullptr || !list->Truth(Word::MultiSelect)) return;
   const auto* const items = list->As<ListItems>();
@@ -141,6 +213,7 @@ void ListView::ShowEntries(const ObjectRecord& list) {
   List().addItems(texts);
   showing_ = false;
   ShowPicked(list);
+  ShowHeights(list);
 }
 
 void ListView::ShowItems(const ObjectRecord& list, const ItemsChange& change) {
@@ -167,6 +240,7 @@ void ListView::ShowItems(const ObjectRecord& list, const ItemsChange& change) {
   }
   showing_ = false;
   ShowPicked(list);
+  if (list.Number(Word::Style) != 0) ShowHeights(list);
 }
 
 void ListView::ShowMode(const ObjectRecord& list) {
@@ -211,13 +285,13 @@ void ListView::ShowFont(const ObjectRecord& list) {
   if (list.Number(Word::Columns) > 0) ShowMode(list);
 }
 
-bool ListView::Live(const ObjectRecord& /*list*/, const MemberInfo& member,
+bool ListView::Live(const ObjectRecord& list, const MemberInfo& member,
                     std::span<const Value> /*index*/, Value& out) {
   if (member.Name == Word::TopIndex) {
     out = Value::Integer(std::max(0, List().indexAt(QPoint(1, 1)).row()));
     return true;
   }
-  if (member.Name == Word::ItemHeight) {
+  if (member.Name == Word::ItemHeight && list.Number(Word::Style) == 0) {
     out = Value::Integer(List().fontMetrics().height());
     return true;
   }

@@ -1,9 +1,11 @@
 // Lists of entries: list boxes and drop-down lists.
 #pragma once
 
+#include "run/owner_drawing.h"
 #include "run/widget_view.h"
 
 class QComboBox;
+class QPainter;
 class QListWidget;
 
 namespace tarnwick::run {
@@ -12,12 +14,17 @@ class ListView final : public TableView<ListView> {
  public:
   ListView(Stage& stage, const ObjectRecord& list);
   void ShowItems(const ObjectRecord& list, const objects::ItemsChange& change) override;
+  void ShowDrawing() override;
   bool Live(const ObjectRecord& list, const MemberInfo& member, std::span<const Value> index,
             Value& out) override;
 
   /// A press of a mouse button is being handled: what it picks is known behind it.
   void Pressing(bool pressing) { pressing_ = pressing; }
   void Keying(bool keying) { keying_ = keying; }
+  /// Entries moved, or another one has the focus.
+  void Moved() { drawing_.Want(); }
+  /// Paints what the program has drawn over the entries.
+  void PaintDrawn(QPainter& painter) const;
   /// The user pressed an entry, whether or not it was picked before.
   void Pressed(int row);
 
@@ -25,7 +32,9 @@ class ListView final : public TableView<ListView> {
   void ShowMode(const ObjectRecord& list);
   void ShowPicked(const ObjectRecord& list);
   void ShowTop(const ObjectRecord& list);
+  void ShowHeights(const ObjectRecord& list);
   static constexpr ShowRow<ListView> kRows[] = {
+      {Word::Style, &ListView::ShowHeights},    {Word::ItemHeight, &ListView::ShowHeights},
       {Word::MultiSelect, &ListView::ShowMode}, {Word::ExtendedSelect, &ListView::ShowMode},
       {Word::Columns, &ListView::ShowMode},     {Word::Sorted, &ListView::ShowEntries},
       {Word::ItemIndex, &ListView::ShowPicked}, {Word::TopIndex, &ListView::ShowTop}};
@@ -37,6 +46,8 @@ class ListView final : public TableView<ListView> {
   [[nodiscard]] QListWidget& List() const;
   void Picked();
   void SelectionChanged();
+  [[nodiscard]] std::vector<DrawnPart> Parts() const;
+  OwnerDrawing drawing_;
   bool showing_ = false;  ///< what changes now is no choice of the user
   bool pressing_ = false;
   bool keying_ = false;

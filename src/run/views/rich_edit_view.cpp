@@ -1,4 +1,5 @@
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -39,15 +40,37 @@ class TextField final : public QTextEdit {
     return true;
   }
   void keyPressEvent(QKeyEvent* event) override {
-    // Escape belongs to the form.
-    if (event->key() == Qt::Key_Escape) {
+    const ObjectRecord* const box = view_.Record();
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool returns = box == nullptr || box->Truth(Word::WantReturns);
+    // Escape belongs to the form, and so does Enter when it makes no line.
+    if (event->key() == Qt::Key_Escape || (enter && !returns)) {
       event->ignore();
-    } else {
+    } else if (Room() > 0 || textCursor().hasSelection() || !IsTyping(*event)) {
       QTextEdit::keyPressEvent(event);
     }
   }
+  void insertFromMimeData(const QMimeData* source) override {
+    const qsizetype room = Room() + textCursor().selectedText().size();
+    insertPlainText(source->text().left(room));
+  }
 
  private:
+  /// Characters that MaxLength leaves.
+  [[nodiscard]] qsizetype Room() const {
+    constexpr qsizetype kNoLimit = 1'000'000'000;
+    const ObjectRecord* const box = view_.Record();
+    const std::int64_t most = box == nullptr ? 0 : box->Number(Word::MaxLength);
+    if (most <= 0) return kNoLimit;
+    return std::max<qsizetype>(0, static_cast<qsizetype>(most) - document()->characterCount() + 1);
+  }
+  /// True for a key that adds to the text.
+  static bool IsTyping(const QKeyEvent& event) {
+    const QString text = event.text();
+    const bool control = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
+    return !control && !text.isEmpty() && (text.at(0).isPrint() || text.at(0) == u'\r');
+  }
+
   const RichEditView& view_;
 };
 

@@ -1,0 +1,71 @@
+// The widget of a grid of texts.
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <QPointer>
+#include <functional>
+
+#include "run/object_view.h"
+
+class QLineEdit;
+
+namespace tarnwick::run {
+
+class GridView;
+
+/// A cell by its numbers; -1 for none.
+struct GridCell {
+  int Column = -1;
+  int Row = -1;
+  friend bool operator==(const GridCell&, const GridCell&) = default;
+};
+
+/// Where the cells of a grid are, and what the user does on them. Positions are pixels of the
+/// viewport.
+class GridField final : public QAbstractScrollArea {
+ public:
+  explicit GridField(GridView& view);
+
+  /// Takes counts, sizes and bars from the record.
+  void Fit(const ObjectRecord& grid);
+  /// Scrolls so that a cell is seen.
+  void Reveal(const GridCell& cell);
+  /// The first column and row that are not fixed and to be seen.
+  [[nodiscard]] GridCell First() const;
+  void SetFirst(const GridCell& cell);
+  [[nodiscard]] GridCell CellAt(const QPoint& at) const;
+  [[nodiscard]] QRect PlaceOf(const GridCell& cell) const;
+  /// Calls back for each cell that is to be seen, fixed ones last.
+  void ForEachSeen(const std::function<void(const GridCell&, const QRect&)>& use) const;
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  /// One direction: sizes of the cells, with lines, and the bar that scrolls it.
+  struct Axis {
+    std::vector<int> Sizes;
+    int Fixed = 0;
+  };
+  [[nodiscard]] int FirstOf(const Axis& axis, int scrolled) const;
+  [[nodiscard]] static int StartOf(const Axis& axis, int first, int index);
+  void FitBar(const Axis& axis, QScrollBar& bar, int room);
+  void Edit(const QString& text);
+  void EndEdit(bool takes);
+  [[nodiscard]] GridCell Picked() const;
+  [[nodiscard]] bool CanEdit() const;
+
+  GridView& view_;
+  Axis columns_;
+  Axis rows_;
+  QPointer<QLineEdit> editor_;
+  GridCell edited_;
+};
+
+}  // namespace tarnwick::run
