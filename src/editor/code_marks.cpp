@@ -101,22 +101,23 @@ class CodeCheck::Sources final : public basic::SourceReader {
   std::set<std::string> unread_;
 };
 
-CodeCheck::Found CodeCheck::Run() const {
+CodeCheck::Found CodeCheck::Run(std::string_view text) const {
   Sources reader(*files_);
-  Found found{MarksBehind(before_, reader), {}};
+  Found found{MarksOf(text, before_, reader), {}};
   if (!other_before_.empty() && !found.Marks.empty()) {
-    KeepThoseOf(MarksBehind(other_before_, reader), found.Marks);
+    KeepThoseOf(MarksOf(text, other_before_, reader), found.Marks);
   }
   found.Unread = reader.Unread();
   return found;
 }
 
-std::vector<CodeMark> CodeCheck::MarksBehind(std::string_view before, Sources& reader) const {
+std::vector<CodeMark> CodeCheck::MarksOf(std::string_view text, std::string_view before,
+                                         Sources& reader) const {
   std::string program(before);
   program.append(head_);
   const auto first = static_cast<std::uint32_t>(LineEndsIn(program) + 1);
-  const auto last = first + static_cast<std::uint32_t>(LineEndsIn(text_));
-  program.append(text_).append(tail_);
+  const auto last = first + static_cast<std::uint32_t>(LineEndsIn(text));
+  program.append(text).append(tail_);
 
   basic::SourceSet files;
   if (!files.Add(project_file_, std::move(program))) return {};
@@ -167,17 +168,16 @@ std::string CodeMarks::MacrosOfEvents(std::string_view but_key) const {
   return macros.Undefined + macros.Defined;
 }
 
-CodeCheck CodeMarks::CheckOf(std::string text) const {
+CodeCheck CodeMarks::MakeCheck() const {
   CodeCheck check;
   check.project_file_ = project_.ProjectFile;
   check.program_folder_ = project_.ProgramFolder;
-  check.text_ = std::move(text);
   check.files_ = included_;
   return check;
 }
 
-CodeCheck CodeMarks::EventCheck(std::string_view key, std::string code) const {
-  CodeCheck check = CheckOf(std::move(code));
+CodeCheck CodeMarks::EventCheck(std::string_view key) const {
+  CodeCheck check = MakeCheck();
   check.head_ = kEventBegin;
   check.tail_ = kEventEnd;
   check.before_ = DeclarationsBefore(project_.FormsCount + 1);
@@ -187,8 +187,8 @@ CodeCheck CodeMarks::EventCheck(std::string_view key, std::string code) const {
   return check;
 }
 
-CodeCheck CodeMarks::DeclarationsCheck(int form, std::string text) const {
-  CodeCheck check = CheckOf(std::move(text));
+CodeCheck CodeMarks::DeclarationsCheck(int form) const {
+  CodeCheck check = MakeCheck();
   check.tail_ = kLineEnd;
   check.before_ = DeclarationsBefore(form);
   return check;

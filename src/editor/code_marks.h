@@ -28,7 +28,7 @@ struct CodeMark {
   friend bool operator==(const CodeMark&, const CodeMark&) = default;
 };
 
-/// One check of a text, with copies of all that it reads: it may run on another thread.
+/// Checks a text, with copies of all that it reads besides: it may run on another thread.
 class CodeCheck {
  public:
   /// What included files hold, by path; nothing for one that is not there.
@@ -40,12 +40,13 @@ class CodeCheck {
     std::vector<std::string> Unread;
   };
 
-  [[nodiscard]] Found Run() const;
+  [[nodiscard]] Found Run(std::string_view text) const;
 
  private:
   friend class CodeMarks;
   class Sources;
-  [[nodiscard]] std::vector<CodeMark> MarksBehind(std::string_view before, Sources& reader) const;
+  [[nodiscard]] std::vector<CodeMark> MarksOf(std::string_view text, std::string_view before,
+                                              Sources& reader) const;
 
   std::string project_file_;
   std::string program_folder_;
@@ -53,7 +54,6 @@ class CodeCheck {
   /// What it may hold there as well; "" for nothing else. A mistake is one behind both.
   std::string other_before_;
   std::string_view head_;
-  std::string text_;
   std::string_view tail_;
   std::shared_ptr<const Files> files_;
 };
@@ -71,18 +71,18 @@ class CodeMarks {
  public:
   CodeMarks(const ProjectTables& project, FilePort& files) : project_(project), files_(files) {}
 
-  /// The check of an event's code. The code is what stands between `Sub` and `End Sub`, and may
-  /// itself end that Sub and begin others. What is stored under `key` is not looked at.
-  [[nodiscard]] CodeCheck EventCheck(std::string_view key, std::string code) const;
+  /// The check of the code of the event with this key. The code is what stands between `Sub` and
+  /// `End Sub`, and may itself end that Sub and begin others.
+  [[nodiscard]] CodeCheck EventCheck(std::string_view key) const;
   /// The check of a form's Public Declarations. Forms behind it do not count in them.
-  [[nodiscard]] CodeCheck DeclarationsCheck(int form, std::string text) const;
+  [[nodiscard]] CodeCheck DeclarationsCheck(int form) const;
   /// Reads files for the checks that are made from now on.
   void Read(const std::vector<std::string>& paths);
   /// Reads included files again at the next check.
   void ForgetFiles() { included_ = std::make_shared<const CodeCheck::Files>(); }
 
  private:
-  [[nodiscard]] CodeCheck CheckOf(std::string text) const;
+  [[nodiscard]] CodeCheck MakeCheck() const;
   /// The include file and the declarations of the forms in front of a number, each ending with a
   /// line end.
   [[nodiscard]] std::string DeclarationsBefore(int form) const;

@@ -204,7 +204,7 @@ bool Intellisense::KeyDown(int key) {
 
 void Intellisense::KeyPress(int character) {
   if (visible_ && character == list_key::kSpace) AcceptItem(ListSource::Typed);
-  if (visible_ && character == list_key::kBackspace) FilterList();
+  if (character == list_key::kBackspace) FilterList();
 }
 
 void Intellisense::Click(int row) {

@@ -25,24 +25,24 @@ class CodeMarksTest : public testing::Test {
     builder_.Tables.ProjectFile = "C:\\Work\\p.tnp";
   }
   void Declare(int form, std::string_view text) { builder_.Tables.Form(form)->DeclarePbl = text; }
-  /// Runs the check that `make` makes, again while it asks for files.
+  /// What a check finds, made again while it asks for files.
   template <class Make>
   Marks Run(Make make) {
     for (;;) {
-      editor::CodeCheck::Found found = make().Run();
+      editor::CodeCheck::Found found = make();
       if (found.Unread.empty()) return found.Marks;
       marks_.Read(found.Unread);
     }
   }
   Marks MarksOfEvent(std::string_view code, std::string_view key = "Form1.OnShow") {
-    return Run([&] { return marks_.EventCheck(key, std::string(code)); });
+    return Run([&] { return marks_.EventCheck(key).Run(code); });
   }
   /// "LINE: TEXT" of each mark of an event's code, lines counted from 0.
   std::vector<std::string> OfEvent(std::string_view code, std::string_view key = "Form1.OnShow") {
     return Written(MarksOfEvent(code, key));
   }
   std::vector<std::string> OfDeclarations(int form, std::string_view text) {
-    return Written(Run([&] { return marks_.DeclarationsCheck(form, std::string(text)); }));
+    return Written(Run([&] { return marks_.DeclarationsCheck(form).Run(text); }));
   }
   static std::vector<std::string> Written(const Marks& marks) {
     std::vector<std::string> texts;
@@ -287,20 +287,18 @@ TEST_F(CodeMarksTest, AMistakeOfAnotherEventIsNotMarkedHere) {
 
 TEST_F(CodeMarksTest, ACheckHoldsCopiesOfAllThatItReads) {
   Declare(1, "$DEFINE Begin Then");
-  std::string code = kBeginsBlock;
-  const editor::CodeCheck check = marks_.EventCheck("Form1.OnShow", code);
+  const editor::CodeCheck check = marks_.EventCheck("Form1.OnShow");
   Declare(1, "");
-  code.clear();
   marks_.ForgetFiles();
-  EXPECT_TRUE(check.Run().Marks.empty());
+  EXPECT_TRUE(check.Run(kBeginsBlock).Marks.empty());
 }
 
 TEST_F(CodeMarksTest, ACheckNamesTheFilesThatItDoesNotKnow) {
   Declare(1, "$INCLUDE \"own.inc\"");
-  const std::vector<std::string> unread = marks_.EventCheck("", "Beep").Run().Unread;
+  const std::vector<std::string> unread = marks_.EventCheck("").Run("Beep").Unread;
   EXPECT_EQ(std::count(unread.begin(), unread.end(), "C:\\Work\\own.inc"), 1);
   marks_.Read(unread);
-  EXPECT_TRUE(marks_.EventCheck("", "Beep").Run().Unread.empty());
+  EXPECT_TRUE(marks_.EventCheck("").Run("Beep").Unread.empty());
 }
 
 TEST_F(CodeMarksTest, LineEndsOfAnySortCountOnce) {

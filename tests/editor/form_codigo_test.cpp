@@ -342,6 +342,13 @@ TEST_F(FormCodigoTest, ARememberedEventThatIsNoRowGivesTheDefault) {
   EXPECT_EQ(codigo_.EventRowNo(), 0);
 }
 
+TEST_F(FormCodigoTest, ARememberedEventThatAFormLacksGivesOnShow) {
+  settings_.WriteEventIndex("Events", "Form1", ".OnTimer");
+  tarnwick::Select(*Window(), nullptr);
+  codigo_.Open();
+  EXPECT_EQ(codigo_.EventRowNo(), 11);
+}
+
 TEST_F(FormCodigoTest, TheRememberedRowNumberCountsForNothing) {
   settings_.WriteEventIndex("Events", "Form1.Button1", ".OnKeyUp");
   settings_.WriteEventIndex("EventsIndex", "Form1.Button1", "60");

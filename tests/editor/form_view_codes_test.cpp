@@ -139,6 +139,9 @@ TEST_F(FormViewCodesTest, TextsOfAnEarlierRunAreOfferedUnlessTheyAreStored) {
 
 TEST_F(FormViewCodesTest, TheTextFollowsAnUndoWhileNothingWasTyped) {
   codes_.Open(2);
+  const int before = editor_.Histories;
+  codes_.Refresh();
+  EXPECT_EQ(editor_.Histories, before) << "nothing has changed";
   Declarations(2) = "";
   codes_.Refresh();
   EXPECT_EQ(editor_.Text(), "");

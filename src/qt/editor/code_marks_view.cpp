@@ -6,11 +6,13 @@
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 #include "qt/editor/code_edit.h"
 #include "qt/kit/text_bridge.h"
 #include "qt/kit/theme.h"
+#include "text/code_page.h"
 
 namespace tarnwick {
 
@@ -27,6 +29,14 @@ constexpr int kErrorSign = 1;
 constexpr int kNoteSign = 2;
 constexpr int kErrorWave = 9;
 constexpr int kNoteWave = 10;
+
+/// The text as the widget holds it, in UTF-8: of a long one even the change of its code page takes
+/// longer than a frame may.
+std::string BytesOf(const CodeEdit& code) {
+  const auto* bytes =
+      static_cast<const char*>(code.SendScintillaPtrResult(Base::SCI_GETCHARACTERPOINTER));
+  return {bytes, static_cast<std::size_t>(code.SendScintilla(Base::SCI_GETLENGTH))};
+}
 
 QColor ColorOf(CodeMark::Sort sort, Theme theme) {
   if (sort == CodeMark::Sort::Error) {
@@ -132,9 +142,9 @@ void CodeMarksView::CheckNow() {
   }
   pause_.stop();
   checking_ = true;
-  thread_.start([this, check = prepare_(code_.Text()), version = version_] {
+  thread_.start([this, check = prepare_(), utf8 = BytesOf(code_), version = version_] {
     QMetaObject::invokeMethod(
-        this, [this, found = check.Run(), version] { Finish(found, version); },
+        this, [this, found = check.Run(Utf8ToCodePage(utf8)), version] { Finish(found, version); },
         Qt::QueuedConnection);
   });
 }

@@ -27,8 +27,8 @@ class CodeMarksView final : public QObject {
   Q_OBJECT
 
  public:
-  /// Makes the check of a text.
-  using Prepare = std::function<editor::CodeCheck(std::string text)>;
+  /// Makes the check of what is shown.
+  using Prepare = std::function<editor::CodeCheck()>;
 
   CodeMarksView(CodeEdit& code, QLabel& words, editor::CodeMarks& checks, Prepare prepare);
 

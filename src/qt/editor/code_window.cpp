@@ -11,7 +11,6 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
-#include <utility>
 
 #include "qt/editor/code_marks_view.h"
 #include "qt/editor/find_dialog.h"
@@ -77,10 +76,7 @@ CodeWindow::CodeWindow(editor::FormCodigo& logic, CodeEdit& code, const CodeWind
       find_(new FindDialog(code, this)),
       mark_text_(new QLabel),
       marks_(new CodeMarksView(code, *mark_text_, ports.Marks,
-                               [this](std::string text) {
-                                 return ports_.Marks.EventCheck(logic_.Typed().Key(),
-                                                                std::move(text));
-                               })),
+                               [this] { return ports_.Marks.EventCheck(logic_.Typed().Key()); })),
       bar_(new QToolBar) {
   setObjectName(QStringLiteral("FormCodigo"));
   setWindowIcon(IconOf(QStringLiteral("code")));

@@ -8,7 +8,6 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <array>
-#include <utility>
 
 #include "qt/editor/code_marks_view.h"
 #include "qt/editor/find_dialog.h"
@@ -79,9 +78,8 @@ DeclarationsWindow::DeclarationsWindow(editor::FormViewCodes& logic, CodeEdit& c
   buttons->setContentsMargins(kRoom, 0, kRoom, kRoom);
   auto* mark_text = new QLabel;
   mark_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  marks_ = new CodeMarksView(code_, *mark_text, marks, [this, &marks](std::string text) {
-    return marks.DeclarationsCheck(logic_.Form(), std::move(text));
-  });
+  marks_ = new CodeMarksView(code_, *mark_text, marks,
+                             [this, &marks] { return marks.DeclarationsCheck(logic_.Form()); });
   key(QKeySequence(Qt::Key_F8), [this] { marks_->GoToNext(); });
   buttons->addWidget(mark_text, 1);
   buttons->addWidget(ok);
