@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "program.h"
+#include "qt/surface/container.h"
 
 namespace tarnwick {
 namespace {
@@ -50,6 +51,18 @@ TEST_F(WindowPlaces, TheOutputPanelFitsALowScreen) {
   EXPECT_LE(program.Window().minimumSizeHint().height(), kLowWindow);
   program.Key(Qt::Key_F8, Qt::ShiftModifier);
   EXPECT_LE(program.Window().minimumSizeHint().height(), kLowWindow);
+}
+
+TEST_F(WindowPlaces, TheEventsBarLeavesTheMenusFreeInALowWindow) {
+  program.Window().resize(1016, 564);
+  program.Choose(QStringLiteral("mnuOutput"));
+  program.Key(Qt::Key_F8, Qt::ShiftModifier);
+  Program::Settle();
+  const auto& bar = program.Find<QWidget>(QStringLiteral("FrmBarra"));
+  ASSERT_TRUE(bar.isVisible());
+  const Container& forms = program.Window().Forms();
+  ASSERT_LT(forms.height(), bar.height() + 24) << "there is less room than the bar wants";
+  EXPECT_GE(bar.y(), forms.mapTo(&program.Window(), QPoint(0, 0)).y());
 }
 
 TEST_F(WindowPlaces, TheFindingsGiveTheirTextTheRoomThatTheOtherColumnsDoNotNeed) {

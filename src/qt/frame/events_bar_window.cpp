@@ -207,6 +207,8 @@ void EventsBarWindow::Place() {
   if (!placed_) {
     const QPoint corner = container_.mapTo(over, QPoint(0, container_.height()));
     place = corner + QPoint(kEdge, -kEdge - size.height());
+    // A low container is left at its bottom: above it are the menus.
+    place.setY(std::max(place.y(), corner.y() - container_.height()));
   }
   place.setX(std::clamp(place.x(), 0, std::max(0, over->width() - size.width())));
   place.setY(std::clamp(place.y(), 0, std::max(0, over->height() - size.height())));
