@@ -9,12 +9,14 @@
 #include <gtest/gtest.h>
 
 #include "codegen/program_source.h"
+#include "fakes/build_paths.h"
 #include "fakes/temporary_folder.h"
 #include "qt/surface/form_menu_strip.h"
 #include "qt/surface/form_painter.h"
 #include "run/live_program.h"
 #include "run/views/run_form.h"
 #include "support/project_builder.h"
+#include "text/path_text.h"
 
 namespace tarnwick {
 namespace {
@@ -48,6 +50,7 @@ int Different(const QImage& a, const QImage& b, const QRect& area, const QRect& 
 class AlikeTest : public testing::Test {
  protected:
   AlikeTest() {
+    project_.Tables.ProgramFolder = PathFromNative(test::ProgramFolder());
     form_.User().BackColor = 0;
     form_.User().Caption = "Form";
     form_.Record().Width = 320;
@@ -202,6 +205,7 @@ TEST_F(AlikeTest, ALabelThatBreaksItsLines) {
   label.Control.BackStyle = 1;
   label.Control.Caption = "many words that need more than a single line of it";
   label.Control.WordWrap = true;
+  label.Record.Icon = 1;
   label.Control.AutoSize = false;
   ExpectAlike(QRect(0, 0, kPlace.width(), kPlace.height()), 0);
 }

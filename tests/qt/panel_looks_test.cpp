@@ -11,7 +11,7 @@ namespace {
 
 class PanelLooks : public GridWindow {};
 
-TEST_F(PanelLooks, SizeAndStyleOfAFontStandBesideItsNameAndTheButtons) {
+TEST_F(PanelLooks, SizeAndStyleOfAFontStandWholeBesideItsNameOrGiveWayToIt) {
   DesignControl* button = program.Place(0, {20, 20});
   button->FontSize = 8.25F;
   button->FontBold = true;
@@ -21,9 +21,15 @@ TEST_F(PanelLooks, SizeAndStyleOfAFontStandBesideItsNameAndTheButtons) {
   Enter("Font");
   const QWidget& row = *Cell("Font").parentWidget();
   const int note = row.fontMetrics().horizontalAdvance(QStringLiteral("8.25, bold, italic"));
-  const int buttons = Button("Boton1").mapTo(&program.Window(), QPoint()).x();
-  const int field = row.mapTo(&program.Window(), QPoint()).x() + Cell("Font").geometry().right();
-  EXPECT_GE(buttons - field, note);
+  const auto room_behind_the_name = [&] {
+    const int buttons = Button("Boton1").mapTo(&program.Window(), QPoint()).x();
+    return buttons - row.mapTo(&program.Window(), Cell("Font").geometry().topRight()).x();
+  };
+  EXPECT_LE(room_behind_the_name(), 1) << "the name needs it";
+  auto& panels = program.Find<QSplitter>(QStringLiteral("MiddleAndRight"));
+  panels.setSizes({panels.width() - 480, 480});
+  Program::Settle();
+  EXPECT_GE(room_behind_the_name(), note);
 }
 
 TEST_F(PanelLooks, TheHandlesBetweenPartsOfTheWindowAreSeen) {

@@ -54,9 +54,9 @@ TEST_F(WindowPlaces, TheOutputPanelFitsALowScreen) {
 }
 
 TEST_F(WindowPlaces, TheEventsBarLeavesTheMenusFreeInALowWindow) {
-  program.Window().resize(1016, 564);
   program.Choose(QStringLiteral("mnuOutput"));
   program.Key(Qt::Key_F8, Qt::ShiftModifier);
+  program.Window().resize(1016, program.Window().minimumSizeHint().height());
   Program::Settle();
   const auto& bar = program.Find<QWidget>(QStringLiteral("FrmBarra"));
   ASSERT_TRUE(bar.isVisible());

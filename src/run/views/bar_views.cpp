@@ -1,5 +1,6 @@
 #include "run/views/bar_views.h"
 
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QSlider>
 #include <algorithm>
@@ -137,9 +138,22 @@ const SliderRow& RowOf(const ObjectRecord& bar) {
   return bar.Is(kSliders[0].Class) ? kSliders[0] : kSliders[1];
 }
 
+/// The toolkit's scroll bar is made for areas: lying, it goes the other way with the arrow keys.
+class ScrollBar final : public QScrollBar {
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool right = event->key() == Qt::Key_Right;
+    if (orientation() == Qt::Horizontal && (right || event->key() == Qt::Key_Left)) {
+      triggerAction(right ? SliderSingleStepAdd : SliderSingleStepSub);
+    } else {
+      QScrollBar::keyPressEvent(event);
+    }
+  }
+};
+
 QAbstractSlider* MakeSlider(const ObjectRecord& bar) {
   if (bar.Is(ObjectClass::QTrackBar)) return new QSlider;
-  auto* const made = new QScrollBar;
+  auto* const made = new ScrollBar;
   made->setContextMenuPolicy(Qt::NoContextMenu);
   return made;
 }
