@@ -172,7 +172,7 @@ std::string LayOutNumber(double number, NumberLayout layout, std::int64_t precis
     return ExponentText(decimal, significant, exponent_digits);
   }
   if (layout == NumberLayout::Fixed) return FixedText(decimal, decimals, false);
-  const std::string text = FixedText(decimal, decimals, true);
+  std::string text = FixedText(decimal, decimals, true);
   if (layout == NumberLayout::Number) return text;
   const std::string sign(1, kCurrencySign);
   return text.front() == '-' ? "(" + sign + text.substr(1) + ")" : sign + text;

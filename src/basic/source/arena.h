@@ -29,6 +29,7 @@ class Arena {
   std::span<const T> List(const std::vector<T>& items) {
     static_assert(std::is_trivially_copyable_v<T>);
     if (items.empty()) return {};
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): lists of pointers are meant
     T* copy = static_cast<T*>(memory_->allocate(items.size() * sizeof(T), alignof(T)));
     std::uninitialized_copy(items.begin(), items.end(), copy);
     return {copy, items.size()};

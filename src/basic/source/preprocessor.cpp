@@ -112,7 +112,7 @@ class Preprocessor {
 
   void TakeDirective(Tokens& line, std::string_view rest) {
     const std::string_view name = line[0].Text;
-    const auto row = std::find_if(kRows.begin(), kRows.end(), [name](const Row& known) {
+    const auto* const row = std::find_if(kRows.begin(), kRows.end(), [name](const Row& known) {
       return EqualsFolded(known.Name, name);
     });
     if (row != kRows.end()) {

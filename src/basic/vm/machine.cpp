@@ -1,5 +1,7 @@
 #include "basic/vm/machine.h"
 
+#include <algorithm>
+
 #include "basic/lib/native_table.h"
 #include "basic/vm/machine_state.h"
 
@@ -48,10 +50,10 @@ void MachineState::EndWith(RunEnd end) {
   Ending = true;
   Result.End = end;
   if (end == RunEnd::Ended) return;
-  for (auto frame = Frames.rbegin(); frame != Frames.rend(); ++frame) {
-    const auto at = static_cast<std::size_t>(frame->Pc - Program.Instructions.data());
-    Result.Chain.push_back({frame->Procedure->Name, Program.PlaceOf(at)});
-  }
+  std::for_each(Frames.rbegin(), Frames.rend(), [this](const auto& frame) {
+    const auto at = static_cast<std::size_t>(frame.Pc - Program.Instructions.data());
+    Result.Chain.push_back({frame.Procedure->Name, Program.PlaceOf(at)});
+  });
 }
 
 bool MachineState::LookAround() {

@@ -113,7 +113,7 @@ struct MachineState {
                     bool activation);
   bool TooManyActivations();
   /// Runs a procedure to its end with these arguments; they get what its parameters hold then.
-  bool Invoke(ProcedureId procedure, std::vector<Value>& arguments);
+  bool Invoke(ProcedureId id, std::vector<Value>& arguments);
   void RunLoop();
 
   // --- Values of a call's registers (host_calls.cpp)
