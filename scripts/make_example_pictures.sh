@@ -1,5 +1,5 @@
 #!/bin/sh
-# Draws the pictures of examples/clock anew. Run it after a change here and commit the files too;
+# Redraws the pictures of examples/clock. Run it after a change here and commit the files too;
 # nothing else needs it. Bitmaps have 24 bits: the clock draws its hands into the face, and a
 # palette would change their colours. The icon has 256 colours, which every Windows shows.
 # Needs ImageMagick's convert.

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Draws support/IconApp.ico anew from support/icons/iconapp.svg: 16, 32 and 48 pixels, 32 bits with
+# Redraws support/IconApp.ico from support/icons/iconapp.svg: 16, 32 and 48 pixels, 32 bits with
 # alpha. Run it after a change of the drawing and commit both; the build only copies the icon.
 # Needs rsvg-convert and icotool.
 set -eu

@@ -33,7 +33,7 @@ class OwnerDrawing final : public QObject {
                std::function<std::vector<DrawnPart>()> parts)
       : stage_(stage), object_(object), event_(event), parts_(std::move(parts)) {}
 
-  /// Everything is drawn anew with the next events; asked for twice it is drawn once.
+  /// Everything is drawn again with the next events; two requests are drawn once.
   void Want();
 
  private:

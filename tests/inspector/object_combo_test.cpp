@@ -72,7 +72,7 @@ TEST(ObjectComboRows, AFilledListIsThereToBeChosenFrom) {
   const ControlRef button = bench.Make(Kind::Button);
   bench.Make(Kind::Label);
   bench.Sheet.FillCombo();
-  ASSERT_EQ(bench.Sheet.Combo().Rows().size(), 3U) << "filled anew, not twice";
+  ASSERT_EQ(bench.Sheet.Combo().Rows().size(), 3U) << "filled again, not twice";
   bench.Sheet.ChooseComboRow(1);
   EXPECT_EQ(bench.Form().ControlSel, button);
 }
