@@ -40,7 +40,10 @@ void LiveProgram::Step() {
   const QWidgetList windows = QApplication::topLevelWidgets();
   const bool shown = std::any_of(windows.begin(), windows.end(),
                                  [](const QWidget* window) { return window->isVisible(); });
-  if (shown && QApplication::activeWindow() == nullptr && ++waited_ < 100) return;
+  // A dialog that was left may have made none active: later steps wait a moment only.
+  const int patience = next_ == 0 ? 100 : 10;
+  if (shown && QApplication::activeWindow() == nullptr && ++waited_ < patience) return;
+  waited_ = 0;
   if (next_ < steps_.size()) {
     const std::function<void()> step = steps_[next_++];
     ++depth_;
@@ -53,7 +56,7 @@ void LiveProgram::Step() {
     return;
   }
   // The last step may wait for a window that it opened.
-  if (depth_ > 0 && ++waited_ < 250) return;
+  if (depth_ > 0 && ++left_open_ < 250) return;
   ++next_;
   machine_->Terminate();
 }

@@ -81,6 +81,7 @@ class LiveProgram {
   std::vector<std::function<void()>> steps_;
   std::size_t next_ = 0;
   int waited_ = 0;
+  int left_open_ = 0;
   int depth_ = 0;
   int pause_ = 20;
   QObject context_;
