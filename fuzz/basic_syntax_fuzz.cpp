@@ -32,9 +32,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     SourceSet files;
     files.Add("m", bytes);
     Messages messages;
-    const TokenStream stream = Preprocess(files, reader, {}, messages);
-    if (stream.Tokens.empty() || stream.Tokens.back().Kind != SourceTokenKind::End) std::abort();
-    const tree::SyntaxTree tree = Parse(stream, strict, messages);
+    Preprocessor lines(files, reader, {}, messages);
+    const tree::SyntaxTree tree = Parse(lines, strict, messages);
+    // All was read, or the faults were too many to read on.
+    std::vector<SourceToken> line;
+    lines.Next(line);
+    if (line.size() != 1 || line[0].Kind != SourceTokenKind::End) std::abort();
     // Every message has its place in a line that is there.
     for (const Message& message : messages.All()) {
       if (message.At.File >= files.Count()) std::abort();

@@ -32,15 +32,31 @@ std::size_t LineEndsIn(std::string_view text) {
   return count;
 }
 
-/// Keeps the begin of the program and the lines from `first` on. What stands between them has been
-/// read for its macros alone: a mistake there belongs to another text.
-void DropTokensBefore(std::vector<basic::SourceToken>& tokens, std::uint32_t first) {
-  std::erase_if(tokens, [first](const basic::SourceToken& token) {
-    const bool begin = token.At.File == 0 && token.At.Line == 1;
-    const bool text = token.At.File == 0 && token.At.Line >= first;
-    return !begin && !text && token.Kind != basic::SourceTokenKind::End;
-  });
-}
+/// The begin of the program and its lines from one on. What stands between them is read for its
+/// macros alone: a mistake there belongs to another text.
+class CheckedLines final : public basic::TokenLines {
+ public:
+  /// Reads `lines` to their end.
+  CheckedLines(basic::TokenLines& lines, std::uint32_t first) {
+    do {
+      lines.Next(lines_.emplace_back());
+      std::erase_if(lines_.back(), [first](const basic::SourceToken& token) {
+        const bool begin = token.At.File == 0 && token.At.Line == 1;
+        const bool text = token.At.File == 0 && token.At.Line >= first;
+        return !begin && !text && token.Kind != basic::SourceTokenKind::End;
+      });
+      if (lines_.back().empty()) lines_.pop_back();
+    } while (lines_.empty() || lines_.back().back().Kind != basic::SourceTokenKind::End);
+  }
+  void Next(std::vector<basic::SourceToken>& line) override {
+    line = lines_[next_];
+    if (next_ + 1 < lines_.size()) ++next_;
+  }
+
+ private:
+  std::vector<std::vector<basic::SourceToken>> lines_;
+  std::size_t next_ = 0;
+};
 
 /// The directives of a code by which the text of another event may read otherwise: they change what
 /// a name or a text is.
@@ -122,12 +138,10 @@ std::vector<CodeMark> CodeCheck::MarksOf(std::string_view text, std::string_view
   basic::SourceSet files;
   if (!files.Add(project_file_, std::move(program))) return {};
   basic::Messages found;
-  basic::TokenStream stream = basic::Preprocess(files, reader, {program_folder_}, found);
-  if (!reader.AnyMissing()) {
-    DropTokensBefore(stream.Tokens, head_.empty() ? first : first - 1);
-    // The tree itself is not needed.
-    static_cast<void>(basic::Parse(stream, false, found));
-  }
+  basic::Preprocessor program_lines(files, reader, {program_folder_}, found);
+  CheckedLines lines(program_lines, head_.empty() ? first : first - 1);
+  // The tree itself is not needed.
+  if (!reader.AnyMissing()) static_cast<void>(basic::Parse(lines, false, found));
   found.SortByPlace();
   std::vector<CodeMark> marks;
   for (const basic::Message& message : found.All()) {

@@ -31,7 +31,7 @@ TEST(Preprocessor, PutsAnIncludeInItsPlace) {
   sources.Files["C:\\Tarnwick\\two.inc"] = "c = 3";
   ParsedText text("a = 1\n$INCLUDE \"one.inc\"\n$Include <two.inc>\nd = 4\n", sources);
   EXPECT_EQ(text.Tokens(), "a = 1 | b = 2 | c = 3 | d = 4 |");
-  EXPECT_EQ(text.Stream.Tokens[4].At, (SourcePlace{1, 1, 1, 1}));
+  EXPECT_EQ(text.Stream[4].At, (SourcePlace{1, 1, 1, 1}));
 }
 TEST(Preprocessor, TakesTheSameFileTwice) {
   MemorySources sources;
@@ -57,8 +57,8 @@ TEST(Preprocessor, ADefinitionWithinItsOwnTextStays) {
 }
 TEST(Preprocessor, TextOfAMacroHasThePlaceOfItsUse) {
   ParsedText text("$DEFINE two 1 + 1\nx = two\n");
-  EXPECT_EQ(text.Stream.Tokens[2].At, (SourcePlace{2, 0, 5, 3}));
-  EXPECT_EQ(text.Stream.Tokens[4].At, (SourcePlace{2, 0, 5, 3}));
+  EXPECT_EQ(text.Stream[2].At, (SourcePlace{2, 0, 5, 3}));
+  EXPECT_EQ(text.Stream[4].At, (SourcePlace{2, 0, 5, 3}));
 }
 TEST(Preprocessor, UndefEndsADefinition) {
   EXPECT_EQ(Read("$DEFINE a 1\nx = a\n$UNDEF a\ny = a"), "x = 1 | y = a |");

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "basic/source/preprocessor.h"
 #include "basic/syntax/parser.h"
@@ -23,6 +25,20 @@ class MemorySources : public SourceReader {
   }
 };
 
+/// Lines as they come, whose tokens are kept.
+class KeptLines : public TokenLines {
+ public:
+  KeptLines(TokenLines& lines, std::vector<SourceToken>& kept) : lines_(lines), kept_(kept) {}
+  void Next(std::vector<SourceToken>& line) override {
+    lines_.Next(line);
+    kept_.insert(kept_.end(), line.begin(), line.end());
+  }
+
+ private:
+  TokenLines& lines_;
+  std::vector<SourceToken>& kept_;
+};
+
 /// A program read and parsed; everything that the tree points to lives as long as this.
 struct ParsedText {
   explicit ParsedText(std::string text, bool strict = false)
@@ -30,13 +46,14 @@ struct ParsedText {
   ParsedText(std::string text, MemorySources sources, bool strict = false)
       : Sources(std::move(sources)) {
     Set.Add("C:\\Work\\main.bas", std::move(text));
-    Stream = Preprocess(Set, Sources, {"C:\\Tarnwick"}, Found);
-    Tree = Parse(Stream, strict, Found);
+    Lines = std::make_unique<Preprocessor>(Set, Sources, SourceOptions{"C:\\Tarnwick"}, Found);
+    KeptLines kept(*Lines, Stream);
+    Tree = Parse(kept, strict, Found);
   }
   /// The tokens' text, parted by blanks; "|" for a line end.
   [[nodiscard]] std::string Tokens() const {
     std::string text;
-    for (const SourceToken& token : Stream.Tokens) {
+    for (const SourceToken& token : Stream) {
       if (token.Kind == SourceTokenKind::End) break;
       if (!text.empty()) text += ' ';
       text += token.Kind == SourceTokenKind::LineEnd ? "|" : std::string(token.Text);
@@ -55,7 +72,8 @@ struct ParsedText {
   MemorySources Sources;
   SourceSet Set;
   Messages Found;
-  TokenStream Stream;
+  std::unique_ptr<Preprocessor> Lines;
+  std::vector<SourceToken> Stream;  ///< the tokens of all lines
   tree::SyntaxTree Tree;
 };
 

@@ -47,8 +47,7 @@ const tree::Node* Checker::Settled(const tree::Node* node, Statements& out) {
   if (const auto* access = std::get_if<tree::MemberAccess>(&node->Value)) {
     if (access->Target == nullptr) return node;
     return program_.Memory.Make<tree::Node>(
-        node->At, node->Height,
-        tree::MemberAccess{Settled(access->Target, out), access->Name, access->NameAt});
+        node->At, node->Height, tree::MemberAccess{Settled(access->Target, out), access->Name});
   }
   const auto* apply = std::get_if<tree::Apply>(&node->Value);
   if (apply == nullptr) return node;
@@ -103,18 +102,17 @@ void Checker::CheckAssignment(const tree::Assignment& line, SourcePlace at, Stat
     return;
   }
   if (apply == nullptr && FrameRest(name->Text, true, at, out)) return;
-  const auto local = frame_->Names.find(name->Text);
+  const Symbol* const local = FindIn(frame_->Names, name->Id);
   const bool create = !around_.empty() && around_.back().Create;
-  if (local == frame_->Names.end() || create) {
+  if (local == nullptr || create) {
     const std::optional<MemberUse> implied = Implied(name->Text, at);
-    const bool known = local != frame_->Names.end() || globals_.contains(name->Text);
+    const bool known = local != nullptr || globals_.contains(name->Id);
     if (implied && (create || implied->Field != nullptr || !known)) {
       return AssignMember(*implied, indexes, value, name->Text, at, out);
     }
   }
-  const Symbol* symbol = Find(name->Text);
-  const bool own_result = local == frame_->Names.end() && !frame_->FunctionName.empty() &&
-                          EqualsFolded(name->Text, frame_->FunctionName);
+  const Symbol* symbol = Find(*name);
+  const bool own_result = IsOwnResult(local, name->Id);
   if (symbol != nullptr && !own_result && symbol->Kind != Symbol::Sort::Global &&
       symbol->Kind != Symbol::Sort::Local) {
     Error(base->At, '"' + std::string(name->Text) + "\" is not a variable");
@@ -131,7 +129,7 @@ void Checker::CheckAssignment(const tree::Assignment& line, SourcePlace at, Stat
   } else {
     // The value first: its names are looked up before this one exists. `n = n + 1` makes it.
     const Expr checked = Value(value);
-    const Symbol* const made = Find(name->Text);
+    const Symbol* const made = Find(*name);
     return Store(made != nullptr ? SlotOf(*made, base->At) : Undeclared(name->Text, base->At),
                  checked, at, out);
   }
@@ -173,11 +171,10 @@ void Checker::AssignMember(const MemberUse& use, tree::NodeList indexes, const t
   if (use.Field != nullptr) {
     const Expr target = indexes.empty() ? use.Field : Element(use.Field, indexes, at);
     const auto* routine = std::get_if<tree::Name>(&value->Value);
-    const std::optional<ProcedureId> id = routine == nullptr ||
-                                                  target->Kind.Kind != Storage::Integer ||
-                                                  Find(routine->Text) == nullptr
-                                              ? std::nullopt
-                                              : FindProcedure(routine->Text);
+    const std::optional<ProcedureId> id =
+        routine == nullptr || target->Kind.Kind != Storage::Integer || Find(*routine) == nullptr
+            ? std::nullopt
+            : FindProcedure(routine->Id);
     // The field of an event of one's own takes the number of a SUB.
     const bool hook = id && program_.At(*id).Kind == ProcedureKind::Sub;
     return Store(target, hook ? Whole(static_cast<std::int64_t>(*id), at) : Value(value), at, out);
@@ -192,10 +189,8 @@ void Checker::AssignMember(const MemberUse& use, tree::NodeList indexes, const t
     return LacksMember(use, name, at);
   }
   const MemberFacts& facts = *use.Facts;
-  const std::string written =
-      std::string(classes_.ClassName(use.Class)) + '.' + std::string(facts.Name);
   if (facts.Level == SupportLevel::None) {
-    Note(at, written + std::string(kNotSupported) + ": the line is passed over",
+    Note(at, WrittenAs(use) + std::string(kNotSupported) + ": the line is passed over",
          std::string(facts.Note));
     return;
   }
@@ -211,7 +206,7 @@ void Checker::AssignMember(const MemberUse& use, tree::NodeList indexes, const t
       break;
   }
   if (!facts.Writable) {
-    Error(at, written + " can be read, not set");
+    Error(at, WrittenAs(use) + " can be read, not set");
     return;
   }
   SetPropertyOf(use, indexes, value, at, out);
@@ -238,7 +233,7 @@ void Checker::SetPropertyOf(const MemberUse& use, tree::NodeList indexes, const 
 
 bool Checker::UnboundPicture(const MemberFacts& facts, const tree::Node* value) {
   const auto* name = std::get_if<tree::Name>(&value->Value);
-  if (name == nullptr || Find(name->Text) != nullptr) return false;
+  if (name == nullptr || Find(*name) != nullptr) return false;
   const bool handle =
       EqualsFolded(facts.Name, "BmpHandle") || EqualsFolded(facts.Name, "IcoHandle");
   return handle && Tolerate(Tolerance::UnboundPicture, value->At);
@@ -253,7 +248,7 @@ void Checker::Hook(const MemberUse& use, const tree::Node* value, SourcePlace at
   const auto* number = std::get_if<tree::WholeNumber>(&value->Value);
   if (number != nullptr && number->Value == 0) return Add(out, at, hook);
   if (const auto* name = std::get_if<tree::Name>(&value->Value)) {
-    std::optional<ProcedureId> id = FindProcedure(name->Text);
+    std::optional<ProcedureId> id = FindProcedure(name->Id);
     if (frame_->This) {
       const auto& members = types_[static_cast<std::size_t>(*frame_->This)].Members;
       const auto member = members.find(name->Text);
@@ -300,7 +295,7 @@ void Checker::CheckCall(const tree::CallLine& line, SourcePlace at, Statements& 
                     access->Name, at, true);
     if (call == nullptr) return;
   } else if (const auto* name = std::get_if<tree::Name>(&target->Value)) {
-    const Symbol* symbol = Find(name->Text);
+    const Symbol* symbol = Find(*name);
     if (symbol == nullptr) {
       if (line.Arguments.empty() && FrameRest(name->Text, false, at, out)) return;
       const auto rows = FindFunctions(name->Text);
@@ -317,7 +312,7 @@ void Checker::CheckCall(const tree::CallLine& line, SourcePlace at, Statements& 
         if (call == nullptr) return;
       }
     }
-    if (call == nullptr) call = CallOf(name->Text, line.Arguments, at, true);
+    if (call == nullptr) call = CallOf(*name, line.Arguments, at, true);
     if (call == nullptr && symbol == nullptr) {
       Error(target->At, "There is no SUB \"" + std::string(name->Text) + '"',
             SimilarTo(name->Text));

@@ -130,8 +130,8 @@ void Checker::CheckWith(const tree::WithBlock& block, SourcePlace at, Statements
 }
 
 void Checker::CheckCreate(const tree::CreateBlock& block, SourcePlace at, Statements& out) {
-  const Symbol* symbol =
-      frame_->Id == kMainProcedure ? Find(block.Object.Name) : DeclareLocal(block.Object, false);
+  const Symbol* symbol = frame_->Id == kMainProcedure ? Find(IdOf(block.Object.Name))
+                                                      : DeclareLocal(block.Object, false);
   const bool variable = symbol != nullptr && (symbol->Kind == Symbol::Sort::Global ||
                                               symbol->Kind == Symbol::Sort::Local);
   if (!variable) return;
@@ -180,7 +180,7 @@ void Checker::CheckLabel(const tree::Label& line, SourcePlace at, Statements& ou
   const auto found = frame_->Labels.find(line.Name);
   if (found != frame_->Labels.end()) return Add(out, at, LabelMark{found->second});
   // "Name:" is a call where the name is a SUB.
-  const Expr call = CallOf(line.Name, {}, at, true);
+  const Expr call = CallOf({line.Name, IdOf(line.Name)}, {}, at, true);
   if (call != nullptr) Add(out, at, Evaluate{call});
 }
 

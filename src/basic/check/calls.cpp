@@ -19,7 +19,7 @@ tree::NodeList WithoutTrailing(tree::NodeList arguments, std::size_t wanted) {
 
 }  // namespace
 
-const Expression* Checker::CallOf(std::string_view name, tree::NodeList arguments, SourcePlace at,
+const Expression* Checker::CallOf(const tree::Name& name, tree::NodeList arguments, SourcePlace at,
                                   bool as_statement) {
   const Symbol* symbol = Find(name);
   if (symbol != nullptr && symbol->Kind == Symbol::Sort::Procedure) {
@@ -29,8 +29,8 @@ const Expression* Checker::CallOf(std::string_view name, tree::NodeList argument
     return CallDll(symbol->Index, arguments, at);
   }
   if (symbol != nullptr) return nullptr;
-  const bool object = arguments.empty() && !as_statement && classes_.FindBuiltInObject(name);
-  return object ? nullptr : CallBuiltIn(name, arguments, at);
+  const bool object = arguments.empty() && !as_statement && classes_.FindBuiltInObject(name.Text);
+  return object ? nullptr : CallBuiltIn(name.Text, arguments, at);
 }
 
 const Expression* Checker::CallProcedure(ProcedureId id, tree::NodeList arguments, SourcePlace at,
@@ -128,10 +128,10 @@ const Expression* Checker::CallBuiltIn(std::string_view name, tree::NodeList arg
   }
   if (rows[0].Form == FunctionForm::Intrinsic) return CallIntrinsic(rows[0].Id, arguments, at);
   if (!rows[0].IsNative()) return nullptr;
-  const FunctionInfo* row = FindFunction(name, arguments.size());
+  const FunctionInfo* row = FindFunction(rows, arguments.size());
   while (row == nullptr && !arguments.empty() && arguments.back() == nullptr) {
     arguments = arguments.first(arguments.size() - 1);
-    row = FindFunction(name, arguments.size());
+    row = FindFunction(rows, arguments.size());
   }
   if (row != nullptr) return CallNative(*row, arguments, at);
   std::string takes = std::to_string(rows[0].MinArguments);

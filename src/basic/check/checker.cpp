@@ -153,15 +153,16 @@ void Checker::CheckBody(const tree::Routine& routine, ProcedureId id,
   const Procedure& head = program_.At(id);
   for (std::uint32_t i = owner ? 1 : 0; i < head.ParameterCount; ++i) {
     const Variable& parameter = head.Locals[i];
-    const Symbol symbol{Symbol::Sort::Local, i, nullptr, parameter.At};
-    if (!frame.Names.emplace(parameter.Name, symbol).second) {
+    const Symbol symbol{Symbol::Sort::Local, i, nullptr, parameter.At, parameter.Name};
+    if (!frame.Names.emplace(IdOf(parameter.Name), symbol).second) {
       Error(parameter.At,
             "The parameter \"" + std::string(parameter.Name) + "\" stands here twice");
     }
   }
   if (routine.Kind == tree::RoutineKind::Function) {
-    frame.FunctionName = Keep(routine.Name);
-    frame.Names.emplace("Result", Symbol{Symbol::Sort::Local, head.ResultSlot, nullptr, head.At});
+    frame.Function = IdOf(routine.Name);
+    frame.Names.emplace(IdOf("Result"),
+                        Symbol{Symbol::Sort::Local, head.ResultSlot, nullptr, head.At, "Result"});
   }
   CollectLabels(routine.Body);
   Statements start;

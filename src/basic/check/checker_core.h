@@ -27,7 +27,10 @@ struct Symbol {
   std::uint32_t Index = 0;               ///< slot, procedure, entry or resource
   const Expression* Constant = nullptr;  ///< the value of a constant
   SourcePlace At;
+  std::string_view Name;  ///< as it is declared
 };
+/// Looked up for every name of the program: by number, not by text.
+using SymbolMap = std::unordered_map<NameId, Symbol>;
 
 /// What the checker knows of a TYPE beside its `RecordType`.
 struct TypeFacts {
@@ -43,12 +46,12 @@ struct TypeFacts {
 /// The procedure being checked.
 struct RoutineScope {
   ProcedureId Id = kMainProcedure;
-  FoldedMap<Symbol> Names;
+  SymbolMap Names;
   FoldedMap<LabelId> Labels;
   std::vector<tree::ExitKind> Loops;
   std::optional<RecordId> This;  ///< in a member of a TYPE: that of local 0
   bool InConstructor = false;
-  std::string_view FunctionName;  ///< "" outside functions
+  NameId Function = NameId::None;  ///< its own name; None outside functions
 };
 
 /// An object whose members are reached by a leading dot, and in CREATE by their bare name.
@@ -112,8 +115,25 @@ class Checker {
   [[nodiscard]] std::string SimilarTo(std::string_view name) const;
 
   // --- Names (names.cpp) -------------------------------------------------------------------------
-  [[nodiscard]] const Symbol* Find(std::string_view name) const;
-  [[nodiscard]] std::optional<ProcedureId> FindProcedure(std::string_view name) const;
+  [[nodiscard]] NameId IdOf(std::string_view name) const { return tree_.Names->Of(name); }
+  [[nodiscard]] static const Symbol* FindIn(const SymbolMap& names, NameId name) {
+    const auto found = names.find(name);
+    return found == names.end() ? nullptr : &found->second;
+  }
+  /// What a name means here: that of the procedure first. Null for none.
+  [[nodiscard]] const Symbol* Find(NameId name) const {
+    const Symbol* const local = FindIn(frame_->Names, name);
+    return local != nullptr ? local : FindIn(globals_, name);
+  }
+  [[nodiscard]] const Symbol* Find(const tree::Name& name) const { return Find(name.Id); }
+  /// True inside a function for its own name, unless a variable hides it.
+  [[nodiscard]] bool IsOwnResult(const Symbol* local, NameId name) const {
+    return local == nullptr && name == frame_->Function && name != NameId::None;
+  }
+  [[nodiscard]] std::optional<ProcedureId> FindProcedure(NameId name) const;
+  [[nodiscard]] std::optional<ProcedureId> FindProcedure(std::string_view name) const {
+    return FindProcedure(IdOf(name));
+  }
   Expr OfSymbol(const Symbol& symbol, SourcePlace at);
   Expr SlotOf(const Symbol& symbol, SourcePlace at);
   /// A variable for a name that is not declared; an error where names must be declared.
@@ -158,7 +178,7 @@ class Checker {
   // --- Expressions (expressions.cpp, operators.cpp) ----------------------------------------------
   /// The value of an expression; never null, of kind None only with an error.
   Expr Value(const tree::Node* node);
-  Expr NameValue(std::string_view name, SourcePlace at);
+  Expr NameValue(const tree::Name& name, SourcePlace at);
   Expr ApplyValue(const tree::Apply& apply, SourcePlace at);
   Expr SubscriptValue(const tree::Subscript& subscript, SourcePlace at);
   Expr BinaryValue(const tree::Binary& binary, SourcePlace at);
@@ -181,7 +201,7 @@ class Checker {
 
   // --- Calls (calls.cpp, built_ins.cpp) ----------------------------------------------------------
   /// The call of a name with arguments; null when the name is nothing that can be called.
-  Expr CallOf(std::string_view name, tree::NodeList arguments, SourcePlace at, bool as_statement);
+  Expr CallOf(const tree::Name& name, tree::NodeList arguments, SourcePlace at, bool as_statement);
   Expr CallProcedure(ProcedureId id, tree::NodeList arguments, SourcePlace at, Expr record);
   Expr CallDll(std::uint32_t entry, tree::NodeList arguments, SourcePlace at);
   Expr CallPointer(tree::NodeList arguments, SourcePlace at);
@@ -215,6 +235,8 @@ class Checker {
   MemberUse MemberOfValue(Expr owner, std::string_view name, SourcePlace at);
   MemberUse MemberOfRecord(Expr record, std::string_view name, SourcePlace at);
   MemberUse MemberOfObject(Expr object, std::string_view name);
+  /// "Class.Member", for messages.
+  [[nodiscard]] std::string WrittenAs(const MemberUse& use) const;
   void LacksMember(const MemberUse& use, std::string_view name, SourcePlace at);
   Expr UseValue(const MemberUse& use, tree::NodeList arguments, bool brackets,
                 std::string_view name, SourcePlace at, bool as_statement);
@@ -267,7 +289,7 @@ class Checker {
   bool tolerant_;
   bool must_declare_ = false;                     ///< $TYPECHECK ON
   Storage default_storage_ = kUndeclaredStorage;  ///< $OPTION DIM
-  FoldedMap<Symbol> globals_;
+  SymbolMap globals_;
   FoldedMap<RecordId> type_names_;
   std::vector<TypeFacts> types_;  ///< by RecordId
   FoldedMap<std::uint32_t> data_labels_;

@@ -11,11 +11,11 @@ void Checker::Declare(const tree::Declaration& line, SourcePlace /*at*/, Stateme
 
 void Checker::DeclareOne(tree::DeclareKind kind, const tree::Declarator& name, Statements& out) {
   if (kind == tree::DeclareKind::Shared) {
-    if (!globals_.contains(name.Name)) Undeclared(name.Name, name.At);
+    if (!globals_.contains(IdOf(name.Name))) Undeclared(name.Name, name.At);
     return;
   }
   const bool main = frame_->Id == kMainProcedure;
-  const Symbol* symbol = Find(name.Name);
+  const Symbol* symbol = Find(IdOf(name.Name));
   const bool redim = kind == tree::DeclareKind::Redim;
   if (!main && !(redim && symbol != nullptr)) {
     symbol = DeclareLocal(name, kind == tree::DeclareKind::Static);
@@ -43,14 +43,14 @@ const Symbol* Checker::DeclareLocal(const tree::Declarator& name, bool is_static
   if (name.IsArray && !name.Dimensions.empty()) {
     type.Dimensions = static_cast<std::uint8_t>(std::min<std::size_t>(name.Dimensions.size(), 255));
   }
-  const auto old = frame_->Names.find(name.Name);
-  if (old != frame_->Names.end()) {
-    const Symbol& known = old->second;
+  const NameId id = IdOf(name.Name);
+  if (const Symbol* const old = FindIn(frame_->Names, id)) {
+    const Symbol& known = *old;
     const bool same = known.Kind == Symbol::Sort::Local &&
                       Current().Locals[known.Index].Kind == type &&
                       known.Index >= Current().ParameterCount;
     // A local called Result hides the one of the function.
-    const bool result = known.Kind == Symbol::Sort::Local && !frame_->FunctionName.empty() &&
+    const bool result = known.Kind == Symbol::Sort::Local && frame_->Function != NameId::None &&
                         known.Index == Current().ResultSlot && EqualsFolded(name.Name, "Result");
     if (same && !result) return &known;
     if (!result) {
@@ -60,13 +60,13 @@ const Symbol* Checker::DeclareLocal(const tree::Declarator& name, bool is_static
   }
   if (!is_static) {
     NewLocal(name.Name, type, name.At);
-    return &frame_->Names.find(name.Name)->second;
+    return FindIn(frame_->Names, id);
   }
   const auto index = static_cast<std::uint32_t>(program_.Globals.size());
   const std::string_view kept = Keep(name.Name);
   program_.Globals.push_back({kept, type, name.At, false});
-  frame_->Names[kept] = {Symbol::Sort::Global, index, nullptr, name.At};
-  return &frame_->Names.find(kept)->second;
+  frame_->Names[id] = {Symbol::Sort::Global, index, nullptr, name.At, kept};
+  return FindIn(frame_->Names, id);
 }
 
 void Checker::MakeValue(Expr variable, const tree::Declarator& name, bool keeps, bool once,
@@ -103,7 +103,7 @@ void Checker::StartValue(Expr variable, const tree::Declarator& name, Statements
 void Checker::CheckConst(const tree::ConstDeclaration& line, SourcePlace at, Statements& out) {
   const auto late = late_constants_.find(&line);
   if (late != late_constants_.end()) {
-    Store(SlotOf(globals_.find(line.Name)->second, at), late->second, at, out);
+    Store(SlotOf(globals_.at(IdOf(line.Name)), at), late->second, at, out);
     return;
   }
   if (frame_->Id == kMainProcedure) return;
@@ -114,11 +114,11 @@ void Checker::CheckConst(const tree::ConstDeclaration& line, SourcePlace at, Sta
                         std::holds_alternative<TextConstant>(value->Node);
   const std::string_view name = Keep(line.Name);
   if (constant) {
-    frame_->Names[name] = {Symbol::Sort::Constant, 0, value, at};
+    frame_->Names[IdOf(name)] = {Symbol::Sort::Constant, 0, value, at, name};
     return;
   }
   NewLocal(name, {value->Kind.Kind, 0, value->Kind.Detail}, at);
-  Store(SlotOf(frame_->Names.find(name)->second, at), value, at, out);
+  Store(SlotOf(frame_->Names.at(IdOf(name)), at), value, at, out);
 }
 
 }  // namespace tarnwick::basic

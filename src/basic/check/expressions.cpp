@@ -14,7 +14,7 @@ const Expression* Checker::Value(const tree::Node* node) {
     Expr operator()(const tree::WholeNumber& n) const { return C.Whole(n.Value, At); }
     Expr operator()(const tree::RealNumber& n) const { return C.Real(n.Value, At); }
     Expr operator()(const tree::TextLiteral& n) const { return C.Text(C.Keep(n.Value), At); }
-    Expr operator()(const tree::Name& n) const { return C.NameValue(n.Text, At); }
+    Expr operator()(const tree::Name& n) const { return C.NameValue(n, At); }
     Expr operator()(const tree::Apply& n) const { return C.ApplyValue(n, At); }
     Expr operator()(const tree::Subscript& n) const { return C.SubscriptValue(n, At); }
     Expr operator()(const tree::MemberAccess& n) const {
@@ -32,31 +32,30 @@ const Expression* Checker::Value(const tree::Node* node) {
   return value;
 }
 
-const Expression* Checker::NameValue(std::string_view name, SourcePlace at) {
-  const auto local = frame_->Names.find(name);
-  if (local != frame_->Names.end()) return OfSymbol(local->second, at);
+const Expression* Checker::NameValue(const tree::Name& name, SourcePlace at) {
+  const Symbol* const local = FindIn(frame_->Names, name.Id);
+  if (local != nullptr) return OfSymbol(*local, at);
   // Inside a function its own name without brackets is the result so far.
-  if (!frame_->FunctionName.empty() && EqualsFolded(name, frame_->FunctionName)) {
+  if (IsOwnResult(local, name.Id)) {
     return Make(Current().Result, at, LocalSlot{Current().ResultSlot});
   }
-  if (frame_->This && EqualsFolded(name, "This")) return This(at);
-  const std::optional<MemberUse> implied = Implied(name, at);
+  if (frame_->This && EqualsFolded(name.Text, "This")) return This(at);
+  const std::optional<MemberUse> implied = Implied(name.Text, at);
   if (implied && (implied->Field != nullptr || implied->Routine)) {
-    return UseValue(*implied, {}, false, name, at, false);
+    return UseValue(*implied, {}, false, name.Text, at, false);
   }
-  const auto global = globals_.find(name);
-  if (global != globals_.end()) return OfSymbol(global->second, at);
-  if (EqualsFolded(name, "TRUE")) return Whole(kTrueConstant, at);
-  if (EqualsFolded(name, "FALSE")) return Whole(kFalseConstant, at);
-  if (implied) return UseValue(*implied, {}, false, name, at, false);
+  if (const Symbol* const global = FindIn(globals_, name.Id)) return OfSymbol(*global, at);
+  if (EqualsFolded(name.Text, "TRUE")) return Whole(kTrueConstant, at);
+  if (EqualsFolded(name.Text, "FALSE")) return Whole(kFalseConstant, at);
+  if (implied) return UseValue(*implied, {}, false, name.Text, at, false);
   const Expr call = CallOf(name, {}, at, false);
   if (call != nullptr) return call;
-  const std::optional<ClassId> object = classes_.FindBuiltInObject(name);
+  const std::optional<ClassId> object = classes_.FindBuiltInObject(name.Text);
   if (object) {
     return Make({Storage::Object, 0, static_cast<std::uint32_t>(*object)}, at,
                 BuiltInObject{*object});
   }
-  return Undeclared(name, at);
+  return Undeclared(name.Text, at);
 }
 
 const Expression* Checker::ApplyValue(const tree::Apply& apply, SourcePlace at) {
@@ -65,19 +64,17 @@ const Expression* Checker::ApplyValue(const tree::Apply& apply, SourcePlace at) 
                     false);
   }
   if (const auto* name = std::get_if<tree::Name>(&apply.Target->Value)) {
-    const auto local = frame_->Names.find(name->Text);
-    const bool own_call = local == frame_->Names.end() && !frame_->FunctionName.empty() &&
-                          EqualsFolded(name->Text, frame_->FunctionName);
-    const Symbol* symbol = own_call ? nullptr : Find(name->Text);
+    const Symbol* const local = FindIn(frame_->Names, name->Id);
+    const Symbol* symbol = IsOwnResult(local, name->Id) ? nullptr : Find(*name);
     const bool variable = symbol != nullptr && (symbol->Kind == Symbol::Sort::Global ||
                                                 symbol->Kind == Symbol::Sort::Local);
     if (!variable) {
       const std::optional<MemberUse> implied =
-          local == frame_->Names.end() ? Implied(name->Text, at) : std::nullopt;
+          local == nullptr ? Implied(name->Text, at) : std::nullopt;
       const bool member = implied && (symbol == nullptr || implied->Field != nullptr ||
                                       implied->Routine.has_value());
       if (member) return UseValue(*implied, apply.Arguments, true, name->Text, at, false);
-      const Expr call = CallOf(name->Text, apply.Arguments, at, false);
+      const Expr call = CallOf(*name, apply.Arguments, at, false);
       if (call != nullptr) return call;
       if (symbol == nullptr) {
         return Fail(apply.Target->At,

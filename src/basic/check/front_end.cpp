@@ -15,8 +15,8 @@ FrontEndResult CheckProgram(const std::string& path, SourceReader& reader,
     result.Found.Error({}, "The file " + path + " cannot be read or is too large");
     return result;
   }
-  const TokenStream stream = Preprocess(result.Files, reader, options.Source, result.Found);
-  const tree::SyntaxTree tree = Parse(stream, options.Strict, result.Found);
+  Preprocessor lines(result.Files, reader, options.Source, result.Found);
+  const tree::SyntaxTree tree = Parse(lines, options.Strict, result.Found);
   Program program = Check(tree, classes, options.Strict, result.Found);
   result.Found.SortByPlace();
   if (result.Found.HasErrors()) return result;

@@ -64,7 +64,7 @@ void Checker::CollectHead(const tree::StatementNode& statement, bool in_routine)
                    const auto index = static_cast<std::uint32_t>(program_.Resources.size());
                    const std::string_view name = Keep(line.Name);
                    program_.Resources.push_back({name, Keep(line.File), at});
-                   globals_[name] = {Symbol::Sort::Resource, index, nullptr, at};
+                   globals_[IdOf(name)] = {Symbol::Sort::Resource, index, nullptr, at, name};
                  },
                  [&](const tree::Declaration& line) {
                    if (in_routine || line.Kind == tree::DeclareKind::Shared) return;
@@ -149,9 +149,9 @@ void Checker::CollectProcedure(const tree::Routine& routine, SourcePlace at) {
   }
   const ProcedureId id = NewProcedure(routine, routine.Name, at, std::nullopt);
   const std::string_view name = program_.At(id).Name;
-  const auto [known, added] = globals_.try_emplace(
-      name,
-      Symbol{Symbol::Sort::Procedure, static_cast<std::uint32_t>(id), nullptr, routine.NameAt});
+  const Symbol symbol{Symbol::Sort::Procedure, static_cast<std::uint32_t>(id), nullptr,
+                      routine.NameAt, name};
+  const auto [known, added] = globals_.try_emplace(IdOf(name), symbol);
   if (!added) {
     Error(routine.NameAt, '"' + std::string(name) + "\" is declared twice",
           "The other one is in line " + std::to_string(known->second.At.Line));
@@ -171,7 +171,7 @@ void Checker::CollectDll(const tree::DeclareLine& line, SourcePlace at) {
   }
   if (line.Function) entry.Result = TypeOf(line.Result, line.Name, false);
   const auto index = static_cast<std::uint32_t>(program_.DllEntries.size());
-  globals_[entry.Name] = {Symbol::Sort::Dll, index, nullptr, at};
+  globals_[IdOf(entry.Name)] = {Symbol::Sort::Dll, index, nullptr, at, entry.Name};
   program_.DllEntries.push_back(std::move(entry));
 }
 
@@ -180,12 +180,12 @@ void Checker::CollectGlobal(const tree::Declarator& name) {
   if (name.IsArray && !name.Dimensions.empty()) {
     type.Dimensions = static_cast<std::uint8_t>(std::min<std::size_t>(name.Dimensions.size(), 255));
   }
-  const auto old = globals_.find(name.Name);
-  if (old == globals_.end()) {
+  const Symbol* const old = FindIn(globals_, IdOf(name.Name));
+  if (old == nullptr) {
     NewGlobal(name.Name, type, name.At);
-  } else if (!Redeclared(old->second, type, name)) {
+  } else if (!Redeclared(*old, type, name)) {
     Error(name.At, '"' + std::string(name.Name) + "\" is declared twice",
-          "The other one is in line " + std::to_string(old->second.At.Line));
+          "The other one is in line " + std::to_string(old->At.Line));
   }
 }
 
@@ -205,7 +205,7 @@ bool Checker::Redeclared(const Symbol& old, Type type, const tree::Declarator& n
 
 void Checker::CollectConstant(const tree::ConstDeclaration& line, SourcePlace at) {
   const std::string_view name = Keep(line.Name);
-  if (globals_.contains(name)) {
+  if (globals_.contains(IdOf(name))) {
     Error(at, '"' + std::string(name) + "\" is declared twice");
     return;
   }
@@ -215,7 +215,7 @@ void Checker::CollectConstant(const tree::ConstDeclaration& line, SourcePlace at
                         std::holds_alternative<RealConstant>(value->Node) ||
                         std::holds_alternative<TextConstant>(value->Node);
   if (constant) {
-    globals_[name] = {Symbol::Sort::Constant, 0, value, at};
+    globals_[IdOf(name)] = {Symbol::Sort::Constant, 0, value, at, name};
     return;
   }
   // A constant that only the running program can work out is a variable that is set in its place.

@@ -33,7 +33,7 @@ const Expression* Checker::CallIntrinsic(FunctionId id, tree::NodeList arguments
     case FunctionId::CodePtr: {
       const auto* name = none ? nullptr : std::get_if<tree::Name>(&arguments[0]->Value);
       const std::optional<ProcedureId> procedure =
-          name == nullptr ? std::nullopt : FindProcedure(name->Text);
+          name == nullptr ? std::nullopt : FindProcedure(name->Id);
       if (!procedure) {
         return Fail(at, "The name of a SUB or FUNCTION is expected here",
                     name == nullptr ? "" : SimilarTo(name->Text));
@@ -87,7 +87,7 @@ const Expression* Checker::SizeOfNode(const tree::Node* node, SourcePlace at) {
     return bytes;
   };
   if (const auto* name = std::get_if<tree::Name>(&node->Value);
-      name != nullptr && Find(name->Text) == nullptr) {
+      name != nullptr && Find(*name) == nullptr) {
     if (const std::optional<Type> type = TypeNamed(name->Text)) {
       return Whole(bytes_of(bytes_of, *type, 0), at);
     }

@@ -19,7 +19,7 @@ const Expression* Checker::ObjectOf(Expr value) {
 const Expression* Checker::OwnerOf(const tree::Node* target, SourcePlace at) {
   const auto* name = std::get_if<tree::Name>(&target->Value);
   if (name == nullptr) return Value(target);
-  if (Find(name->Text) != nullptr) return Value(target);
+  if (Find(*name) != nullptr) return Value(target);
   if (frame_->This) {
     const bool own = EqualsFolded(name->Text, "This") ||
                      EqualsFolded(name->Text, program_.At(*frame_->This).Name);
@@ -49,7 +49,7 @@ Checker::MemberUse Checker::MemberOf(const tree::MemberAccess& access, SourcePla
     return use;
   }
   const auto* name = std::get_if<tree::Name>(&access.Target->Value);
-  if (name != nullptr && EqualsFolded(name->Text, "FILEREC") && Find(name->Text) == nullptr) {
+  if (name != nullptr && EqualsFolded(name->Text, "FILEREC") && Find(*name) == nullptr) {
     use.Field = FoundFileOf(access.Name, at);
     return use;
   }
@@ -62,7 +62,7 @@ Checker::MemberUse Checker::MemberOf(const tree::MemberAccess& access, SourcePla
   const auto* first = inner == nullptr || inner->Target == nullptr
                           ? nullptr
                           : std::get_if<tree::Name>(&inner->Target->Value);
-  if (first != nullptr && Find(first->Text) != nullptr) {
+  if (first != nullptr && Find(*first) != nullptr) {
     const Expr owner = Value(inner->Target);
     if (owner->Kind.Kind == Storage::Record && !owner->Kind.IsArray()) {
       const TypeFacts& facts = types_[owner->Kind.Detail];
@@ -139,6 +139,10 @@ Checker::MemberUse Checker::MemberOfObject(Expr object, std::string_view name) {
   return use;
 }
 
+std::string Checker::WrittenAs(const MemberUse& use) const {
+  return std::string(classes_.ClassName(use.Class)) + '.' + std::string(use.Facts->Name);
+}
+
 void Checker::LacksMember(const MemberUse& use, std::string_view name, SourcePlace at) {
   if (use.Failed) return;
   SimilarName similar(name);
@@ -170,28 +174,26 @@ const Expression* Checker::UseValue(const MemberUse& use, tree::NodeList argumen
     return Faulty(at);
   }
   const MemberFacts& facts = *use.Facts;
-  const std::string written =
-      std::string(classes_.ClassName(use.Class)) + '.' + std::string(facts.Name);
   if (facts.Level == SupportLevel::None) {
     if (as_statement) {
-      Note(at, written + std::string(kNotSupported) + ": the line is passed over",
+      Note(at, WrittenAs(use) + std::string(kNotSupported) + ": the line is passed over",
            std::string(facts.Note));
       return nullptr;
     }
-    return Fail(at, written + std::string(kNotSupported), std::string(facts.Note));
+    return Fail(at, WrittenAs(use) + std::string(kNotSupported), std::string(facts.Note));
   }
   switch (facts.Kind) {
     case MemberKind::Event:
-      return Fail(at, written + " is an event and has no value");
+      return Fail(at, WrittenAs(use) + " is an event and has no value");
     case MemberKind::Method:
       return CallMethod(use, arguments, at);
     default:
       break;
   }
-  if (!facts.Readable) return Fail(at, written + " can be set, not read");
+  if (!facts.Readable) return Fail(at, WrittenAs(use) + " can be set, not read");
   const std::size_t wanted = facts.Parameters.size();
   if (arguments.size() != wanted) {
-    return Fail(at, written + " takes " + std::to_string(wanted) + " index(es)");
+    return Fail(at, WrittenAs(use) + " takes " + std::to_string(wanted) + " index(es)");
   }
   std::vector<Expr> indexes;
   for (const tree::Node* index : arguments) {

@@ -14,11 +14,11 @@ bool Checker::Tolerate(Tolerance which, SourcePlace at) {
 
 std::string Checker::SimilarTo(std::string_view name) const {
   SimilarName similar(name);
-  for (const auto& [known, symbol] : frame_->Names) similar.Offer(known);
-  for (const auto& [known, symbol] : globals_) {
+  for (const auto& [id, symbol] : frame_->Names) similar.Offer(symbol.Name);
+  for (const auto& [id, symbol] : globals_) {
     // Names that were never declared are no better than this one.
     const bool declared = symbol.Kind != Symbol::Sort::Global || symbol.At.Line > 0;
-    if (declared) similar.Offer(known);
+    if (declared) similar.Offer(symbol.Name);
   }
   for (const FunctionInfo& function : Functions()) {
     if (function.Form != FunctionForm::Directive) similar.Offer(function.Name);
@@ -26,17 +26,10 @@ std::string Checker::SimilarTo(std::string_view name) const {
   return similar.Question();
 }
 
-const Symbol* Checker::Find(std::string_view name) const {
-  const auto local = frame_->Names.find(name);
-  if (local != frame_->Names.end()) return &local->second;
-  const auto global = globals_.find(name);
-  return global == globals_.end() ? nullptr : &global->second;
-}
-
-std::optional<ProcedureId> Checker::FindProcedure(std::string_view name) const {
-  const auto found = globals_.find(name);
-  if (found == globals_.end() || found->second.Kind != Symbol::Sort::Procedure) return std::nullopt;
-  return static_cast<ProcedureId>(found->second.Index);
+std::optional<ProcedureId> Checker::FindProcedure(NameId name) const {
+  const Symbol* const found = FindIn(globals_, name);
+  if (found == nullptr || found->Kind != Symbol::Sort::Procedure) return std::nullopt;
+  return static_cast<ProcedureId>(found->Index);
 }
 
 const Expression* Checker::SlotOf(const Symbol& symbol, SourcePlace at) {
@@ -73,14 +66,14 @@ const Expression* Checker::Undeclared(std::string_view name, SourcePlace at) {
   }
   const Storage storage = StorageOfSuffix(name).value_or(default_storage_);
   const std::uint32_t index = NewGlobal(name, {storage, 0, 0}, {});
-  return SlotOf(globals_.find(program_.Globals[index].Name)->second, at);
+  return Make(program_.Globals[index].Kind, at, GlobalSlot{index});
 }
 
 std::uint32_t Checker::NewGlobal(std::string_view name, Type type, SourcePlace at) {
   const auto index = static_cast<std::uint32_t>(program_.Globals.size());
   const std::string_view kept = Keep(name);
   program_.Globals.push_back({kept, type, at, false});
-  if (!name.empty()) globals_[kept] = {Symbol::Sort::Global, index, nullptr, at};
+  if (!name.empty()) globals_[IdOf(kept)] = {Symbol::Sort::Global, index, nullptr, at, kept};
   return index;
 }
 
@@ -88,7 +81,7 @@ std::uint32_t Checker::NewLocal(std::string_view name, Type type, SourcePlace at
   const auto index = static_cast<std::uint32_t>(Current().Locals.size());
   const std::string_view kept = Keep(name);
   Current().Locals.push_back({kept, type, at, false});
-  if (!name.empty()) frame_->Names[kept] = {Symbol::Sort::Local, index, nullptr, at};
+  if (!name.empty()) frame_->Names[IdOf(kept)] = {Symbol::Sort::Local, index, nullptr, at, kept};
   return index;
 }
 
@@ -97,7 +90,7 @@ const Expression* Checker::Temporary(Type type, SourcePlace at) {
 }
 
 bool Checker::IsCallable(std::string_view name) const {
-  const Symbol* symbol = Find(name);
+  const Symbol* symbol = Find(IdOf(name));
   if (symbol != nullptr) {
     return symbol->Kind == Symbol::Sort::Procedure || symbol->Kind == Symbol::Sort::Dll;
   }

@@ -139,7 +139,11 @@ std::span<const FunctionInfo> FindFunctions(std::string_view name) {
 }
 
 const FunctionInfo* FindFunction(std::string_view name, std::size_t arguments) {
-  for (const FunctionInfo& row : FindFunctions(name)) {
+  return FindFunction(FindFunctions(name), arguments);
+}
+
+const FunctionInfo* FindFunction(std::span<const FunctionInfo> rows, std::size_t arguments) {
+  for (const FunctionInfo& row : rows) {
     if (arguments >= row.MinArguments && arguments <= row.MaxArguments) return &row;
   }
   return nullptr;

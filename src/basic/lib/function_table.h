@@ -88,6 +88,9 @@ struct FunctionInfo {
 /// The row of a name that takes so many arguments; null when there is none of that name, or none
 /// that takes them (FindFunctions gives those).
 [[nodiscard]] const FunctionInfo* FindFunction(std::string_view name, std::size_t arguments);
+/// The same among the rows of a name.
+[[nodiscard]] const FunctionInfo* FindFunction(std::span<const FunctionInfo> rows,
+                                               std::size_t arguments);
 
 /// The word that the runner leaves out, with the reason and the remedy.
 struct LeftOut {

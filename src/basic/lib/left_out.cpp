@@ -1,3 +1,4 @@
+#include <unordered_map>
 #include <vector>
 
 #include "basic/lib/function_table.h"
@@ -42,10 +43,13 @@ std::span<const LeftOut> LeftOutWords() {
 }
 
 const LeftOut* FindLeftOut(std::string_view name) {
-  for (const LeftOut& word : Table()) {
-    if (EqualsFolded(word.Name, name)) return &word;
-  }
-  return nullptr;
+  static const auto kByName = [] {
+    std::unordered_map<std::string_view, const LeftOut*, FoldedHash, FoldedEqual> rows;
+    for (const LeftOut& word : Table()) rows.emplace(word.Name, &word);
+    return rows;
+  }();
+  const auto found = kByName.find(name);
+  return found == kByName.end() ? nullptr : found->second;
 }
 
 std::string TextOf(const LeftOut& word) {

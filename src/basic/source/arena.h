@@ -27,6 +27,10 @@ class Arena {
   /// A copy of a list.
   template <class T>
   std::span<const T> List(const std::vector<T>& items) {
+    return List(std::span<const T>(items));
+  }
+  template <class T>
+  std::span<const T> List(std::span<const T> items) {
     static_assert(std::is_trivially_copyable_v<T>);
     if (items.empty()) return {};
     // NOLINTNEXTLINE(bugprone-sizeof-expression): lists of pointers are meant

@@ -115,14 +115,17 @@ void LineReader::Next(bool escapes, bool counts, std::vector<SourceToken>& token
       messages_.Note(tokens.back().At, "The closing quote is missing: the text ends with the line",
                      "Write the quote");
     }
-    if (lines == 0 && !lexed_.empty())
-      rest_ = Trim(line.substr(lexed_[0].Begin + lexed_[0].Length));
+    if (lines == 0 && !lexed_.empty()) rest_ = line.substr(lexed_[0].Begin + lexed_[0].Length);
     if (++lines == kMaxContinuedLines && state.Continued) {
       messages_.Error(PlaceIn(index_, next_, 0, line.size()), "The statement takes too many lines",
                       "Split it into several statements");
       return;
     }
   } while (state.Continued && HasNext());
+}
+
+std::string_view LineReader::RestOfDirective() const {
+  return Trim(rest_);
 }
 
 void LineReader::Take(std::string_view line, const language::Token& token, bool touches,

@@ -30,7 +30,7 @@ class LineReader {
   void Next(bool escapes, bool counts, std::vector<SourceToken>& tokens);
   /// What stands on the last line read behind its first token, blanks at both ends off, comment
   /// included.
-  [[nodiscard]] std::string_view RestOfDirective() const noexcept { return rest_; }
+  [[nodiscard]] std::string_view RestOfDirective() const;
 
  private:
   void Take(std::string_view line, const language::Token& token, bool touches, bool escapes,
@@ -41,7 +41,7 @@ class LineReader {
   Arena& memory_;
   Messages& messages_;
   std::size_t next_ = 0;
-  std::string_view rest_;
+  std::string_view rest_;  ///< with its blanks
   bool counts_ = true;
   std::vector<language::Token> lexed_;
 };

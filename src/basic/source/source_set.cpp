@@ -7,16 +7,17 @@ namespace {
 
 std::vector<std::string_view> LinesOf(std::string_view bytes) {
   std::vector<std::string_view> lines;
-  std::size_t begin = 0;
-  while (begin < bytes.size()) {
-    const std::size_t end = bytes.find_first_of("\r\n", begin);
-    if (end == std::string_view::npos) {
-      lines.push_back(bytes.substr(begin));
-      break;
+  while (!bytes.empty()) {
+    const std::size_t feed = bytes.find('\n');
+    std::string_view rest = bytes.substr(0, feed);
+    bytes.remove_prefix(feed == std::string_view::npos ? bytes.size() : feed + 1);
+    // Carriage returns in front of the line feed end lines, too; the last one belongs to it.
+    std::size_t end = rest.find('\r');
+    for (; end != std::string_view::npos && end + 1 < rest.size(); end = rest.find('\r')) {
+      lines.push_back(rest.substr(0, end));
+      rest.remove_prefix(end + 1);
     }
-    lines.push_back(bytes.substr(begin, end - begin));
-    const bool two = bytes[end] == '\r' && end + 1 < bytes.size() && bytes[end + 1] == '\n';
-    begin = end + (two ? 2 : 1);
+    lines.push_back(rest.substr(0, end));
   }
   return lines;
 }

@@ -5,7 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include "basic/source/arena.h"
 #include "basic/source/source_place.h"
 
 namespace tarnwick::basic {
@@ -31,11 +30,13 @@ struct SourceToken {
   bool Plain = false;  ///< a name that $UNDEF has made no keyword
 };
 
-/// The tokens of a program, ending with one `End`. The views point into the source set and into
-/// `Memory`.
-struct TokenStream {
-  std::vector<SourceToken> Tokens;
-  Arena Memory;
+/// Hands out the tokens of a program, one statement line after the other.
+class TokenLines {
+ public:
+  virtual ~TokenLines() = default;
+  /// Replaces `line` by the tokens of the next statement line and its LineEnd; behind the last one
+  /// by one End, each time it is asked.
+  virtual void Next(std::vector<SourceToken>& line) = 0;
 };
 
 }  // namespace tarnwick::basic

@@ -39,9 +39,8 @@ void Parser::InitialHere(tree::Declarator& out) {
     out.Initial = Expression();
     return;
   }
-  std::vector<const Node*> values = ArgumentsUntil(nullptr, "}");
+  out.InitialList = ArgumentsUntil(nullptr, "}");
   ExpectSign("}");
-  out.InitialList = memory_.List(values);
 }
 
 void Parser::ConstStatement(Statements& out) {

@@ -1,7 +1,9 @@
 // Expressions: precedence climbing over the table of operators.
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <optional>
+#include <span>
 
 #include "basic/syntax/number_literal.h"
 #include "basic/syntax/parser_core.h"
@@ -11,45 +13,25 @@ namespace {
 
 using tree::Operator;
 
-/// A binary operator and how tightly it binds: higher is tighter.
-struct OperatorRow {
-  std::string_view Sign;
-  Operator Op;
-  int Level;
-};
-
 constexpr int kNotLevel = 4;
 constexpr int kNegateLevel = 9;
 
+/// In the order of their signs.
 constexpr std::array<OperatorRow, 25> kOperators = {{
-    {"XOR", Operator::Xor, 1},         {"OR", Operator::Or, 2},
-    {"AND", Operator::And, 3},         {"=", Operator::Equal, 5},
-    {"<>", Operator::NotEqual, 5},     {"><", Operator::NotEqual, 5},
-    {"<", Operator::Less, 5},          {"<=", Operator::LessEqual, 5},
-    {"=<", Operator::LessEqual, 5},    {">", Operator::Greater, 5},
-    {">=", Operator::GreaterEqual, 5}, {"=>", Operator::GreaterEqual, 5},
-    {"+", Operator::Add, 6},           {"-", Operator::Subtract, 6},
-    {"++", Operator::Add, 6},          {"--", Operator::Subtract, 6},
-    {"&", Operator::Join, 6},          {"MOD", Operator::Modulo, 7},
-    {"INV", Operator::Inverse, 7},     {"*", Operator::Multiply, 8},
-    {"/", Operator::Divide, 8},        {"\\", Operator::WholeDivide, 8},
+    {"&", Operator::Join, 6},          {"*", Operator::Multiply, 8},
+    {"+", Operator::Add, 6},           {"++", Operator::Add, 6},
+    {"-", Operator::Subtract, 6},      {"--", Operator::Subtract, 6},
+    {"/", Operator::Divide, 8},        {"<", Operator::Less, 5},
+    {"<=", Operator::LessEqual, 5},    {"<>", Operator::NotEqual, 5},
+    {"=", Operator::Equal, 5},         {"=<", Operator::LessEqual, 5},
+    {"=>", Operator::GreaterEqual, 5}, {">", Operator::Greater, 5},
+    {"><", Operator::NotEqual, 5},     {">=", Operator::GreaterEqual, 5},
+    {"AND", Operator::And, 3},         {"INV", Operator::Inverse, 7},
+    {"MOD", Operator::Modulo, 7},      {"OR", Operator::Or, 2},
     {"SHL", Operator::ShiftLeft, 8},   {"SHR", Operator::ShiftRight, 8},
+    {"XOR", Operator::Xor, 1},         {"\\", Operator::WholeDivide, 8},
     {"^", Operator::Power, 10},
 }};
-
-const OperatorRow* OperatorOf(const SourceToken& token) {
-  std::string_view text = token.Text;
-  if (token.Kind == SourceTokenKind::Name) {
-    const Word word = WordOf(text);
-    if (word == Word::None) return nullptr;
-    text = TextOf(word);
-  } else if (token.Kind != SourceTokenKind::Sign) {
-    return nullptr;
-  }
-  const auto* const row = std::find_if(kOperators.begin(), kOperators.end(),
-                                       [text](const OperatorRow& r) { return r.Sign == text; });
-  return row == kOperators.end() ? nullptr : row;
-}
 
 /// Words that are never the name of a value.
 bool IsReserved(Word word) {
@@ -63,6 +45,25 @@ int HeightOf(const tree::Node* node) {
 
 }  // namespace
 
+const OperatorRow* Parser::OperatorOf(std::string_view text) {
+  // The rows in the order of their first bytes: where those of a byte begin.
+  static constexpr auto kFirst = [] {
+    std::array<std::uint8_t, 129> first{};
+    for (std::size_t byte = 0, row = 0; byte < first.size(); ++byte) {
+      while (row < kOperators.size() && static_cast<std::size_t>(kOperators[row].Sign[0]) < byte)
+        ++row;
+      first[byte] = static_cast<std::uint8_t>(row);
+    }
+    return first;
+  }();
+  const auto byte = static_cast<unsigned char>(text[0]);
+  if (byte >= kFirst.size() - 1) return nullptr;
+  for (std::size_t row = kFirst[byte]; row < kFirst[byte + 1U]; ++row) {
+    if (kOperators[row].Sign == text) return &kOperators[row];
+  }
+  return nullptr;
+}
+
 const tree::Node* Parser::BinaryFrom(int level) {
   const SourcePlace from = Here();
   if (++depth_ > kMaxExpressionDepth) {
@@ -73,7 +74,7 @@ const tree::Node* Parser::BinaryFrom(int level) {
   }
   const Node* left = Prefix();
   while (!failed_) {
-    const OperatorRow* row = OperatorOf(Peek());
+    const OperatorRow* row = facts_[std::min(at_, facts_.size() - 1)].Binary;
     if (row == nullptr || row->Level <= level) break;
     if (in_line_if_ > 0 && WordAhead() == Word::Else) break;
     const bool doubled = row->Sign == "++" || row->Sign == "--";
@@ -120,12 +121,12 @@ const tree::Node* Parser::PostfixFrom(const Node* node) {
     if (IsSign("(")) {
       const std::size_t bracket = at_;
       Take();
-      const std::vector<const Node*> arguments = ArgumentsUntil(node, ")");
+      const tree::NodeList arguments = ArgumentsUntil(node, ")");
       int height = HeightOf(node);
       for (const Node* argument : arguments) height = std::max(height, HeightOf(argument));
       if (!ExpectSign(")")) return node;
       last_bracket_ = bracket;
-      node = MakeNode(from, height, tree::Apply{node, memory_.List(arguments)});
+      node = MakeNode(from, height, tree::Apply{node, arguments});
     } else if (IsSign("[")) {
       Take();
       const Node* index = Expression();
@@ -134,13 +135,12 @@ const tree::Node* Parser::PostfixFrom(const Node* node) {
           MakeNode(from, std::max(HeightOf(node), HeightOf(index)), tree::Subscript{node, index});
     } else if (IsSign(".")) {
       Take();
-      const SourcePlace at = Here();
       if (!IsName()) {
         Expected("The name of a member");
         return node;
       }
       const std::string_view name = Take().Text;
-      node = MakeNode(from, HeightOf(node), tree::MemberAccess{node, name, at});
+      node = MakeNode(from, HeightOf(node), tree::MemberAccess{node, name});
     } else {
       return node;
     }
@@ -148,24 +148,26 @@ const tree::Node* Parser::PostfixFrom(const Node* node) {
   return node;
 }
 
-std::vector<const tree::Node*> Parser::ArgumentsUntil(const Node* callee,
-                                                      std::string_view closing) {
-  std::vector<const Node*> arguments;
+tree::NodeList Parser::ArgumentsUntil(const Node* callee, std::string_view closing) {
   const auto at_end = [this, closing] {
     return closing.empty() ? AtStatementEnd() : IsSign(closing) || AtLineEnd();
   };
-  if (at_end()) return arguments;
+  if (at_end()) return {};
+  const auto* name = callee == nullptr ? nullptr : std::get_if<tree::Name>(&callee->Value);
+  // Calls within the arguments put theirs behind those read so far, and take them away again.
+  const std::size_t first = arguments_.size();
   while (!failed_) {
-    arguments.push_back(IsSign(",") || at_end() ? nullptr : Expression());
-    const Node* last = arguments.back();
-    const auto* name = callee == nullptr ? nullptr : std::get_if<tree::Name>(&callee->Value);
-    if (last != nullptr && name != nullptr &&
-        std::holds_alternative<tree::ByReference>(last->Value)) {
-      out_.References.push_back({name->Text, arguments.size() - 1});
+    const Node* argument = IsSign(",") || at_end() ? nullptr : Expression();
+    arguments_.push_back(argument);
+    if (argument != nullptr && name != nullptr &&
+        std::holds_alternative<tree::ByReference>(argument->Value)) {
+      out_.References.push_back({name->Text, arguments_.size() - first - 1});
     }
     if (!TakeSign(",")) break;
   }
-  return arguments;
+  const tree::NodeList list = memory_.List(std::span<const Node* const>(arguments_).subspan(first));
+  arguments_.resize(first);
+  return list;
 }
 
 const tree::Node* Parser::Primary() {
@@ -195,8 +197,7 @@ const tree::Node* Parser::Primary() {
       }
       if (token.Text == "." && IsName(1)) {
         Take();
-        const SourcePlace at = Here();
-        return MakeNode(from, 0, tree::MemberAccess{nullptr, Take().Text, at});
+        return MakeNode(from, 0, tree::MemberAccess{nullptr, Take().Text});
       }
       break;
     default:
@@ -219,8 +220,12 @@ const tree::Node* Parser::NameHere() {
   const bool joined = tolerant_ && IsSign("(", 1) && Peek(1).Touches &&
                       Peek(2).Kind == SourceTokenKind::Number && IsSign(")", 3) && IsName(4) &&
                       Peek(4).Touches && Peek(4).Text.front() == '_';
-  const std::string_view name = joined ? RoutineName(at) : Take().Text;
-  return MakeNode(from, 0, tree::Name{name});
+  if (joined) {
+    const std::string_view name = RoutineName(at);
+    return MakeNode(from, 0, tree::Name{name, out_.Names->Of(name)});
+  }
+  const NameId id = facts_[at_].Name;
+  return MakeNode(from, 0, tree::Name{Take().Text, id});
 }
 
 }  // namespace tarnwick::basic

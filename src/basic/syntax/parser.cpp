@@ -56,20 +56,42 @@ bool IsRoutine(BlockKind kind) {
 
 }  // namespace
 
-tree::SyntaxTree Parse(const TokenStream& stream, bool strict, Messages& messages) {
+tree::SyntaxTree Parse(TokenLines& lines, bool strict, Messages& messages) {
   tree::SyntaxTree tree;
-  Parser(stream, strict, tree, messages).Run();
+  Parser(lines, strict, tree, messages).Run();
   return tree;
+}
+
+void Parser::NextLine() {
+  line_before_.swap(line_);
+  lines_.Next(line_);
+  facts_.clear();
+  for (const SourceToken& token : line_) facts_.push_back(FactsOf(token));
+  ++line_number_;
+  at_ = 0;
+}
+
+Parser::TokenFacts Parser::FactsOf(const SourceToken& token) const {
+  TokenFacts facts;
+  if (token.Kind == SourceTokenKind::Name) {
+    facts.Name = out_.Names->Of(token.Text);
+    const Word word = WordOf(facts.Name);
+    if (word != Word::None) facts.Binary = OperatorOf(TextOf(word));
+    if (!token.Plain) facts.Keyword = word;
+  } else if (token.Kind == SourceTokenKind::Sign) {
+    facts.Binary = OperatorOf(token.Text);
+  }
+  return facts;
 }
 
 void Parser::Run() {
   Statements all;
   while (Peek().Kind != SourceTokenKind::End && !messages_.Full()) {
     // What closes nothing is reported where it stands, and the rest is read on.
-    const std::size_t before = at_;
+    const auto before = Position();
     const tree::StatementList part = Body(BlockKind::If, {});
     all.insert(all.end(), part.begin(), part.end());
-    if (at_ == before) Take();
+    if (Position() == before) Take();
   }
   out_.Statements = memory_.List(all);
 }
@@ -81,8 +103,9 @@ bool Parser::BeginsGenerated() const {
 }
 
 SourcePlace Parser::SpanFrom(SourcePlace from) const {
-  if (at_ == 0) return from;
-  const SourcePlace& last = tokens_[at_ - 1].At;
+  const SourceToken* const token = Last();
+  if (token == nullptr) return from;
+  const SourcePlace& last = token->At;
   if (last.File == from.File && last.Line == from.Line && last.Column >= from.Column) {
     from.Length = static_cast<std::uint16_t>(
         std::min(static_cast<int>(last.Column) + last.Length - from.Column, 65535));
@@ -189,7 +212,7 @@ tree::StatementList Parser::Body(BlockKind kind, SourcePlace opened) {
   }
   if (!outermost) open_.push_back(kind);
   Statements out;
-  bool first_on_line = tokens_[at_ == 0 ? 0 : at_ - 1].Kind == SourceTokenKind::LineEnd || at_ == 0;
+  bool first_on_line = Last() == nullptr || Last()->Kind == SourceTokenKind::LineEnd;
   while (!messages_.Full()) {
     if (Peek().Kind == SourceTokenKind::LineEnd || IsSign(":")) {
       first_on_line = Take().Kind == SourceTokenKind::LineEnd;
@@ -227,7 +250,7 @@ tree::StatementList Parser::Body(BlockKind kind, SourcePlace opened) {
 }
 
 void Parser::Statement(Statements& out, bool first_on_line) {
-  const std::size_t before = at_;
+  const auto before = Position();
   if (Peek().Kind == SourceTokenKind::Directive) {
     DirectiveLine(out);
   } else if (first_on_line && LabelHere(out)) {
@@ -240,7 +263,7 @@ void Parser::Statement(Statements& out, bool first_on_line) {
     AssignmentOrCall(out);
   }
   EndOfStatement();
-  if (at_ == before && !AtLineEnd()) Take();
+  if (Position() == before && !AtLineEnd()) Take();
 }
 
 void Parser::EndOfStatement() {
@@ -251,7 +274,7 @@ void Parser::EndOfStatement() {
   }
   if (AtStatementEnd()) return;
   const SourceToken& token = Peek();
-  const bool quote = at_ > 0 && tokens_[at_ - 1].Kind == SourceTokenKind::Text;
+  const bool quote = Last() != nullptr && Last()->Kind == SourceTokenKind::Text;
   if (quote) {
     Error(token.At, "The text in front of this ends at a quote inside it",
           "Take the quote out of the text, or write CHR$(34) for it");

@@ -17,6 +17,6 @@ inline constexpr int kMaxBlockDepth = 100;
 /// Parses a whole program. Faults go to `messages`; after one the parser goes on with the next
 /// line, so the tree is complete but for the faulty lines. With `strict`, irregular lines of
 /// generated text are faults like any other.
-[[nodiscard]] tree::SyntaxTree Parse(const TokenStream& stream, bool strict, Messages& messages);
+[[nodiscard]] tree::SyntaxTree Parse(TokenLines& lines, bool strict, Messages& messages);
 
 }  // namespace tarnwick::basic

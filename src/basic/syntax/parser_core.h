@@ -10,6 +10,7 @@
 
 #include "basic/source/messages.h"
 #include "basic/source/source_token.h"
+#include "basic/syntax/name_table.h"
 #include "basic/syntax/parser.h"
 #include "basic/syntax/tolerances.h"
 #include "basic/syntax/tree.h"
@@ -34,10 +35,18 @@ enum class BlockKind : std::uint8_t {
   Property,
 };
 
+/// A binary operator and how tightly it binds: higher is tighter.
+struct OperatorRow {
+  std::string_view Sign;
+  tree::Operator Op;
+  int Level;
+};
+
 class Parser {
  public:
-  Parser(const TokenStream& stream, bool strict, tree::SyntaxTree& out, Messages& messages)
-      : tokens_(stream.Tokens), out_(out), memory_(out.Memory), messages_(messages) {
+  Parser(TokenLines& lines, bool strict, tree::SyntaxTree& out, Messages& messages)
+      : lines_(lines), out_(out), memory_(out.Memory), messages_(messages) {
+    NextLine();
     tolerant_ = !strict && BeginsGenerated();
     out_.Generated = BeginsGenerated();
   }
@@ -48,14 +57,25 @@ class Parser {
   using Node = tree::Node;
 
   // --- Tokens (parser.cpp) -----------------------------------------------------------------------
+  /// A token of the line; behind its end the LineEnd, or the End of the program.
   [[nodiscard]] const SourceToken& Peek(std::size_t ahead = 0) const {
-    return tokens_[std::min(at_ + ahead, tokens_.size() - 1)];
+    return line_[std::min(at_ + ahead, line_.size() - 1)];
   }
+  /// Stays valid until the line behind it has been taken.
   const SourceToken& Take() {
-    const SourceToken& token = Peek();
-    if (at_ + 1 < tokens_.size()) ++at_;
-    return token;
+    if (at_ + 1 < line_.size()) return line_[at_++];
+    if (Peek().Kind == SourceTokenKind::End) return Peek();
+    NextLine();
+    return line_before_.back();
   }
+  void NextLine();
+  /// The token taken last; null at the start of the program.
+  [[nodiscard]] const SourceToken* Last() const {
+    if (at_ > 0) return &line_[at_ - 1];
+    return line_before_.empty() ? nullptr : &line_before_.back();
+  }
+  /// Number of the line and index in it: grows with each token taken.
+  [[nodiscard]] std::pair<std::size_t, std::size_t> Position() const { return {line_number_, at_}; }
   [[nodiscard]] bool IsName(std::size_t ahead = 0) const {
     return Peek(ahead).Kind == SourceTokenKind::Name;
   }
@@ -64,7 +84,7 @@ class Parser {
   }
   /// The word of a name; None for every other token.
   [[nodiscard]] Word WordAhead(std::size_t ahead = 0) const {
-    return IsName(ahead) && !Peek(ahead).Plain ? WordOf(Peek(ahead).Text) : Word::None;
+    return facts_[std::min(at_ + ahead, facts_.size() - 1)].Keyword;
   }
   bool TakeSign(std::string_view sign) {
     if (!IsSign(sign)) return false;
@@ -185,22 +205,35 @@ class Parser {
   const Node* NameHere();
   /// The arguments up to `closing`, or to the end of the statement when that is "". Null for an
   /// empty place.
-  std::vector<const Node*> ArgumentsUntil(const Node* callee, std::string_view closing);
+  tree::NodeList ArgumentsUntil(const Node* callee, std::string_view closing);
   template <class T>
   const Node* MakeNode(SourcePlace from, int height, T value);
 
-  const std::vector<SourceToken>& tokens_;
+  /// What is known of a token of the line beside its text.
+  struct TokenFacts {
+    NameId Name = NameId::None;
+    Word Keyword = Word::None;
+    const OperatorRow* Binary = nullptr;  ///< null: no operator between two values
+  };
+  [[nodiscard]] TokenFacts FactsOf(const SourceToken& token) const;
+  [[nodiscard]] static const OperatorRow* OperatorOf(std::string_view text);
+
+  TokenLines& lines_;
   tree::SyntaxTree& out_;
   Arena& memory_;
   Messages& messages_;
-  std::size_t at_ = 0;
+  std::vector<SourceToken> line_before_;
+  std::vector<SourceToken> line_;
+  std::vector<TokenFacts> facts_;  ///< by token of the line
+  std::size_t line_number_ = 0;
+  std::size_t at_ = 0;                  ///< index in the line
+  std::vector<const Node*> arguments_;  ///< those of the calls that are being read
   bool tolerant_ = false;
-  bool failed_ = false;
-  bool private_ = false;   ///< the members of the TYPE being read are private           ///< the
-                           ///< statement being parsed has met an error
-  bool unclosed_ = false;  ///< the block that ended last was not closed
-  int in_line_if_ = 0;     ///< single-line IFs around this statement
-  int depth_ = 0;          ///< of the expression
+  bool failed_ = false;           ///< the statement being parsed has met an error
+  bool private_ = false;          ///< the members of the TYPE being read are private
+  bool unclosed_ = false;         ///< the block that ended last was not closed
+  int in_line_if_ = 0;            ///< single-line IFs around this statement
+  int depth_ = 0;                 ///< of the expression
   std::size_t last_bracket_ = 0;  ///< index of the bracket that opened the last `Apply` made
   std::vector<BlockKind> open_;
 };

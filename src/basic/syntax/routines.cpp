@@ -38,7 +38,7 @@ bool Parser::RoutineHead(tree::Routine& routine, BlockKind& kind) {
       routine.Kind = tree::RoutineKind::Constructor;
       kind = BlockKind::Constructor;
       routine.Name = "Constructor";
-      routine.NameAt = tokens_[at_ - 1].At;
+      routine.NameAt = Last()->At;
       return true;
     case Word::Event:
       routine.Kind = tree::RoutineKind::Event;

@@ -32,8 +32,7 @@ void Parser::AssignmentOrCall(Statements& out) {
     at_ = last_bracket_;
     target = apply->Target;
   }
-  const std::vector<const Node*> arguments = ArgumentsUntil(target, "");
-  Add(out, at, tree::CallLine{target, memory_.List(arguments)});
+  Add(out, at, tree::CallLine{target, ArgumentsUntil(target, "")});
 }
 
 void Parser::AssignmentTo(const Node* target, SourcePlace at, Statements& out) {
@@ -63,8 +62,7 @@ void Parser::CallStatement(Statements& out) {
   if (const auto* apply = std::get_if<tree::Apply>(&target->Value)) {
     return Add(out, at, tree::CallLine{apply->Target, apply->Arguments});
   }
-  const std::vector<const Node*> arguments = ArgumentsUntil(target, "");
-  Add(out, at, tree::CallLine{target, memory_.List(arguments)});
+  Add(out, at, tree::CallLine{target, ArgumentsUntil(target, "")});
 }
 
 void Parser::PrintStatement(Statements& out) {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string_view>
 #include <variant>
@@ -10,6 +11,7 @@
 
 #include "basic/source/arena.h"
 #include "basic/source/source_place.h"
+#include "basic/syntax/name_table.h"
 
 /// Nodes live in the tree's arena. Names are as written, suffix included.
 namespace tarnwick::basic {
@@ -34,6 +36,7 @@ struct TextLiteral {
 };
 struct Name {
   std::string_view Text;
+  NameId Id;
 };
 /// `Target(arguments)`: an element, a call or an indexed property. A null argument is an empty
 /// place.
@@ -50,7 +53,6 @@ struct Subscript {
 struct MemberAccess {
   const Node* Target;
   std::string_view Name;
-  SourcePlace NameAt;
 };
 /// `@Operand`.
 struct ByReference {
@@ -326,10 +328,12 @@ struct ReferenceUse {
   std::size_t Argument;
 };
 
-/// A whole program as it stands in the source. Its texts lie in the source set and the token stream
-/// that it was made of.
+/// A whole program as it stands in the source. Its texts lie in the source set and with the
+/// preprocessor that it was made by.
 struct SyntaxTree {
   Arena Memory;
+  /// The names in it; those that the checker makes come to them.
+  std::unique_ptr<NameTable> Names = std::make_unique<NameTable>();
   StatementList Statements;
   std::vector<ReferenceUse> References;
   bool Generated = false;  ///< the text begins like one that the program wrote itself

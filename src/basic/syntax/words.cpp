@@ -1,10 +1,7 @@
 #include "basic/syntax/words.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
-
-#include "text/code_page.h"
 
 namespace tarnwick::basic {
 namespace {
@@ -21,21 +18,9 @@ constexpr std::array<std::string_view, 76> kWords = {
     "RESTORE",  "RETURN",   "SELECT",      "SET",      "SHARED",   "SHL",     "SHR",     "STATIC",
     "STEP",     "STRUCT",   "SUB",         "SUBI",     "THEN",     "TO",      "TYPE",    "UNTIL",
     "WEND",     "WHILE",    "WITH",        "XOR"};
-constexpr std::size_t kLongestWord = 11;
 static_assert(kWords.size() == static_cast<std::size_t>(Word::Xor) + 1);
-static_assert(std::is_sorted(kWords.begin(), kWords.end()));
 
 }  // namespace
-
-Word WordOf(std::string_view name) noexcept {
-  if (name.size() < 2 || name.size() > kLongestWord) return Word::None;
-  std::array<char, kLongestWord> upper{};
-  std::transform(name.begin(), name.end(), upper.begin(), UpperByte);
-  const std::string_view text(upper.data(), name.size());
-  const auto* const found = std::lower_bound(kWords.begin(), kWords.end(), text);
-  if (found == kWords.end() || *found != text) return Word::None;
-  return static_cast<Word>(found - kWords.begin());
-}
 
 std::string_view TextOf(Word word) noexcept {
   return kWords[static_cast<std::size_t>(word)];

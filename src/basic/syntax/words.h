@@ -86,8 +86,6 @@ enum class Word : std::uint8_t {
   Xor,
 };
 
-/// The word of a name, without regard to case.
-[[nodiscard]] Word WordOf(std::string_view name) noexcept;
 /// The word in upper case, for messages.
 [[nodiscard]] std::string_view TextOf(Word word) noexcept;
 
