@@ -49,33 +49,14 @@ StreamConsole::~StreamConsole() {
   std::fflush(out_);
 }
 
-ConsolePage* StreamConsole::Page(int page) {
-  if (page < 0 || page >= static_cast<int>(pages_.size())) return nullptr;
-  return &pages_[static_cast<std::size_t>(page)];
-}
-
 void StreamConsole::Control(const std::string& sequence) {
   if (terminal_) std::fwrite(sequence.data(), 1, sequence.size(), out_);
 }
 
-void StreamConsole::Write(int page, std::string_view text) {
-  ConsolePage* const target = Page(page);
-  if (target == nullptr) return;
-  target->Write(text);
-  if (page != 0) return;
+void StreamConsole::Printed(std::string_view text) {
   const std::string utf8 = CodePageToUtf8(text);
   std::fwrite(utf8.data(), 1, utf8.size(), out_);
   if (terminal_) std::fflush(out_);
-}
-
-int StreamConsole::Column(int page) {
-  const ConsolePage* const target = Page(page);
-  return target == nullptr ? 1 : target->Column();
-}
-
-int StreamConsole::Row(int page) {
-  const ConsolePage* const target = Page(page);
-  return target == nullptr ? 1 : target->Row();
 }
 
 int StreamConsole::NextByte() {
@@ -101,7 +82,7 @@ std::optional<std::string> StreamConsole::ReadLine() {
   for (; byte >= 0 && byte != '\n'; byte = NextByte()) line += static_cast<char>(byte);
   if (line.ends_with('\r')) line.pop_back();
   // On a terminal the user has written the line and its end.
-  if (terminal_) pages_[0].Write(line + "\n");
+  if (terminal_) Visible().Write(line + "\n");
   return line;
 }
 
@@ -127,19 +108,16 @@ std::string StreamConsole::Key() {
   return byte < 0 ? std::string() : std::string(1, static_cast<char>(byte));
 }
 
-void StreamConsole::Clear() {
-  pages_[0].Clear();
+void StreamConsole::Cleared() {
   Control("\x1B[2J\x1B[H");
 }
 
-void StreamConsole::Locate(int row, int column) {
-  pages_[0].Locate(row, column);
-  Control("\x1B[" + std::to_string(pages_[0].Row()) + ";" + std::to_string(pages_[0].Column()) +
+void StreamConsole::Located() {
+  Control("\x1B[" + std::to_string(Visible().Row()) + ";" + std::to_string(Visible().Column()) +
           "H");
 }
 
-void StreamConsole::Color(int text, int back) {
-  pages_[0].Color(text, back);
+void StreamConsole::Colored(int text, int back) {
   if (text >= 0 && text <= 15) {
     Control("\x1B[" + std::to_string((text < 8 ? 30 : 90) + TerminalColor(text)) + "m");
   }
@@ -148,20 +126,12 @@ void StreamConsole::Color(int text, int back) {
   }
 }
 
-void StreamConsole::CopyPage(int from, int to) {
-  const ConsolePage* const source = Page(from);
-  ConsolePage* const target = Page(to);
-  if (source == nullptr || target == nullptr || source == target) return;
-  *target = *source;
-  if (to == 0) Redraw();
-}
-
-void StreamConsole::Redraw() {
+void StreamConsole::Replaced() {
   std::string text;
   for (int row = 1; row <= ConsolePage::kRows; ++row) {
     std::string line;
     for (int column = 1; column <= ConsolePage::kColumns; ++column) {
-      line += static_cast<char>(pages_[0].CharacterAt(row, column));
+      line += static_cast<char>(Visible().CharacterAt(row, column));
     }
     line.erase(line.find_last_not_of(' ') + 1);
     if (row < ConsolePage::kRows) line += '\n';
@@ -172,21 +142,11 @@ void StreamConsole::Redraw() {
   if (!terminal_ && !text.empty()) text += '\n';
   const std::string utf8 = CodePageToUtf8(text);
   std::fwrite(utf8.data(), 1, utf8.size(), out_);
-  Control("\x1B[" + std::to_string(pages_[0].Row()) + ";" + std::to_string(pages_[0].Column()) +
-          "H");
+  Located();
 }
 
-int StreamConsole::CharacterAt(int row, int column) {
-  return pages_[0].CharacterAt(row, column);
-}
-
-int StreamConsole::Peek(std::int64_t address) {
-  return pages_[0].Peek(address);
-}
-
-void StreamConsole::Poke(std::int64_t address, int byte) {
-  pages_[0].Poke(address, byte);
-  if (terminal_) Redraw();
+void StreamConsole::Poked() {
+  if (terminal_) Replaced();
 }
 
 void StreamConsole::SetTitle(std::string_view title) {

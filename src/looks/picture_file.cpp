@@ -14,8 +14,8 @@ constexpr std::uint32_t kCoreHeader = 12;  // the oldest one, with 16-bit sizes
 std::uint32_t NumberAt(std::string_view bytes, std::size_t at, int size) noexcept {
   std::uint32_t number = 0;
   for (int i = size - 1; i >= 0; --i) {
-    const std::size_t place = at + static_cast<std::size_t>(i);
-    const unsigned byte = place < bytes.size() ? static_cast<unsigned char>(bytes[place]) : 0;
+    const std::size_t index = at + static_cast<std::size_t>(i);
+    const unsigned byte = index < bytes.size() ? static_cast<unsigned char>(bytes[index]) : 0;
     number = number << 8U | byte;
   }
   return number;

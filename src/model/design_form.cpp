@@ -143,12 +143,12 @@ ControlRef DesignForm::FindByTag(std::string_view tag) const noexcept {
 }
 
 void DesignForm::ZOrder(const ControlRef& control, bool to_front) {
-  const auto place = std::find(draw_order_.begin(), draw_order_.end(), control);
-  if (place == draw_order_.end()) return;
+  const auto found = std::find(draw_order_.begin(), draw_order_.end(), control);
+  if (found == draw_order_.end()) return;
   if (to_front) {
-    std::rotate(place, place + 1, draw_order_.end());
+    std::rotate(found, found + 1, draw_order_.end());
   } else {
-    std::rotate(draw_order_.begin(), place, place + 1);
+    std::rotate(draw_order_.begin(), found, found + 1);
   }
 }
 

@@ -36,10 +36,10 @@ void MovePick(ObjectRecord& list, std::int64_t index) {
 void Insert(ObjectWorld& world, ObjectRecord& list, std::size_t at, std::string text) {
   std::vector<ListItems::Item>& items = list.As<ListItems>()->Items;
   if (list.Truth(Word::Sorted)) {
-    const auto place = std::upper_bound(
+    const auto next = std::upper_bound(
         items.begin(), items.end(), text,
         [](const std::string& a, const ListItems::Item& b) { return LessFolded(a, b.Text); });
-    at = static_cast<std::size_t>(place - items.begin());
+    at = static_cast<std::size_t>(next - items.begin());
   }
   items.insert(items.begin() + static_cast<std::ptrdiff_t>(at), {std::move(text), false});
   const std::int64_t picked = list.Number(Word::ItemIndex);

@@ -52,9 +52,9 @@ std::optional<Value> TakeValue(std::string_view& text) {
 /// Where the code of a key such as "2.Button1.OnClick" belongs; null for a form that is not there.
 std::string* CodeIn(KeptProject& project, std::string_view key) {
   const std::size_t dot = std::min(key.find('.'), key.size());
-  const auto place = static_cast<std::size_t>(ToInt16(Val(key.substr(0, dot))).value_or(0));
-  if (place < 1 || place > project.Forms.size() || dot == key.size()) return nullptr;
-  return &project.Forms[place - 1].Code[std::string(key.substr(dot))];
+  const auto number = static_cast<std::size_t>(ToInt16(Val(key.substr(0, dot))).value_or(0));
+  if (number < 1 || number > project.Forms.size() || dot == key.size()) return nullptr;
+  return &project.Forms[number - 1].Code[std::string(key.substr(dot))];
 }
 
 }  // namespace
@@ -78,16 +78,16 @@ std::string KeptText(ProjectTables& tables) {
 std::string WithTypedCode(std::string kept_text, const ProjectTables& tables,
                           const TypedCode& code) {
   kept_text.resize(kept_text.size() - kEnd.size());
-  std::int64_t place = 0;
+  std::int64_t number = 0;
   for (int form = 1; form <= tables.FormsCount; ++form) {
     if (!tables.IsLive(form)) continue;
-    ++place;
+    ++number;
     std::string key = "Form";
     AppendNumber(key, std::int64_t{form});
     key += '.';
     for (auto at = code.lower_bound(key); at != code.end() && at->first.starts_with(key); ++at) {
       std::string kept;
-      AppendNumber(kept, place);
+      AppendNumber(kept, number);
       AppendValue(kept_text, "Code", kept.append(at->first, key.size() - 1));
       AppendValue(kept_text, "Typed", at->second);
     }

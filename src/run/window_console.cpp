@@ -117,14 +117,9 @@ WindowConsole::WindowConsole(QString title, std::FILE* out) : title_(std::move(t
 
 WindowConsole::~WindowConsole() = default;
 
-ConsolePage* WindowConsole::Page(int page) {
-  if (page < 0 || page >= static_cast<int>(pages_.size())) return nullptr;
-  return &pages_[static_cast<std::size_t>(page)];
-}
-
 WindowConsole::Window& WindowConsole::Open() {
   if (window_ == nullptr) {
-    window_ = std::make_unique<Window>(pages_[0], keys_, title_);
+    window_ = std::make_unique<Window>(Visible(), keys_, title_);
     window_->Closed = [this] {
       closed_ = true;
       if (Closed) Closed();
@@ -143,30 +138,16 @@ void WindowConsole::PageChanged() {
   window_->repaint();
 }
 
-void WindowConsole::Print(std::string_view text) {
+void WindowConsole::Send(std::string_view text) {
   const std::string utf8 = CodePageToUtf8(text);
   std::fwrite(utf8.data(), 1, utf8.size(), out_);
   // Who reads it shows it while the program runs.
   std::fflush(out_);
 }
 
-void WindowConsole::Write(int page, std::string_view text) {
-  ConsolePage* const target = Page(page);
-  if (target == nullptr) return;
-  target->Write(text);
-  if (page != 0) return;
-  Print(text);
+void WindowConsole::Printed(std::string_view text) {
+  Send(text);
   PageChanged();
-}
-
-int WindowConsole::Column(int page) {
-  const ConsolePage* const target = Page(page);
-  return target == nullptr ? 1 : target->Column();
-}
-
-int WindowConsole::Row(int page) {
-  const ConsolePage* const target = Page(page);
-  return target == nullptr ? 1 : target->Row();
 }
 
 char WindowConsole::NextKey() {
@@ -197,7 +178,7 @@ std::optional<std::string> WindowConsole::ReadLine() {
     const char key = NextKey();
     if (key == 0) return std::nullopt;
     if (key == '\r' || key == '\n') break;
-    ConsolePage& page = pages_[0];
+    ConsolePage& page = Visible();
     if (key == '\b') {
       if (line.empty()) continue;
       line.pop_back();
@@ -212,8 +193,8 @@ std::optional<std::string> WindowConsole::ReadLine() {
     }
     window_->update();
   }
-  pages_[0].Write("\n");
-  Print(line + "\n");
+  Visible().Write("\n");
+  Send(line + "\n");
   PageChanged();
   return line;
 }
@@ -245,44 +226,26 @@ std::string WindowConsole::Key() {
   return key;
 }
 
-void WindowConsole::Clear() {
-  pages_[0].Clear();
+void WindowConsole::Cleared() {
   PageChanged();
 }
 
-void WindowConsole::Locate(int row, int column) {
-  pages_[0].Locate(row, column);
+void WindowConsole::Located() {
   Open();
   PageChanged();
 }
 
-void WindowConsole::Color(int text, int back) {
-  pages_[0].Color(text, back);
+void WindowConsole::Colored(int, int) {
   Open();
 }
 
-void WindowConsole::CopyPage(int from, int to) {
-  const ConsolePage* const source = Page(from);
-  ConsolePage* const target = Page(to);
-  if (source == nullptr || target == nullptr || source == target) return;
-  *target = *source;
-  if (to != 0) return;
+void WindowConsole::Replaced() {
   Open();
   PageChanged();
 }
 
-int WindowConsole::CharacterAt(int row, int column) {
-  return pages_[0].CharacterAt(row, column);
-}
-
-int WindowConsole::Peek(std::int64_t address) {
-  return pages_[0].Peek(address);
-}
-
-void WindowConsole::Poke(std::int64_t address, int byte) {
-  pages_[0].Poke(address, byte);
-  Open();
-  PageChanged();
+void WindowConsole::Poked() {
+  Replaced();
 }
 
 void WindowConsole::SetTitle(std::string_view title) {

@@ -2,22 +2,20 @@
 #pragma once
 
 #include <QString>
-#include <array>
 #include <chrono>
 #include <cstdio>
 #include <functional>
 #include <memory>
 #include <string>
 
-#include "basic/hosts/console_host.h"
-#include "hosts/console_page.h"
+#include "hosts/paged_console.h"
 
 namespace tarnwick::run {
 
 /// What is printed goes out at once as UTF-8. A window with the console's page opens when the
 /// program asks for keys or lines, or works with places and colours of the page. While it waits for
 /// them its other windows stay alive.
-class WindowConsole final : public basic::ConsoleHost {
+class WindowConsole final : public hosts::PagedConsole {
  public:
   WindowConsole(QString title, std::FILE* out);
   WindowConsole(const WindowConsole&) = delete;
@@ -29,36 +27,31 @@ class WindowConsole final : public basic::ConsoleHost {
   /// The user closed the window.
   std::function<void()> Closed;
 
-  void Write(int page, std::string_view text) override;
-  int Column(int page) override;
-  int Row(int page) override;
   std::optional<std::string> ReadLine() override;
   std::string ReadBytes(std::size_t count) override;
   std::string Key() override;
-  void Clear() override;
-  void Locate(int row, int column) override;
-  void Color(int text, int back) override;
-  void CopyPage(int from, int to) override;
-  int CharacterAt(int row, int column) override;
-  int Peek(std::int64_t address) override;
-  void Poke(std::int64_t address, int byte) override;
   void SetTitle(std::string_view title) override;
-  bool IsConsole() override { return true; }
 
  private:
   class Window;
 
-  [[nodiscard]] hosts::ConsolePage* Page(int page);
+  void Printed(std::string_view text) override;
+  void Cleared() override;
+  void Located() override;
+  void Colored(int text, int back) override;
+  void Replaced() override;
+  void Poked() override;
+
   Window& Open();
   /// Waits for a key; 0 when there will be none.
   char NextKey();
-  void Print(std::string_view text);
+  /// Sends text to the output.
+  void Send(std::string_view text);
   /// Paints the page, though not for each of many changes in a moment.
   void PageChanged();
 
   QString title_;
   std::FILE* out_;
-  std::array<hosts::ConsolePage, 8> pages_;
   std::string keys_;  ///< pressed and not read yet
   bool closed_ = false;
   std::chrono::steady_clock::time_point painted_;

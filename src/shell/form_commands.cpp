@@ -45,8 +45,8 @@ void FormCommands::AddNew() {
 void FormCommands::Remove() {
   ProjectTables& tables = state_.Tables;
   const int form = CurrentNumber();
-  const int place = tables.ListaFrms.PositionOf(form);
-  if (place < 0) return;
+  const int index = tables.ListaFrms.PositionOf(form);
+  if (index < 0) return;
   FormRec* record = tables.Form(form);
   if (!state_.Ports.Messages.AskYesNo("Delete " + record->Name + "?", kApplicationTitle,
                                       MessageIcon::Critical)) {
@@ -68,7 +68,7 @@ void FormCommands::Remove() {
     NoCurrentForm();
     return;
   }
-  const std::size_t next = std::min(static_cast<std::size_t>(place), lines.size() - 1);
+  const std::size_t next = std::min(static_cast<std::size_t>(index), lines.size() - 1);
   Choose(lines[next].FormNumber);
 }
 
@@ -85,21 +85,21 @@ void FormCommands::Choose(int form) {
   state_.ShowPanel(Panel::EventsBar, true);
 }
 
-void FormCommands::SelectLine(int place) {
+void FormCommands::SelectLine(int index) {
   if (state_.Busy) return;
   if (state_.RaiseOpenCode()) {
     MarkCurrentLine();
     return;
   }
   const auto& lines = state_.Tables.ListaFrms.Lines();
-  if (place < 0 || static_cast<std::size_t>(place) >= lines.size()) return;
-  Choose(lines[static_cast<std::size_t>(place)].FormNumber);
+  if (index < 0 || static_cast<std::size_t>(index) >= lines.size()) return;
+  Choose(lines[static_cast<std::size_t>(index)].FormNumber);
 }
 
-void FormCommands::GoToLine(int place) {
-  SelectLine(place);
+void FormCommands::GoToLine(int index) {
+  SelectLine(index);
   const DesignForm* form = state_.Tables.CurrentForm;
-  if (form != nullptr && state_.Tables.ListaFrms.PositionOf(form->Number()) == place) {
+  if (form != nullptr && state_.Tables.ListaFrms.PositionOf(form->Number()) == index) {
     state_.View->FocusForm(form->Number());
   }
 }
@@ -129,9 +129,9 @@ void FormCommands::WindowClosed(int form) {
   const auto shown = [&](const FormList::Line& line) {
     return tables.IsLive(line.FormNumber) && tables.User(line.FormNumber)->Visible;
   };
-  const auto place = lines.begin() + std::max(0, tables.ListaFrms.PositionOf(form));
-  auto next = std::find_if(place, lines.end(), shown);
-  if (next == lines.end()) next = std::find_if(lines.begin(), place, shown);
+  const auto from = lines.begin() + std::max(0, tables.ListaFrms.PositionOf(form));
+  auto next = std::find_if(from, lines.end(), shown);
+  if (next == lines.end()) next = std::find_if(lines.begin(), from, shown);
   if (next != lines.end() && shown(*next)) {
     GoTo(next->FormNumber);
   } else {

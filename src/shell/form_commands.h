@@ -22,9 +22,9 @@ class FormCommands final : public project::ContainerHost {
   void Remove();
   /// A line of the form list was chosen, from 0: its form comes up with its events bar. While the
   /// code editor is open that comes to the front, and nothing is chosen; nor while a command runs.
-  void SelectLine(int place);
+  void SelectLine(int index);
   /// Enter on a line: goes to its form.
-  void GoToLine(int place);
+  void GoToLine(int index);
   /// A design window came to the front by the user's hand; the same rule holds.
   void Activated(int form);
   /// The lines of the form list, and which one is the main form's.

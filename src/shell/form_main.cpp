@@ -13,10 +13,10 @@ FormMain::FormMain(const ProjectTables& tables) : text_(tables.MainFormName) {
   }
 }
 
-void FormMain::List1_Click(int place) {
-  if (place < 0 || static_cast<std::size_t>(place) >= list_.size()) return;
-  selected_ = place;
-  text_ = list_[static_cast<std::size_t>(place)];
+void FormMain::List1_Click(int index) {
+  if (index < 0 || static_cast<std::size_t>(index) >= list_.size()) return;
+  selected_ = index;
+  text_ = list_[static_cast<std::size_t>(index)];
 }
 
 void FormMain::Text1_Change(std::string_view text) {

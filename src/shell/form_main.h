@@ -21,8 +21,8 @@ class FormMain {
   [[nodiscard]] int Selected() const noexcept { return selected_; }
   [[nodiscard]] const std::string& Text1() const noexcept { return text_; }
 
-  /// A line was clicked: its text goes to `Text1`. A place without a line does nothing.
-  void List1_Click(int place);
+  /// A line was clicked: its text goes to `Text1`. An index without a line does nothing.
+  void List1_Click(int index);
   /// Anything may be typed, it is taken as it stands.
   void Text1_Change(std::string_view text);
   /// OK: the main form's text becomes that of `Text1`.

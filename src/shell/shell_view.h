@@ -77,7 +77,7 @@ class ShellView {
   /// The list of recent projects is another one now.
   virtual void RecentProjectsChanged() = 0;
   /// The line of `ListaFrms` to mark as selected, from 0; -1 for none.
-  virtual void SelectFormLine(int place) = 0;
+  virtual void SelectFormLine(int index) = 0;
   /// The arrow for the screen and the main window (true), or each window's own pointer.
   virtual void SetArrowPointer(bool arrow) = 0;
   /// What the check found is another list now.

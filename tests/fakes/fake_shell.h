@@ -76,7 +76,7 @@ class FakeShellView final : public ShellView {
     PanelShown[panel] = shown;
   }
   void CommandsChanged() override { ++CommandChanges; }
-  void SelectFormLine(int place) override { SelectedLine = place; }
+  void SelectFormLine(int index) override { SelectedLine = index; }
   void SetArrowPointer(bool arrow) override { Say(arrow ? "arrow" : "own pointer"); }
   void FindingsChanged() override { Say("findings"); }
   void FocusFindings() override { Say("findings focus"); }

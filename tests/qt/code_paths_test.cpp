@@ -16,8 +16,6 @@
 
 #include <gtest/gtest.h>
 
-#include "codegen/generator_state.h"
-#include "codegen/program_source.h"
 #include "designer/history/history.h"
 #include "program.h"
 #include "qt/editor/code_edit.h"
@@ -54,14 +52,6 @@ class CodePaths : public testing::Test {
   static bool TakesKeys(const QWidget& window) {
     return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
   }
-  std::string Stored(std::string_view key) {
-    const std::string* code = program.Tables().EventTable.Find(key);
-    return code == nullptr ? "(none)" : *code;
-  }
-  std::string Source() {
-    GeneratorState state;
-    return GenerateSource(program.Tables(), state);
-  }
   /// Types over the code that is open and accepts it by its key.
   void TypeAndAccept(const QString& text) {
     ASSERT_TRUE(TakesKeys(Code()));
@@ -78,15 +68,6 @@ class CodePaths : public testing::Test {
     ASSERT_TRUE(TakesKeys(program.Window()));
   }
   void SelectAt(QPoint at) { program.Click(program.Surface(), at); }
-  /// Types a value into a row of the property grid, and leaves it.
-  void SetRow(std::string_view row, const QString& value) {
-    const PropertySheet& sheet = program.Shell().Sheet();
-    int number = 0;
-    while (number < sheet.RowCount() && sheet.Label(number) != row) ++number;
-    program.Click(program.Find<QLabel>(QStringLiteral("Label_%1").arg(number)));
-    program.Type(value);
-    program.Key(Qt::Key_Return);
-  }
   void DoubleClick(QPoint at) {
     QWidget& surface = program.Surface();
     const QPoint place = surface.mapTo(surface.window(), at);
@@ -180,10 +161,10 @@ TEST_F(CodePaths, AnObjectRenamedInTheGridKeepsItsCodeUnderItsNewName) {
   TypeAndAccept(QStringLiteral("Beep"));
   program.Window().activateWindow();
   SelectAt({45, 65});
-  SetRow("Name", QStringLiteral("Renamed"));
+  program.TypeIntoRow("Name", QStringLiteral("Renamed"));
   ASSERT_EQ(program.Selected()->Tag, "Renamed");
-  EXPECT_EQ(Stored("Form1.Button1.OnClick"), "Beep");
-  const std::string source = Source();
+  EXPECT_EQ(program.Code("Form1.Button1.OnClick"), "Beep");
+  const std::string source = program.Source();
   EXPECT_TRUE(Contains(source, "Sub Renamed_OnClick\r\nBeep\r\nEnd Sub")) << source;
   DoubleClick({45, 65});
   EXPECT_EQ(Shown(), "Sub Renamed_OnClick");
@@ -207,7 +188,7 @@ TEST_F(CodePaths, AnObjectKeepsItsCodeWhenAnEarlierOneOfItsKindIsDeleted) {
   DoubleClick({25, 65});
   EXPECT_EQ(Shown(), "Sub Form1Btn1_OnClick");
   EXPECT_EQ(Editor().Text(), "x = 20");
-  const std::string source = Source();
+  const std::string source = program.Source();
   EXPECT_TRUE(Contains(source, "Sub Form1Btn3_OnClick\r\nx = 260\r\nEnd Sub")) << source;
   EXPECT_TRUE(Contains(source, "Sub Form1Btn1_OnClick\r\nx = 20\r\nEnd Sub")) << source;
 }
@@ -222,8 +203,8 @@ TEST_F(CodePaths, TypedChangedCancelledAndReopenedOnlyTheEventBeforeIsKept) {
   Editor().setFocus();
   program.Type(QStringLiteral("second"));
   CancelCode();
-  EXPECT_EQ(Stored("Form1.Button1.OnClick"), "first");
-  EXPECT_EQ(Stored("Form1.Button1.OnKeyDown"), "(none)");
+  EXPECT_EQ(program.Code("Form1.Button1.OnClick"), "first");
+  EXPECT_EQ(program.Code("Form1.Button1.OnKeyDown"), "(none)");
   DoubleClick({45, 65});
   EXPECT_EQ(Shown(), "Sub Form1Btn1_OnClick");
   EXPECT_EQ(Editor().Text(), "first");
@@ -237,11 +218,11 @@ TEST_F(CodePaths, AcceptedCodeIsOneStepOfTheHistory) {
   ASSERT_TRUE(TakesKeys(program.Window()));
   EXPECT_EQ(program.Shell().Steps().UndoName(), "Code Form1Btn1");
   program.Choose(QStringLiteral("mnuUndo"));
-  EXPECT_EQ(Stored("Form1.Button1.OnClick"), "(none)");
+  EXPECT_EQ(program.Code("Form1.Button1.OnClick"), "(none)");
   EXPECT_TRUE(program.Shell().Bar().btncodigo(1).empty());
   EXPECT_EQ(program.Form().UBound(Kind::Button), 1);
   program.Choose(QStringLiteral("mnuRedo"));
-  EXPECT_EQ(Stored("Form1.Button1.OnClick"), "Beep");
+  EXPECT_EQ(program.Code("Form1.Button1.OnClick"), "Beep");
   EXPECT_EQ(program.Shell().Bar().btncodigo(1).size(), 1U);
   program.Key(Qt::Key_D, Qt::ControlModifier);
   QWidget* declare = TopLevel("FormViewCodes");
@@ -293,13 +274,7 @@ class AboveThePopUpDesigner : public CodePaths {
       ASSERT_TRUE(TakesKeys(dialog));
       press("Command1_7");
     });
-    const PropertySheet& sheet = program.Shell().Sheet();
-    int row = 0;
-    while (row < sheet.RowCount() && sheet.Label(row) != "AddItems") ++row;
-    program.Click(program.Find<QLabel>(QStringLiteral("Label_%1").arg(row)));
-    auto& first = program.Find<QToolButton>(QStringLiteral("Boton1"));
-    auto& second = program.Find<QToolButton>(QStringLiteral("Boton2"));
-    program.Click(first.isVisible() ? first : second);
+    program.PressRowButton("AddItems");
   }
 };
 

@@ -1,21 +1,13 @@
-#include "qt/editor/code_window.h"
-
-#include <QAbstractButton>
+// The code window: opening, typing, keeping and leaving it by keys.
 #include <QApplication>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QComboBox>
 #include <QDialog>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScreen>
-#include <QScrollBar>
 #include <QSpinBox>
 #include <QTest>
 #include <QTimer>
@@ -23,54 +15,15 @@
 #include <QToolButton>
 #include <string>
 
-#include <Qsci/qscilexer.h>
 #include <gtest/gtest.h>
 
-#include "codegen/program_source.h"
-#include "editor/editor_project.h"
-#include "editor/intellisense_cases.h"
-#include "qt/editor/code_edit.h"
-#include "qt/kit/text_bridge.h"
-#include "qt/program.h"
+#include "qt/code_window_in_program.h"
 #include "text/strings.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr int kButtonTool = 0;
 constexpr int kLabelTool = 3;
-
-class CodeWindowTest : public testing::Test {
- protected:
-  CodeWindow& Window() { return program.Find<CodeWindow>(QStringLiteral("FormCodigo")); }
-  CodeEdit& Editor() { return program.Find<CodeEdit>(QStringLiteral("Editor")); }
-  QToolButton& Tool(int index) {
-    auto* tool = Window().findChild<QToolButton*>(QStringLiteral("BtnMenu_%1").arg(index));
-    EXPECT_NE(tool, nullptr) << index;
-    return *tool;
-  }
-  QComboBox& Events() { return program.Find<QComboBox>(QStringLiteral("Events")); }
-  std::string Code(std::string_view key) {
-    const std::string* code = program.Tables().EventTable.Find(key);
-    return code == nullptr ? "(none)" : *code;
-  }
-  void OpenCodeOfNewButton() {
-    program.Place(kButtonTool, {40, 60});
-    program.Key(Qt::Key_F7);
-    Program::Settle();
-    ASSERT_TRUE(Window().isVisible());
-  }
-  void TypeCode(const QString& text) { QTest::keyClicks(Editor().viewport(), text); }
-  void KeyInCode(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {
-    QTest::keyClick(&Editor(), key, held);
-  }
-  void ChooseEvent(int row) {
-    Events().setCurrentIndex(row);
-    Q_EMIT Events().activated(row);
-  }
-
-  Program program;
-};
 
 TEST_F(CodeWindowTest, F7OpensTheCodeOfTheSelection) {
   OpenCodeOfNewButton();
@@ -87,22 +40,9 @@ TEST_F(CodeWindowTest, WhatIsTypedAndAcceptedReachesTheGeneratedSourceAndTheEven
   program.Find<QPushButton>(QStringLiteral("BtnFrm_0")).click();
   Program::Settle();
   EXPECT_FALSE(Window().isVisible());
-  EXPECT_EQ(Code("Form1.Button1.OnClick"), "Beep");
-  GeneratorState state;
-  EXPECT_TRUE(Contains(GenerateSource(program.Tables(), state), "Sub Form1Btn1_OnClick\r\nBeep"));
+  EXPECT_EQ(program.Code("Form1.Button1.OnClick"), "Beep");
+  EXPECT_TRUE(Contains(program.Source(), "Sub Form1Btn1_OnClick\r\nBeep"));
   EXPECT_EQ(program.Shell().Tables().FormsBar.at(1)->Entries.size(), 1U);
-}
-
-TEST_F(CodeWindowTest, UndoIsOffWhereATextWasJustOpened) {
-  OpenCodeOfNewButton();
-  TypeCode(QStringLiteral("Beep"));
-  EXPECT_TRUE(Tool(5).isEnabled());
-  KeyInCode(Qt::Key_Return, Qt::ControlModifier);
-  program.Key(Qt::Key_F7);
-  Program::Settle();
-  ASSERT_EQ(Editor().Text(), "Beep");
-  EXPECT_FALSE(Tool(5).isEnabled());
-  EXPECT_FALSE(Tool(6).isEnabled());
 }
 
 TEST_F(CodeWindowTest, TheFunctionPanelOpensWithItsFieldInStepWithTheList) {
@@ -117,22 +57,6 @@ TEST_F(CodeWindowTest, TheFunctionPanelOpensWithItsFieldInStepWithTheList) {
   EXPECT_EQ(program.Find<QListWidget>(QStringLiteral("ListFunc_1")).currentRow(), 0);
 }
 
-TEST_F(CodeWindowTest, NoTwoPartsOfFindAndReplaceShareALetter) {
-  OpenCodeOfNewButton();
-  program.Key(Qt::Key_F, Qt::ControlModifier);
-  auto& dialog = program.Find<QDialog>(QStringLiteral("FindDialog"));
-  ASSERT_TRUE(dialog.isVisible());
-  QStringList letters;
-  const auto take = [&letters](const QString& caption) {
-    const QString letter = QKeySequence::mnemonic(caption).toString();
-    if (!letter.isEmpty()) letters.append(letter);
-  };
-  for (const auto* button : dialog.findChildren<QAbstractButton*>()) take(button->text());
-  for (const auto* label : dialog.findChildren<QLabel*>()) take(label->text());
-  EXPECT_GE(letters.size(), 9);
-  EXPECT_EQ(letters.removeDuplicates(), 0) << letters.join(u' ').toStdString();
-}
-
 TEST_F(CodeWindowTest, AChangeOfEventKeepsTheTextOfTheOneBefore) {
   OpenCodeOfNewButton();
   TypeCode(QStringLiteral("one"));
@@ -142,7 +66,7 @@ TEST_F(CodeWindowTest, AChangeOfEventKeepsTheTextOfTheOneBefore) {
   ChooseEvent(0);
   EXPECT_EQ(Editor().Text(), "one");
   EXPECT_FALSE(Editor().isUndoAvailable());
-  EXPECT_EQ(Code("Form1.Button1.OnKeyDown"), "two");
+  EXPECT_EQ(program.Code("Form1.Button1.OnKeyDown"), "two");
 }
 
 TEST_F(CodeWindowTest, EscClosesWithoutKeepingAndTheLostTextIsOffered) {
@@ -150,7 +74,7 @@ TEST_F(CodeWindowTest, EscClosesWithoutKeepingAndTheLostTextIsOffered) {
   TypeCode(QStringLiteral("lost"));
   QTest::keyClick(&Window(), Qt::Key_Escape);
   EXPECT_FALSE(Window().isVisible());
-  EXPECT_EQ(Code("Form1.Button1.OnClick"), "(none)");
+  EXPECT_EQ(program.Code("Form1.Button1.OnClick"), "(none)");
   program.Key(Qt::Key_F7);
   Program::Settle();
   EXPECT_EQ(Editor().Text(), "");
@@ -168,14 +92,14 @@ TEST_F(CodeWindowTest, ClosingTheWindowIsACancel) {
   TypeCode(QStringLiteral("lost"));
   Window().close();
   EXPECT_FALSE(Window().isVisible());
-  EXPECT_EQ(Code("Form1.Button1.OnClick"), "(none)");
+  EXPECT_EQ(program.Code("Form1.Button1.OnClick"), "(none)");
 }
 
 TEST_F(CodeWindowTest, CtrlEnterAccepts) {
   OpenCodeOfNewButton();
   TypeCode(QStringLiteral("x"));
   program.Key(Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(Code("Form1.Button1.OnClick"), "x");
+  EXPECT_EQ(program.Code("Form1.Button1.OnClick"), "x");
   EXPECT_FALSE(Window().isVisible());
 }
 
@@ -197,7 +121,7 @@ TEST_F(CodeWindowTest, CtrlEnterWithAnOpenMemberListKeepsTheTextAsItStands) {
   auto& list = *Editor().findChild<QListWidget*>(QStringLiteral("lstIntellisense"));
   ASSERT_TRUE(list.isVisible());
   program.Key(Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(Code("Form1.Button1.OnClick"), "Form1Btn1.");
+  EXPECT_EQ(program.Code("Form1.Button1.OnClick"), "Form1Btn1.");
   EXPECT_FALSE(Window().isVisible());
   EXPECT_FALSE(list.isVisible());
 }
@@ -208,7 +132,7 @@ TEST_F(CodeWindowTest, TheCodeOfADeletedNeighbourGoesAndItsOwnStays) {
   program.Key(Qt::Key_Return, Qt::ControlModifier);
   program.Place(kLabelTool, {150, 100});
   program.Shell().Commands().Run(Command::Delete);
-  EXPECT_EQ(Code("Form1.Button1.OnClick"), "mine");
+  EXPECT_EQ(program.Code("Form1.Button1.OnClick"), "mine");
 }
 
 TEST_F(CodeWindowTest, MenuBarToolbarAndContextMenuHaveTheirRows) {
@@ -233,15 +157,22 @@ TEST_F(CodeWindowTest, MenuBarToolbarAndContextMenuHaveTheirRows) {
   }
 }
 
-TEST_F(CodeWindowTest, UndoIsOffAtTheStartOfTheHistory) {
+TEST_F(CodeWindowTest, UndoIsOffAtTheStartOfTheHistoryOfEachOpening) {
   OpenCodeOfNewButton();
-  auto& undo = Tool(5);
+  QToolButton& undo = Tool(5);
   EXPECT_FALSE(undo.isEnabled());
   TypeCode(QStringLiteral("x"));
   EXPECT_TRUE(undo.isEnabled());
   undo.click();
   EXPECT_EQ(Editor().Text(), "");
   EXPECT_FALSE(undo.isEnabled());
+  TypeCode(QStringLiteral("Beep"));
+  KeyInCode(Qt::Key_Return, Qt::ControlModifier);
+  program.Key(Qt::Key_F7);
+  Program::Settle();
+  ASSERT_EQ(Editor().Text(), "Beep");
+  EXPECT_FALSE(undo.isEnabled());
+  EXPECT_FALSE(Tool(6).isEnabled());
 }
 
 TEST_F(CodeWindowTest, OpenCodeReplacesTheTextAndACancelledDialogLeavesIt) {
@@ -299,103 +230,6 @@ TEST_F(CodeWindowTest, ACharacterThatTheCodePageLacksBecomesAQuestionMarkAtOnce)
   typed.setCommitString(QStringLiteral("\u4e2d\u20ac"));
   QApplication::sendEvent(&Editor(), &typed);
   EXPECT_EQ(Editor().text(), QStringLiteral("a?b\u20ac??\u20ac"));
-}
-
-TEST_F(CodeWindowTest, FindAndReplaceAllTellTheCount) {
-  OpenCodeOfNewButton();
-  Editor().SetText("one two one");
-  program.Key(Qt::Key_F, Qt::ControlModifier);
-  Program::Settle();
-  program.Find<QLineEdit>(QStringLiteral("FindText")).setText(QStringLiteral("ONE"));
-  program.Find<QLineEdit>(QStringLiteral("ReplaceText")).setText(QStringLiteral("three"));
-  program.Find<QPushButton>(QStringLiteral("FindNext")).click();
-  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 0, 0, 3}));
-  program.Find<QPushButton>(QStringLiteral("FindNext")).click();
-  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 8, 0, 11}));
-  program.Find<QPushButton>(QStringLiteral("FindPrevious")).click();
-  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 0, 0, 3}));
-  program.Find<QPushButton>(QStringLiteral("ReplaceAll")).click();
-  EXPECT_EQ(Editor().Text(), "three two three");
-  EXPECT_EQ(program.Find<QLabel>(QStringLiteral("FindResult")).text(),
-            QStringLiteral("2 replaced."));
-  program.Find<QPushButton>(QStringLiteral("ReplaceAll")).click();
-  EXPECT_EQ(program.Find<QLabel>(QStringLiteral("FindResult")).text(),
-            QStringLiteral("Nothing was found."));
-  Editor().undo();
-  EXPECT_EQ(Editor().Text(), "one two one");
-}
-
-TEST_F(CodeWindowTest, ReplaceTakesWholeWordsAloneWhenAsked) {
-  OpenCodeOfNewButton();
-  Editor().SetText("bone one One");
-  program.Key(Qt::Key_F, Qt::ControlModifier);
-  program.Find<QLineEdit>(QStringLiteral("FindText")).setText(QStringLiteral("one"));
-  program.Find<QLineEdit>(QStringLiteral("ReplaceText")).setText(QStringLiteral("two"));
-  auto& dialog = program.Find<QDialog>(QStringLiteral("FindDialog"));
-  const auto boxes = dialog.findChildren<QCheckBox*>();
-  for (QCheckBox* box : boxes) box->setChecked(box->text() != QStringLiteral("Match &case"));
-  Editor().SetSel({0, 1, 0, 4});
-  auto& replace = program.Find<QPushButton>(QStringLiteral("Replace"));
-  replace.click();
-  EXPECT_EQ(Editor().Text(), "bone one One");
-  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 5, 0, 8}));
-  replace.click();
-  EXPECT_EQ(Editor().Text(), "bone two One");
-  for (QCheckBox* box : boxes) box->setChecked(true);
-  replace.click();
-  EXPECT_EQ(Editor().Text(), "bone two One");
-  Editor().SetText("one One");
-  Editor().SetCaretPos(0, 4);
-  program.Find<QPushButton>(QStringLiteral("FindNext")).click();
-  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 0, 0, 3}));
-  for (QCheckBox* box : boxes) box->setChecked(false);
-  Editor().SetCaretPos(0, 7);
-  program.Find<QPushButton>(QStringLiteral("FindNext")).click();
-  EXPECT_EQ(program.Find<QLabel>(QStringLiteral("FindResult")).text(),
-            QStringLiteral("Nothing was found."));
-}
-
-TEST_F(CodeWindowTest, TheFindDialogStandsAsideAndGivesTheKeysBack) {
-  OpenCodeOfNewButton();
-  Editor().SetText("one");
-  program.Key(Qt::Key_F, Qt::ControlModifier);
-  auto& dialog = program.Find<QDialog>(QStringLiteral("FindDialog"));
-  const QRect first_line(Editor().mapToGlobal(QPoint(0, 0)), QSize(Editor().width(), 40));
-  EXPECT_FALSE(dialog.geometry().intersects(first_line));
-  program.Key(Qt::Key_Escape);
-  EXPECT_FALSE(dialog.isVisible());
-  EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::focusWidget() == &Editor(); }));
-}
-
-TEST_F(CodeWindowTest, ASelectionBecomesTheTextToFind) {
-  OpenCodeOfNewButton();
-  Editor().SetText("one two");
-  Editor().SetSel({0, 4, 0, 7});
-  program.Key(Qt::Key_F, Qt::ControlModifier);
-  EXPECT_EQ(program.Find<QLineEdit>(QStringLiteral("FindText")).text(), QStringLiteral("two"));
-}
-
-TEST_F(CodeWindowTest, F3FindsTheNextAndShiftF3TheOneBeforeWithoutTheDialog) {
-  OpenCodeOfNewButton();
-  Editor().SetText("a b a b");
-  program.Find<QLineEdit>(QStringLiteral("FindText")).setText(QStringLiteral("b"));
-  program.Key(Qt::Key_F3);
-  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 2, 0, 3}));
-  program.Key(Qt::Key_F3);
-  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 6, 0, 7}));
-  program.Key(Qt::Key_F3, Qt::ShiftModifier);
-  EXPECT_EQ(Editor().GetSel(), (editor::EditRange{0, 2, 0, 3}));
-}
-
-TEST_F(CodeWindowTest, ZoomWidensTheLineNumbersWithTheText) {
-  OpenCodeOfNewButton();
-  const int before = Editor().marginWidth(0);
-  Editor().zoomIn(6);
-  Program::Settle();
-  EXPECT_GT(Editor().marginWidth(0), before);
-  Editor().zoomTo(0);
-  Program::Settle();
-  EXPECT_EQ(Editor().marginWidth(0), before);
 }
 
 TEST_F(CodeWindowTest, TabIndentsTheSelectedLinesAndShiftTabTakesItBack) {
@@ -463,52 +297,6 @@ TEST_F(CodeWindowTest, TheContextMenuHasItsRowsInOrderAndHelpDoesNothing) {
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
-TEST_F(CodeWindowTest, TheWindowRemembersItsSize) {
-  OpenCodeOfNewButton();
-  Window().resize(720, 500);
-  QTest::keyClick(&Window(), Qt::Key_Escape);
-  const std::string kept = program.Shell().SettingsFile().Read("Window", "FormCodigo");
-  EXPECT_TRUE(Contains(kept, ",720,500")) << kept;
-}
-
-TEST_F(CodeWindowTest, AWindowThatWasLargerThanTheScreenComesBackWithinIt) {
-  program.Shell().SettingsFile().Write("Window", "FormCodigo", "-300,-200,5000,4000");
-  program.Shell().SettingsFile().Write("Window", "FormViewCodes", "9000,9000,700,500");
-  OpenCodeOfNewButton();
-  const QRect screen = Window().screen()->availableGeometry();
-  EXPECT_TRUE(screen.contains(Window().geometry()));
-  program.Key(Qt::Key_D, Qt::ControlModifier);
-  EXPECT_TRUE(screen.contains(program.Find<QWidget>(QStringLiteral("FormViewCodes")).geometry()));
-}
-
-TEST_F(CodeWindowTest, NoCodeWindowNeedsMoreThanASmallScreenHas) {
-  OpenCodeOfNewButton();
-  ASSERT_TRUE(program.Find<QWidget>(QStringLiteral("WndFunc")).isVisible());
-  const QSize small(1024 - 8, 600 - 36);
-  EXPECT_EQ(Window().minimumSizeHint().boundedTo(small), Window().minimumSizeHint());
-  program.Key(Qt::Key_D, Qt::ControlModifier);
-  const QSize least = program.Find<QWidget>(QStringLiteral("FormViewCodes")).minimumSizeHint();
-  EXPECT_EQ(least.boundedTo(small), least);
-}
-
-TEST_F(CodeWindowTest, WhileTheEditorIsOpenTheOtherWindowsCanBeUsed) {
-  OpenCodeOfNewButton();
-  EXPECT_TRUE(Window().isWindow());
-  EXPECT_FALSE(Window().isModal());
-  program.Window().activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&program.Window()));
-  program.Choose(QStringLiteral("mnuForms"));
-  EXPECT_TRUE(Window().isVisible());
-}
-
-TEST_F(CodeWindowTest, TheFontOfTheCodeIsAskedForByItsName) {
-  OpenCodeOfNewButton();
-  EXPECT_EQ(Editor().lexer()->font(0).family(), QStringLiteral("Courier New"));
-  EXPECT_EQ(Editor().lexer()->font(0).pointSize(), 10);
-  EXPECT_EQ(program.Find<CodeEdit>(QStringLiteral("EditorPublic")).lexer()->font(0).family(),
-            QStringLiteral("Courdir new"));
-}
-
 TEST_F(CodeWindowTest, F1ShowsTheHelpOfTheWord) {
   OpenCodeOfNewButton();
   Editor().SetText("x = Mid$(a, 1)");
@@ -574,66 +362,6 @@ TEST_F(CodeWindowTest, ALongTextIsColouredAsFarAsItIsSeenAndTypingGoesOn) {
   TypeCode(QStringLiteral("y"));
   EXPECT_TRUE(Editor().GetLine(49999).starts_with("yx"));
 }
-
-/// The table of the member list on the real widget, with real keys.
-class RealMemberList : public testing::TestWithParam<test::IntellisenseCase> {};
-
-TEST_P(RealMemberList, TypedKeysGiveTheList) {
-  const test::EditorProject project;
-  const editor::MemberLookup lookup(project.Tables, project.Language, editor::kFixedWordsOfCode);
-  QWidget window;
-  window.resize(700, 500);
-  CodeEdit code(QStringLiteral("Editor"), {}, lookup, "Courier New", &window);
-  code.setGeometry(0, 0, 700, 500);
-  code.setAutoIndent(false);
-  window.show();
-  window.activateWindow();
-  code.setFocus();
-  QTest::qWait(1);
-  for (const char c : GetParam().Typed) {
-    switch (c) {
-      case '\b':
-        QTest::keyClick(&code, Qt::Key_Backspace);
-        break;
-      case '\r':
-        QTest::keyClick(&code, Qt::Key_Return);
-        break;
-      case '\x1B':
-        QTest::keyClick(&code, Qt::Key_Escape);
-        break;
-      case '\x01':
-        QTest::keyClick(&code, Qt::Key_Down);
-        break;
-      case '\x02':
-        QTest::keyClick(&code, Qt::Key_Up);
-        break;
-      default:
-        QTest::keyClick(&code, c);
-    }
-  }
-  const auto* list = code.findChild<QListWidget*>(QStringLiteral("lstIntellisense"));
-  ASSERT_NE(list, nullptr);
-  std::string rows;
-  std::string selected;
-  if (list->isVisible()) {
-    for (int row = 0; row < list->count(); ++row) {
-      rows += (row == 0 ? "" : ",") + list->item(row)->text().toStdString();
-    }
-    if (!list->selectedItems().isEmpty()) selected = list->selectedItems()[0]->text().toStdString();
-  }
-  const editor::EditRange caret = code.GetSel();
-  std::string text;
-  for (int line = 0; line < caret.EndLineNo; ++line) text += code.GetLine(line) + "/";
-  std::string last = code.GetLine(caret.EndLineNo);
-  last.insert(static_cast<std::size_t>(caret.EndColNo), "|");
-  EXPECT_EQ(rows, GetParam().Rows);
-  EXPECT_EQ(selected, GetParam().Selected);
-  EXPECT_EQ(text + last, GetParam().Text);
-  EXPECT_EQ(QApplication::focusWidget(), &code);
-}
-
-INSTANTIATE_TEST_SUITE_P(Cases, RealMemberList, testing::ValuesIn(test::IntellisenseCases()),
-                         [](const auto& tested) { return std::string(tested.param.Name); });
 
 }  // namespace
 }  // namespace tarnwick

@@ -1,8 +1,7 @@
 // Everything in the dialogs of the property grid has a name and can be reached by keys alone.
 #include <QApplication>
 #include <QDialog>
-#include <QLabel>
-#include <QToolButton>
+#include <string>
 #include <string_view>
 
 #include <gtest/gtest.h>
@@ -13,23 +12,21 @@
 namespace tarnwick {
 namespace {
 
-class DialogReach : public ::testing::Test {
+/// A row of the grid whose button opens a dialog.
+struct DialogRow {
+  const char* Dialog;
+  int Tool;  ///< places an object that has the row
+  std::string_view Row;
+};
+
+class DialogReach : public ::testing::TestWithParam<DialogRow> {
  protected:
   void SetUp() override { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
 
   /// Sweeps the dialog that the button of a grid row opens.
   void SweepRow(std::string_view name) {
-    const PropertySheet& sheet = program.Shell().Sheet();
-    int row = 0;
-    while (row < sheet.RowCount() && sheet.Label(row) != name) ++row;
-    ASSERT_LT(row, sheet.RowCount()) << name;
-    program.Click(program.Find<QLabel>(QStringLiteral("Label_%1").arg(row)));
-    auto& first = program.Find<QToolButton>(QStringLiteral("Boton1"));
-    auto& second = program.Find<QToolButton>(QStringLiteral("Boton2"));
-    QToolButton& shown = first.isVisible() ? first : second;
-    ASSERT_TRUE(shown.isVisible()) << name;
     program.User.Do([this](QDialog& dialog) { SweepOpen(dialog); });
-    program.Click(shown);
+    program.PressRowButton(name);
     program.Settle();
     ASSERT_TRUE(program.User.Done()) << name;
   }
@@ -51,35 +48,18 @@ class DialogReach : public ::testing::Test {
   Program program{Program::FileDialogs::Real};
 };
 
-TEST_F(DialogReach, TheFont) {
-  program.Place(0, {20, 20});
-  SweepRow("Font");
+TEST_P(DialogReach, NamesEverythingAndIsReachedByKeys) {
+  program.Place(GetParam().Tool, {20, 20});
+  SweepRow(GetParam().Row);
 }
 
-TEST_F(DialogReach, TheItems) {
-  program.Place(4, {20, 20});
-  SweepRow("AddItems");
-}
-
-TEST_F(DialogReach, TheColour) {
-  program.Place(0, {20, 20});
-  SweepRow("FontColor");
-}
-
-TEST_F(DialogReach, ThePicture) {
-  program.Place(0, {20, 20});
-  SweepRow("BmpHandle");
-}
-
-TEST_F(DialogReach, TheFolder) {
-  program.Place(12, {20, 20});
-  SweepRow("InitialDir");
-}
-
-TEST_F(DialogReach, TheRowsOfAPopUpMenu) {
-  program.Place(19, {20, 20});
-  SweepRow("AddItems");
-}
+constexpr DialogRow kDialogs[] = {
+    {"TheFont", 0, "Font"},          {"TheItems", 4, "AddItems"},
+    {"TheColour", 0, "FontColor"},   {"ThePicture", 0, "BmpHandle"},
+    {"TheFolder", 12, "InitialDir"}, {"TheRowsOfAPopUpMenu", 19, "AddItems"},
+};
+INSTANTIATE_TEST_SUITE_P(Rows, DialogReach, testing::ValuesIn(kDialogs),
+                         [](const auto& tested) { return std::string(tested.param.Dialog); });
 
 }  // namespace
 }  // namespace tarnwick

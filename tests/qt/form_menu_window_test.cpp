@@ -48,7 +48,8 @@ TEST_F(FormMenuWindow, TheMenuOfTheFormOpensAndAnItemIsSelectedForItsCode) {
   program.Shell().User(1)->SelectForm();
   program.Shell().Bar().btncodigo_Click("Form1mnuOpen");
   EXPECT_EQ(program.Form().NameObjet, "Form1mnuOpen");
-  EXPECT_NE(Source().find("Form1mnuOpen.OnClick = Form1mnuOpen_OnClick"), std::string::npos);
+  EXPECT_NE(program.Source().find("Form1mnuOpen.OnClick = Form1mnuOpen_OnClick"),
+            std::string::npos);
 }
 
 TEST_F(FormMenuWindow, TheMenuOfTheFormIsReachedByKeys) {

@@ -11,8 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include "codegen/generator_state.h"
-#include "codegen/program_source.h"
 #include "inspector/property_sheet.h"
 #include "program.h"
 
@@ -23,13 +21,7 @@ class GridWindow : public testing::Test {
   Program program;
 
   PropertySheet& Sheet() { return program.Shell().Sheet(); }
-  int RowOf(std::string_view name) {
-    for (int row = 0; row < Sheet().RowCount(); ++row) {
-      if (Sheet().Label(row) == name) return row;
-    }
-    ADD_FAILURE() << "no row " << name;
-    return 0;
-  }
+  int RowOf(std::string_view name) { return program.GridRow(name); }
   QLineEdit& Cell(std::string_view row) {
     return program.Find<QLineEdit>(QStringLiteral("Text_%1").arg(RowOf(row)));
   }
@@ -40,7 +32,7 @@ class GridWindow : public testing::Test {
   QListWidget& List() { return program.Find<QListWidget>(QStringLiteral("ListBox")); }
   /// The row is selected by a press on its name.
   void Enter(std::string_view row) {
-    program.Click(NameOf(row));
+    program.EnterRow(row);
     EXPECT_EQ(Sheet().RowIndex(), RowOf(row));
   }
   /// Selects a row and types over its value.
@@ -59,12 +51,9 @@ class GridWindow : public testing::Test {
     return widget != nullptr ? widget->objectName().toStdString() : "";
   }
   std::string CellName(std::string_view row) { return "Text_" + std::to_string(RowOf(row)); }
-  std::string Source() {
-    GeneratorState state;
-    return GenerateSource(program.Tables(), state);
-  }
   void ExpectLine(std::string_view line) {
-    EXPECT_NE(Source().find(line), std::string::npos) << line << " in\n" << Source();
+    const std::string source = program.Source();
+    EXPECT_NE(source.find(line), std::string::npos) << line << " in\n" << source;
   }
 };
 

@@ -91,7 +91,7 @@ TEST_F(MenuRowsWindow, ADeeperItemStandsUnderItsTitleOnTheFormAsInTheProgram) {
   EXPECT_EQ(items->actions().at(1)->text(), "&Recent");
   EXPECT_EQ(items->actions().at(1)->menu(), nullptr);
   items->close();
-  const std::string source = Source();
+  const std::string source = program.Source();
   EXPECT_NE(source.find("mnuFile.AddItems mnuRecent\r\nmnuRecent.Caption = \"&Recent\""),
             std::string::npos)
       << source;

@@ -16,8 +16,6 @@
 
 #include <gtest/gtest.h>
 
-#include "codegen/generator_state.h"
-#include "codegen/program_source.h"
 #include "inspector/property_sheet.h"
 #include "menus/menu_rows.h"
 #include "program.h"
@@ -100,19 +98,9 @@ class MenuDesigners : public testing::Test {
       ASSERT_EQ(dialog.objectName(), "FormPopUp");
       step(Designer(dialog));
     });
-    const PropertySheet& sheet = program.Shell().Sheet();
-    int row = 0;
-    while (row < sheet.RowCount() && sheet.Label(row) != "AddItems") ++row;
-    program.Click(program.Find<QLabel>(QStringLiteral("Label_%1").arg(row)));
-    auto& first = program.Find<QToolButton>(QStringLiteral("Boton1"));
-    auto& second = program.Find<QToolButton>(QStringLiteral("Boton2"));
-    program.Click(first.isVisible() ? first : second);
+    program.PressRowButton("AddItems");
   }
   Rows MenuRows() { return menus::RowsOfFormMenu(program.Form()); }
-  std::string Source() {
-    GeneratorState state;
-    return GenerateSource(program.Tables(), state);
-  }
   /// The code editor, wherever it works.
   static QWidget& Code() {
     const QWidgetList windows = QApplication::topLevelWidgets();

@@ -6,8 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include "codegen/generator_state.h"
-#include "codegen/program_source.h"
 #include "persistence/form_writer.h"
 #include "program.h"
 
@@ -18,16 +16,6 @@ constexpr QPoint kFree{300, 250};
 
 class Pasting : public testing::Test {
  protected:
-  /// Types into a row of the property grid, which is selected by a press on its name.
-  void TypeInto(std::string_view name, const QString& text) {
-    const PropertySheet& sheet = program.Shell().Sheet();
-    int row = 0;
-    while (row < sheet.RowCount() && sheet.Label(row) != name) ++row;
-    ASSERT_LT(row, sheet.RowCount()) << name;
-    program.Click(program.Find<QLabel>(QStringLiteral("Label_%1").arg(row)));
-    program.Type(text);
-    program.Key(Qt::Key_Return);
-  }
   void Copy() { program.Key(Qt::Key_C, Qt::ControlModifier); }
   void Paste() { program.Key(Qt::Key_V, Qt::ControlModifier); }
   std::string Status() {
@@ -40,7 +28,7 @@ class Pasting : public testing::Test {
 
 TEST_F(Pasting, ACheckBoxKeepsItsCheck) {
   program.Place(6, {20, 20});
-  TypeInto("Checked", QStringLiteral("True"));
+  program.TypeIntoRow("Checked", QStringLiteral("True"));
   ASSERT_EQ(program.Form().Element(Kind::CheckBox, 1)->Value, 1);
   program.Click(program.Surface(), {30, 25});
   Copy();
@@ -73,8 +61,7 @@ TEST_F(Pasting, AListShowsTheItemsOfItsSource) {
   Copy();
   Paste();
   EXPECT_EQ(program.Selected()->Items, (std::vector<std::string>{"one", "two"}));
-  GeneratorState state;
-  const std::string source = GenerateSource(program.Tables(), state);
+  const std::string source = program.Source();
   EXPECT_NE(source.find("Form1List2.AddItems"), std::string::npos) << source;
 }
 

@@ -111,7 +111,7 @@ TEST_F(PopUpDesignerWindow, TwoFormsWithMenusPopUpsAndCodeGoToSourceAndComeBackF
   program.PressTool(9);
   program.Place(0, {40, 90});
   make("B");
-  const std::string source = Source();
+  const std::string source = program.Source();
   for (const char* line : {"AFile.AddItems AOpen", "AOpen.Caption = \"&Open, now\"",
                            "AFile.AddItems ARecent", "ARecent.Caption = \"&Recent\"", "Rem BppDeep",
                            "Rem BRecent", "BFile.AddItems BOpen", "BppMore.AddItems BppDeep"}) {
@@ -138,7 +138,7 @@ TEST_F(PopUpDesignerWindow, TwoFormsWithMenusPopUpsAndCodeGoToSourceAndComeBackF
             (Rows{"&File    (BFile)", "...&Open, now    (BOpen)", "......&Recent    (BRecent)"}));
   EXPECT_EQ(*program.Tables().EventTable.Find("Form1.ARecent.OnClick"), "Rem ARecent");
   EXPECT_EQ(*program.Tables().EventTable.Find("Form2.BppDeep.OnClick"), "Rem BppDeep");
-  EXPECT_EQ(Source(), source);
+  EXPECT_EQ(program.Source(), source);
   // What the designer shows is what was made.
   InMenuEdit([](const Designer& menu) {
     EXPECT_EQ(menu.Shown(), (Rows{"&File    (AFile)", "...&Open, now    (AOpen)",

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -13,7 +14,10 @@
 
 #include <gtest/gtest.h>
 
+#include "codegen/generator_state.h"
+#include "codegen/program_source.h"
 #include "fakes/build_paths.h"
+#include "inspector/property_sheet.h"
 #include "model/units.h"
 #include "qt/surface/container.h"
 #include "shell/program_setup.h"
@@ -267,6 +271,43 @@ void Program::DragHandle(int handle, QPoint by) {
   ASSERT_TRUE(grip && grip->Visible);
   const QPoint from = PixelsOf(grip->Left + grip->Width / 2, grip->Top + grip->Height / 2);
   Drag(Surface(), from, from + by);
+}
+
+int Program::GridRow(std::string_view name) {
+  const PropertySheet& sheet = shell_->Sheet();
+  for (int row = 0; row < sheet.RowCount(); ++row) {
+    if (sheet.Label(row) == name) return row;
+  }
+  ADD_FAILURE() << "no row " << name;
+  return 0;
+}
+
+void Program::EnterRow(std::string_view name) {
+  Click(Find<QLabel>(QStringLiteral("Label_%1").arg(GridRow(name))));
+}
+
+void Program::TypeIntoRow(std::string_view name, const QString& text) {
+  EnterRow(name);
+  Type(text);
+  Key(Qt::Key_Return);
+}
+
+void Program::PressRowButton(std::string_view name) {
+  EnterRow(name);
+  auto& first = Find<QToolButton>(QStringLiteral("Boton1"));
+  QToolButton& shown = first.isVisible() ? first : Find<QToolButton>(QStringLiteral("Boton2"));
+  ASSERT_TRUE(shown.isVisible()) << name;
+  Click(shown);
+}
+
+std::string Program::Source() {
+  GeneratorState state;
+  return GenerateSource(Tables(), state);
+}
+
+std::string Program::Code(std::string_view key) {
+  const std::string* const code = Tables().EventTable.Find(key);
+  return code == nullptr ? "(none)" : *code;
 }
 
 bool Program::Close() {

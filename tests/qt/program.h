@@ -169,6 +169,18 @@ class Program {
   void Choose(const QString& action);
   /// Presses a handle of the selection, moves by so many pixels and lets go.
   void DragHandle(int handle, QPoint by);
+  /// The row of that name in the property grid; the test fails without it.
+  [[nodiscard]] int GridRow(std::string_view name);
+  /// Selects a row of the property grid by a press on its name.
+  void EnterRow(std::string_view name);
+  /// Types over the value of a row and leaves it by Return.
+  void TypeIntoRow(std::string_view name, const QString& text);
+  /// Presses the button of a row, which opens a dialog or a list.
+  void PressRowButton(std::string_view name);
+  /// The generated source.
+  [[nodiscard]] std::string Source();
+  /// The stored code of a key, "(none)" without an entry.
+  [[nodiscard]] std::string Code(std::string_view key);
   /// Closes the main window as its own button does; true when it went.
   bool Close();
 

@@ -15,8 +15,6 @@
 
 #include <gtest/gtest.h>
 
-#include "codegen/generator_state.h"
-#include "codegen/program_source.h"
 #include "program.h"
 #include "qt/grid/property_panel.h"
 
@@ -44,24 +42,11 @@ class PropertyPickers : public testing::Test {
     return program.Find<QLineEdit>(QStringLiteral("Text_%1").arg(RowOf(row)));
   }
   std::string Shown(std::string_view row) { return Cell(row).text().toStdString(); }
-  /// Enters the row and presses its first or second button.
-  void PressButton(std::string_view row) {
-    Enter(row);
-    auto& first = program.Find<QToolButton>(QStringLiteral("Boton1"));
-    auto& second = program.Find<QToolButton>(QStringLiteral("Boton2"));
-    QToolButton& shown = first.isVisible() ? first : second;
-    ASSERT_TRUE(shown.isVisible()) << row;
-    program.Click(shown);
-  }
   std::string WritePicture(const char* name) {
     QImage picture(24, 24, QImage::Format_RGB32);
     picture.fill(Qt::red);
     EXPECT_TRUE(picture.save(QString::fromStdString(program.Projects.Native(name)), "BMP"));
     return program.Projects.Path(name);
-  }
-  std::string Source() {
-    GeneratorState state;
-    return GenerateSource(program.Tables(), state);
   }
   static void Choose(QDialog& dialog, const std::string& native) {
     auto* files = qobject_cast<QFileDialog*>(&dialog);
@@ -80,10 +65,10 @@ TEST_F(PropertyPickers, APictureIsChosenAndShowsOnTheButtonAndInItsRow) {
     EXPECT_EQ(dialog.windowTitle(), "Picture");
     Choose(dialog, program.Projects.Native("red.bmp"));
   });
-  PressButton("BmpHandle");
+  program.PressRowButton("BmpHandle");
   EXPECT_EQ(Shown("BmpHandle"), path);
   EXPECT_EQ(button->Picture, path);
-  EXPECT_NE(Source().find("Frm1Btn1_Bmp"), std::string::npos) << Source();
+  EXPECT_NE(program.Source().find("Frm1Btn1_Bmp"), std::string::npos) << program.Source();
   const QImage row = Cell("BmpHandle").parentWidget()->grab().toImage();
   EXPECT_EQ(row.pixelColor(Cell("BmpHandle").x() - 9, row.height() / 2), QColor(Qt::red));
 }
@@ -91,13 +76,13 @@ TEST_F(PropertyPickers, APictureIsChosenAndShowsOnTheButtonAndInItsRow) {
 TEST_F(PropertyPickers, EveryCancelledDialogChangesNothing) {
   DesignControl* button = program.Place(0, {20, 20});
   program.Place(12, {120, 20});
-  const std::string before = Source();
+  const std::string before = program.Source();
   program.Click(program.Surface(), {30, 30});
   ASSERT_EQ(program.Selected(), button);
   for (const char* row : {"BmpHandle", "Font", "FontColor"}) {
     const std::string shown = Shown(row);
     program.User.Do(Cancel);
-    PressButton(row);
+    program.PressRowButton(row);
     EXPECT_TRUE(program.User.Done()) << row;
     EXPECT_EQ(Shown(row), shown) << row;
   }
@@ -105,23 +90,23 @@ TEST_F(PropertyPickers, EveryCancelledDialogChangesNothing) {
   for (const char* row : {"FileName", "InitialDir"}) {
     const std::string shown = Shown(row);
     program.User.Do(Cancel);
-    PressButton(row);
+    program.PressRowButton(row);
     EXPECT_EQ(Shown(row), shown) << row;
   }
   program.Click(program.Surface(), {300, 250});
   for (const char* row : {"IcoHandle", "Icon(App)", "Color"}) {
     const std::string shown = Shown(row);
     program.User.Do(Cancel);
-    PressButton(row);
+    program.PressRowButton(row);
     EXPECT_EQ(Shown(row), shown) << row;
   }
   EXPECT_EQ(button->FontName, "MS Sans Serif");
-  EXPECT_EQ(Source(), before);
+  EXPECT_EQ(program.Source(), before);
 }
 
 TEST_F(PropertyPickers, AnIconIsChosenAndResetGoesBackToTheDefault) {
   program.User.Do([&](QDialog& dialog) { Choose(dialog, program.Home.Native("IconApp.ico")); });
-  PressButton("IcoHandle");
+  program.PressRowButton("IcoHandle");
   EXPECT_EQ(Shown("IcoHandle"), program.Home.Path("IconApp.ico"));
   EXPECT_EQ(Shown("Icon(App)"), program.Home.Path("IconApp.ico"));
   program.Click(program.Find<QToolButton>(QStringLiteral("Boton3")));
@@ -136,10 +121,10 @@ TEST_F(PropertyPickers, AColourIsChosenAndShowsOnTheForm) {
     colours->setCurrentColor(QColor(255, 0, 0));
     colours->accept();
   });
-  PressButton("Color");
+  program.PressRowButton("Color");
   EXPECT_EQ(Shown("Color"), "255");
   EXPECT_EQ(program.Form().BackColor, 255);
-  EXPECT_NE(Source().find("Form1.Color = 255"), std::string::npos);
+  EXPECT_NE(program.Source().find("Form1.Color = 255"), std::string::npos);
 }
 
 TEST_F(PropertyPickers, AFontIsChosenInItsDialog) {
@@ -150,7 +135,7 @@ TEST_F(PropertyPickers, AFontIsChosenInItsDialog) {
     dialog.findChild<QDoubleSpinBox*>()->setValue(14);
     QTest::keyClick(&dialog, Qt::Key_Return);
   });
-  PressButton("Font");
+  program.PressRowButton("Font");
   EXPECT_EQ(button->FontName, "Courier New");
   EXPECT_EQ(button->FontSize, 14);
   EXPECT_EQ(Shown("Font"), "Courier New");
@@ -165,7 +150,7 @@ TEST_F(PropertyPickers, TheFontDialogKeepsFractionsAndOffersOnlyWhatIsStored) {
     EXPECT_EQ(dialog.findChildren<QCheckBox*>().size(), 2);
     QTest::keyClick(&dialog, Qt::Key_Return);
   });
-  PressButton("Font");
+  program.PressRowButton("Font");
   EXPECT_EQ(button->FontSize, 8.25F);
   EXPECT_TRUE(button->FontUnderline);
   program.User.Do([](QDialog& dialog) {
@@ -175,7 +160,7 @@ TEST_F(PropertyPickers, TheFontDialogKeepsFractionsAndOffersOnlyWhatIsStored) {
     QTest::keyClicks(size, QStringLiteral("7.5"));
     QTest::keyClick(&dialog, Qt::Key_Return);
   });
-  PressButton("Font");
+  program.PressRowButton("Font");
   EXPECT_EQ(button->FontSize, 7.5F);
 }
 
@@ -189,7 +174,7 @@ TEST_F(PropertyPickers, TheItemDialogKeepsEveryByteThatItDidNotEdit) {
   record->Items = items;
   program.User.Do(
       [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return, Qt::ControlModifier); });
-  PressButton("AddItems");
+  program.PressRowButton("AddItems");
   EXPECT_EQ(record->Items, items);
   program.User.Do([](QDialog& dialog) {
     auto* text = dialog.findChild<QPlainTextEdit*>(QStringLiteral("TextAdd"));
@@ -197,7 +182,7 @@ TEST_F(PropertyPickers, TheItemDialogKeepsEveryByteThatItDidNotEdit) {
     QTest::keyClicks(text, QStringLiteral("new"));
     QTest::keyClick(&dialog, Qt::Key_Return, Qt::ControlModifier);
   });
-  PressButton("AddItems");
+  program.PressRowButton("AddItems");
   EXPECT_EQ(record->Items, items + "new\x95");
   EXPECT_EQ(list->Items.size(), 4U);
 }
@@ -210,7 +195,7 @@ TEST_F(PropertyPickers, TheItemDialogShowsAQuestionMarkForWhatTheListCannotHold)
     EXPECT_EQ(text->toPlainText(), "a?b?c?");
     QTest::keyClick(&dialog, Qt::Key_Return, Qt::ControlModifier);
   });
-  PressButton("AddItems");
+  program.PressRowButton("AddItems");
   EXPECT_EQ(list->Items, std::vector<std::string>{"a?b?c?"});
 }
 
@@ -220,9 +205,9 @@ TEST_F(PropertyPickers, AFolderIsChosen) {
     EXPECT_EQ(dialog.windowTitle(), "Folder");
     Choose(dialog, program.Projects.Native());
   });
-  PressButton("InitialDir");
+  program.PressRowButton("InitialDir");
   EXPECT_EQ(Shown("InitialDir"), program.Projects.Path());
-  EXPECT_NE(Source().find(program.Projects.Path()), std::string::npos);
+  EXPECT_NE(program.Source().find(program.Projects.Path()), std::string::npos);
 }
 
 TEST_F(PropertyPickers, AnyFileAndAPageAreChosen) {
@@ -230,14 +215,14 @@ TEST_F(PropertyPickers, AnyFileAndAPageAreChosen) {
   program.Projects.Write("page.html", "x");
   program.Place(12, {20, 20});
   program.User.Do([&](QDialog& dialog) { Choose(dialog, program.Projects.Native("any.dat")); });
-  PressButton("FileName");
+  program.PressRowButton("FileName");
   EXPECT_EQ(Shown("FileName"), program.Projects.Path("any.dat"));
   program.Place(16, {80, 20});
   program.User.Do([&](QDialog& dialog) {
     EXPECT_EQ(dialog.windowTitle(), "Page");
     Choose(dialog, program.Projects.Native("page.html"));
   });
-  PressButton("Navigate");
+  program.PressRowButton("Navigate");
   EXPECT_EQ(Shown("Navigate"), program.Projects.Path("page.html"));
 }
 
@@ -253,17 +238,17 @@ TEST_F(PropertyPickers, ItemsAreEditedOneALineAndShowOnTheForm) {
     QTest::keyClicks(text, QStringLiteral("Pear"));
     QTest::keyClick(&dialog, Qt::Key_Return, Qt::ControlModifier);
   });
-  PressButton("AddItems");
+  program.PressRowButton("AddItems");
   EXPECT_EQ(list->Items, (std::vector<std::string>{"Apple", "Pear"}));
   EXPECT_EQ(Shown("AddItems"), "Items");
-  EXPECT_NE(Source().find("\"Apple\""), std::string::npos) << Source();
+  EXPECT_NE(program.Source().find("\"Apple\""), std::string::npos) << program.Source();
   program.User.Do([](QDialog& dialog) {
     auto* text = dialog.findChild<QPlainTextEdit*>(QStringLiteral("TextAdd"));
     EXPECT_EQ(text->toPlainText(), "Apple\nPear\n");
     text->setPlainText(QStringLiteral("Gone"));
     QTest::keyClick(&dialog, Qt::Key_Escape);
   });
-  PressButton("AddItems");
+  program.PressRowButton("AddItems");
   EXPECT_EQ(list->Items, (std::vector<std::string>{"Apple", "Pear"}));
 }
 
@@ -275,7 +260,7 @@ TEST_F(PropertyPickers, WhatThePanelEditsIsThereAfterSavingAndOpening) {
   program.Type("77");
   Enter("Visible");
   program.Type("False");
-  const std::string source = Source();
+  const std::string source = program.Source();
   program.User.Do([&](QDialog& dialog) { Choose(dialog, program.Projects.Native("a.tnp")); });
   program.User.Do([&](QDialog& dialog) { Choose(dialog, program.Projects.Native("a.ftn")); });
   program.Key(Qt::Key_S, Qt::ControlModifier);
@@ -287,7 +272,7 @@ TEST_F(PropertyPickers, WhatThePanelEditsIsThereAfterSavingAndOpening) {
   EXPECT_EQ(Shown("Caption"), "Go");
   EXPECT_EQ(Shown("Left"), "77");
   EXPECT_EQ(Shown("Visible"), "False");
-  EXPECT_EQ(Source(), source);
+  EXPECT_EQ(program.Source(), source);
 }
 
 }  // namespace

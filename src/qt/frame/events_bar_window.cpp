@@ -174,11 +174,11 @@ void EventsBarWindow::ShowTitle(const QString& title) {
 }
 
 void EventsBarWindow::Press(int number) {
-  const auto place = static_cast<std::size_t>(number);
-  if (place >= shown_.size()) return;
-  const std::string tag = shown_[place].Tag;
+  const auto index = static_cast<std::size_t>(number);
+  if (index >= shown_.size()) return;
+  const std::string tag = shown_[index].Tag;
   bar_.btncodigo_Click(tag);
-  PopUp(*buttons_[place]);
+  PopUp(*buttons_[index]);
 }
 
 void EventsBarWindow::PopUp(QToolButton& button) {

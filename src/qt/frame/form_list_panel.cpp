@@ -82,9 +82,9 @@ void FormListPanel::Refresh() {
   }
 }
 
-void FormListPanel::Select(int place) {
+void FormListPanel::Select(int index) {
   const QSignalBlocker quiet(list_);
-  list_->setCurrentRow(place);
+  list_->setCurrentRow(index);
 }
 
 }  // namespace tarnwick

@@ -24,7 +24,7 @@ class FormListPanel final : public QWidget {
   /// Reads lines and marks again.
   void Refresh();
   /// Marks a line as selected; -1 for none.
-  void Select(int place);
+  void Select(int index);
 
  private:
   FormCommands& forms_;

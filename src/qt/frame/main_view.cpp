@@ -220,8 +220,8 @@ void MainView::Refresh() {
   if (std::exchange(bar_changed_, false)) window_.EventButtons().Refresh();
 }
 
-void MainView::SelectFormLine(int place) {
-  window_.FormLines().Select(place);
+void MainView::SelectFormLine(int index) {
+  window_.FormLines().Select(index);
 }
 
 void MainView::SetArrowPointer(bool arrow) {

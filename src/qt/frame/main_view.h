@@ -52,7 +52,7 @@ class MainView final : public ShellView, public ProjectObserver {
   [[nodiscard]] bool PictureLoads(const std::string& path) override;
   void ShowPanel(Panel panel, bool shown) override;
   void CommandsChanged() override;
-  void SelectFormLine(int place) override;
+  void SelectFormLine(int index) override;
   void SetArrowPointer(bool arrow) override;
   void FindingsChanged() override;
   void FocusFindings() override;

@@ -24,7 +24,7 @@ ToolBoxPanel::ToolBoxPanel(CommandCenter& commands, const QString& name, int col
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(kBetween);
-  int place = 0;
+  int index = 0;
   for (const ToolInfo& tool : AllTools()) {
     const int number = tool.Number;
     auto* button = new QToolButton(this);
@@ -41,9 +41,9 @@ ToolBoxPanel::ToolBoxPanel(CommandCenter& commands, const QString& name, int col
       commands_.PressTool(number);
       Refresh();
     });
-    grid->addWidget(button, place / columns, place % columns);
+    grid->addWidget(button, index / columns, index % columns);
     buttons_.emplace_back(number, button);
-    ++place;
+    ++index;
   }
   Refresh();
 }

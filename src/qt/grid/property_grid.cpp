@@ -39,7 +39,7 @@ PropertyGrid::PropertyGrid(PropertySheet& sheet, looks::PictureCache& pictures, 
   setObjectName(QStringLiteral("GridRows"));
   setAccessibleName(QStringLiteral("Properties"));
   for (QToolButton* button : buttons_->All()) button->installEventFilter(this);
-  connect(list_, &ValuePopup::Chosen, this, [this](int place) { ChooseListRow(place); });
+  connect(list_, &ValuePopup::Chosen, this, [this](int index) { ChooseListRow(index); });
   connect(list_, &ValuePopup::Closed, this, [this] { sheet_.CloseList(); });
 }
 
@@ -225,8 +225,8 @@ void PropertyGrid::MoveBy(int row, int steps) {
   if (shown.empty()) return;
   const auto here = std::lower_bound(shown.begin(), shown.end(), row);
   const auto last = static_cast<int>(shown.size()) - 1;
-  const int place = std::clamp(static_cast<int>(here - shown.begin()) + steps, 0, last);
-  EnterRow(shown[static_cast<std::size_t>(place)], FocusOn::ByRow);
+  const int index = std::clamp(static_cast<int>(here - shown.begin()) + steps, 0, last);
+  EnterRow(shown[static_cast<std::size_t>(index)], FocusOn::ByRow);
 }
 
 /// A double click: the next value of a list, the dialog of another row.
@@ -241,9 +241,9 @@ void PropertyGrid::PickOrCycle(int row) {
   const auto next = present == values.end() || std::next(present) == values.end()
                         ? values.begin()
                         : std::next(present);
-  const int place = static_cast<int>(next - values.begin());
+  const int index = static_cast<int>(next - values.begin());
   const std::string value = *next;
-  sheet_.ApplyChoice(value, place);
+  sheet_.ApplyChoice(value, index);
 }
 
 void PropertyGrid::ShowList(bool is_open) {
@@ -257,11 +257,11 @@ void PropertyGrid::ShowList(bool is_open) {
               QRect(view->mapToGlobal(QPoint(left, 0)), QSize(width() - left, view->height())));
 }
 
-void PropertyGrid::ChooseListRow(int place) {
+void PropertyGrid::ChooseListRow(int index) {
   const auto& values = sheet_.List().Values();
-  if (place < 0 || place >= static_cast<int>(values.size())) return;
-  const std::string value = values[static_cast<std::size_t>(place)];
-  sheet_.ApplyChoice(value, place);
+  if (index < 0 || index >= static_cast<int>(values.size())) return;
+  const std::string value = values[static_cast<std::size_t>(index)];
+  sheet_.ApplyChoice(value, index);
 }
 
 bool PropertyGrid::eventFilter(QObject* object, QEvent* event) {

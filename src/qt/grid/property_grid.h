@@ -78,7 +78,7 @@ class PropertyGrid final : public QWidget {
   void Type(int row, const QString& text);
   void MoveBy(int row, int steps);
   void PickOrCycle(int row);
-  void ChooseListRow(int place);
+  void ChooseListRow(int index);
   void LeaveCell(int row, const QFocusEvent& event);
   bool FilterCell(QObject* object, int row, QEvent* event);
   bool PressKey(QObject* object, int row, QKeyEvent& event);

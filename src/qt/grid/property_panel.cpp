@@ -83,7 +83,7 @@ void PropertyPanel::BuildHead() {
   combo_->setAccessibleName(combo_->toolTip());
   combo_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   combo_->setMinimumContentsLength(8);
-  connect(combo_, &ObjectBox::activated, this, [this](int place) { sheet_.ChooseComboRow(place); });
+  connect(combo_, &ObjectBox::activated, this, [this](int index) { sheet_.ChooseComboRow(index); });
   filter_->setObjectName(QStringLiteral("RowFilter"));
   filter_->setPlaceholderText(QStringLiteral("Filter rows"));
   filter_->setToolTip(QStringLiteral("Show only rows whose name holds this text"));

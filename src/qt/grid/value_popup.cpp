@@ -46,10 +46,10 @@ void ValuePopup::Open(const std::vector<std::string>& values, int marked, const 
   if (currentItem() != nullptr) scrollToItem(currentItem());
 }
 
-void ValuePopup::Choose(int place) {
-  if (place < 0 || place >= count()) return;
+void ValuePopup::Choose(int index) {
+  if (index < 0 || index >= count()) return;
   hide();
-  Q_EMIT Chosen(place);
+  Q_EMIT Chosen(index);
 }
 
 void ValuePopup::keyPressEvent(QKeyEvent* event) {

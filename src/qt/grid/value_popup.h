@@ -19,7 +19,7 @@ class ValuePopup final : public QListWidget {
   void Open(const std::vector<std::string>& values, int marked, const QRect& line);
 
  Q_SIGNALS:
-  void Chosen(int place);
+  void Chosen(int index);
   void Closed();
 
  protected:
@@ -29,7 +29,7 @@ class ValuePopup final : public QListWidget {
   void hideEvent(QHideEvent* event) override;
 
  private:
-  void Choose(int place);
+  void Choose(int index);
 };
 
 }  // namespace tarnwick

@@ -38,9 +38,9 @@ void RowListView::ShowRows(const std::vector<std::string>& rows,
   while (count() > static_cast<int>(rows.size())) delete takeItem(count() - 1);
   while (count() < static_cast<int>(rows.size())) addItem(QString());
   for (int row = 0; row < count(); ++row) {
-    const auto place = static_cast<std::size_t>(row);
-    const QString text = ToQString(rows[place]);
-    const QString fault = ToQString(faults[place]);
+    const auto index = static_cast<std::size_t>(row);
+    const QString text = ToQString(rows[index]);
+    const QString fault = ToQString(faults[index]);
     QListWidgetItem& line = *item(row);
     if (line.text() == text && line.toolTip() == fault && !line.icon().isNull()) continue;
     line.setText(text);

@@ -90,8 +90,9 @@ void FormMenuStrip::Rebuild(const DesignForm& form) {
     title.Items->setStyleSheet(QString::fromLatin1(looks::kMenuSheet));
     title.Items->installEventFilter(this);
     menus[static_cast<std::size_t>(i)] = title.Items;
-    const int place = static_cast<int>(titles_.size());
-    connect(title.Button, &QAbstractButton::pressed, this, [this, place] { Open(place); });
+    const int title_index = static_cast<int>(titles_.size());
+    connect(title.Button, &QAbstractButton::pressed, this,
+            [this, title_index] { Open(title_index); });
     connect(title.Items, &QMenu::aboutToHide, title.Button,
             [button = title.Button] { button->setDown(false); });
     titles_.push_back(title);
@@ -140,9 +141,9 @@ bool FormMenuStrip::PressInMenu(const QObject* menu, int key) {
   const auto found = std::find_if(titles_.begin(), titles_.end(),
                                   [menu](const Title& title) { return title.Items == menu; });
   if (found == titles_.end() || count < 2) return false;
-  const int place = static_cast<int>(found - titles_.begin());
+  const int index = static_cast<int>(found - titles_.begin());
   found->Items->hide();
-  OpenByKey((place + (key == Qt::Key_Right ? 1 : count - 1)) % count);
+  OpenByKey((index + (key == Qt::Key_Right ? 1 : count - 1)) % count);
   return true;
 }
 

@@ -252,8 +252,8 @@ class WindowAccess final : public QAccessibleWidget {
     const int widgets = QAccessibleWidget::childCount();
     if (index < widgets) return QAccessibleWidget::child(index);
     const std::vector<QAccessibleInterface*> buttons = Buttons();
-    const auto place = static_cast<std::size_t>(index - widgets);
-    return place < buttons.size() ? buttons[place] : nullptr;
+    const auto button = static_cast<std::size_t>(index - widgets);
+    return button < buttons.size() ? buttons[button] : nullptr;
   }
   [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override {
     const std::vector<QAccessibleInterface*> buttons = Buttons();

@@ -91,11 +91,11 @@ QRect WindowFrame::ButtonRect(FramePart part) const {
   if (!Metrics.Title || !Buttons) return {};
   if (part == FramePart::Maximise && !Maximise) return {};
   if (part == FramePart::Minimise && !Minimise) return {};
-  int place = 0;
-  if (part == FramePart::Maximise) place = 1;
-  if (part == FramePart::Minimise) place = Maximise ? 2 : 1;
+  int from_right = 0;
+  if (part == FramePart::Maximise) from_right = 1;
+  if (part == FramePart::Minimise) from_right = Maximise ? 2 : 1;
   const int border = Metrics.Border();
-  return {Size.width() - border - (place + 1) * looks::kTitleButtonWidth, border,
+  return {Size.width() - border - (from_right + 1) * looks::kTitleButtonWidth, border,
           looks::kTitleButtonWidth, Metrics.TitleBar()};
 }
 
