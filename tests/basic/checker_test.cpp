@@ -18,7 +18,7 @@ struct Program1 : CheckedText {
   explicit Program1(std::string text) : CheckedText(std::move(text)) { EXPECT_EQ(Messages(), ""); }
   template <class T>
   const T& Line(std::size_t index) const {
-    return std::get<T>(Result.Checked->Procedures[0].Body[index]->Node);
+    return *Result.Checked->Procedures[0].Body[index]->As<T>();
   }
   const Program& Whole() const { return *Result.Checked; }
 };
@@ -52,22 +52,22 @@ TEST(Checker, FoldsConstants) {
   const Program1 program(
       "CONST n = 2 + 3 * 4\nDIM a AS INTEGER\na = n + 1\nb$ = \"x\" + \"y\"\n"
       "c = -2 ^ 2\nd = NOT 0\ne = 1 = 1\nf = 5 / 2");
-  EXPECT_EQ(std::get<WholeConstant>(program.Line<Assign>(0).Value->Node).Value, 15);
-  EXPECT_EQ(std::get<TextConstant>(program.Line<Assign>(1).Value->Node).Value, "xy");
-  EXPECT_EQ(std::get<RealConstant>(program.Line<Assign>(3).Value->Node).Value, -1);
-  EXPECT_EQ(std::get<RealConstant>(program.Line<Assign>(4).Value->Node).Value, kComparisonTrue);
-  EXPECT_EQ(std::get<RealConstant>(program.Line<Assign>(5).Value->Node).Value, 2.5);
+  EXPECT_EQ(program.Line<Assign>(0).Value->As<WholeConstant>()->Value, 15);
+  EXPECT_EQ(program.Line<Assign>(1).Value->As<TextConstant>()->Value, "xy");
+  EXPECT_EQ(program.Line<Assign>(3).Value->As<RealConstant>()->Value, -1);
+  EXPECT_EQ(program.Line<Assign>(4).Value->As<RealConstant>()->Value, kComparisonTrue);
+  EXPECT_EQ(program.Line<Assign>(5).Value->As<RealConstant>()->Value, 2.5);
 }
 TEST(Checker, AConstantThatOnlyRunsCanTellIsAVariable) {
   const Program1 program("CONST nl = CHR$(13) + CHR$(10)\nPRINT nl");
   EXPECT_EQ(program.Whole().Globals.size(), 1U);
-  EXPECT_TRUE(std::holds_alternative<BinaryOperation>(program.Line<Assign>(0).Value->Node));
+  EXPECT_TRUE(program.Line<Assign>(0).Value->Is<BinaryOperation>());
 }
 TEST(Checker, WholeNumbersStayWholeUntilAFractionComes) {
   const Program1 program("DIM i AS INTEGER, d AS DOUBLE\nd = i + 1\nd = i / 2\nd = i * 1.5");
   const auto kind_of_operand = [&program](std::size_t line) {
     const Expression* value = program.Line<Assign>(line).Value;
-    if (const auto* conversion = std::get_if<Conversion>(&value->Node)) value = conversion->Operand;
+    if (const auto* conversion = value->As<Conversion>()) value = conversion->Operand;
     return value->Gives();
   };
   EXPECT_EQ(kind_of_operand(0), ValueKind::Whole);
@@ -110,7 +110,7 @@ TEST(Checker, AReferenceNeedsAVariableOfTheSameType) {
       "DIM i AS INTEGER, d AS DOUBLE\nSUB s (BYREF n AS INTEGER)\nEND SUB\n"
       "s i\ns d\ns 5");
   const auto how = [&program](std::size_t line) {
-    return std::get<ProcedureCall>(program.Line<Evaluate>(line).Call->Node).Arguments[0].How;
+    return program.Line<Evaluate>(line).Call->As<ProcedureCall>()->Arguments[0].How;
   };
   EXPECT_EQ(how(0), PassBy::Reference);
   EXPECT_EQ(how(1), PassBy::Value);
@@ -119,7 +119,7 @@ TEST(Checker, AReferenceNeedsAVariableOfTheSameType) {
 TEST(Checker, AnAtSignAtACallMakesTheParameterAReference) {
   const Program1 program("DIM i AS INTEGER\nSUB s (n AS INTEGER)\nEND SUB\ns @i");
   EXPECT_TRUE(program.Whole().Procedures[1].Locals[0].ByReference);
-  EXPECT_EQ(std::get<ProcedureCall>(program.Line<Evaluate>(0).Call->Node).Arguments[0].How,
+  EXPECT_EQ(program.Line<Evaluate>(0).Call->As<ProcedureCall>()->Arguments[0].How,
             PassBy::Reference);
 }
 TEST(Checker, AFunctionSetsItsValueByNameOrResult) {
@@ -136,9 +136,9 @@ TEST(Checker, LoopsAndExits) {
   EXPECT_EQ(Check1("FOR a$ = 1 TO 2\nNEXT"),
             "1:5: error: The variable of FOR must be a plain variable that holds a number\n");
   const Program1 program("FOR i = 1 TO 3\nWHILE i\nDO\nEXIT FOR\nLOOP\nWEND\nNEXT");
-  const auto& loop = std::get<Loop>(program.Line<ForLoop>(0).Body[0]->Node);
-  const auto& inner = std::get<Loop>(loop.Body[0]->Node);
-  EXPECT_EQ(std::get<ExitLoop>(inner.Body[0]->Node).Levels, 2U);
+  const auto& loop = *program.Line<ForLoop>(0).Body[0]->As<Loop>();
+  const auto& inner = *loop.Body[0]->As<Loop>();
+  EXPECT_EQ(inner.Body[0]->As<ExitLoop>()->Levels, 2U);
 }
 TEST(Checker, LabelsBelongToTheirProcedure) {
   EXPECT_EQ(Check1("x: GOTO x\nGOSUB y\ny: RETURN"), "");
@@ -148,7 +148,7 @@ TEST(Checker, LabelsBelongToTheirProcedure) {
 }
 TEST(Checker, ANameAndAColonIsACallWhereTheNameIsASub) {
   const Program1 program("SUB s\nEND SUB\ns: x = 1");
-  EXPECT_TRUE(std::holds_alternative<Evaluate>(program.Whole().Procedures[0].Body[0]->Node));
+  EXPECT_TRUE(program.Whole().Procedures[0].Body[0]->Is<Evaluate>());
 }
 TEST(Checker, ArraysNeedTheirIndexes) {
   EXPECT_EQ(Check1("DIM a(3, 4) AS INTEGER\na(1, 2) = 3\nx = UBOUND(a, 2) + LBOUND(a)"), "");
@@ -216,7 +216,7 @@ TEST(Checker, ATypeWithEventsHasAConstructorThatHooksThem) {
   ASSERT_NE(constructor, kNoProcedure);
   const Block body = program.Whole().At(constructor).Body;
   ASSERT_EQ(body.size(), 1U);
-  EXPECT_NE(std::get<HookEvent>(body[0]->Node).Bound, nullptr);
+  EXPECT_NE(body[0]->As<HookEvent>()->Bound, nullptr);
 }
 TEST(Checker, AddressesOfRoutines) {
   EXPECT_EQ(

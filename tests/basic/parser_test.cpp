@@ -15,7 +15,7 @@ std::string Value(const std::string& text) {
   ParsedText parsed("x = " + text);
   EXPECT_EQ(parsed.Faults(), "") << text;
   if (parsed.Tree.Statements.empty()) return "nothing";
-  const auto* line = std::get_if<tree::Assignment>(&parsed.Tree.Statements[0]->Value);
+  const auto* line = parsed.Tree.Statements[0]->As<tree::Assignment>();
   return line == nullptr ? "no assignment" : test::TextOf(line->Value);
 }
 /// Target and arguments of a call as a statement.
@@ -23,7 +23,7 @@ std::string Call(const std::string& text) {
   ParsedText parsed(text);
   EXPECT_EQ(parsed.Faults(), "") << text;
   if (parsed.Tree.Statements.empty()) return "nothing";
-  const auto* line = std::get_if<tree::CallLine>(&parsed.Tree.Statements[0]->Value);
+  const auto* line = parsed.Tree.Statements[0]->As<tree::CallLine>();
   if (line == nullptr) return "no call";
   std::string written = test::TextOf(line->Target);
   for (const tree::Node* argument : line->Arguments) written += " " + test::TextOf(argument);

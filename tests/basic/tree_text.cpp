@@ -48,7 +48,7 @@ struct Writer {
 }  // namespace
 
 std::string TextOf(const tree::Node* node) {
-  return node == nullptr ? "_" : std::visit(Writer{}, node->Value);
+  return node == nullptr ? "_" : node->Visit(Writer{});
 }
 
 }  // namespace tarnwick::basic::test

@@ -20,11 +20,8 @@ std::string_view FrameNumber(std::string_view name, std::string_view rest) {
 }
 
 bool IsCall(const Expression& value) {
-  return std::holds_alternative<ProcedureCall>(value.Node) ||
-         std::holds_alternative<PointerCall>(value.Node) ||
-         std::holds_alternative<DllCall>(value.Node) ||
-         std::holds_alternative<BuiltInCall>(value.Node) ||
-         std::holds_alternative<MethodCall>(value.Node);
+  return value.Is<ProcedureCall>() || value.Is<PointerCall>() || value.Is<DllCall>() ||
+         value.Is<BuiltInCall>() || value.Is<MethodCall>();
 }
 
 }  // namespace
@@ -44,26 +41,24 @@ bool Checker::FrameRest(std::string_view name, bool assigned, SourcePlace at, St
 }
 
 const tree::Node* Checker::Settled(const tree::Node* node, Statements& out) {
-  if (const auto* access = std::get_if<tree::MemberAccess>(&node->Value)) {
+  if (const auto* access = node->As<tree::MemberAccess>()) {
     if (access->Target == nullptr) return node;
-    return program_.Memory.Make<tree::Node>(
-        node->At, node->Height, tree::MemberAccess{Settled(access->Target, out), access->Name});
+    return tree::MakeNode(program_.Memory, node->At, node->Height,
+                          tree::MemberAccess{Settled(access->Target, out), access->Name});
   }
-  const auto* apply = std::get_if<tree::Apply>(&node->Value);
+  const auto* apply = node->As<tree::Apply>();
   if (apply == nullptr) return node;
   std::vector<const tree::Node*> arguments(apply->Arguments.begin(), apply->Arguments.end());
   for (const tree::Node*& argument : arguments) {
-    if (argument == nullptr || std::holds_alternative<tree::WholeNumber>(argument->Value)) continue;
+    if (argument == nullptr || argument->Is<tree::WholeNumber>()) continue;
     const Expr value = Value(argument);
     if (IsFaulty(value) || value->Kind.IsArray() || value->Gives() == ValueKind::Record) continue;
     const Expr kept = Temporary(ValueTypeOf(value->Kind), argument->At);
     Add(out, argument->At, Assign{kept, value});
-    argument =
-        program_.Memory.Make<tree::Node>(argument->At, std::uint16_t{1}, tree::Checked{kept});
+    argument = tree::MakeNode(program_.Memory, argument->At, 1, tree::Checked{kept});
   }
-  return program_.Memory.Make<tree::Node>(
-      node->At, node->Height,
-      tree::Apply{Settled(apply->Target, out), program_.Memory.List(arguments)});
+  return tree::MakeNode(program_.Memory, node->At, node->Height,
+                        tree::Apply{Settled(apply->Target, out), program_.Memory.List(arguments)});
 }
 
 void Checker::CheckAssignment(const tree::Assignment& line, SourcePlace at, Statements& out) {
@@ -71,11 +66,11 @@ void Checker::CheckAssignment(const tree::Assignment& line, SourcePlace at, Stat
   const tree::Node* target = line.Op == tree::Operator::Equal || line.Value == nullptr
                                  ? line.Target
                                  : Settled(line.Target, out);
-  const auto* apply = std::get_if<tree::Apply>(&target->Value);
+  const auto* apply = target->As<tree::Apply>();
   const tree::NodeList indexes = apply == nullptr ? tree::NodeList() : apply->Arguments;
   const tree::Node* base = apply == nullptr ? target : apply->Target;
-  const auto* access = std::get_if<tree::MemberAccess>(&base->Value);
-  const auto* name = std::get_if<tree::Name>(&base->Value);
+  const auto* access = base->As<tree::MemberAccess>();
+  const auto* name = base->As<tree::Name>();
   if (access != nullptr && access->Target == nullptr && around_.empty() && !frame_->This &&
       EqualsFolded(access->Name, "PopupMenu") && Tolerate(Tolerance::LostPopup, at)) {
     return;
@@ -86,15 +81,14 @@ void Checker::CheckAssignment(const tree::Assignment& line, SourcePlace at, Stat
   }
   if (line.Op != tree::Operator::Equal) {
     const int height = std::max(target->Height, value->Height) + 1;
-    value = program_.Memory.Make<tree::Node>(at, static_cast<std::uint16_t>(height),
-                                             tree::Binary{line.Op, target, value});
+    value = tree::MakeNode(program_.Memory, at, height, tree::Binary{line.Op, target, value});
   }
   if (access != nullptr) {
     const MemberUse use = MemberOf(*access, base->At);
     return AssignMember(use, indexes, value, access->Name, at, out);
   }
   if (name == nullptr) {
-    const bool character = std::holds_alternative<tree::Subscript>(target->Value);
+    const bool character = target->Is<tree::Subscript>();
     Error(at,
           character ? "A single character of a text cannot be set"
                     : "Nothing can be assigned to this",
@@ -151,8 +145,7 @@ void Checker::Store(Expr target, Expr value, SourcePlace at, Statements& out) {
   }
   const Expr fitted = Fit(value, target->Kind, false);
   const bool copies = target->Gives() == ValueKind::Object && target->Kind.Detail != kAnyClass &&
-                      !std::holds_alternative<NothingConstant>(fitted->Node) &&
-                      classes_.CopiesValues(target->Kind.Class());
+                      !fitted->Is<NothingConstant>() && classes_.CopiesValues(target->Kind.Class());
   if (copies) {
     Add(out, at, CopyObject{target, fitted});
   } else {
@@ -170,7 +163,7 @@ void Checker::AssignMember(const MemberUse& use, tree::NodeList indexes, const t
   }
   if (use.Field != nullptr) {
     const Expr target = indexes.empty() ? use.Field : Element(use.Field, indexes, at);
-    const auto* routine = std::get_if<tree::Name>(&value->Value);
+    const auto* routine = value->As<tree::Name>();
     const std::optional<ProcedureId> id =
         routine == nullptr || target->Kind.Kind != Storage::Integer || Find(*routine) == nullptr
             ? std::nullopt
@@ -232,7 +225,7 @@ void Checker::SetPropertyOf(const MemberUse& use, tree::NodeList indexes, const 
 }
 
 bool Checker::UnboundPicture(const MemberFacts& facts, const tree::Node* value) {
-  const auto* name = std::get_if<tree::Name>(&value->Value);
+  const auto* name = value->As<tree::Name>();
   if (name == nullptr || Find(*name) != nullptr) return false;
   const bool handle =
       EqualsFolded(facts.Name, "BmpHandle") || EqualsFolded(facts.Name, "IcoHandle");
@@ -245,9 +238,9 @@ void Checker::Hook(const MemberUse& use, const tree::Node* value, SourcePlace at
     return;
   }
   HookEvent hook{use.Object, use.Facts->Id, kNoProcedure, nullptr};
-  const auto* number = std::get_if<tree::WholeNumber>(&value->Value);
+  const auto* number = value->As<tree::WholeNumber>();
   if (number != nullptr && number->Value == 0) return Add(out, at, hook);
-  if (const auto* name = std::get_if<tree::Name>(&value->Value)) {
+  if (const auto* name = value->As<tree::Name>()) {
     std::optional<ProcedureId> id = FindProcedure(name->Id);
     if (frame_->This) {
       const auto& members = types_[static_cast<std::size_t>(*frame_->This)].Members;
@@ -265,7 +258,7 @@ void Checker::Hook(const MemberUse& use, const tree::Node* value, SourcePlace at
     Error(value->At, "There is no SUB \"" + std::string(name->Text) + '"', SimilarTo(name->Text));
     return;
   }
-  if (const auto* access = std::get_if<tree::MemberAccess>(&value->Value)) {
+  if (const auto* access = value->As<tree::MemberAccess>()) {
     const MemberUse routine = MemberOf(*access, value->At);
     if (routine.Routine) {
       hook.Procedure = *routine.Routine;
@@ -281,7 +274,7 @@ void Checker::Hook(const MemberUse& use, const tree::Node* value, SourcePlace at
 void Checker::StepOf(const tree::Node* target, const tree::Node* amount, bool up, SourcePlace at,
                      Statements& out) {
   if (amount == nullptr) {
-    amount = program_.Memory.Make<tree::Node>(at, std::uint16_t{1}, tree::WholeNumber{1});
+    amount = tree::MakeNode(program_.Memory, at, 1, tree::WholeNumber{1});
   }
   const tree::Operator op = up ? tree::Operator::Add : tree::Operator::Subtract;
   CheckAssignment({target, amount, op}, at, out);
@@ -290,11 +283,11 @@ void Checker::StepOf(const tree::Node* target, const tree::Node* amount, bool up
 void Checker::CheckCall(const tree::CallLine& line, SourcePlace at, Statements& out) {
   const tree::Node* target = line.Target;
   Expr call = nullptr;
-  if (const auto* access = std::get_if<tree::MemberAccess>(&target->Value)) {
+  if (const auto* access = target->As<tree::MemberAccess>()) {
     call = UseValue(MemberOf(*access, target->At), line.Arguments, !line.Arguments.empty(),
                     access->Name, at, true);
     if (call == nullptr) return;
-  } else if (const auto* name = std::get_if<tree::Name>(&target->Value)) {
+  } else if (const auto* name = target->As<tree::Name>()) {
     const Symbol* symbol = Find(*name);
     if (symbol == nullptr) {
       if (line.Arguments.empty() && FrameRest(name->Text, false, at, out)) return;

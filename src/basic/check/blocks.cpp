@@ -58,8 +58,7 @@ void Checker::CheckSelect(const tree::SelectBlock& block, SourcePlace at, Statem
 void Checker::CheckFor(const tree::ForBlock& block, SourcePlace at, Statements& out) {
   const Expr variable = Location(block.Variable);
   const bool slot = variable != nullptr && !variable->Kind.IsArray() &&
-                    (std::holds_alternative<GlobalSlot>(variable->Node) ||
-                     std::holds_alternative<LocalSlot>(variable->Node));
+                    (variable->Is<GlobalSlot>() || variable->Is<LocalSlot>());
   const ValueKind kind = slot ? variable->Gives() : ValueKind::None;
   if (variable != nullptr && kind != ValueKind::Whole && kind != ValueKind::Real) {
     Error(block.Variable->At, "The variable of FOR must be a plain variable that holds a number");
@@ -114,9 +113,8 @@ void Checker::CheckWith(const tree::WithBlock& block, SourcePlace at, Statements
     Error(object->At, "WITH needs an object");
     return;
   }
-  const bool fixed = std::holds_alternative<GlobalSlot>(object->Node) ||
-                     std::holds_alternative<LocalSlot>(object->Node) ||
-                     std::holds_alternative<BuiltInObject>(object->Node);
+  const bool fixed =
+      object->Is<GlobalSlot>() || object->Is<LocalSlot>() || object->Is<BuiltInObject>();
   if (!fixed && object->Gives() == ValueKind::Object) {
     // Worked out once, whatever the statements inside change.
     const Expr kept = Temporary(object->Kind, at);

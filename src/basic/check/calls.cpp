@@ -74,9 +74,8 @@ Argument Checker::ArgumentFor(const Variable& parameter, const tree::Node* node,
     }
     return {value, PassBy::Array};
   }
-  const bool reference = parameter.OnlyWithAt
-                             ? std::holds_alternative<tree::ByReference>(node->Value)
-                             : parameter.ByReference;
+  const bool reference =
+      parameter.OnlyWithAt ? node->Is<tree::ByReference>() : parameter.ByReference;
   if (reference && value->IsLocation() && value->Kind == parameter.Kind) {
     return {value, PassBy::Reference};
   }

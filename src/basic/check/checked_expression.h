@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
-#include <variant>
 
 #include "basic/check/types.h"
 #include "basic/lib/function_table.h"
+#include "basic/source/sorts.h"
 #include "basic/source/source_place.h"
 
 namespace tarnwick::basic {
@@ -200,18 +200,41 @@ struct VariableParameter {
 struct Expression {
   Type Kind;
   SourcePlace At;
-  std::variant<WholeConstant, RealConstant, TextConstant, NothingConstant, GlobalSlot, LocalSlot,
-               ArrayElement, RecordField, BuiltInObject, PropertyValue, MethodCall, BinaryOperation,
-               UnaryOperation, Conversion, CharacterAt, Choice, ProcedureCall, PointerCall, DllCall,
-               BuiltInCall, ArrayBound, AddressOf, SizeOf, FoundFile, VariableParameter>
-      Node;
+  std::uint8_t Sort = 0;  ///< in `ExpressionSorts`
 
+  /// The content when it is of that sort, else null.
+  template <class T>
+  [[nodiscard]] const T* As() const;
+  template <class T>
+  [[nodiscard]] bool Is() const;
+  /// Calls the visitor with the content.
+  template <class Visitor>
+  decltype(auto) Visit(Visitor&& visitor) const;
   [[nodiscard]] ValueKind Gives() const noexcept { return KindOf(Kind); }
   /// True for what can be assigned to and passed by reference.
-  [[nodiscard]] bool IsLocation() const noexcept {
-    return std::holds_alternative<GlobalSlot>(Node) || std::holds_alternative<LocalSlot>(Node) ||
-           std::holds_alternative<ArrayElement>(Node) || std::holds_alternative<RecordField>(Node);
-  }
+  [[nodiscard]] bool IsLocation() const noexcept;
 };
+using ExpressionSorts =
+    Sorts<Expression, WholeConstant, RealConstant, TextConstant, NothingConstant, GlobalSlot,
+          LocalSlot, ArrayElement, RecordField, BuiltInObject, PropertyValue, MethodCall,
+          BinaryOperation, UnaryOperation, Conversion, CharacterAt, Choice, ProcedureCall,
+          PointerCall, DllCall, BuiltInCall, ArrayBound, AddressOf, SizeOf, FoundFile,
+          VariableParameter>;
+
+template <class T>
+const T* Expression::As() const {
+  return ExpressionSorts::As<T>(*this);
+}
+template <class T>
+bool Expression::Is() const {
+  return ExpressionSorts::Is<T>(*this);
+}
+template <class Visitor>
+decltype(auto) Expression::Visit(Visitor&& visitor) const {
+  return ExpressionSorts::Visit(visitor, *this);
+}
+inline bool Expression::IsLocation() const noexcept {
+  return Is<GlobalSlot>() || Is<LocalSlot>() || Is<ArrayElement>() || Is<RecordField>();
+}
 
 }  // namespace tarnwick::basic

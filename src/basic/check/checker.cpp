@@ -32,21 +32,21 @@ Program Checker::Run() {
 
 void Checker::CollectLabels(tree::StatementList statements) {
   for (const tree::StatementNode* statement : statements) {
-    if (const auto* label = std::get_if<tree::Label>(&statement->Value)) {
+    if (const auto* label = statement->As<tree::Label>()) {
       if (IsCallable(label->Name)) continue;
       const auto id = static_cast<LabelId>(frame_->Labels.size());
       if (!frame_->Labels.emplace(Keep(label->Name), id).second) {
         Error(statement->At, "The label \"" + std::string(label->Name) + "\" stands here twice");
       }
-    } else if (const auto* block = std::get_if<tree::IfBlock>(&statement->Value)) {
+    } else if (const auto* block = statement->As<tree::IfBlock>()) {
       for (const tree::Arm& arm : block->Arms) CollectLabels(arm.Body);
-    } else if (const auto* select = std::get_if<tree::SelectBlock>(&statement->Value)) {
+    } else if (const auto* select = statement->As<tree::SelectBlock>()) {
       for (const tree::CaseBlock& arm : select->Cases) CollectLabels(arm.Body);
-    } else if (const auto* count = std::get_if<tree::ForBlock>(&statement->Value)) {
+    } else if (const auto* count = statement->As<tree::ForBlock>()) {
       CollectLabels(count->Body);
-    } else if (const auto* loop = std::get_if<tree::LoopBlock>(&statement->Value)) {
+    } else if (const auto* loop = statement->As<tree::LoopBlock>()) {
       CollectLabels(loop->Body);
-    } else if (const auto* with = std::get_if<tree::WithBlock>(&statement->Value)) {
+    } else if (const auto* with = statement->As<tree::WithBlock>()) {
       CollectLabels(with->Body);
     }
   }
@@ -134,7 +134,7 @@ struct Checker::Dispatch {
 };
 
 void Checker::CheckStatement(const tree::StatementNode& statement, Statements& out) {
-  std::visit(Dispatch{*this, statement.At, out}, statement.Value);
+  statement.Visit(Dispatch{*this, statement.At, out});
 }
 
 void Checker::CheckRoutine(const tree::Routine& routine, SourcePlace /*at*/) {

@@ -74,11 +74,13 @@ class Checker {
   // --- Making nodes ------------------------------------------------------------------------------
   template <class T>
   Expr Make(Type type, SourcePlace at, T node) {
-    return program_.Memory.Make<Expression>(type, at, std::move(node));
+    return program_.Memory.Make<ExpressionSorts::Of<T>>(
+        ExpressionSorts::Made({type, at}, std::move(node)));
   }
   template <class T>
   void Add(Statements& out, SourcePlace at, T node) {
-    out.push_back(program_.Memory.Make<Statement>(at, std::move(node)));
+    out.push_back(
+        program_.Memory.Make<StatementSorts::Of<T>>(StatementSorts::Made({at}, std::move(node))));
   }
   template <class T>
   std::span<const T> List(const std::vector<T>& items) {
@@ -95,7 +97,7 @@ class Checker {
   /// What stands for an expression that is faulty: of no type, so that nothing more is said of it.
   Expr Faulty(SourcePlace at) { return Make(kNoType, at, NothingConstant{}); }
   [[nodiscard]] static bool IsFaulty(Expr value) {
-    return value->Kind == kNoType && std::holds_alternative<NothingConstant>(value->Node);
+    return value->Kind == kNoType && value->Is<NothingConstant>();
   }
   Procedure& Current() { return program_.Procedures[static_cast<std::size_t>(frame_->Id)]; }
 

@@ -109,9 +109,8 @@ void Checker::CheckConst(const tree::ConstDeclaration& line, SourcePlace at, Sta
   if (frame_->Id == kMainProcedure) return;
   Expr value = Value(line.Value);
   if (!line.As.Text.empty()) value = Fit(value, TypeOf(line.As, {}, false), true);
-  const bool constant = std::holds_alternative<WholeConstant>(value->Node) ||
-                        std::holds_alternative<RealConstant>(value->Node) ||
-                        std::holds_alternative<TextConstant>(value->Node);
+  const bool constant =
+      value->Is<WholeConstant>() || value->Is<RealConstant>() || value->Is<TextConstant>();
   const std::string_view name = Keep(line.Name);
   if (constant) {
     frame_->Names[IdOf(name)] = {Symbol::Sort::Constant, 0, value, at, name};

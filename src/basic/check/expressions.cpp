@@ -25,7 +25,7 @@ const Expression* Checker::Value(const tree::Node* node) {
     Expr operator()(const tree::Binary& n) const { return C.BinaryValue(n, At); }
     Expr operator()(const tree::Checked& n) const { return n.Value; }
   };
-  const Expr value = std::visit(Visitor{*this, at}, node->Value);
+  const Expr value = node->Visit(Visitor{*this, at});
   if (value->Kind == kNoType && !IsFaulty(value)) {
     return Fail(at, "This gives no value");
   }
@@ -59,11 +59,11 @@ const Expression* Checker::NameValue(const tree::Name& name, SourcePlace at) {
 }
 
 const Expression* Checker::ApplyValue(const tree::Apply& apply, SourcePlace at) {
-  if (const auto* access = std::get_if<tree::MemberAccess>(&apply.Target->Value)) {
+  if (const auto* access = apply.Target->As<tree::MemberAccess>()) {
     return UseValue(MemberOf(*access, apply.Target->At), apply.Arguments, true, access->Name, at,
                     false);
   }
-  if (const auto* name = std::get_if<tree::Name>(&apply.Target->Value)) {
+  if (const auto* name = apply.Target->As<tree::Name>()) {
     const Symbol* const local = FindIn(frame_->Names, name->Id);
     const Symbol* symbol = IsOwnResult(local, name->Id) ? nullptr : Find(*name);
     const bool variable = symbol != nullptr && (symbol->Kind == Symbol::Sort::Global ||
@@ -90,8 +90,8 @@ const Expression* Checker::Element(Expr array, tree::NodeList indexes, SourcePla
   if (IsFaulty(array)) return array;
   if (!array->Kind.IsArray()) return Fail(array->At, "This is not an array");
   // The number of dimensions of an array parameter is known by its use alone.
-  const bool parameter = std::holds_alternative<LocalSlot>(array->Node) &&
-                         std::get<LocalSlot>(array->Node).Index < Current().ParameterCount;
+  const bool parameter =
+      array->Is<LocalSlot>() && array->As<LocalSlot>()->Index < Current().ParameterCount;
   if (indexes.size() != array->Kind.Dimensions && !parameter) {
     return Fail(at, "The array has " + std::to_string(array->Kind.Dimensions) +
                         " dimension(s), not " + std::to_string(indexes.size()));
@@ -107,7 +107,7 @@ const Expression* Checker::SubscriptValue(const tree::Subscript& subscript, Sour
 }
 
 const Expression* Checker::Location(const tree::Node* node) {
-  if (const auto* reference = std::get_if<tree::ByReference>(&node->Value)) {
+  if (const auto* reference = node->As<tree::ByReference>()) {
     return Location(reference->Operand);
   }
   const Expr value = Value(node);
@@ -132,7 +132,7 @@ const Expression* Checker::As(Expr value, ValueKind kind) {
   }
   switch (kind) {
     case ValueKind::Whole:
-      if (const auto* real = std::get_if<RealConstant>(&value->Node)) {
+      if (const auto* real = value->As<RealConstant>()) {
         constexpr double kLimit = 9.2e18;
         const double rounded = std::nearbyint(real->Value);
         if (rounded > -kLimit && rounded < kLimit) {
@@ -141,7 +141,7 @@ const Expression* Checker::As(Expr value, ValueKind kind) {
       }
       return Make(kWholeType, at, Conversion{value});
     case ValueKind::Real:
-      if (const auto* whole = std::get_if<WholeConstant>(&value->Node)) {
+      if (const auto* whole = value->As<WholeConstant>()) {
         return Real(static_cast<double>(whole->Value), at);
       }
       return Make(kRealType, at, Conversion{value});
@@ -150,8 +150,7 @@ const Expression* Checker::As(Expr value, ValueKind kind) {
     case ValueKind::Variant:
       return Make(kVariantType, at, Conversion{value});
     case ValueKind::Object:
-      if (const auto* zero = std::get_if<WholeConstant>(&value->Node);
-          zero != nullptr && zero->Value == 0) {
+      if (const auto* zero = value->As<WholeConstant>(); zero != nullptr && zero->Value == 0) {
         return Make(kAnyObjectType, at, NothingConstant{});
       }
       return Fail(at, "An object is expected here");

@@ -18,7 +18,7 @@ Overloaded(Cases...) -> Overloaded<Cases...>;
 
 void Checker::CollectTypes(tree::StatementList statements) {
   for (const tree::StatementNode* statement : statements) {
-    const auto* type = std::get_if<tree::TypeBlock>(&statement->Value);
+    const auto* type = statement->As<tree::TypeBlock>();
     if (type == nullptr || type->Name.empty()) continue;
     const auto id = static_cast<RecordId>(program_.Records.size());
     const std::string_view name = Keep(type->Name);
@@ -50,57 +50,53 @@ void Checker::CollectHeads(tree::StatementList statements, bool in_routine) {
 
 void Checker::CollectHead(const tree::StatementNode& statement, bool in_routine) {
   const SourcePlace at = statement.At;
-  std::visit(Overloaded{
-                 [&](const tree::DataLine& line) { CollectData(line); },
-                 [&](const tree::Label& line) {
-                   data_labels_.emplace(Keep(line.Name),
-                                        static_cast<std::uint32_t>(program_.Data.size()));
-                 },
-                 [&](const tree::Routine& line) { CollectProcedure(line, at); },
-                 [&](const tree::DeclareLine& line) {
-                   if (!line.Library.empty()) CollectDll(line, at);
-                 },
-                 [&](const tree::ResourceLine& line) {
-                   const auto index = static_cast<std::uint32_t>(program_.Resources.size());
-                   const std::string_view name = Keep(line.Name);
-                   program_.Resources.push_back({name, Keep(line.File), at});
-                   globals_[IdOf(name)] = {Symbol::Sort::Resource, index, nullptr, at, name};
-                 },
-                 [&](const tree::Declaration& line) {
-                   if (in_routine || line.Kind == tree::DeclareKind::Shared) return;
-                   for (const tree::Declarator& name : line.Names) CollectGlobal(name);
-                 },
-                 [&](const tree::CreateBlock& block) {
-                   if (!in_routine) CollectGlobal(block.Object);
-                 },
-                 [&](const tree::ConstDeclaration& line) {
-                   if (!in_routine) CollectConstant(line, at);
-                 },
-                 [&](const tree::DefaultTypeLine& line) {
-                   default_storage_ = TypeOf(line.As, {}, false).Kind;
-                 },
-                 [](const auto&) {},
-             },
-             statement.Value);
+  statement.Visit(Overloaded{
+      [&](const tree::DataLine& line) { CollectData(line); },
+      [&](const tree::Label& line) {
+        data_labels_.emplace(Keep(line.Name), static_cast<std::uint32_t>(program_.Data.size()));
+      },
+      [&](const tree::Routine& line) { CollectProcedure(line, at); },
+      [&](const tree::DeclareLine& line) {
+        if (!line.Library.empty()) CollectDll(line, at);
+      },
+      [&](const tree::ResourceLine& line) {
+        const auto index = static_cast<std::uint32_t>(program_.Resources.size());
+        const std::string_view name = Keep(line.Name);
+        program_.Resources.push_back({name, Keep(line.File), at});
+        globals_[IdOf(name)] = {Symbol::Sort::Resource, index, nullptr, at, name};
+      },
+      [&](const tree::Declaration& line) {
+        if (in_routine || line.Kind == tree::DeclareKind::Shared) return;
+        for (const tree::Declarator& name : line.Names) CollectGlobal(name);
+      },
+      [&](const tree::CreateBlock& block) {
+        if (!in_routine) CollectGlobal(block.Object);
+      },
+      [&](const tree::ConstDeclaration& line) {
+        if (!in_routine) CollectConstant(line, at);
+      },
+      [&](const tree::DefaultTypeLine& line) {
+        default_storage_ = TypeOf(line.As, {}, false).Kind;
+      },
+      [](const auto&) {},
+  });
 }
 
 void Checker::CollectBlocks(const tree::StatementNode& statement, bool in_routine) {
-  std::visit(Overloaded{
-                 [&](const tree::Routine& block) { CollectHeads(block.Body, true); },
-                 [&](const tree::IfBlock& block) {
-                   for (const tree::Arm& arm : block.Arms) CollectHeads(arm.Body, in_routine);
-                 },
-                 [&](const tree::SelectBlock& block) {
-                   for (const tree::CaseBlock& arm : block.Cases)
-                     CollectHeads(arm.Body, in_routine);
-                 },
-                 [&](const tree::ForBlock& block) { CollectHeads(block.Body, in_routine); },
-                 [&](const tree::LoopBlock& block) { CollectHeads(block.Body, in_routine); },
-                 [&](const tree::WithBlock& block) { CollectHeads(block.Body, in_routine); },
-                 [&](const tree::CreateBlock& block) { CollectHeads(block.Body, in_routine); },
-                 [](const auto&) {},
-             },
-             statement.Value);
+  statement.Visit(Overloaded{
+      [&](const tree::Routine& block) { CollectHeads(block.Body, true); },
+      [&](const tree::IfBlock& block) {
+        for (const tree::Arm& arm : block.Arms) CollectHeads(arm.Body, in_routine);
+      },
+      [&](const tree::SelectBlock& block) {
+        for (const tree::CaseBlock& arm : block.Cases) CollectHeads(arm.Body, in_routine);
+      },
+      [&](const tree::ForBlock& block) { CollectHeads(block.Body, in_routine); },
+      [&](const tree::LoopBlock& block) { CollectHeads(block.Body, in_routine); },
+      [&](const tree::WithBlock& block) { CollectHeads(block.Body, in_routine); },
+      [&](const tree::CreateBlock& block) { CollectHeads(block.Body, in_routine); },
+      [](const auto&) {},
+  });
 }
 
 void Checker::CollectData(const tree::DataLine& line) {
@@ -211,9 +207,8 @@ void Checker::CollectConstant(const tree::ConstDeclaration& line, SourcePlace at
   }
   Expr value = Value(line.Value);
   if (!line.As.Text.empty()) value = Fit(value, TypeOf(line.As, {}, false), true);
-  const bool constant = std::holds_alternative<WholeConstant>(value->Node) ||
-                        std::holds_alternative<RealConstant>(value->Node) ||
-                        std::holds_alternative<TextConstant>(value->Node);
+  const bool constant =
+      value->Is<WholeConstant>() || value->Is<RealConstant>() || value->Is<TextConstant>();
   if (constant) {
     globals_[IdOf(name)] = {Symbol::Sort::Constant, 0, value, at, name};
     return;

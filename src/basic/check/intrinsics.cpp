@@ -31,7 +31,7 @@ const Expression* Checker::CallIntrinsic(FunctionId id, tree::NodeList arguments
       return location == nullptr ? Faulty(at) : Make(kWholeType, at, AddressOf{location});
     }
     case FunctionId::CodePtr: {
-      const auto* name = none ? nullptr : std::get_if<tree::Name>(&arguments[0]->Value);
+      const auto* name = none ? nullptr : arguments[0]->As<tree::Name>();
       const std::optional<ProcedureId> procedure =
           name == nullptr ? std::nullopt : FindProcedure(name->Id);
       if (!procedure) {
@@ -86,8 +86,7 @@ const Expression* Checker::SizeOfNode(const tree::Node* node, SourcePlace at) {
     }
     return bytes;
   };
-  if (const auto* name = std::get_if<tree::Name>(&node->Value);
-      name != nullptr && Find(*name) == nullptr) {
+  if (const auto* name = node->As<tree::Name>(); name != nullptr && Find(*name) == nullptr) {
     if (const std::optional<Type> type = TypeNamed(name->Text)) {
       return Whole(bytes_of(bytes_of, *type, 0), at);
     }
@@ -174,13 +173,12 @@ bool Checker::IntrinsicStatement(FunctionId id, tree::NodeList arguments, Source
       const Expr first = Location(arguments[0]);
       const Expr last = Location(arguments[1]);
       if (first == nullptr || last == nullptr) return true;
-      if (!std::holds_alternative<ArrayElement>(first->Node) ||
-          !std::holds_alternative<ArrayElement>(last->Node)) {
+      if (!first->Is<ArrayElement>() || !last->Is<ArrayElement>()) {
         Error(at, "QUICKSORT needs the first and the last element of an array");
         return true;
       }
       const auto* order = arguments.size() > 2 && arguments[2] != nullptr
-                              ? std::get_if<tree::Name>(&arguments[2]->Value)
+                              ? arguments[2]->As<tree::Name>()
                               : nullptr;
       Add(out, at,
           QuickSort{first, last, order != nullptr && EqualsFolded(order->Text, "DESCEND")});

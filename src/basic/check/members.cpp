@@ -17,7 +17,7 @@ const Expression* Checker::ObjectOf(Expr value) {
 }
 
 const Expression* Checker::OwnerOf(const tree::Node* target, SourcePlace at) {
-  const auto* name = std::get_if<tree::Name>(&target->Value);
+  const auto* name = target->As<tree::Name>();
   if (name == nullptr) return Value(target);
   if (Find(*name) != nullptr) return Value(target);
   if (frame_->This) {
@@ -48,7 +48,7 @@ Checker::MemberUse Checker::MemberOf(const tree::MemberAccess& access, SourcePla
     use.Failed = true;
     return use;
   }
-  const auto* name = std::get_if<tree::Name>(&access.Target->Value);
+  const auto* name = access.Target->As<tree::Name>();
   if (name != nullptr && EqualsFolded(name->Text, "FILEREC") && Find(*name) == nullptr) {
     use.Field = FoundFileOf(access.Name, at);
     return use;
@@ -58,10 +58,9 @@ Checker::MemberUse Checker::MemberOf(const tree::MemberAccess& access, SourcePla
     if (object != nullptr) return MemberOfObject(object, access.Name);
   }
   // A field's name may hold dots: "a.b.c" is field "b.c" of "a".
-  const auto* inner = std::get_if<tree::MemberAccess>(&access.Target->Value);
-  const auto* first = inner == nullptr || inner->Target == nullptr
-                          ? nullptr
-                          : std::get_if<tree::Name>(&inner->Target->Value);
+  const auto* inner = access.Target->As<tree::MemberAccess>();
+  const auto* first =
+      inner == nullptr || inner->Target == nullptr ? nullptr : inner->Target->As<tree::Name>();
   if (first != nullptr && Find(*first) != nullptr) {
     const Expr owner = Value(inner->Target);
     if (owner->Kind.Kind == Storage::Record && !owner->Kind.IsArray()) {

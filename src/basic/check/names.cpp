@@ -45,9 +45,8 @@ const Expression* Checker::OfSymbol(const Symbol& symbol, SourcePlace at) {
     case Symbol::Sort::Local:
       return SlotOf(symbol, at);
     case Symbol::Sort::Constant: {
-      Expression copy = *symbol.Constant;
-      copy.At = at;
-      return program_.Memory.Make<Expression>(copy);
+      return symbol.Constant->Visit(
+          [&](const auto& value) { return Make(symbol.Constant->Kind, at, value); });
     }
     case Symbol::Sort::Resource:
       return Whole(kFirstResource + symbol.Index, at);
@@ -162,7 +161,7 @@ Type Checker::TypeOf(const tree::TypeName& as, std::string_view name, bool is_ar
   }
   if (as.Length != nullptr) {
     const Expr length = WholeValue(as.Length);
-    const auto* number = std::get_if<WholeConstant>(&length->Node);
+    const auto* number = length->As<WholeConstant>();
     constexpr std::int64_t kLongest = 1 << 24;
     if (number == nullptr || number->Value < 1 || number->Value > kLongest) {
       Error(as.At, "The length of a text must be a constant from 1 to 16777216");

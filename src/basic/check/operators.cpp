@@ -25,11 +25,11 @@ BinaryOperator CheckedOf(Operator op) {
 }
 
 bool IsTrueName(const tree::Node* node) {
-  const auto* name = std::get_if<tree::Name>(&node->Value);
+  const auto* name = node->As<tree::Name>();
   return name != nullptr && EqualsFolded(name->Text, "TRUE");
 }
 bool IsComparisonNode(const tree::Node* node) {
-  const auto* binary = std::get_if<tree::Binary>(&node->Value);
+  const auto* binary = node->As<tree::Binary>();
   return binary != nullptr && IsComparison(binary->Op);
 }
 
@@ -150,12 +150,12 @@ const Expression* Checker::Compare(BinaryOperator op, Expr left, Expr right, Sou
 const Expression* Checker::Operation(BinaryOperator op, Type type, Expr left, Expr right,
                                      SourcePlace at) {
   Expr folded = nullptr;
-  const auto* whole_a = std::get_if<WholeConstant>(&left->Node);
-  const auto* whole_b = std::get_if<WholeConstant>(&right->Node);
-  const auto* real_a = std::get_if<RealConstant>(&left->Node);
-  const auto* real_b = std::get_if<RealConstant>(&right->Node);
-  const auto* text_a = std::get_if<TextConstant>(&left->Node);
-  const auto* text_b = std::get_if<TextConstant>(&right->Node);
+  const auto* whole_a = left->As<WholeConstant>();
+  const auto* whole_b = right->As<WholeConstant>();
+  const auto* real_a = left->As<RealConstant>();
+  const auto* real_b = right->As<RealConstant>();
+  const auto* text_a = left->As<TextConstant>();
+  const auto* text_b = right->As<TextConstant>();
   if (whole_a != nullptr && whole_b != nullptr) {
     folded = FoldWhole(op, whole_a->Value, whole_b->Value, at);
   } else if (real_a != nullptr && real_b != nullptr) {
@@ -232,15 +232,15 @@ const Expression* Checker::UnaryValue(const tree::Unary& unary, SourcePlace at) 
   }
   if (unary.Op == Operator::Not) {
     const Expr whole = As(operand, ValueKind::Whole);
-    if (const auto* constant = std::get_if<WholeConstant>(&whole->Node)) {
+    if (const auto* constant = whole->As<WholeConstant>()) {
       return Whole(~constant->Value, at);
     }
     return Make(kWholeType, at, UnaryOperation{UnaryOperator::Not, whole});
   }
-  if (const auto* whole = std::get_if<WholeConstant>(&operand->Node)) {
+  if (const auto* whole = operand->As<WholeConstant>()) {
     return Whole(static_cast<std::int64_t>(0 - Bits(whole->Value)), at);
   }
-  if (const auto* real = std::get_if<RealConstant>(&operand->Node)) return Real(-real->Value, at);
+  if (const auto* real = operand->As<RealConstant>()) return Real(-real->Value, at);
   const ValueKind kind = operand->Gives();
   if (kind != ValueKind::Whole && kind != ValueKind::Real && kind != ValueKind::Variant) {
     return As(operand, ValueKind::Real);

@@ -27,8 +27,8 @@ void Checker::FillType(RecordId id) {
       const Expr low =
           dimension.Low == nullptr ? Whole(kLowestIndex, declarator.At) : WholeValue(dimension.Low);
       const Expr high = WholeValue(dimension.High);
-      const auto* first = std::get_if<WholeConstant>(&low->Node);
-      const auto* last = std::get_if<WholeConstant>(&high->Node);
+      const auto* first = low->As<WholeConstant>();
+      const auto* last = high->As<WholeConstant>();
       if (first == nullptr || last == nullptr) {
         Error(declarator.At, "The bounds of an array inside a TYPE must be constants");
         break;
@@ -58,7 +58,7 @@ void Checker::CollectMembers(RecordId id) {
   bool needs_constructor = false;
   FoldedMap<ProcedureId> setters;
   for (const tree::StatementNode* statement : source.Members) {
-    const auto* routine = std::get_if<tree::Routine>(&statement->Value);
+    const auto* routine = statement->As<tree::Routine>();
     if (routine == nullptr) continue;
     const ProcedureId procedure =
         NewProcedure(*routine, type_name + '.' + std::string(routine->Name), statement->At, id);
@@ -110,7 +110,7 @@ void Checker::CollectMembers(RecordId id) {
 void Checker::ConstructorStart(RecordId id, Statements& out) {
   const tree::TypeBlock& source = *types_[static_cast<std::size_t>(id)].Source;
   for (const tree::StatementNode* statement : source.Members) {
-    const auto* routine = std::get_if<tree::Routine>(&statement->Value);
+    const auto* routine = statement->As<tree::Routine>();
     if (routine == nullptr || routine->Kind != tree::RoutineKind::Event) continue;
     const SourcePlace at = routine->NameAt;
     const Expr record = This(at);
@@ -138,7 +138,7 @@ void Checker::CheckMembers(RecordId id) {
   const ProcedureId constructor = program_.Records[index].Constructor;
   bool written = false;
   for (const tree::StatementNode* statement : types_[index].Source->Members) {
-    const auto* routine = std::get_if<tree::Routine>(&statement->Value);
+    const auto* routine = statement->As<tree::Routine>();
     if (routine == nullptr) continue;
     const ProcedureId procedure = routines_.at(routine);
     written = written || procedure == constructor;

@@ -32,7 +32,7 @@ Range RangeOf(Storage storage) {
 /// True when the value is sure to be one that the storage holds.
 bool FitsAlready(Storage storage, const Expression& value) {
   const Range range = RangeOf(storage);
-  if (const auto* const constant = std::get_if<WholeConstant>(&value.Node)) {
+  if (const auto* const constant = value.As<WholeConstant>()) {
     return constant->Value >= range.Low && constant->Value <= range.High;
   }
   if (value.IsLocation()) {
@@ -41,7 +41,7 @@ bool FitsAlready(Storage storage, const Expression& value) {
     const Range source = RangeOf(value.Kind.Kind);
     return source.Low >= range.Low && source.High <= range.High;
   }
-  const auto* const operation = std::get_if<BinaryOperation>(&value.Node);
+  const auto* const operation = value.As<BinaryOperation>();
   return operation != nullptr && operation->Operator >= BinaryOperator::Equal && range.Low < 0;
 }
 
@@ -68,7 +68,7 @@ namespace {
 
 /// The instruction that also keeps the result to 32 bits.
 Op IntegerOp(const Expression& value) {
-  const auto* const operation = std::get_if<BinaryOperation>(&value.Node);
+  const auto* const operation = value.As<BinaryOperation>();
   if (operation == nullptr || value.Gives() != ValueKind::Whole) return Op::WORD;
   switch (operation->Operator) {
     case BinaryOperator::Add:
@@ -83,28 +83,27 @@ Op IntegerOp(const Expression& value) {
 }
 
 bool IsVariable(const Expression& expression) {
-  return std::holds_alternative<GlobalSlot>(expression.Node) ||
-         std::holds_alternative<LocalSlot>(expression.Node);
+  return expression.Is<GlobalSlot>() || expression.Is<LocalSlot>();
 }
 
 /// True when both are surely the same location, and finding it runs no code.
 bool SameLocation(const Expression& a, const Expression& b) {
-  if (a.Node.index() != b.Node.index()) return false;
-  if (const auto* const global = std::get_if<GlobalSlot>(&a.Node)) {
-    return global->Index == std::get<GlobalSlot>(b.Node).Index;
+  if (a.Sort != b.Sort) return false;
+  if (const auto* const global = a.As<GlobalSlot>()) {
+    return global->Index == b.As<GlobalSlot>()->Index;
   }
-  if (const auto* const local = std::get_if<LocalSlot>(&a.Node)) {
-    return local->Index == std::get<LocalSlot>(b.Node).Index;
+  if (const auto* const local = a.As<LocalSlot>()) {
+    return local->Index == b.As<LocalSlot>()->Index;
   }
-  if (const auto* const constant = std::get_if<WholeConstant>(&a.Node)) {
-    return constant->Value == std::get<WholeConstant>(b.Node).Value;
+  if (const auto* const constant = a.As<WholeConstant>()) {
+    return constant->Value == b.As<WholeConstant>()->Value;
   }
-  if (const auto* const field = std::get_if<RecordField>(&a.Node)) {
-    const auto& other = std::get<RecordField>(b.Node);
+  if (const auto* const field = a.As<RecordField>()) {
+    const auto& other = *b.As<RecordField>();
     return field->Field == other.Field && SameLocation(*field->Record, *other.Record);
   }
-  if (const auto* const element = std::get_if<ArrayElement>(&a.Node)) {
-    const auto& other = std::get<ArrayElement>(b.Node);
+  if (const auto* const element = a.As<ArrayElement>()) {
+    const auto& other = *b.As<ArrayElement>();
     if (element->Indexes.size() != other.Indexes.size()) return false;
     for (std::size_t i = 0; i < element->Indexes.size(); ++i) {
       if (!SameLocation(*element->Indexes[i], *other.Indexes[i])) return false;
@@ -118,7 +117,7 @@ bool SameLocation(const Expression& a, const Expression& b) {
 std::vector<const Expression*> JoinedParts(const Expression& value) {
   std::vector<const Expression*> parts;
   const Expression* rest = &value;
-  while (const auto* const join = std::get_if<BinaryOperation>(&rest->Node)) {
+  while (const auto* const join = rest->As<BinaryOperation>()) {
     if (join->Operator != BinaryOperator::Join || rest->Gives() != ValueKind::Text) break;
     parts.insert(parts.begin(), join->Right);
     rest = join->Left;
@@ -167,7 +166,7 @@ void ProcedureEmitter::StoreInto(std::uint16_t variable, const Type& type,
   const bool fit = NeedsFit(type, value);
   const Op op = fit && type.Kind == Storage::Integer ? IntegerOp(value) : Op::WORD;
   if (op != Op::WORD) {
-    const auto& operation = std::get<BinaryOperation>(value.Node);
+    const auto& operation = *value.As<BinaryOperation>();
     const Expression* const both[] = {operation.Left, operation.Right};
     const std::vector<Operand> operands = ReadAll(both);
     code_.Add(op, variable, operands[0].Register, operands[1].Register);

@@ -4,10 +4,10 @@
 namespace tarnwick::basic {
 
 std::optional<std::uint16_t> ProcedureEmitter::DirectRegister(const Expression& location) const {
-  if (const auto* const global = std::get_if<GlobalSlot>(&location.Node)) {
+  if (const auto* const global = location.As<GlobalSlot>()) {
     if (IsMain()) return static_cast<std::uint16_t>(global->Index);
   }
-  if (const auto* const local = std::get_if<LocalSlot>(&location.Node)) {
+  if (const auto* const local = location.As<LocalSlot>()) {
     if (!IsReference(local->Index)) return LocalRegister(local->Index);
   }
   return std::nullopt;
@@ -15,7 +15,7 @@ std::optional<std::uint16_t> ProcedureEmitter::DirectRegister(const Expression& 
 
 Operand ProcedureEmitter::ArrayOperand(const Expression& array) {
   if (const auto direct = DirectRegister(array)) return {*direct, Operand::Kind::Fixed};
-  if (const auto* const global = std::get_if<GlobalSlot>(&array.Node)) {
+  if (const auto* const global = array.As<GlobalSlot>()) {
     // The array of a variable of the program stays the same body once it is made: it is borrowed.
     const Operand borrowed = Temporary(false);
     code_.Add(Op::GET_GLOBAL, borrowed.Register, global->Index);
@@ -31,7 +31,7 @@ Operand ProcedureEmitter::ArrayOperand(const Expression& array) {
 
 Operand ProcedureEmitter::RecordOperand(const Expression& record) {
   if (const auto direct = DirectRegister(record)) return {*direct, Operand::Kind::Fixed};
-  if (const auto* const global = std::get_if<GlobalSlot>(&record.Node)) {
+  if (const auto* const global = record.As<GlobalSlot>()) {
     const Operand borrowed = Temporary(false);
     code_.Add(Op::GET_GLOBAL, borrowed.Register, global->Index);
     return borrowed;
@@ -85,15 +85,15 @@ Location ProcedureEmitter::Find(const Expression& expression, Until until) {
     location.Index = *direct;
     return location;
   }
-  if (const auto* const global = std::get_if<GlobalSlot>(&expression.Node)) {
+  if (const auto* const global = expression.As<GlobalSlot>()) {
     location.Form = Location::Kind::Global;
     location.Index = global->Index;
-  } else if (const auto* const local = std::get_if<LocalSlot>(&expression.Node)) {
+  } else if (const auto* const local = expression.As<LocalSlot>()) {
     location.Form = Location::Kind::Reference;
     location.Base = {LocalRegister(local->Index), Operand::Kind::Fixed};
-  } else if (const auto* const element = std::get_if<ArrayElement>(&expression.Node)) {
+  } else if (const auto* const element = expression.As<ArrayElement>()) {
     return FindElement(*element, until);
-  } else if (const auto* const field = std::get_if<RecordField>(&expression.Node)) {
+  } else if (const auto* const field = expression.As<RecordField>()) {
     location.Form = Location::Kind::Field;
     location.Index = field->Field;
     location.Base = RecordOperand(*field->Record);

@@ -261,7 +261,7 @@ bool ProcedureEmitter::BranchOnComparison(const BinaryOperation& node, bool when
 }
 
 void ProcedureEmitter::Branch(const Expression& condition, bool when, CodeLabel& target) {
-  if (const auto* const operation = std::get_if<BinaryOperation>(&condition.Node)) {
+  if (const auto* const operation = condition.As<BinaryOperation>()) {
     if (BranchOnComparison(*operation, when, target)) return;
   }
   const Operand value = Read(condition, Until::Now);

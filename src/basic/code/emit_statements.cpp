@@ -50,7 +50,7 @@ bool ProcedureEmitter::Make() {
 void ProcedureEmitter::Make(Block block) {
   for (const Statement* const statement : block) {
     code_.At(statement->At);
-    std::visit([&](const auto& node) { Make(node); }, statement->Node);
+    statement->Visit([&](const auto& node) { Make(node); });
   }
 }
 
@@ -79,16 +79,16 @@ void ProcedureEmitter::Make(const MakeVariable& node) {
   const Type& type = node.Variable->Kind;
   std::string_view name;
   std::size_t flags = 0;
-  if (const auto* const global = std::get_if<GlobalSlot>(&node.Variable->Node)) {
+  if (const auto* const global = node.Variable->As<GlobalSlot>()) {
     name = code_.Source().Globals[global->Index].Name;
-  } else if (const auto* const local = std::get_if<LocalSlot>(&node.Variable->Node)) {
+  } else if (const auto* const local = node.Variable->As<LocalSlot>()) {
     name = procedure_.Locals[local->Index].Name;
     flags |= IsMain() ? 0 : kLocalVariable;
   }
   if (node.Keeps) flags |= kArrayKeeps;
   if (node.OnlyOnce) flags |= kOnlyOnce;
   std::vector<const Expression*> bounds;
-  const Expression zero{kWholeType, {}, WholeConstant{0}};
+  const auto zero = ExpressionSorts::Made({kWholeType, {}}, WholeConstant{0});
   for (const DimensionBounds& bound : node.Dimensions) {
     bounds.push_back(bound.Low != nullptr ? bound.Low : &zero);
     bounds.push_back(bound.High);
@@ -155,7 +155,7 @@ void ProcedureEmitter::Make(const InitArray& node) {
 }
 
 void ProcedureEmitter::Make(const QuickSort& node) {
-  const auto* const element = std::get_if<ArrayElement>(&node.First->Node);
+  const auto* const element = node.First->As<ArrayElement>();
   if (element == nullptr) return;
   Location first = Find(*node.First, Until::Later);
   Location last = Find(*node.Last, Until::Later);

@@ -69,7 +69,7 @@ struct CodeFinder {
 }  // namespace
 
 bool RunsCode(const Expression& expression) {
-  return std::visit(CodeFinder(), expression.Node);
+  return expression.Visit(CodeFinder());
 }
 
 Operand ProcedureEmitter::ConstantOperand(Slot value) {
@@ -103,16 +103,16 @@ void ProcedureEmitter::Free(const Operand& operand) {
 }
 
 Operand ProcedureEmitter::Read(const Expression& expression, Until until) {
-  if (const auto* const whole = std::get_if<WholeConstant>(&expression.Node)) {
+  if (const auto* const whole = expression.As<WholeConstant>()) {
     return Number(whole->Value);
   }
-  if (const auto* const real = std::get_if<RealConstant>(&expression.Node)) {
+  if (const auto* const real = expression.As<RealConstant>()) {
     return ConstantOperand(NumberSlot(real->Value));
   }
-  if (const auto* const text = std::get_if<TextConstant>(&expression.Node)) {
+  if (const auto* const text = expression.As<TextConstant>()) {
     return ConstantOperand(code_.TextConstant(text->Value));
   }
-  if (const auto* const join = std::get_if<BinaryOperation>(&expression.Node);
+  if (const auto* const join = expression.As<BinaryOperation>();
       join != nullptr && join->Operator == BinaryOperator::Join &&
       KindOf(expression.Kind) == ValueKind::Text) {
     return ReadJoin(*join);
@@ -156,7 +156,7 @@ std::vector<Operand> ProcedureEmitter::ReadAll(std::span<const Expression* const
 }
 
 void ProcedureEmitter::Into(const Expression& expression, std::uint16_t target) {
-  std::visit([&](const auto& node) { Store(node, expression, target); }, expression.Node);
+  expression.Visit([&](const auto& node) { Store(node, expression, target); });
 }
 
 void ProcedureEmitter::Store(const WholeConstant& node, const Expression&, std::uint16_t target) {

@@ -88,8 +88,8 @@ void Parser::DimensionsHere(tree::Declarator& out) {
     Take();
     const Node* second = Expression();
     ExpectSign(")");
-    const auto* low = std::get_if<tree::WholeNumber>(&dimensions[0].High->Value);
-    const auto* high = std::get_if<tree::WholeNumber>(&second->Value);
+    const auto* low = dimensions[0].High->As<tree::WholeNumber>();
+    const auto* high = second->As<tree::WholeNumber>();
     if (low != nullptr && high != nullptr && high->Value > low->Value) dimensions[0].High = second;
     Tolerate(Tolerance::SocketArray, first);
   }

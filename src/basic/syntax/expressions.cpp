@@ -153,14 +153,13 @@ tree::NodeList Parser::ArgumentsUntil(const Node* callee, std::string_view closi
     return closing.empty() ? AtStatementEnd() : IsSign(closing) || AtLineEnd();
   };
   if (at_end()) return {};
-  const auto* name = callee == nullptr ? nullptr : std::get_if<tree::Name>(&callee->Value);
+  const auto* name = callee == nullptr ? nullptr : callee->As<tree::Name>();
   // Calls within the arguments put theirs behind those read so far, and take them away again.
   const std::size_t first = arguments_.size();
   while (!failed_) {
     const Node* argument = IsSign(",") || at_end() ? nullptr : Expression();
     arguments_.push_back(argument);
-    if (argument != nullptr && name != nullptr &&
-        std::holds_alternative<tree::ByReference>(argument->Value)) {
+    if (argument != nullptr && name != nullptr && argument->Is<tree::ByReference>()) {
       out_.References.push_back({name->Text, arguments_.size() - first - 1});
     }
     if (!TakeSign(",")) break;

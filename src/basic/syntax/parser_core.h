@@ -127,7 +127,7 @@ class Parser {
   // --- Statements --------------------------------------------------------------------------------
   template <class T>
   void Add(Statements& out, SourcePlace at, T value) {
-    out.push_back(memory_.Make<tree::StatementNode>(SpanFrom(at), std::move(value)));
+    out.push_back(tree::MakeStatement(memory_, SpanFrom(at), std::move(value)));
   }
   /// Statements up to the word that closes the block, which stays.
   tree::StatementList Body(BlockKind kind, SourcePlace opened);
@@ -243,10 +243,9 @@ const tree::Node* Parser::MakeNode(SourcePlace from, int height, T value) {
   if (height >= kMaxExpressionHeight) {
     if (!failed_) Error(from, "The expression is too long", "Split it into several statements");
     height = 0;
-    return memory_.Make<tree::Node>(from, std::uint16_t{1}, tree::WholeNumber{0});
+    return tree::MakeNode(memory_, from, 1, tree::WholeNumber{0});
   }
-  return memory_.Make<tree::Node>(SpanFrom(from), static_cast<std::uint16_t>(height + 1),
-                                  std::move(value));
+  return tree::MakeNode(memory_, SpanFrom(from), height + 1, std::move(value));
 }
 
 }  // namespace tarnwick::basic

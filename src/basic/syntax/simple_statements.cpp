@@ -22,7 +22,7 @@ void Parser::AssignmentOrCall(Statements& out) {
     at_ = begin;
     Postfix();
   }
-  const auto* apply = std::get_if<tree::Apply>(&target->Value);
+  const auto* apply = target->As<tree::Apply>();
   if (AtStatementEnd()) {
     if (apply == nullptr) return Add(out, at, tree::CallLine{target, {}});
     return Add(out, at, tree::CallLine{apply->Target, apply->Arguments});
@@ -40,7 +40,7 @@ void Parser::AssignmentTo(const Node* target, SourcePlace at, Statements& out) {
   const SourceToken& sign = Take();
   if (sign.Text == "+=") op = Operator::Add;
   if (sign.Text == "-=") op = Operator::Subtract;
-  const auto* member = std::get_if<tree::MemberAccess>(&target->Value);
+  const auto* member = target->As<tree::MemberAccess>();
   if (AtStatementEnd()) {
     if (!tolerant_ || member == nullptr) return Expected("A value");
     return Add(out, at, tree::Assignment{target, nullptr, op});
@@ -59,7 +59,7 @@ void Parser::CallStatement(Statements& out) {
   Take();
   const Node* target = Postfix();
   if (failed_) return;
-  if (const auto* apply = std::get_if<tree::Apply>(&target->Value)) {
+  if (const auto* apply = target->As<tree::Apply>()) {
     return Add(out, at, tree::CallLine{apply->Target, apply->Arguments});
   }
   Add(out, at, tree::CallLine{target, ArgumentsUntil(target, "")});
