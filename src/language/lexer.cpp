@@ -14,7 +14,6 @@ namespace {
 /// Signs of more than one character, longest first.
 constexpr std::array<std::string_view, 12> kLongSigns = {"...", "<=", ">=", "<>", "=<", "=>",
                                                          "><",  "++", "--", "+=", "-=", "##"};
-constexpr std::string_view kSigns = "()[]{}+-*/\\^&=<>.,;:?@#$%!|~`";
 
 /// Words that may touch the number in front of them. Any other name that begins with digits is one
 /// word, since a SUB may be called "3DView".
@@ -24,6 +23,7 @@ constexpr std::array<std::string_view, 14> kWordsBehindNumbers = {
 
 /// Words behind which a statement begins.
 bool StartsStatement(std::string_view word) {
+  if (word.size() != 4) return false;  // as nearly all
   return EqualsFolded(word, "THEN") || EqualsFolded(word, "ELSE");
 }
 
@@ -243,7 +243,9 @@ class LineLexer {
   void LexSign() {
     const std::size_t begin = at_;
     const std::string_view rest = line_.substr(at_);
+    const bool longer = IsSignByte(Peek(0)) && IsSignByte(Peek(1));
     for (const std::string_view sign : kLongSigns) {
+      if (!longer) break;
       if (rest.substr(0, sign.size()) == sign) {
         at_ += sign.size();
         Add(TokenKind::Sign, begin);
@@ -251,8 +253,7 @@ class LineLexer {
       }
     }
     ++at_;
-    Add(kSigns.find(line_[begin]) == std::string_view::npos ? TokenKind::Unknown : TokenKind::Sign,
-        begin);
+    Add(IsSignByte(line_[begin]) ? TokenKind::Sign : TokenKind::Unknown, begin);
   }
 
   void TakeEscapeChars() {

@@ -134,6 +134,7 @@ class Walker {
   }
   bool Array(ArrayBody* array, std::int64_t count) {
     if (array == nullptr || array->Elements == nullptr) return true;
+    basic::NeedSlots(*array);
     std::vector<basic::Slot>& slots = array->Elements->Slots;
     const std::size_t last =
         count > 0 ? std::min(slots.size(), static_cast<std::size_t>(count)) : slots.size();

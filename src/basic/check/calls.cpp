@@ -145,33 +145,33 @@ const Expression* Checker::CallBuiltIn(std::string_view name, tree::NodeList arg
 
 const Expression* Checker::CallNative(const FunctionInfo& info, tree::NodeList arguments,
                                       SourcePlace at) {
-  std::vector<Expr> values;
+  const std::size_t first = values_.size();
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const basic::Parameter& parameter = info.ParameterOf(i);
     const bool text = parameter.Kind == ParameterKind::String;
     if (arguments[i] == nullptr) {
-      values.push_back(parameter.Optional ? Make(kNoType, at, NothingConstant{})
-                       : text             ? Text({}, at)
-                                          : Whole(0, at));
+      values_.push_back(parameter.Optional ? Make(kNoType, at, NothingConstant{})
+                        : text             ? Text({}, at)
+                                           : Whole(0, at));
       continue;
     }
     const Expr value = Value(arguments[i]);
     switch (parameter.Kind) {
       case ParameterKind::String:
-        values.push_back(As(value, ValueKind::Text));
+        values_.push_back(As(value, ValueKind::Text));
         break;
       case ParameterKind::Whole:
-        values.push_back(As(value, ValueKind::Whole));
+        values_.push_back(As(value, ValueKind::Whole));
         break;
       case ParameterKind::Number:
-        values.push_back(As(value, ValueKind::Real));
+        values_.push_back(As(value, ValueKind::Real));
         break;
       default:
         // Any value goes as it is; an array or an object is none.
-        values.push_back(value->Kind.IsArray() || value->Gives() == ValueKind::Object ||
-                                 value->Gives() == ValueKind::Record
-                             ? As(value, ValueKind::Text)
-                             : value);
+        values_.push_back(value->Kind.IsArray() || value->Gives() == ValueKind::Object ||
+                                  value->Gives() == ValueKind::Record
+                              ? As(value, ValueKind::Text)
+                              : value);
         break;
     }
   }
@@ -183,7 +183,7 @@ const Expression* Checker::CallNative(const FunctionInfo& info, tree::NodeList a
   program_.UsesConsole = program_.UsesConsole || info.Id == FunctionId::Inkey ||
                          info.Id == FunctionId::InputOf || info.Id == FunctionId::Cls ||
                          info.Id == FunctionId::Locate || info.Id == FunctionId::Color;
-  return Make(type, at, BuiltInCall{info.Id, List(values)});
+  return Make(type, at, BuiltInCall{info.Id, TakeValues(first)});
 }
 
 }  // namespace tarnwick::basic

@@ -17,7 +17,7 @@ Program Checker::Run() {
   if (tree_.ApplicationTypeGiven) {
     program_.Application = tree_.Console ? ApplicationKind::Console : ApplicationKind::Gui;
   }
-  CollectTypes(tree_.Statements);
+  if (tree_.HasTypes) CollectTypes(tree_.Statements);
   CollectHeads(tree_.Statements, false);
   for (std::size_t i = 0; i < types_.size(); ++i) FillType(static_cast<RecordId>(i));
   for (std::size_t i = 0; i < types_.size(); ++i) CollectMembers(static_cast<RecordId>(i));
@@ -31,6 +31,7 @@ Program Checker::Run() {
 }
 
 void Checker::CollectLabels(tree::StatementList statements) {
+  if (!tree_.HasLabels) return;
   for (const tree::StatementNode* statement : statements) {
     if (const auto* label = statement->As<tree::Label>()) {
       if (IsCallable(label->Name)) continue;

@@ -86,6 +86,12 @@ class Checker {
   std::span<const T> List(const std::vector<T>& items) {
     return program_.Memory.List(items);
   }
+  /// The values from one on, which are taken off `values_`.
+  ExpressionList TakeValues(std::size_t first) {
+    const ExpressionList list = program_.Memory.List(std::span<const Expr>(values_).subspan(first));
+    values_.resize(first);
+    return list;
+  }
   std::string_view Keep(std::string_view text) { return program_.Memory.Text(text); }
   Expr Whole(std::int64_t value, SourcePlace at) {
     return Make(kWholeType, at, WholeConstant{value});
@@ -301,6 +307,7 @@ class Checker {
   RoutineScope main_;
   RoutineScope* frame_ = &main_;
   std::vector<Surrounding> around_;
+  std::vector<Expr> values_;  ///< arguments and indexes of the expressions being checked
 };
 
 }  // namespace tarnwick::basic

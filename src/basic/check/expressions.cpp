@@ -96,9 +96,12 @@ const Expression* Checker::Element(Expr array, tree::NodeList indexes, SourcePla
     return Fail(at, "The array has " + std::to_string(array->Kind.Dimensions) +
                         " dimension(s), not " + std::to_string(indexes.size()));
   }
-  std::vector<Expr> values;
-  for (const tree::Node* index : indexes) values.push_back(WholeValue(index));
-  return Make(array->Kind.Element(), at, ArrayElement{array, List(values)});
+  const std::size_t first = values_.size();
+  for (const tree::Node* index : indexes) {
+    const Expr value = WholeValue(index);
+    values_.push_back(value);
+  }
+  return Make(array->Kind.Element(), at, ArrayElement{array, TakeValues(first)});
 }
 
 const Expression* Checker::SubscriptValue(const tree::Subscript& subscript, SourcePlace at) {

@@ -3,22 +3,20 @@
 namespace tarnwick::basic {
 namespace {
 
-/// A shape as a list of numbers, to look equal ones up.
-std::vector<std::uint32_t> KeyOf(const CallShape& shape) {
-  std::vector<std::uint32_t> key{static_cast<std::uint32_t>(shape.Result)};
-  for (const ArgumentShape& argument : shape.Arguments) {
-    key.push_back(static_cast<std::uint32_t>(argument.Kind) |
-                  static_cast<std::uint32_t>(argument.Stored) << 8U |
-                  (argument.Reference ? 1U << 16U : 0U));
-  }
-  return key;
-}
-
 std::uint16_t Short(std::size_t number) {
   return static_cast<std::uint16_t>(number);
 }
 
 }  // namespace
+
+std::size_t ShapeHash::operator()(const CallShape& shape) const {
+  auto hash = static_cast<std::size_t>(shape.Result);
+  for (const ArgumentShape& argument : shape.Arguments) {
+    hash = hash * 31 + static_cast<std::size_t>(argument.Kind) * 32 +
+           static_cast<std::size_t>(argument.Stored) * 2 + (argument.Reference ? 1 : 0);
+  }
+  return hash;
+}
 
 CodeBuilder::CodeBuilder(const Program& program) : program_(program) {
   code_.Files = program.Files;
@@ -95,7 +93,7 @@ void CodeBuilder::Jump(Op op, CodeLabel& target, std::size_t a, std::size_t b, s
 }
 
 void CodeBuilder::Arguments(const CallShape& shape, const std::vector<std::uint16_t>& registers) {
-  const auto [row, fresh] = shapes_.try_emplace(KeyOf(shape), code_.Shapes.size());
+  const auto [row, fresh] = shapes_.try_emplace(shape, code_.Shapes.size());
   if (fresh) code_.Shapes.push_back(shape);
   Add(Op::WORD, row->second, registers.size());
   for (std::size_t i = 0; i < registers.size(); i += 3) {

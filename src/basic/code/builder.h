@@ -16,6 +16,10 @@ struct CodeLabel {
   std::vector<std::size_t> Waiting;  ///< words to fill in once the position is known
 };
 
+struct ShapeHash {
+  std::size_t operator()(const CallShape& shape) const;
+};
+
 class CodeBuilder {
  public:
   explicit CodeBuilder(const Program& program);
@@ -54,9 +58,9 @@ class CodeBuilder {
   Code code_;
   SourcePlace at_;
   std::unordered_map<std::string_view, Slot> texts_;
-  std::map<std::int64_t, std::size_t> constants_;
+  std::unordered_map<std::int64_t, std::size_t> constants_;
   std::map<std::pair<std::string_view, std::uint64_t>, std::size_t> layouts_;
-  std::map<std::vector<std::uint32_t>, std::size_t> shapes_;
+  std::unordered_map<CallShape, std::size_t, ShapeHash> shapes_;
 };
 
 }  // namespace tarnwick::basic

@@ -1,4 +1,5 @@
 // Assignments: stores fitted to the width of the variable, and texts that grow in place.
+#include <algorithm>
 #include <limits>
 
 #include "basic/code/procedure_emitter.h"
@@ -113,16 +114,30 @@ bool SameLocation(const Expression& a, const Expression& b) {
   return false;
 }
 
-/// The parts of `a + b + c`, left to right.
-std::vector<const Expression*> JoinedParts(const Expression& value) {
+/// The operation when the value is a text joined of two; else null.
+const BinaryOperation* JoinOf(const Expression& value) {
+  const auto* const join = value.As<BinaryOperation>();
+  const bool joins =
+      join != nullptr && join->Operator == BinaryOperator::Join && value.Gives() == ValueKind::Text;
+  return joins ? join : nullptr;
+}
+
+/// The first part of `a + b + c`.
+const Expression& FirstPart(const Expression& value) {
+  const Expression* first = &value;
+  while (const BinaryOperation* const join = JoinOf(*first)) first = join->Left;
+  return *first;
+}
+
+/// The parts behind the first one, left to right.
+std::vector<const Expression*> FurtherParts(const Expression& value) {
   std::vector<const Expression*> parts;
   const Expression* rest = &value;
-  while (const auto* const join = rest->As<BinaryOperation>()) {
-    if (join->Operator != BinaryOperator::Join || rest->Gives() != ValueKind::Text) break;
-    parts.insert(parts.begin(), join->Right);
+  while (const BinaryOperation* const join = JoinOf(*rest)) {
+    parts.push_back(join->Right);
     rest = join->Left;
   }
-  parts.insert(parts.begin(), rest);
+  std::reverse(parts.begin(), parts.end());
   return parts;
 }
 
@@ -167,8 +182,7 @@ void ProcedureEmitter::StoreInto(std::uint16_t variable, const Type& type,
   const Op op = fit && type.Kind == Storage::Integer ? IntegerOp(value) : Op::WORD;
   if (op != Op::WORD) {
     const auto& operation = *value.As<BinaryOperation>();
-    const Expression* const both[] = {operation.Left, operation.Right};
-    const std::vector<Operand> operands = ReadAll(both);
+    const std::array<Operand, 2> operands = ReadBoth(*operation.Left, *operation.Right);
     code_.Add(op, variable, operands[0].Register, operands[1].Register);
     Free(operands);
     return;
@@ -179,17 +193,18 @@ void ProcedureEmitter::StoreInto(std::uint16_t variable, const Type& type,
 
 bool ProcedureEmitter::AppendInPlace(const Assign& node) {
   if (node.Target->Kind.Kind != Storage::String) return false;
-  const std::vector<const Expression*> parts = JoinedParts(*node.Value);
-  if (parts.size() < 2 || !SameLocation(*parts[0], *node.Target)) return false;
+  if (JoinOf(*node.Value) == nullptr) return false;
+  if (!SameLocation(FirstPart(*node.Value), *node.Target)) return false;
   if (RunsCode(*node.Value) || RunsCode(*node.Target)) return false;
   const auto direct = DirectRegister(*node.Target);
+  const std::vector<const Expression*> parts = FurtherParts(*node.Value);
   std::vector<Operand> operands;
-  for (std::size_t i = 1; i < parts.size(); ++i) {
+  for (std::size_t i = 0; i < parts.size(); ++i) {
     // A part behind the first could be the very text that grows: it is kept apart, unless it
     // is another variable or a constant.
     const bool other = direct && IsVariable(*parts[i]) && DirectRegister(*parts[i]) != direct &&
                        DirectRegister(*parts[i]).has_value();
-    operands.push_back(Read(*parts[i], i == 1 || other ? Until::Now : Until::Later));
+    operands.push_back(Read(*parts[i], i == 0 || other ? Until::Now : Until::Later));
   }
   if (direct) {
     for (const Operand& operand : operands) {
@@ -213,8 +228,7 @@ void ProcedureEmitter::Make(const Assign& node) {
   const ValueKind kind = node.Target->Gives();
   if (kind == ValueKind::Text && AppendInPlace(node)) return;
   if (kind == ValueKind::Record && !type.IsArray()) {
-    const Expression* const both[] = {node.Target, node.Value};
-    const std::vector<Operand> operands = ReadAll(both);
+    const std::array<Operand, 2> operands = ReadBoth(*node.Target, *node.Value);
     code_.Add(Op::COPY_RECORD, operands[0].Register, operands[1].Register);
     Free(operands);
     return;
@@ -234,7 +248,9 @@ void ProcedureEmitter::Make(const Assign& node) {
     return;
   }
   Location location = Find(*node.Target, RunsCode(*node.Value) ? Until::Later : Until::Now);
-  const bool fit = NeedsFit(type, *node.Value);
+  // A byte is fitted as it is stored into its array.
+  const bool byte = location.Form == Location::Kind::Element && type.Kind == Storage::Byte;
+  const bool fit = !byte && NeedsFit(type, *node.Value);
   Operand value;
   if (fit) {
     value = Temporary(IsCounted(type));

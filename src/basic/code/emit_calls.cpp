@@ -64,12 +64,12 @@ Operand ProcedureEmitter::ReadArgument(const Argument& argument, Until until, Ca
 ProcedureEmitter::CallArguments ProcedureEmitter::ReadArguments(ArgumentList arguments,
                                                                 const Procedure* target) {
   CallArguments call;
-  std::vector<Until> until(arguments.size(), Until::Now);
-  bool runs = false;
-  for (std::size_t i = arguments.size(); i-- > 0;) {
-    until[i] = runs ? Until::Later : Until::Now;
-    runs = runs || ArgumentRunsCode(arguments[i]);
-  }
+  call.Shape.Arguments.reserve(arguments.size());
+  call.Registers.reserve(arguments.size());
+  call.Held.reserve(arguments.size());
+  // In front of the last one that runs code, values are kept apart.
+  std::size_t last = arguments.size();
+  while (last > 0 && !ArgumentRunsCode(arguments[last - 1])) --last;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     if (arguments[i].Value == nullptr || arguments[i].Value->Kind.Kind == Storage::None) {
       call.Shape.Arguments.push_back({SlotKind::Empty, Storage::None, false});
@@ -77,8 +77,8 @@ ProcedureEmitter::CallArguments ProcedureEmitter::ReadArguments(ArgumentList arg
       continue;
     }
     const bool known = target != nullptr && !target->Variadic && i < target->ParameterCount;
-    const Operand operand =
-        ReadArgument(arguments[i], until[i], call, known ? &target->Locals[i] : nullptr);
+    const Operand operand = ReadArgument(arguments[i], i + 1 < last ? Until::Later : Until::Now,
+                                         call, known ? &target->Locals[i] : nullptr);
     call.Registers.push_back(operand.Register);
     call.Held.push_back(operand);
   }
@@ -119,6 +119,7 @@ void ProcedureEmitter::Store(const DllCall& node, const Expression& whole, std::
 void ProcedureEmitter::Store(const BuiltInCall& node, const Expression& whole,
                              std::uint16_t target) {
   std::vector<Argument> arguments;
+  arguments.reserve(node.Arguments.size());
   for (const Expression* const argument : node.Arguments) arguments.push_back({argument});
   CallArguments call = ReadArguments(arguments, nullptr);
   code_.Add(Op::CALL_LIBRARY, target, static_cast<std::size_t>(node.Function));

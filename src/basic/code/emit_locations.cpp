@@ -2,6 +2,14 @@
 #include "basic/code/procedure_emitter.h"
 
 namespace tarnwick::basic {
+namespace {
+
+/// True for an element of an array of bytes.
+bool IsByte(const Location& location) {
+  return location.Array->Kind.Kind == Storage::Byte;
+}
+
+}  // namespace
 
 std::optional<std::uint16_t> ProcedureEmitter::DirectRegister(const Expression& location) const {
   if (const auto* const global = location.As<GlobalSlot>()) {
@@ -127,8 +135,8 @@ void ProcedureEmitter::ReadLocation(const Location& location, const Type& type,
       break;
     case Location::Kind::Element: {
       const Operand array = ArrayOperand(*location.Array);
-      code_.Add(counted ? Op::GET_ELEMENT_C : Op::GET_ELEMENT, target, array.Register,
-                location.First.Register);
+      const Op op = counted ? Op::GET_ELEMENT_C : IsByte(location) ? Op::GET_BYTE : Op::GET_ELEMENT;
+      code_.Add(op, target, array.Register, location.First.Register);
       Free(array);
       break;
     }
@@ -179,8 +187,8 @@ void ProcedureEmitter::WriteLocation(const Location& location, const Type& type,
       break;
     case Location::Kind::Element: {
       const Operand array = ArrayOperand(*location.Array);
-      code_.Add(counted ? Op::SET_ELEMENT_C : Op::SET_ELEMENT, array.Register,
-                location.First.Register, from);
+      const Op op = counted ? Op::SET_ELEMENT_C : IsByte(location) ? Op::SET_BYTE : Op::SET_ELEMENT;
+      code_.Add(op, array.Register, location.First.Register, from);
       Free(array);
       break;
     }

@@ -114,6 +114,29 @@ Chosen OpFor(BinaryOperator op, ValueKind kind) {
   }
 }
 
+/// The instruction of an operator on a real number and a whole one; WORD when there is none.
+Op MixedOp(BinaryOperator op) {
+  switch (op) {
+    case BinaryOperator::Add:
+      return Op::ADD_D_I;
+    case BinaryOperator::Subtract:
+      return Op::SUB_D_I;
+    case BinaryOperator::Multiply:
+      return Op::MUL_D_I;
+    case BinaryOperator::Divide:
+      return Op::DIV_D_I;
+    default:
+      return Op::WORD;
+  }
+}
+
+/// The whole number that is made a real one; null for any other value.
+const Expression* WholeOperand(const Expression& value) {
+  const auto* const conversion = value.As<Conversion>();
+  const bool whole = conversion != nullptr && conversion->Operand->Gives() == ValueKind::Whole;
+  return whole ? conversion->Operand : nullptr;
+}
+
 /// The instruction that turns one kind into another; WORD when the slot is the same.
 Op ConversionOp(ValueKind from, ValueKind to) {
   switch (to) {
@@ -143,7 +166,28 @@ Op ConversionOp(ValueKind from, ValueKind to) {
 
 }  // namespace
 
+bool ProcedureEmitter::StoreMixed(const BinaryOperation& node, std::uint16_t target) {
+  const Op op = MixedOp(node.Operator);
+  if (op == Op::WORD || node.Left->Gives() != ValueKind::Real) return false;
+  const Expression* const left = WholeOperand(*node.Left);
+  const Expression* const right = WholeOperand(*node.Right);
+  const bool turns =
+      node.Operator == BinaryOperator::Add || node.Operator == BinaryOperator::Multiply;
+  if (right == nullptr && (left == nullptr || !turns)) return false;
+  if (right != nullptr) {
+    const std::array<Operand, 2> operands = ReadBoth(*node.Left, *right);
+    code_.Add(op, target, operands[0].Register, operands[1].Register);
+    Free(operands);
+  } else {
+    const std::array<Operand, 2> operands = ReadBoth(*left, *node.Right);
+    code_.Add(op, target, operands[1].Register, operands[0].Register);
+    Free(operands);
+  }
+  return true;
+}
+
 void ProcedureEmitter::Store(const BinaryOperation& node, const Expression&, std::uint16_t target) {
+  if (StoreMixed(node, target)) return;
   const ValueKind kind = node.Left->Gives();
   const Until until = RunsCode(*node.Right) ? Until::Later : Until::Now;
   const Operand left = Read(*node.Left, until);
@@ -252,8 +296,7 @@ bool ProcedureEmitter::BranchOnComparison(const BinaryOperation& node, bool when
     op = less == when ? Op::JUMP_LT_I : Op::JUMP_LE_I;
     turned = !when;
   }
-  const Expression* const both[] = {node.Left, node.Right};
-  const std::vector<Operand> operands = ReadAll(both);
+  const std::array<Operand, 2> operands = ReadBoth(*node.Left, *node.Right);
   const bool change = swapped != turned;
   code_.Jump(op, target, operands[change ? 1 : 0].Register, operands[change ? 0 : 1].Register);
   Free(operands);

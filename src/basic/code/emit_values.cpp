@@ -140,19 +140,20 @@ Operand ProcedureEmitter::Read(const Expression& expression, Until until) {
 }
 
 std::vector<Operand> ProcedureEmitter::ReadAll(std::span<const Expression* const> expressions) {
-  // Whether code runs behind each of them, found out from the last one on.
-  std::vector<Until> until(expressions.size(), Until::Now);
-  bool runs = false;
-  for (std::size_t i = expressions.size(); i-- > 0;) {
-    until[i] = runs ? Until::Later : Until::Now;
-    runs = runs || RunsCode(*expressions[i]);
-  }
+  // In front of the last one that runs code, values are kept apart.
+  std::size_t last = expressions.size();
+  while (last > 0 && !RunsCode(*expressions[last - 1])) --last;
   std::vector<Operand> operands;
   operands.reserve(expressions.size());
   for (std::size_t i = 0; i < expressions.size(); ++i) {
-    operands.push_back(Read(*expressions[i], until[i]));
+    operands.push_back(Read(*expressions[i], i + 1 < last ? Until::Later : Until::Now));
   }
   return operands;
+}
+
+std::array<Operand, 2> ProcedureEmitter::ReadBoth(const Expression& left, const Expression& right) {
+  const Operand first = Read(left, RunsCode(right) ? Until::Later : Until::Now);
+  return {first, Read(right, Until::Now)};
 }
 
 void ProcedureEmitter::Into(const Expression& expression, std::uint16_t target) {
@@ -201,8 +202,7 @@ void ProcedureEmitter::Store(const FoundFile& node, const Expression&, std::uint
 }
 
 void ProcedureEmitter::Store(const CharacterAt& node, const Expression&, std::uint16_t target) {
-  const Expression* const both[] = {node.Text, node.Index};
-  const std::vector<Operand> operands = ReadAll(both);
+  const std::array<Operand, 2> operands = ReadBoth(*node.Text, *node.Index);
   code_.Add(Op::CHARACTER, target, operands[0].Register, operands[1].Register);
   Free(operands);
 }

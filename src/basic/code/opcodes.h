@@ -70,6 +70,10 @@ BASIC_OP(SUB_D,           "rss", "")   // A = B - C
 BASIC_OP(MUL_D,           "rss", "")   // A = B * C
 BASIC_OP(DIV_D,           "rss", "")   // A = B / C; error when C is 0
 BASIC_OP(POW_D,           "rss", "")   // A = B ^ C; error when that is no number
+BASIC_OP(ADD_D_I,         "rss", "")   // A = B + C, which is a whole number
+BASIC_OP(SUB_D_I,         "rss", "")   // A = B - C, which is a whole number
+BASIC_OP(MUL_D_I,         "rss", "")   // A = B * C, which is a whole number
+BASIC_OP(DIV_D_I,         "rss", "")   // A = B / C, which is a whole number; error when C is 0
 BASIC_OP(NEG_D,           "rs-", "")   // A = -B
 BASIC_OP(EQ_D,            "rss", "")   // A = -1 when B = C, else 0
 BASIC_OP(NE_D,            "rss", "")   // A = -1 when B <> C, else 0
@@ -139,6 +143,8 @@ BASIC_OP(RETURN_GOSUB,    "---", "")   // behind the last GOSUB of this call; wi
 // ---- arrays
 BASIC_OP(GET_ELEMENT,     "rss", "")   // A = B(C), plain or borrowed
 BASIC_OP(GET_ELEMENT_C,   "rss", "")   // A = B(C), counted
+BASIC_OP(GET_BYTE,        "rss", "")   // A = B(C) of an array of bytes
+BASIC_OP(SET_BYTE,        "sss", "")   // A(B) = C of an array of bytes, low 8 bits
 BASIC_OP(SET_ELEMENT,     "sss", "")   // A(B) = C, plain
 BASIC_OP(SET_ELEMENT_C,   "sss", "")   // A(B) = C, counted
 BASIC_OP(GET_ELEMENT2,    "rss", "w")  // A = B(C, word A), plain or borrowed

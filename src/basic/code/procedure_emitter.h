@@ -2,6 +2,7 @@
 // calls, statements, loops, input and output.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -55,6 +56,7 @@ class ProcedureEmitter {
   Operand Read(const Expression& expression, Until until);
   void Into(const Expression& expression, std::uint16_t target);
   std::vector<Operand> ReadAll(std::span<const Expression* const> expressions);
+  std::array<Operand, 2> ReadBoth(const Expression& left, const Expression& right);
   Operand Number(std::int64_t value);
   Operand ConstantOperand(Slot value);
   void Store(const WholeConstant& node, const Expression& whole, std::uint16_t target);
@@ -73,6 +75,8 @@ class ProcedureEmitter {
   void Store(const SizeOf& node, const Expression& whole, std::uint16_t target);
   void Store(const VariableParameter& node, const Expression& whole, std::uint16_t target);
   Operand ReadJoin(const BinaryOperation& node);
+  /// An operation on a real number and a whole one in one instruction; false when there is none.
+  bool StoreMixed(const BinaryOperation& node, std::uint16_t target);
   void StoreBoxed(const BinaryOperation& node, std::uint16_t target, const Operand& left,
                   const Operand& right);
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -65,7 +65,7 @@ class Registers {
   std::vector<std::uint16_t> counted_;
   std::vector<std::uint16_t> free_plain_;
   std::vector<std::uint16_t> free_counted_;
-  std::map<std::int64_t, std::uint16_t> constants_;
+  std::unordered_map<std::int64_t, std::uint16_t> constants_;
 };
 
 }  // namespace tarnwick::basic

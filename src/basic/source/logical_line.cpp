@@ -131,7 +131,7 @@ std::string_view LineReader::RestOfDirective() const {
 void LineReader::Take(std::string_view line, const language::Token& token, bool touches,
                       bool escapes, std::vector<SourceToken>& tokens) {
   const SourcePlace at = PlaceIn(index_, next_, token.Begin, token.Length);
-  std::string_view text = token.In(line);
+  std::string_view text(line.data() + token.Begin, token.Length);
   if (token.Kind == TokenKind::Unknown) {
     if (counts_) messages_.Error(at, "This character has no meaning here");
     return;
@@ -147,7 +147,12 @@ void LineReader::Take(std::string_view line, const language::Token& token, bool 
       return;
     }
   }
-  tokens.push_back({KindOfToken(token.Kind), touches, token.Unclosed, text, at});
+  SourceToken& made = tokens.emplace_back();
+  made.Kind = KindOfToken(token.Kind);
+  made.Touches = touches;
+  made.Unclosed = token.Unclosed;
+  made.Text = text;
+  made.At = at;
 }
 
 }  // namespace tarnwick::basic

@@ -31,8 +31,10 @@ NumberLiteral RadixNumber(std::string_view token) {
 
 NumberLiteral NumberOf(std::string_view token) {
   if (!token.empty() && token.front() == '&') return RadixNumber(token);
-  bool real = token.find_first_of(".eEdD!#") != std::string_view::npos;
-  while (!token.empty() && std::string_view("%&!#").find(token.back()) != std::string_view::npos) {
+  const bool plain = std::all_of(token.begin(), token.end(), language::IsDigit);
+  const bool real = !plain && token.find_first_of(".eEdD!#") != std::string_view::npos;
+  while (!plain && !token.empty() &&
+         std::string_view("%&!#").find(token.back()) != std::string_view::npos) {
     token.remove_suffix(1);
   }
   NumberLiteral number;

@@ -106,11 +106,9 @@ SourcePlace Parser::SpanFrom(SourcePlace from) const {
   const SourceToken* const token = Last();
   if (token == nullptr) return from;
   const SourcePlace& last = token->At;
-  if (last.File == from.File && last.Line == from.Line && last.Column >= from.Column) {
-    from.Length = static_cast<std::uint16_t>(
-        std::min(static_cast<int>(last.Column) + last.Length - from.Column, 65535));
-  }
-  return from;
+  if (last.File != from.File || last.Line != from.Line || last.Column < from.Column) return from;
+  const int length = std::min(static_cast<int>(last.Column) + last.Length - from.Column, 65535);
+  return {from.Line, from.File, from.Column, static_cast<std::uint16_t>(length)};
 }
 
 void Parser::Expected(std::string_view what) {
@@ -291,11 +289,13 @@ bool Parser::LabelHere(Statements& out) {
   if (token.Kind == SourceTokenKind::Number) {
     Take();
     Add(out, token.At, tree::Label{token.Text});
+    out_.HasLabels = true;
     return true;
   }
   if (!IsName() || !IsSign(":", 1) || WordAhead() != Word::None) return false;
   Take();
   Add(out, token.At, tree::Label{token.Text});
+  out_.HasLabels = true;
   return true;
 }
 

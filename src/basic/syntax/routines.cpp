@@ -178,6 +178,7 @@ void Parser::TypeStatement(Statements& out) {
   private_ = false;
   type.Fields = memory_.List(fields);
   type.Members = memory_.List(members);
+  out_.HasTypes = true;
   Add(out, at, type);
 }
 

@@ -394,6 +394,8 @@ struct SyntaxTree {
   std::unique_ptr<NameTable> Names = std::make_unique<NameTable>();
   StatementList Statements;
   std::vector<ReferenceUse> References;
+  bool HasLabels = false;
+  bool HasTypes = false;
   bool Generated = false;  ///< the text begins like one that the program wrote itself
   bool ApplicationTypeGiven = false;
   bool Console = false;  ///< $APPTYPE CONSOLE

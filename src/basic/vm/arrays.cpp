@@ -16,7 +16,10 @@ std::string NameOf(const ArrayBody& array) {
 /// Brings the copies for quick access in step with bounds and elements.
 void SetQuickAccess(ArrayBody& array) {
   const bool empty = array.Elements == nullptr || array.Bounds.empty();
-  array.First = empty ? nullptr : array.Elements->Slots.data();
+  const bool bytes = !empty && !array.Elements->Bytes.empty();
+  array.First = empty || bytes ? nullptr : array.Elements->Slots.data();
+  array.Rank = array.First == nullptr ? 0 : array.Bounds.size();
+  array.FirstByte = bytes ? array.Elements->Bytes.data() : nullptr;
   array.Low = empty ? 0 : array.Bounds[0].Low;
   array.Length = empty ? 0 : static_cast<std::uint64_t>(array.Bounds[0].Length());
   const bool second = !empty && array.Bounds.size() > 1;
@@ -94,7 +97,10 @@ Slot* MachineState::Element(ArrayBody* array, std::int64_t index) {
   }
   const std::uint64_t at =
       static_cast<std::uint64_t>(index) - static_cast<std::uint64_t>(array->Low);
-  if (at < array->Length) return array->First + at;
+  if (at < array->Length) {
+    NeedSlots(*array);
+    return array->First + at;
+  }
   if (array->Grows && index >= 0) {
     if (index >= static_cast<std::int64_t>(Options.ArrayLimit)) {
       Fail("The arrays have more than " +
@@ -158,6 +164,7 @@ Slot* MachineState::Elements(const Instruction* words, ArrayBody* array) {
 
 Slot* MachineState::Flat(ArrayBody* array, std::int64_t index) {
   if (array == nullptr || array->Elements == nullptr || array->Grows) return Element(array, index);
+  NeedSlots(*array);
   if (index >= 0 && index < static_cast<std::int64_t>(array->Elements->Slots.size())) {
     return array->First + index;
   }
@@ -192,6 +199,7 @@ bool MachineState::StartElements(ElementsBody& elements, const ArrayBody& array,
 }
 
 bool MachineState::GrowArray(ArrayBody& array, std::size_t count) {
+  NeedSlots(array);
   const std::size_t old = array.Elements == nullptr ? 0 : array.Elements->Slots.size();
   if (!TakeSlots(count - old)) return false;
   if (array.Elements == nullptr || array.Elements->Count > 1) {
@@ -227,9 +235,15 @@ bool MachineState::FillArray(ArrayBody& array, std::vector<Bound> bounds, bool k
   if (!TakeSlots(*count)) return false;
   auto* const fresh = new ElementsBody(array.Layout->Element);
   fresh->InUse = &ArraySlots;
-  fresh->Slots.resize(*count, Slot{0});
+  const bool moves = keep && array.Elements != nullptr;
+  if (moves) NeedSlots(array);
+  if (array.Layout->Stored == Storage::Byte && bounds.size() == 1 && !moves) {
+    fresh->Bytes.resize(*count);
+  } else {
+    fresh->Slots.resize(*count, Slot{0});
+  }
   ArraySlots += *count;
-  if (keep && array.Elements != nullptr) MoveOverlap(array.Bounds, *array.Elements, bounds, *fresh);
+  if (moves) MoveOverlap(array.Bounds, *array.Elements, bounds, *fresh);
   Release(array.Elements);
   array.Elements = fresh;
   array.Bounds = std::move(bounds);
@@ -293,6 +307,7 @@ bool MachineState::GetBound(const Instruction* bound) {
 bool MachineState::ClearArray(ArrayBody* array) {
   if (array == nullptr) return Fail("An array has no elements yet: DIM it first");
   if (array->Elements == nullptr) return true;
+  NeedSlots(*array);
   for (Slot& slot : array->Elements->Slots) {
     if (IsCounted(array->Elements->Element)) Release(slot.B);
     slot = Slot{0};

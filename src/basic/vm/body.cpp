@@ -7,7 +7,7 @@ void DestroyElements(ElementsBody* elements) {
   if (IsCounted(elements->Element)) {
     for (const Slot slot : elements->Slots) Release(slot.B);
   }
-  if (elements->InUse != nullptr) *elements->InUse -= elements->Slots.size();
+  if (elements->InUse != nullptr) *elements->InUse -= elements->Size();
   delete elements;
 }
 
@@ -19,6 +19,17 @@ void DestroyRecord(RecordBody* record) {
 }
 
 }  // namespace
+
+void NeedSlots(ArrayBody& array) {
+  if (array.FirstByte == nullptr) return;
+  ElementsBody& elements = *array.Elements;
+  elements.Slots.reserve(elements.Bytes.size());
+  for (const std::uint8_t byte : elements.Bytes) elements.Slots.push_back(IntegerSlot(byte));
+  elements.Bytes = {};
+  array.First = elements.Slots.data();
+  array.FirstByte = nullptr;
+  array.Rank = 1;
+}
 
 void Destroy(Body* body) {
   switch (body->Kind) {

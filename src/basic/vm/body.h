@@ -107,9 +107,14 @@ struct Bound {
 
 /// Elements of an array. A body of its own, so that a reference to an element keeps it alive
 /// while REDIM gives the array other elements.
+///
+/// Those of an array of bytes with one dimension are kept as `Bytes` until something needs slots of
+/// them, a reference for instance; one of the two lists is always empty.
 struct ElementsBody : Body {
   explicit ElementsBody(SlotKind element) : Body(SlotKind::Elements), Element(element) {}
+  [[nodiscard]] std::size_t Size() const { return Slots.size() + Bytes.size(); }
   std::vector<Slot> Slots;
+  std::vector<std::uint8_t> Bytes;
   SlotKind Element;
   std::size_t* InUse = nullptr;  ///< counter of array slots of the running program
 };
@@ -125,6 +130,8 @@ struct ArrayBody : Body {
   // The same once more for quick access: the first slot, and the first two dimensions. Lengths
   // are 0 when there are no elements; the second is 1 when there is one dimension.
   Slot* First = nullptr;
+  std::size_t Rank = 0;               ///< number of dimensions; 0 when there is no first slot
+  std::uint8_t* FirstByte = nullptr;  ///< set instead of `First` where the elements are bytes
   std::int64_t Low = 0;
   std::uint64_t Length = 0;
   std::int64_t Low2 = 0;
@@ -168,6 +175,9 @@ struct VariantBody : Body {
   SlotKind Held = SlotKind::Empty;
   Slot Content{0};
 };
+
+/// Gives the elements of an array slots, for what needs them.
+void NeedSlots(ArrayBody& array);
 
 /// Ends the life of a body whose count went to 0, and of what only it held.
 void Destroy(Body* body);
