@@ -98,6 +98,15 @@ TEST(GoldenPrograms, EveryToleranceHasItsCase) {
   }
 }
 
+TEST(GoldenPrograms, EveryToleratedCaseHasItsRow) {
+  for (const fs::path& program : Programs(TestFolder() / "basic/tolerances")) {
+    const auto is_its_row = [&](const ToleranceRow& row) {
+      return row.Name == program.stem().string();
+    };
+    EXPECT_TRUE(std::any_of(kTolerances.begin(), kTolerances.end(), is_its_row)) << program;
+  }
+}
+
 TEST(GoldenPrograms, AStrictCheckAcceptsNoIrregularLine) {
   for (const ToleranceRow& row : kTolerances) {
     // An empty argument is none the less one.

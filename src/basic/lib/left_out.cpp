@@ -4,23 +4,16 @@
 #include "basic/lib/function_table.h"
 #include "basic/lib/left_out_text.h"
 #include "basic/source/messages.h"
+#include "basic/table_text.h"
 #include "text/code_page.h"
 
 namespace tarnwick::basic {
 namespace {
 
-/// The text in front of the first `separator`, which is taken off `rest` with it.
-std::string_view TakeUntil(std::string_view& rest, char separator) {
-  const std::size_t end = rest.find(separator);
-  const std::string_view part = rest.substr(0, end);
-  rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
-  return part;
-}
-
 std::vector<LeftOut> ReadTable() {
   std::vector<LeftOut> words;
   std::string_view rest = kLeftOutText;
-  TakeUntil(rest, '\n');
+  rest.remove_prefix(rest.find('\n') + 1);
   while (!rest.empty()) {
     std::string_view line = TakeUntil(rest, '\n');
     LeftOut& word = words.emplace_back();
