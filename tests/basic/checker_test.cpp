@@ -253,6 +253,21 @@ TEST(Checker, TheSameNameTwiceIsAFault) {
   EXPECT_EQ(Check1("SUB a\nEND SUB\nSUB a\nEND SUB"),
             "3:5: error: \"a\" is declared twice [The other one is in line 1]\n");
 }
+TEST(Checker, TheProgramsOwnConstantsHoldAgainstThoseOfIncludedFiles) {
+  const auto messages = [](const std::string& text, const std::string& included) {
+    test::MemorySources sources;
+    sources.Files["main"] = text;
+    sources.Files["a.inc"] = included;
+    return CheckedText::MessagesOf(CheckProgram("main", sources, test::Classes(), {}));
+  };
+  const std::string constant = "CONST mbYes = 1\n";
+  EXPECT_EQ(messages("$INCLUDE \"a.inc\"\nCONST mbYes = 4\n", constant), "");
+  EXPECT_EQ(messages("CONST mbYes = 4\n$INCLUDE \"a.inc\"\n", constant), "");
+  EXPECT_EQ(messages("$INCLUDE \"a.inc\"\nCONST mbYes = RND\n", constant), "");
+  EXPECT_EQ(messages("$INCLUDE \"a.inc\"\n$INCLUDE \"a.inc\"\n", constant), "");
+  EXPECT_NE(messages("CONST mbYes = 4\nCONST mbYes = 4\n", ""), "") << "in one file";
+  EXPECT_NE(messages("$INCLUDE \"a.inc\"\nCONST mbYes = 4\n", "SUB mbYes\nEND SUB\n"), "");
+}
 TEST(Checker, LongChainsAndDeepBlocksAreNoDanger) {
   std::string chain = "x = 1";
   for (int i = 0; i < 900; ++i) chain += " + y";

@@ -42,6 +42,13 @@ TEST(Preprocessor, TakesTheSameFileTwice) {
 TEST(Preprocessor, AMissingIncludeIsAFaultAtItsName) {
   EXPECT_EQ(Faults("$INCLUDE \"x.inc\""), "1:10: The file x.inc was not found or is too large\n");
 }
+TEST(Preprocessor, AConstantOfAnIncludedFileGivesWayToADefinitionInFrontOfIt) {
+  MemorySources sources;
+  sources.Files["C:\\Work\\one.inc"] = "CONST a = 1\nCONST b = 2\n";
+  EXPECT_EQ(ParsedText("$DEFINE a 5\n$INCLUDE \"one.inc\"\nx = a\n", sources).Tokens(),
+            "CONST b = 2 | x = 5 |");
+  EXPECT_EQ(Read("$DEFINE a c\nCONST a = 1"), "CONST c = 1 |") << "the program's own line";
+}
 TEST(Preprocessor, FilesThatIncludeThemselvesEndInAFault) {
   MemorySources sources;
   sources.Files["C:\\Work\\one.inc"] = "$INCLUDE \"one.inc\"\n";

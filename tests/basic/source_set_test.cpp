@@ -58,6 +58,25 @@ TEST(SourceSet, LooksForAnIncludeBesideTheSourceLast) {
   EXPECT_TRUE(set.Include(sources, "sub\\b.inc", "", 0));
   EXPECT_FALSE(set.Include(sources, "c.inc", "C:\\P", 0));
 }
+TEST(SourceSet, TheOwnIncludeFileStandsInForThatOfTheLanguage) {
+  test::MemorySources sources;
+  sources.Files = {{"C:\\P\\Tarnwick1.lib", "own"}};
+  SourceSet set;
+  set.Add("C:\\W\\main.bas", "");
+  const auto file = set.Include(sources, "RapidQ.inc", "C:\\P", 0);
+  ASSERT_TRUE(file);
+  EXPECT_EQ(set.File(*file).Bytes, "own");
+  EXPECT_FALSE(set.Include(sources, "other.inc", "C:\\P", 0));
+}
+TEST(SourceSet, TheIncludeFileOfTheLanguageIsTakenWhereItIsThere) {
+  test::MemorySources sources;
+  sources.Files = {{"C:\\P\\Tarnwick1.lib", "own"}, {"C:\\W\\rapidq.inc", "theirs"}};
+  SourceSet set;
+  set.Add("C:\\W\\main.bas", "");
+  const auto file = set.Include(sources, "rapidq.inc", "C:\\P", 0);
+  ASSERT_TRUE(file);
+  EXPECT_EQ(set.File(*file).Bytes, "theirs");
+}
 
 }  // namespace
 }  // namespace tarnwick::basic

@@ -120,6 +120,30 @@ TEST(IncludeFile, MessageDialogsAndNumbersInStreamsHaveTheirNames) {
   EXPECT_EQ(constants["Num_INTEGER"], constants["Num_LONG"]);
 }
 
+TEST(IncludeFile, GridsListsOfFilesAndSoundsHaveTheirNames) {
+  std::map<std::string, long> constants;
+  for (const Constant& constant : Constants()) constants[constant.Name] = constant.Value;
+  long number = 0;
+  for (const char* option :
+       {"goFixedVertLine", "goFixedHorzLine", "goVertLine", "goHorzLine", "goRangeSelect",
+        "goDrawFocusSelected", "goRowSizing", "goColSizing", "goRowMoving", "goColMoving",
+        "goEditing", "goTabs", "goRowSelect", "goAlwaysShowEditor", "goThumbTracking"}) {
+    ASSERT_TRUE(constants.contains(option)) << option;
+    EXPECT_EQ(constants[option], number++) << option;
+  }
+  number = 0;
+  for (const char* type : {"ftReadOnly", "ftHidden", "ftSystem", "ftVolumeID", "ftDirectory",
+                           "ftArchive", "ftNormal"}) {
+    ASSERT_TRUE(constants.contains(type)) << type;
+    EXPECT_EQ(constants[type], number++) << type;
+  }
+  ASSERT_TRUE(constants.contains("SND_SYNC"));
+  EXPECT_EQ(constants["SND_SYNC"], 0);
+  EXPECT_EQ(constants["SND_ASYNC"], 1);
+  EXPECT_EQ(constants["SND_NODEFAULT"], 2);
+  EXPECT_EQ(constants["SND_LOOP"], 8);
+}
+
 TEST(IncludeFile, NothingOfTheLanguageIsDefinedAnew) {
   std::set<std::string> taken;
   for (const Word& word : Sources().Keywords) taken.insert(Lower(word.Text));

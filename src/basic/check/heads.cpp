@@ -201,9 +201,12 @@ bool Checker::Redeclared(const Symbol& old, Type type, const tree::Declarator& n
 
 void Checker::CollectConstant(const tree::ConstDeclaration& line, SourcePlace at) {
   const std::string_view name = Keep(line.Name);
-  if (globals_.contains(IdOf(name))) {
-    Error(at, '"' + std::string(name) + "\" is declared twice");
-    return;
+  if (const auto old = globals_.find(IdOf(name)); old != globals_.end()) {
+    // The program's own constants hold, whatever the files that it includes call by their names.
+    const bool elsewhere =
+        old->second.Kind == Symbol::Sort::Constant && old->second.At.File != at.File;
+    if (!elsewhere) Error(at, '"' + std::string(name) + "\" is declared twice");
+    if (!elsewhere || old->second.At.File == 0) return;
   }
   Expr value = Value(line.Value);
   if (!line.As.Text.empty()) value = Fit(value, TypeOf(line.As, {}, false), true);

@@ -41,6 +41,8 @@ class MacroTable {
   /// $UNDEF: the name stands for nothing, and is no keyword any more.
   void Undefine(std::string_view name);
   [[nodiscard]] bool IsDefined(std::string_view name) const;
+  /// The same without the names that the language has by itself.
+  [[nodiscard]] bool IsKnown(std::string_view name) const;
 
   /// Replaces the names in a line by what they stand for, again and again until none is left; a
   /// name within its own text stays. `file` is the index of the file of the line. Too deep or too
@@ -53,7 +55,6 @@ class MacroTable {
   void ExpandInto(const Tokens& line, std::uint16_t file, int depth, Tokens& out);
   [[nodiscard]] const Macro* Find(std::string_view name, std::uint16_t file, bool brackets,
                                   std::size_t arguments) const;
-  [[nodiscard]] bool IsKnown(std::string_view name) const;
   void Insert(const Macro& macro, const std::vector<Tokens>& arguments, const SourceToken& use,
               Tokens& out);
   void Paste(Tokens& out, const SourceToken& right);

@@ -54,8 +54,15 @@ void Preprocessor::CloseFile() {
   open_.pop_back();
 }
 
+/// True for a CONST of an included file whose name the program has defined by itself already.
+bool Preprocessor::IsSettled(const Tokens& line) const {
+  return open_.back().Index != 0 && line.size() > 1 && EqualsFolded(line[0].Text, "CONST") &&
+         macros_.IsKnown(line[1].Text);
+}
+
 /// Expands the line and puts its end behind it. False when nothing is left of it.
 bool Preprocessor::FinishLine(Tokens& line) {
+  if (IsSettled(line)) return false;
   macros_.Expand(line, open_.back().Index);
   if (line.empty()) return false;
   FollowRoutines(line);

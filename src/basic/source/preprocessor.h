@@ -60,6 +60,7 @@ class Preprocessor final : public TokenLines {
   void OpenUp(std::uint16_t file);
   void CloseFile();
   [[nodiscard]] bool Counts() const { return conditions_.empty() || conditions_.back().Holds; }
+  [[nodiscard]] bool IsSettled(const Tokens& line) const;
   bool FinishLine(Tokens& line);
   void FollowRoutines(const Tokens& line);
   bool TakeDirective(Tokens& line, std::string_view rest);

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "text/code_page.h"
+
 namespace tarnwick::basic {
 namespace {
 
@@ -55,6 +57,10 @@ std::optional<std::uint16_t> SourceSet::Include(SourceReader& reader, std::strin
   add(program_folder.empty() ? "" : std::string(program_folder) + '\\', bare);
   add(beside, name);
   add(beside, bare);
+  if (EqualsFolded(bare, kLanguageInclude)) {
+    add(program_folder.empty() ? "" : std::string(program_folder) + '\\', kOwnInclude);
+    add(beside, kOwnInclude);
+  }
   for (std::string& path : candidates) {
     std::optional<std::string> bytes = reader.ReadSource(path);
     if (bytes) return Add(std::move(path), *std::move(bytes));

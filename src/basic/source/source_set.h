@@ -28,6 +28,11 @@ struct SourceFile {
   std::vector<std::string_view> Lines;
 };
 
+/// The file of constants that programs include by habit, and the one delivered with this system,
+/// which has the same names.
+inline constexpr std::string_view kLanguageInclude = "rapidq.inc";
+inline constexpr std::string_view kOwnInclude = "Tarnwick1.lib";
+
 /// Files kept at most; includes beyond that are not taken.
 inline constexpr std::size_t kMaxSourceFiles = 10'000;
 /// Bytes of all files together kept at most.
@@ -40,7 +45,9 @@ class SourceSet {
   /// Adds a file with its bytes and returns its index; nothing when the set is full.
   std::optional<std::uint16_t> Add(std::string path, std::string bytes);
   /// Finds the file of an $INCLUDE and adds it: the path as it stands, then its bare name in the
-  /// program folder, then both beside the file that names it. Nothing when there is none.
+  /// program folder, then both beside the file that names it. Where the include file of the
+  /// language is in none of these, `kOwnInclude` in them takes its place. Nothing when there is
+  /// none.
   std::optional<std::uint16_t> Include(SourceReader& reader, std::string_view name,
                                        std::string_view program_folder, std::uint16_t from);
 
