@@ -8,6 +8,7 @@
 #include "basic/code/dump.h"
 #include "basic/vm/machine.h"
 #include "hosts/disk_files.h"
+#include "hosts/fault_report.h"
 #include "hosts/local_clock.h"
 #include "hosts/local_system.h"
 #include "hosts/prepared_program.h"
@@ -19,7 +20,6 @@
 #include "objects/traced_widgets.h"
 #include "platform/native_files.h"
 #include "platform/profile_files.h"
-#include "platform/program_folder.h"
 #include "text/code_page.h"
 #include "text/path_text.h"
 
@@ -49,7 +49,8 @@ struct Streams {
 };
 
 basic::RunResult RunCode(const hosts::PreparedProgram& program, objects::ScriptedWidgets& widgets,
-                         const RunArguments& arguments, const Streams& streams) {
+                         const RunArguments& arguments, const Streams& streams,
+                         const hosts::RunReport& report) {
   std::vector<std::string> words;
   for (const std::string& word : arguments.Arguments) words.push_back(Utf8ToCodePage(word));
   hosts::StreamConsole console(streams.In, streams.Out);
@@ -69,6 +70,7 @@ basic::RunResult RunCode(const hosts::PreparedProgram& program, objects::Scripte
   machine.SetResources(program.Resources);
   world.Connect(machine);
   clock.Ending = [&] { return machine.Ending(); };
+  const hosts::FaultWatch::Running watched(machine, report);
   g_running = &machine;
   auto* const before = std::signal(SIGINT, StopRunning);
   basic::RunResult result = machine.Run();
@@ -104,14 +106,14 @@ hosts::Taken TakeOption(RunArguments& arguments, const std::string& name,
   return value.empty() ? hosts::Taken::Wrong : hosts::Taken::Value;
 }
 
-RunExit CheckAndRun(const RunArguments& arguments, const Streams& streams) {
+RunExit CheckAndRun(const RunArguments& arguments, const Streams& streams,
+                    hosts::RunReport& report) {
   basic::FrontEndOptions options;
   options.Strict = arguments.Strict;
   options.Source.ProgramFolder =
-      arguments.ProgramFolder.empty() ? ExecutableFolder() : arguments.ProgramFolder;
+      arguments.ProgramFolder.empty() ? hosts::IncludeFolder() : arguments.ProgramFolder;
   const hosts::PreparedProgram program =
       hosts::PrepareProgram(arguments.Program, objects::ClassTable(), options);
-  hosts::RunReport report(streams.Err, hosts::ReportForm::People, "tarnwick-cli");
   report.SetFiles(program.Files);
   report.SayAll(program.Found);
   if (!program.Good) return RunExit::Faulty;
@@ -135,7 +137,7 @@ RunExit CheckAndRun(const RunArguments& arguments, const Streams& streams) {
       WriteText(streams.Out, std::string(line) + "\n");
     };
   }
-  const basic::RunResult result = RunCode(program, widgets, arguments, streams);
+  const basic::RunResult result = RunCode(program, widgets, arguments, streams, report);
   for (const std::string& fault : widgets.Faults) report.Say({}, "note", fault);
   return report.SayResult(result);
 }
@@ -198,10 +200,13 @@ RunExit RunProgram(const RunArguments& arguments, std::FILE* in, std::FILE* out,
     WriteText(out, objects::SupportedList());
     return RunExit::Ended;
   }
+  hosts::RunReport report(err, hosts::ReportForm::People, "tarnwick-cli");
+  hosts::FaultWatch watch("tarnwick-cli " TARNWICK_VERSION, arguments.Program);
   try {
-    return CheckAndRun(arguments, {in, out, err});
+    return CheckAndRun(arguments, {in, out, err}, report);
   } catch (const std::exception& fault) {
-    std::fprintf(err, "tarnwick-cli: fault of the runner: %s\n", fault.what());
+    g_running = nullptr;
+    report.Say({}, "error", Utf8ToCodePage(watch.Report(fault)));
     return RunExit::Fault;
   }
 }

@@ -4,6 +4,7 @@
 
 #include "hosts/disk_files.h"
 #include "platform/native_files.h"
+#include "platform/program_folder.h"
 #include "text/path_text.h"
 
 namespace tarnwick::hosts {
@@ -45,6 +46,13 @@ PreparedProgram PrepareProgram(const std::string& path, const basic::ClassCatalo
   // The code names its texts and places by itself: only the files are still of use.
   prepared.Files = std::move(checked.Files);
   return prepared;
+}
+
+std::string IncludeFolder() {
+  std::string beside = ExecutableFolder();
+  NativeFiles files;
+  if (files.Exists(beside + "\\" + std::string(basic::kOwnInclude))) return beside;
+  return beside + R"(\..\share\tarnwick)";
 }
 
 }  // namespace tarnwick::hosts

@@ -24,4 +24,8 @@ struct PreparedProgram {
                                              const basic::ClassCatalog& classes,
                                              const basic::FrontEndOptions& options);
 
+/// The folder of the include file of generated programs, as this program was built or installed. A
+/// Windows path without "\" at the end.
+[[nodiscard]] std::string IncludeFolder();
+
 }  // namespace tarnwick::hosts

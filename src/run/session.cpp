@@ -5,6 +5,7 @@
 #include <atomic>
 #include <chrono>
 #include <csignal>
+#include <exception>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -13,6 +14,7 @@
 
 #include "basic/vm/machine.h"
 #include "hosts/disk_files.h"
+#include "hosts/fault_report.h"
 #include "hosts/local_clock.h"
 #include "hosts/prepared_program.h"
 #include "hosts/profile_calls.h"
@@ -155,17 +157,18 @@ void WriteTrace(std::FILE* file, std::string_view line) {
 
 /// `trace` gets the changes that the windows show; null for none.
 basic::RunResult RunCode(const PreparedProgram& program, const RunnerArguments& arguments,
-                         const RunStreams& streams, StopRequests& requests, std::FILE* trace) {
+                         const RunStreams& streams, const RunReport& report, StopRequests& requests,
+                         std::FILE* trace) {
   std::vector<std::string> words;
   for (const std::string& word : arguments.Arguments) words.push_back(Utf8ToCodePage(word));
   // Standard input belongs to the program that started this one, if there is one.
   const objects::ProgramFacts facts = FactsOf(program, arguments);
   std::optional<WindowConsole> window;
   std::optional<hosts::StreamConsole> stream;
-  basic::ConsoleHost* console = nullptr;
-  if (arguments.WithIde || arguments.Windows) {
+  basic::ConsoleHost* console = streams.Console;
+  if (console == nullptr && (arguments.WithIde || arguments.Windows)) {
     console = &window.emplace(looks::ToQString(facts.Title), streams.Out);
-  } else {
+  } else if (console == nullptr) {
     console = &stream.emplace(streams.In, streams.Out);
   }
   hosts::DiskFiles files;
@@ -194,6 +197,7 @@ basic::RunResult RunCode(const PreparedProgram& program, const RunnerArguments& 
     return machine.Ending();
   };
   const Stopping stopping(machine, arguments, requests);
+  const hosts::FaultWatch::Running watched(machine, report);
   basic::RunResult result = machine.Run();
   result.End = stopping.EndOf(result.End);
   std::fflush(streams.Out);
@@ -232,7 +236,8 @@ void ShowSourceErrors(const PreparedProgram& program, const RunReport& report,
 RunExit Run(const RunnerArguments& arguments, const RunStreams& streams, RunReport& report) {
   basic::FrontEndOptions options;
   options.Strict = arguments.Strict;
-  options.Source.ProgramFolder = arguments.ProgramFolder;
+  options.Source.ProgramFolder =
+      arguments.ProgramFolder.empty() ? hosts::IncludeFolder() : arguments.ProgramFolder;
   const PreparedProgram program =
       hosts::PrepareProgram(arguments.Source, objects::ClassTable(), options);
   report.SetFiles(program.Files);
@@ -251,7 +256,8 @@ RunExit Run(const RunnerArguments& arguments, const RunStreams& streams, RunRepo
   }
   report.Signal("start");
   StopRequests requests(arguments, streams.In);
-  const basic::RunResult result = RunCode(program, arguments, streams, requests, trace.get());
+  const basic::RunResult result =
+      RunCode(program, arguments, streams, report, requests, trace.get());
   const RunExit exit = report.SayResult(result);
   if (result.End == basic::RunEnd::Error && !requests.Asked()) {
     ShowRunTimeError(program, report, result, arguments);
@@ -263,7 +269,13 @@ RunExit Run(const RunnerArguments& arguments, const RunStreams& streams, RunRepo
 
 RunExit RunSession(const RunnerArguments& arguments, const RunStreams& streams) {
   RunReport report(streams.Err, arguments.Report, "tarnwick-run");
-  const RunExit exit = Run(arguments, streams, report);
+  hosts::FaultWatch watch("tarnwick-run " TARNWICK_VERSION, arguments.Source);
+  RunExit exit = RunExit::Fault;
+  try {
+    exit = Run(arguments, streams, report);
+  } catch (const std::exception& fault) {
+    report.Say({}, "error", Utf8ToCodePage(watch.Report(fault)));
+  }
   report.Signal("end", std::to_string(static_cast<int>(exit)));
   return exit;
 }

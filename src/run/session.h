@@ -3,6 +3,7 @@
 
 #include <cstdio>
 
+#include "basic/hosts/console_host.h"
 #include "run/runner_arguments.h"
 
 namespace tarnwick::run {
@@ -11,11 +12,14 @@ struct RunStreams {
   std::FILE* In = stdin;
   std::FILE* Out = stdout;
   std::FILE* Err = stderr;
+  /// The program's console instead of the streams and of a window; null for those.
+  basic::ConsoleHost* Console = nullptr;
 };
 
 /// Checks and runs the program; windows need the toolkit's application. Its PRINT goes to `Out`,
 /// errors and notes to `Err` in the form that the arguments want. A run-time error and the errors
-/// of a source are shown in a window too, unless the program that started the runner shows them.
+/// of a source are shown in a window too, unless the program that started the runner shows them. A
+/// fault of the runner itself is told with the file that its report was written to.
 [[nodiscard]] hosts::RunExit RunSession(const RunnerArguments& arguments,
                                         const RunStreams& streams);
 

@@ -4,6 +4,7 @@
 
 #include "fakes/temporary_folder.h"
 #include "objects/class_table.h"
+#include "platform/program_folder.h"
 
 namespace tarnwick::hosts {
 namespace {
@@ -44,6 +45,11 @@ TEST_F(PreparedProgramTest, AMissingSourceIsAnError) {
       PrepareProgram(folder.Native("none.bas"), objects::ClassTable(), {});
   EXPECT_FALSE(program.Good);
   EXPECT_TRUE(program.Found.HasErrors());
+}
+
+TEST(IncludeFolderTest, WithoutAnIncludeFileBesideTheProgramItIsTheFolderOfTheInstallation) {
+  // No include file lies beside the tests.
+  EXPECT_EQ(IncludeFolder(), ExecutableFolder() + R"(\..\share\tarnwick)");
 }
 
 }  // namespace

@@ -82,6 +82,13 @@ TEST(RunnerProgramTest, AFaultySourceIsReportedWithItsPlace) {
   EXPECT_TRUE(outcome.Err.endsWith(QStringLiteral("end\t1\n")));
 }
 
+TEST(RunnerProgramTest, TheIncludeFileOfTheLanguageIsAtHandWithoutAFolderGiven) {
+  RunnerProcess runner("$INCLUDE \"rapidq.inc\"\nPRINT goRowSelect\n", kIde);
+  const Outcome outcome = runner.End();
+  EXPECT_EQ(outcome.Exit, 0) << outcome.Err.toStdString();
+  EXPECT_EQ(outcome.Out, QStringLiteral("12\n"));
+}
+
 TEST(RunnerProgramTest, TheWordStopEndsAProgramThatWaits) {
   RunnerProcess runner(kWindow, kIde);
   ASSERT_TRUE(runner.WaitFor(QStringLiteral("start")));

@@ -49,11 +49,16 @@ void MachineState::EndWith(RunEnd end) {
   if (Ending) return;
   Ending = true;
   Result.End = end;
-  if (end == RunEnd::Ended) return;
-  std::for_each(Frames.rbegin(), Frames.rend(), [this](const auto& frame) {
+  if (end != RunEnd::Ended) Result.Chain = Chain();
+}
+
+std::vector<CallSite> MachineState::Chain() const {
+  std::vector<CallSite> chain;
+  std::for_each(Frames.rbegin(), Frames.rend(), [&](const auto& frame) {
     const auto at = static_cast<std::size_t>(frame.Pc - Program.Instructions.data());
-    Result.Chain.push_back({frame.Procedure->Name, Program.PlaceOf(at)});
+    chain.push_back({frame.Procedure->Name, Program.PlaceOf(at)});
   });
+  return chain;
 }
 
 bool MachineState::LookAround() {
@@ -87,6 +92,14 @@ RunResult Machine::Run() {
 
 void Machine::SetResources(std::vector<std::string> files) {
   state_->Library.Resources = std::move(files);
+}
+
+std::vector<CallSite> Machine::Chain() const {
+  return state_->Chain();
+}
+
+std::uint64_t Machine::Steps() const noexcept {
+  return state_->Steps;
 }
 
 void Machine::Stop() {

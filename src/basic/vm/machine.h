@@ -1,6 +1,7 @@
 // The machine that runs bytecode.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
@@ -32,6 +33,10 @@ class Machine : public EventSink {
   RunResult Run();
   /// The files of the program's $RESOURCE lines, in order; set before `Run`.
   void SetResources(std::vector<std::string> files);
+  /// The running calls, innermost first. They stay when an exception of a host ends the run.
+  [[nodiscard]] std::vector<CallSite> Chain() const;
+  /// Instructions run so far, where a limit of steps is set.
+  [[nodiscard]] std::uint64_t Steps() const noexcept;
   /// Ends the program at the next jump back, call or return of a host.
   void Stop();
 

@@ -78,6 +78,8 @@ struct MachineState {
   /// Ends the program with an error at the running instruction. False, for `return Fail(...)`.
   bool Fail(std::string text);
   void EndWith(RunEnd end);
+  /// The running calls, innermost first.
+  [[nodiscard]] std::vector<CallSite> Chain() const;
   /// The rare part of the look at limits and the stop flag. False when the program ends.
   bool LookAround();
   /// To be asked behind what may wait for the user: a program that was stopped meanwhile does not
