@@ -91,9 +91,7 @@ int Check(LoadedProject& loaded, std::FILE* out) {
     std::move(more.begin(), more.end(), std::back_inserter(findings));
   };
   add(project::CheckProject(loaded.Tables, loaded.Files));
-  if (project::MakesAProgram(findings)) {
-    add(project::CheckCode(loaded.Tables, loaded.Files, ExecutableFolder()));
-  }
+  project::AddCodeFaults(findings, loaded.Tables, loaded.Files, ExecutableFolder());
   for (const project::Finding& finding : findings) {
     Print(out, CodePageToUtf8(finding.Line()) + "\n");
   }

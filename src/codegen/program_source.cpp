@@ -37,13 +37,13 @@ void WriteIncludeLine(Generation& gen) {
   gen.Out.Line("$Include \"", gen.Tables.ProgramFolder, "\\Tarnwick1.lib\"");
 }
 
+/// True when the program begins with form 1 because that has a transparent frame.
+bool BeginsWithFrame(const ProjectTables& tables) {
+  return tables.Form(1) != nullptr && HasTransparentFrame(tables, 1);
+}
+
 void WriteStartLine(Generation& gen) {
-  const FormRec* first = gen.Tables.Form(1);
-  if (first != nullptr && HasTransparentFrame(gen.Tables, 1)) {
-    gen.Out.Line(first->Name, ".Show");
-  } else {
-    gen.Out.Line(FormListName(gen.Tables.MainFormName), ".ShowModal");
-  }
+  gen.Out.Line(FirstShownForm(gen.Tables), BeginsWithFrame(gen.Tables) ? ".Show" : ".ShowModal");
 }
 
 void WriteFreeLines(Generation& gen) {
@@ -104,6 +104,11 @@ void WriteSections(Generation& gen) {
 }
 
 }  // namespace
+
+std::string_view FirstShownForm(const ProjectTables& tables) {
+  return BeginsWithFrame(tables) ? std::string_view(tables.Form(1)->Name)
+                                 : FormListName(tables.MainFormName);
+}
 
 std::string GenerateSource(ProjectTables& tables, GeneratorState& state, SourceMap* map) {
   Generation gen(tables, state);

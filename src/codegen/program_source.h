@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "codegen/generator_state.h"
 #include "codegen/source_map.h"
@@ -20,5 +21,9 @@ namespace tarnwick {
 /// The same program handed to `sink` in pieces, so that it is never in memory as a whole, unless a
 /// form has a transparent frame: calls of its Show are looked for in the whole text.
 void WriteSource(ProjectTables& tables, GeneratorState& state, const TextSink& sink);
+
+/// The name of the form that the program begins with: the main form, or form 1 when that has a
+/// transparent frame.
+[[nodiscard]] std::string_view FirstShownForm(const ProjectTables& tables);
 
 }  // namespace tarnwick

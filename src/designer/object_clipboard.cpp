@@ -135,6 +135,12 @@ ControlRef ObjectClipboard::Paste(ProjectTables& tables, DesignForm& form) {
   return copy;
 }
 
+std::string ObjectClipboard::WhyNothing() const {
+  if (!CopyReady) return "Nothing to paste: no object was copied";
+  if (!CopySource) return "Nothing to paste: the form itself was copied";
+  return "Nothing to paste: " + CopySource->Tag + " has no copies";
+}
+
 bool ObjectClipboard::SourceIsLive(const DesignForm& form) const noexcept {
   return IsLive(form, CopySource);
 }

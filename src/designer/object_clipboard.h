@@ -22,6 +22,8 @@ class ObjectClipboard {
   /// Makes a new object like the source and returns it, visible and not yet selected. Null when
   /// nothing was copied or its kind has no copies.
   ControlRef Paste(ProjectTables& tables, DesignForm& form);
+  /// Why a paste makes nothing: what was copied, if anything, has no copies.
+  [[nodiscard]] std::string WhyNothing() const;
   /// True when the source still stands on the form.
   [[nodiscard]] bool SourceIsLive(const DesignForm& form) const noexcept;
   /// An object's number was taken out of its kind, or put back: the number of the source follows.

@@ -60,7 +60,7 @@ void ObjectCommands::PasteObject(int KeyCode, int Shift) {
   const HistoryStep step(context_.Ports.Steps, context_.Number(), "Paste");
   const bool source_gone = clipboard_.CopySource && !clipboard_.SourceIsLive(context_.Form);
   const ControlRef control = clipboard_.Paste(context_.Tables, context_.Form);
-  if (!control) return;
+  if (!control) return context_.Ports.Host.SetStatus(clipboard_.WhyNothing());
   context_.Ports.Steps.NameStep("Paste " + control->Tag);
   if (source_gone) {
     context_.Ports.Host.SetStatus("The copied object is gone: " + control->Tag + " is a new one");

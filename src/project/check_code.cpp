@@ -18,8 +18,6 @@ namespace tarnwick::project {
 
 namespace {
 
-constexpr std::string_view kInclude = "Tarnwick1.lib";
-
 /// The generated text, and the include file wherever it lies.
 class GeneratedSources final : public basic::SourceReader {
  public:
@@ -32,8 +30,8 @@ class GeneratedSources final : public basic::SourceReader {
       return text_;
     }
     std::optional<std::string> bytes = files_.Read(path);
-    if (!bytes && EqualsFolded(BareName(path), kInclude)) {
-      bytes = files_.Read(folder_ + "\\" + std::string(kInclude));
+    if (!bytes && EqualsFolded(BareName(path), basic::kOwnInclude)) {
+      bytes = files_.Read(folder_ + "\\" + std::string(basic::kOwnInclude));
       missing_ = missing_ || !bytes;
     }
     return bytes;
@@ -97,9 +95,16 @@ std::vector<Finding> CheckCode(ProjectTables& tables, FilePort& files,
   return findings;
 }
 
-bool MakesAProgram(const std::vector<Finding>& findings) noexcept {
-  return std::none_of(findings.begin(), findings.end(),
-                      [](const Finding& finding) { return finding.How() == Severity::Error; });
+void AddCodeFaults(std::vector<Finding>& findings, ProjectTables& tables, FilePort& files,
+                   const std::string& include_folder) {
+  std::vector<Finding> faults = CheckCode(tables, files, include_folder);
+  const bool sound = std::none_of(findings.begin(), findings.end(), [](const Finding& finding) {
+    return finding.How() == Severity::Error;
+  });
+  for (Finding& fault : faults) {
+    const bool own = fault.In && fault.In->What != ProgramPlace::Sort::Property;
+    if (sound || own) findings.push_back(std::move(fault));
+  }
 }
 
 }  // namespace tarnwick::project

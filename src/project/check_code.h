@@ -17,8 +17,10 @@ namespace tarnwick::project {
 [[nodiscard]] std::vector<Finding> CheckCode(ProjectTables& tables, FilePort& files,
                                              const std::string& include_folder);
 
-/// True when no finding is an error. What is wrong with names and texts makes lines that are
-/// faulty too: only behind it the code is worth a check.
-[[nodiscard]] bool MakesAProgram(const std::vector<Finding>& findings) noexcept;
+/// Adds the faults of the code to the findings of a project. An error among these makes lines of
+/// the program faulty that the user has not written: then only those of his own lines, in code and
+/// declarations, are added.
+void AddCodeFaults(std::vector<Finding>& findings, ProjectTables& tables, FilePort& files,
+                   const std::string& include_folder);
 
 }  // namespace tarnwick::project

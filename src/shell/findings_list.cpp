@@ -77,8 +77,8 @@ void FindingsList::Find(bool with_code) {
     std::move(found.begin(), found.end(), std::back_inserter(all));
   };
   add(project::CheckProject(state_.Tables, state_.Ports.Files));
-  if (with_code && project::MakesAProgram(all)) {
-    add(project::CheckCode(state_.Tables, state_.Ports.Files, state_.Tables.ExecutableFolder));
+  if (with_code) {
+    project::AddCodeFaults(all, state_.Tables, state_.Ports.Files, state_.Tables.ExecutableFolder);
   }
   const auto before = [](const Finding& a, const Finding& b) {
     return std::tuple(b.How(), a.Form) < std::tuple(a.How(), b.Form);

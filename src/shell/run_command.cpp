@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "codegen/program_source.h"
 #include "editor/code_target.h"
 #include "inspector/property_sheet.h"
 #include "shell/design_surfaces.h"
@@ -64,7 +65,7 @@ bool RunCommand::Start(std::string text, SourceMap map) {
   source_ = tables.SourceFile;
   text_ = std::move(text);
   map_ = std::move(map);
-  main_form_ = FormListName(tables.MainFormName);
+  main_form_ = FirstShownForm(tables);
   first_error_.clear();
   first_error_line_ = 0;
   notes_ = 0;

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "cli/project_folder.h"
@@ -81,6 +83,23 @@ TEST_F(CheckTest, FaultsOfTheCodeAreNamedByFormObjectEventAndLine) {
   EXPECT_EQ(result.Exit, 1);
   EXPECT_EQ(result.Out,
             "Form1.Ok.OnClick, line 2: QBUTTON has no member \"Captoin\"; did you mean Caption?\n");
+}
+
+TEST_F(CheckTest, FaultsOfTheCodeAreListedBesideWhatElseIsWrong) {
+  folder_.Put("Tarnwick1.lib", "' nothing\r\n");
+  folder_.Put("f.ftn", std::string(kHead) +
+                           "[Button] (1) {Ok} String<say \"hi\">String Image<(None)>Image "
+                           "Click<Ok.Captoin = \"x\">Click\r\n");
+  const CallResult result = Call({"check", "--program-folder", PathFromNative(folder_.PathOf("")),
+                                  folder_.Put("p.tnp",
+                                              "1\x95"
+                                              "f.ftn\r\n")});
+  EXPECT_EQ(result.Exit, 1);
+  EXPECT_EQ(std::count(result.Out.begin(), result.Out.end(), '\n'), 2) << result.Out;
+  EXPECT_TRUE(result.Out.starts_with("Form1.Ok: ")) << result.Out;
+  EXPECT_NE(result.Out.find("\nForm1.Ok.OnClick, line 1: QBUTTON has no member \"Captoin\""),
+            std::string::npos)
+      << result.Out;
 }
 
 }  // namespace

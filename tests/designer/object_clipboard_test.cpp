@@ -221,6 +221,15 @@ TEST_F(Clipboard, ACopyOfTheFormPastesNothing) {
   commands.CopyObject(keys::kC, kCtrlBit);
   Paste();
   EXPECT_EQ(form.UBound(Kind::Button), 1);
+  EXPECT_NE(ports.Log.Find("status Nothing to paste: the form itself was copied"), -1);
+}
+
+TEST_F(Clipboard, APasteThatMakesNothingSaysWhy) {
+  Paste();
+  EXPECT_NE(ports.Log.Find("status Nothing to paste: no object was copied"), -1);
+  Place("WinSock", 10, 10);
+  CopyAndPaste();
+  EXPECT_NE(ports.Log.Find("status Nothing to paste: Form1Sock1 has no copies"), -1);
 }
 
 TEST_F(Clipboard, CopiesTakeTheNextTabOrderExceptImagesAndLabels) {

@@ -92,11 +92,23 @@ TEST_F(CheckCodeTest, WhatTheIncludeFileItselfHasIsNoFaultOfTheProject) {
   EXPECT_TRUE(Check(kForm).empty());
 }
 
-TEST_F(CheckCodeTest, OnlyErrorsKeepAProgramFromBeing) {
-  EXPECT_TRUE(MakesAProgram({}));
-  EXPECT_TRUE(MakesAProgram({Finding{.Id = FindingId::CodeOwnerless}}));
-  EXPECT_FALSE(MakesAProgram(
-      {Finding{.Id = FindingId::CodeOwnerless}, Finding{.Id = FindingId::NameEmpty}}));
+TEST_F(CheckCodeTest, WhileTheProjectHasErrorsOnlyTheUsersOwnLinesAreAdded) {
+  project.Load(std::string(kForm) +
+               "[Button] (1) {Ok} String<say \"hi\">String Image<(None)>Image "
+               "Click<Ok.Captoin = 1>Click\r\n");
+  const std::vector<Finding> all = CheckCode(project.Tables, project.Ports.Files, "");
+  ASSERT_GE(all.size(), 2U) << "the caption makes its own line faulty";
+  const auto added = [&](const Finding& first) {
+    std::vector<Finding> findings{first};
+    AddCodeFaults(findings, project.Tables, project.Ports.Files, "");
+    EXPECT_EQ(findings.front().Id, first.Id);
+    return findings.size() - 1;
+  };
+  EXPECT_EQ(added(Finding{.Id = FindingId::CodeOwnerless}), all.size()) << "a note is no error";
+  EXPECT_EQ(added(Finding{.Id = FindingId::TextQuote}), 1U);
+  std::vector<Finding> findings{Finding{.Id = FindingId::TextQuote}};
+  AddCodeFaults(findings, project.Tables, project.Ports.Files, "");
+  EXPECT_EQ(findings.back().Place, "F.Ok.OnClick, line 1");
 }
 
 }  // namespace

@@ -50,6 +50,27 @@ TEST_F(RunCommandTest, TheCompilerComesFirstAndTheRunnerWhenItCannotBeStarted) {
   EXPECT_EQ(view.Status, "Running Form1");
 }
 
+TEST_F(RunCommandTest, AProgramThatBeginsWithAFrameIsNamedByItsForm) {
+  Place(kTransparentFrameTool, 60, 60);
+  main.Commands().Run(Command::AddNewForm);
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\two.ftn"});
+  tables().MainFormName = "Form2 (two.ftn)";
+  Compile();
+  const std::string source = ports.Files.Bytes("Z:\\p\\a.com").value_or("");
+  EXPECT_NE(source.find("TrnspAbrFrm1"), std::string::npos);
+  runner.Begin();
+  EXPECT_EQ(view.Status, "Running Form1") << "Form1 is shown first, whichever is the main form";
+}
+
+TEST_F(RunCommandTest, TheMainFormNamesAProgramWithoutAFrame) {
+  main.Commands().Run(Command::AddNewForm);
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\two.ftn"});
+  tables().MainFormName = "Form2 (two.ftn)";
+  Compile();
+  runner.Begin();
+  EXPECT_EQ(view.Status, "Running Form2");
+}
+
 TEST_F(RunCommandTest, ACompilerThatStartsLeavesTheRunnerAlone) {
   ports.Processes.Succeeds = true;
   ports.Files.Put("Z:\\opt\\tarnwick\\Rc.exe", "MZ");
