@@ -20,7 +20,7 @@ struct Writer {
   std::string operator()(const tree::TextLiteral& n) const {
     return '"' + std::string(n.Value) + '"';
   }
-  std::string operator()(const tree::Name& n) const { return std::string(n.Text); }
+  std::string operator()(const tree::Name& n) const { return std::string(n.Text()); }
   std::string operator()(const tree::Apply& n) const {
     std::string text = TextOf(n.Target) + '(';
     for (std::size_t i = 0; i < n.Arguments.size(); ++i) {

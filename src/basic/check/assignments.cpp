@@ -95,21 +95,21 @@ void Checker::CheckAssignment(const tree::Assignment& line, SourcePlace at, Stat
           character ? "Use REPLACE$" : "");
     return;
   }
-  if (apply == nullptr && FrameRest(name->Text, true, at, out)) return;
+  if (apply == nullptr && FrameRest(name->Text(), true, at, out)) return;
   const Symbol* const local = FindIn(frame_->Names, name->Id);
   const bool create = !around_.empty() && around_.back().Create;
   if (local == nullptr || create) {
-    const std::optional<MemberUse> implied = Implied(name->Text, at);
+    const std::optional<MemberUse> implied = Implied(name->Text(), at);
     const bool known = local != nullptr || globals_.contains(name->Id);
     if (implied && (create || implied->Field != nullptr || !known)) {
-      return AssignMember(*implied, indexes, value, name->Text, at, out);
+      return AssignMember(*implied, indexes, value, name->Text(), at, out);
     }
   }
   const Symbol* symbol = Find(*name);
   const bool own_result = IsOwnResult(local, name->Id);
   if (symbol != nullptr && !own_result && symbol->Kind != Symbol::Sort::Global &&
       symbol->Kind != Symbol::Sort::Local) {
-    Error(base->At, '"' + std::string(name->Text) + "\" is not a variable");
+    Error(base->At, '"' + std::string(name->Text()) + "\" is not a variable");
     return;
   }
   Expr variable = nullptr;
@@ -118,13 +118,14 @@ void Checker::CheckAssignment(const tree::Assignment& line, SourcePlace at, Stat
   } else if (symbol != nullptr) {
     variable = SlotOf(*symbol, base->At);
   } else if (apply != nullptr) {
-    Error(base->At, '"' + std::string(name->Text) + "\" is not declared", SimilarTo(name->Text));
+    Error(base->At, '"' + std::string(name->Text()) + "\" is not declared",
+          SimilarTo(name->Text()));
     return;
   } else {
     // The value first: its names are looked up before this one exists. `n = n + 1` makes it.
     const Expr checked = Value(value);
     const Symbol* const made = Find(*name);
-    return Store(made != nullptr ? SlotOf(*made, base->At) : Undeclared(name->Text, base->At),
+    return Store(made != nullptr ? SlotOf(*made, base->At) : Undeclared(name->Text(), base->At),
                  checked, at, out);
   }
   if (apply != nullptr) variable = Element(variable, indexes, target->At);
@@ -244,7 +245,7 @@ void Checker::Hook(const MemberUse& use, const tree::Node* value, SourcePlace at
     std::optional<ProcedureId> id = FindProcedure(name->Id);
     if (frame_->This) {
       const auto& members = types_[static_cast<std::size_t>(*frame_->This)].Members;
-      const auto member = members.find(name->Text);
+      const auto member = members.find(name->Text());
       if (member != members.end()) {
         id = member->second;
         hook.Bound = This(at);
@@ -255,7 +256,8 @@ void Checker::Hook(const MemberUse& use, const tree::Node* value, SourcePlace at
       return Add(out, at, hook);
     }
     if (Tolerate(Tolerance::EventWithoutSub, at)) return;
-    Error(value->At, "There is no SUB \"" + std::string(name->Text) + '"', SimilarTo(name->Text));
+    Error(value->At, "There is no SUB \"" + std::string(name->Text()) + '"',
+          SimilarTo(name->Text()));
     return;
   }
   if (const auto* access = value->As<tree::MemberAccess>()) {
@@ -290,8 +292,8 @@ void Checker::CheckCall(const tree::CallLine& line, SourcePlace at, Statements& 
   } else if (const auto* name = target->As<tree::Name>()) {
     const Symbol* symbol = Find(*name);
     if (symbol == nullptr) {
-      if (line.Arguments.empty() && FrameRest(name->Text, false, at, out)) return;
-      const auto rows = FindFunctions(name->Text);
+      if (line.Arguments.empty() && FrameRest(name->Text(), false, at, out)) return;
+      const auto rows = FindFunctions(name->Text());
       if (!rows.empty() && rows[0].Form == FunctionForm::Intrinsic &&
           IntrinsicStatement(rows[0].Id, line.Arguments, at, out)) {
         return;
@@ -299,16 +301,16 @@ void Checker::CheckCall(const tree::CallLine& line, SourcePlace at, Statements& 
     }
     const bool create = !around_.empty() && around_.back().Create;
     if (symbol == nullptr || create) {
-      const std::optional<MemberUse> implied = Implied(name->Text, at);
+      const std::optional<MemberUse> implied = Implied(name->Text(), at);
       if (implied) {
-        call = UseValue(*implied, line.Arguments, !line.Arguments.empty(), name->Text, at, true);
+        call = UseValue(*implied, line.Arguments, !line.Arguments.empty(), name->Text(), at, true);
         if (call == nullptr) return;
       }
     }
     if (call == nullptr) call = CallOf(*name, line.Arguments, at, true);
     if (call == nullptr && symbol == nullptr) {
-      Error(target->At, "There is no SUB \"" + std::string(name->Text) + '"',
-            SimilarTo(name->Text));
+      Error(target->At, "There is no SUB \"" + std::string(name->Text()) + '"',
+            SimilarTo(name->Text()));
       return;
     }
   }

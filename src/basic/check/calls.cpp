@@ -29,8 +29,8 @@ const Expression* Checker::CallOf(const tree::Name& name, tree::NodeList argumen
     return CallDll(symbol->Index, arguments, at);
   }
   if (symbol != nullptr) return nullptr;
-  const bool object = arguments.empty() && !as_statement && classes_.FindBuiltInObject(name.Text);
-  return object ? nullptr : CallBuiltIn(name.Text, arguments, at);
+  const bool object = arguments.empty() && !as_statement && classes_.FindBuiltInObject(name.Text());
+  return object ? nullptr : CallBuiltIn(name.Text(), arguments, at);
 }
 
 const Expression* Checker::CallProcedure(ProcedureId id, tree::NodeList arguments, SourcePlace at,

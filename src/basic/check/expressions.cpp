@@ -39,23 +39,23 @@ const Expression* Checker::NameValue(const tree::Name& name, SourcePlace at) {
   if (IsOwnResult(local, name.Id)) {
     return Make(Current().Result, at, LocalSlot{Current().ResultSlot});
   }
-  if (frame_->This && EqualsFolded(name.Text, "This")) return This(at);
-  const std::optional<MemberUse> implied = Implied(name.Text, at);
+  if (frame_->This && EqualsFolded(name.Text(), "This")) return This(at);
+  const std::optional<MemberUse> implied = Implied(name.Text(), at);
   if (implied && (implied->Field != nullptr || implied->Routine)) {
-    return UseValue(*implied, {}, false, name.Text, at, false);
+    return UseValue(*implied, {}, false, name.Text(), at, false);
   }
   if (const Symbol* const global = FindIn(globals_, name.Id)) return OfSymbol(*global, at);
-  if (EqualsFolded(name.Text, "TRUE")) return Whole(kTrueConstant, at);
-  if (EqualsFolded(name.Text, "FALSE")) return Whole(kFalseConstant, at);
-  if (implied) return UseValue(*implied, {}, false, name.Text, at, false);
+  if (EqualsFolded(name.Text(), "TRUE")) return Whole(kTrueConstant, at);
+  if (EqualsFolded(name.Text(), "FALSE")) return Whole(kFalseConstant, at);
+  if (implied) return UseValue(*implied, {}, false, name.Text(), at, false);
   const Expr call = CallOf(name, {}, at, false);
   if (call != nullptr) return call;
-  const std::optional<ClassId> object = classes_.FindBuiltInObject(name.Text);
+  const std::optional<ClassId> object = classes_.FindBuiltInObject(name.Text());
   if (object) {
     return Make({Storage::Object, 0, static_cast<std::uint32_t>(*object)}, at,
                 BuiltInObject{*object});
   }
-  return Undeclared(name.Text, at);
+  return Undeclared(name.Text(), at);
 }
 
 const Expression* Checker::ApplyValue(const tree::Apply& apply, SourcePlace at) {
@@ -70,16 +70,16 @@ const Expression* Checker::ApplyValue(const tree::Apply& apply, SourcePlace at) 
                                                 symbol->Kind == Symbol::Sort::Local);
     if (!variable) {
       const std::optional<MemberUse> implied =
-          local == nullptr ? Implied(name->Text, at) : std::nullopt;
+          local == nullptr ? Implied(name->Text(), at) : std::nullopt;
       const bool member = implied && (symbol == nullptr || implied->Field != nullptr ||
                                       implied->Routine.has_value());
-      if (member) return UseValue(*implied, apply.Arguments, true, name->Text, at, false);
+      if (member) return UseValue(*implied, apply.Arguments, true, name->Text(), at, false);
       const Expr call = CallOf(*name, apply.Arguments, at, false);
       if (call != nullptr) return call;
       if (symbol == nullptr) {
         return Fail(apply.Target->At,
-                    '"' + std::string(name->Text) + "\" is neither an array nor a function",
-                    SimilarTo(name->Text));
+                    '"' + std::string(name->Text()) + "\" is neither an array nor a function",
+                    SimilarTo(name->Text()));
       }
     }
   }

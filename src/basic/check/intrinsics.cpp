@@ -36,7 +36,7 @@ const Expression* Checker::CallIntrinsic(FunctionId id, tree::NodeList arguments
           name == nullptr ? std::nullopt : FindProcedure(name->Id);
       if (!procedure) {
         return Fail(at, "The name of a SUB or FUNCTION is expected here",
-                    name == nullptr ? "" : SimilarTo(name->Text));
+                    name == nullptr ? "" : SimilarTo(name->Text()));
       }
       return Whole(static_cast<std::int64_t>(*procedure), at);
     }
@@ -87,7 +87,7 @@ const Expression* Checker::SizeOfNode(const tree::Node* node, SourcePlace at) {
     return bytes;
   };
   if (const auto* name = node->As<tree::Name>(); name != nullptr && Find(*name) == nullptr) {
-    if (const std::optional<Type> type = TypeNamed(name->Text)) {
+    if (const std::optional<Type> type = TypeNamed(name->Text())) {
       return Whole(bytes_of(bytes_of, *type, 0), at);
     }
   }
@@ -181,7 +181,7 @@ bool Checker::IntrinsicStatement(FunctionId id, tree::NodeList arguments, Source
                               ? arguments[2]->As<tree::Name>()
                               : nullptr;
       Add(out, at,
-          QuickSort{first, last, order != nullptr && EqualsFolded(order->Text, "DESCEND")});
+          QuickSort{first, last, order != nullptr && EqualsFolded(order->Text(), "DESCEND")});
       return true;
     }
     default:

@@ -21,21 +21,21 @@ const Expression* Checker::OwnerOf(const tree::Node* target, SourcePlace at) {
   if (name == nullptr) return Value(target);
   if (Find(*name) != nullptr) return Value(target);
   if (frame_->This) {
-    const bool own = EqualsFolded(name->Text, "This") ||
-                     EqualsFolded(name->Text, program_.At(*frame_->This).Name);
+    const bool own = EqualsFolded(name->Text(), "This") ||
+                     EqualsFolded(name->Text(), program_.At(*frame_->This).Name);
     if (own) return This(at);
   }
-  if (Implied(name->Text, at)) return Value(target);
-  const std::optional<ClassId> object = classes_.FindBuiltInObject(name->Text);
+  if (Implied(name->Text(), at)) return Value(target);
+  const std::optional<ClassId> object = classes_.FindBuiltInObject(name->Text());
   if (object) {
     return Make({Storage::Object, 0, static_cast<std::uint32_t>(*object)}, at,
                 BuiltInObject{*object});
   }
-  std::string remedy = SimilarTo(name->Text);
+  std::string remedy = SimilarTo(name->Text());
   if (remedy.empty() && tolerant_) {
     remedy = "Rename the object, or put an object of its kind on the main form";
   }
-  Error(target->At, '"' + std::string(name->Text) + "\" is not declared", std::move(remedy));
+  Error(target->At, '"' + std::string(name->Text()) + "\" is not declared", std::move(remedy));
   return nullptr;
 }
 
@@ -49,11 +49,11 @@ Checker::MemberUse Checker::MemberOf(const tree::MemberAccess& access, SourcePla
     return use;
   }
   const auto* name = access.Target->As<tree::Name>();
-  if (name != nullptr && EqualsFolded(name->Text, "FILEREC") && Find(*name) == nullptr) {
+  if (name != nullptr && EqualsFolded(name->Text(), "FILEREC") && Find(*name) == nullptr) {
     use.Field = FoundFileOf(access.Name, at);
     return use;
   }
-  if (name != nullptr && EqualsFolded(name->Text, "SUPER") && frame_->This) {
+  if (name != nullptr && EqualsFolded(name->Text(), "SUPER") && frame_->This) {
     const Expr object = ObjectOf(This(at));
     if (object != nullptr) return MemberOfObject(object, access.Name);
   }

@@ -26,7 +26,7 @@ BinaryOperator CheckedOf(Operator op) {
 
 bool IsTrueName(const tree::Node* node) {
   const auto* name = node->As<tree::Name>();
-  return name != nullptr && EqualsFolded(name->Text, "TRUE");
+  return name != nullptr && EqualsFolded(name->Text(), "TRUE");
 }
 bool IsComparisonNode(const tree::Node* node) {
   const auto* binary = node->As<tree::Binary>();

@@ -19,6 +19,12 @@ std::size_t ShapeHash::operator()(const CallShape& shape) const {
 }
 
 CodeBuilder::CodeBuilder(const Program& program) : program_(program) {
+  // Room for what most statements take; what is not used of it is never touched.
+  constexpr std::size_t kInstructionsOfOne = 8;
+  std::size_t statements = 0;
+  for (const Procedure& procedure : program.Procedures) statements += procedure.Body.size() + 1;
+  code_.Instructions.reserve(statements * kInstructionsOfOne);
+  code_.Places.reserve(statements);
   code_.Files = program.Files;
   for (const DllEntry& native : program.DllEntries) {
     code_.Natives.push_back(

@@ -130,10 +130,12 @@ std::string_view LineReader::RestOfDirective() const {
 
 void LineReader::Take(std::string_view line, const language::Token& token, bool touches,
                       bool escapes, std::vector<SourceToken>& tokens) {
-  const SourcePlace at = PlaceIn(index_, next_, token.Begin, token.Length);
   std::string_view text(line.data() + token.Begin, token.Length);
   if (token.Kind == TokenKind::Unknown) {
-    if (counts_) messages_.Error(at, "This character has no meaning here");
+    if (counts_) {
+      messages_.Error(PlaceIn(index_, next_, token.Begin, token.Length),
+                      "This character has no meaning here");
+    }
     return;
   }
   if (token.Kind == TokenKind::Text) {
@@ -152,7 +154,10 @@ void LineReader::Take(std::string_view line, const language::Token& token, bool 
   made.Touches = touches;
   made.Unclosed = token.Unclosed;
   made.Text = text;
-  made.At = at;
+  made.At.Line = static_cast<std::uint32_t>(next_);
+  made.At.File = index_;
+  made.At.Column = Narrow(token.Begin + std::size_t{1});
+  made.At.Length = Narrow(token.Length);
 }
 
 }  // namespace tarnwick::basic

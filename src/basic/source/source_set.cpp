@@ -1,5 +1,6 @@
 #include "basic/source/source_set.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "text/code_page.h"
@@ -9,6 +10,7 @@ namespace {
 
 std::vector<std::string_view> LinesOf(std::string_view bytes) {
   std::vector<std::string_view> lines;
+  lines.reserve(static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n')) + 1);
   while (!bytes.empty()) {
     const std::size_t feed = bytes.find('\n');
     std::string_view rest = bytes.substr(0, feed);

@@ -160,7 +160,7 @@ tree::NodeList Parser::ArgumentsUntil(const Node* callee, std::string_view closi
     const Node* argument = IsSign(",") || at_end() ? nullptr : Expression();
     arguments_.push_back(argument);
     if (argument != nullptr && name != nullptr && argument->Is<tree::ByReference>()) {
-      out_.References.push_back({name->Text, arguments_.size() - first - 1});
+      out_.References.push_back({name->Text(), arguments_.size() - first - 1});
     }
     if (!TakeSign(",")) break;
   }

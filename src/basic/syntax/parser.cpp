@@ -90,8 +90,13 @@ void Parser::Run() {
     // What closes nothing is reported where it stands, and the rest is read on.
     const auto before = Position();
     const tree::StatementList part = Body(BlockKind::If, {});
-    all.insert(all.end(), part.begin(), part.end());
     if (Position() == before) Take();
+    if (all.empty() && Peek().Kind == SourceTokenKind::End) {
+      // As nearly always: all of the program is one list.
+      out_.Statements = part;
+      return;
+    }
+    all.insert(all.end(), part.begin(), part.end());
   }
   out_.Statements = memory_.List(all);
 }
@@ -102,13 +107,15 @@ bool Parser::BeginsGenerated() const {
          EqualsFolded(Peek(3).Text, "QFont");
 }
 
-SourcePlace Parser::SpanFrom(SourcePlace from) const {
+std::uint16_t Parser::LengthFrom(const SourcePlace& from) const {
   const SourceToken* const token = Last();
-  if (token == nullptr) return from;
+  if (token == nullptr) return from.Length;
   const SourcePlace& last = token->At;
-  if (last.File != from.File || last.Line != from.Line || last.Column < from.Column) return from;
-  const int length = std::min(static_cast<int>(last.Column) + last.Length - from.Column, 65535);
-  return {from.Line, from.File, from.Column, static_cast<std::uint16_t>(length)};
+  if (last.File != from.File || last.Line != from.Line || last.Column < from.Column) {
+    return from.Length;
+  }
+  const int length = static_cast<int>(last.Column) + last.Length - from.Column;
+  return static_cast<std::uint16_t>(std::min(length, 65535));
 }
 
 void Parser::Expected(std::string_view what) {

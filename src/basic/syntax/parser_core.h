@@ -105,8 +105,8 @@ class Parser {
   }
   [[nodiscard]] bool BeginsGenerated() const;
   [[nodiscard]] SourcePlace Here() const { return Peek().At; }
-  /// From the start of `from` to the end of the last token taken, when both are on one line.
-  [[nodiscard]] SourcePlace SpanFrom(SourcePlace from) const;
+  /// Bytes from the start of `from` to the end of the last token taken, when both are on one line.
+  [[nodiscard]] std::uint16_t LengthFrom(const SourcePlace& from) const;
 
   // --- Faults ------------------------------------------------------------------------------------
   void Error(SourcePlace at, std::string text, std::string remedy = {}) {
@@ -127,7 +127,9 @@ class Parser {
   // --- Statements --------------------------------------------------------------------------------
   template <class T>
   void Add(Statements& out, SourcePlace at, T value) {
-    out.push_back(tree::MakeStatement(memory_, SpanFrom(at), std::move(value)));
+    tree::StatementNode* const made = tree::MakeStatement(memory_, at, std::move(value));
+    made->At.Length = LengthFrom(at);
+    out.push_back(made);
   }
   /// Statements up to the word that closes the block, which stays.
   tree::StatementList Body(BlockKind kind, SourcePlace opened);
@@ -245,7 +247,9 @@ const tree::Node* Parser::MakeNode(SourcePlace from, int height, T value) {
     height = 0;
     return tree::MakeNode(memory_, from, 1, tree::WholeNumber{0});
   }
-  return tree::MakeNode(memory_, SpanFrom(from), height + 1, std::move(value));
+  Node* const made = tree::MakeNode(memory_, from, height + 1, std::move(value));
+  made->At.Length = LengthFrom(from);
+  return made;
 }
 
 }  // namespace tarnwick::basic

@@ -15,7 +15,7 @@ std::string_view Parser::RoutineName(SourcePlace& at) {
   if (!brackets) return name;
   std::string joined(name);
   for (int i = 0; i < 4; ++i) joined += Take().Text;
-  at = SpanFrom(at);
+  at.Length = LengthFrom(at);
   Tolerate(Tolerance::BracketName, at);
   return memory_.Text(joined);
 }

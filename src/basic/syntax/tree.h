@@ -36,7 +36,15 @@ struct TextLiteral {
   std::string_view Value;  ///< quotes off, escapes resolved
 };
 struct Name {
-  std::string_view Text;
+  Name(std::string_view text, NameId id)
+      : first_(text.data()), length_(static_cast<std::uint32_t>(text.size())), Id(id) {}
+  [[nodiscard]] std::string_view Text() const { return {first_, length_}; }
+
+ private:
+  const char* first_;
+  std::uint32_t length_;
+
+ public:
   NameId Id;
 };
 /// `Target(arguments)`: an element, a call or an indexed property. A null argument is an empty
@@ -131,7 +139,7 @@ decltype(auto) Node::Visit(Visitor&& visitor) const {
 
 /// Makes a node with its content.
 template <class T>
-const Node* MakeNode(Arena& memory, SourcePlace at, int height, T content) {
+Node* MakeNode(Arena& memory, SourcePlace at, int height, T content) {
   const Node head{at, static_cast<std::uint16_t>(height)};
   return memory.Make<NodeSorts::Of<T>>(NodeSorts::Made(head, std::move(content)));
 }
@@ -376,7 +384,7 @@ decltype(auto) StatementNode::Visit(Visitor&& visitor) const {
 
 /// Makes a statement with its content.
 template <class T>
-const StatementNode* MakeStatement(Arena& memory, SourcePlace at, T content) {
+StatementNode* MakeStatement(Arena& memory, SourcePlace at, T content) {
   return memory.Make<StatementSorts::Of<T>>(StatementSorts::Made({at}, std::move(content)));
 }
 
