@@ -2,7 +2,7 @@
 # and `tarnwick_qscintilla` are there. Nothing missing is an error: the logic builds without.
 
 set(TARNWICK_QT_FOUND OFF)
-find_package(Qt6 QUIET COMPONENTS Widgets OPTIONAL_COMPONENTS Svg Test)
+find_package(Qt6 QUIET COMPONENTS Widgets Network PrintSupport OPTIONAL_COMPONENTS Svg Test)
 find_path(QSCINTILLA_INCLUDE_DIR Qsci/qsciscintilla.h
           HINTS ${Qt6Core_INCLUDE_DIRS} PATH_SUFFIXES qt6 x86_64-linux-gnu/qt6)
 find_library(QSCINTILLA_LIBRARY NAMES qscintilla2_qt6)

@@ -51,6 +51,9 @@ using BehaviourRows = std::span<const BehaviourRow>;
 [[nodiscard]] BehaviourRows SystemBehaviour();
 [[nodiscard]] BehaviourRows GridBehaviour();
 [[nodiscard]] BehaviourRows PageBehaviour();
+[[nodiscard]] BehaviourRows SocketBehaviour();
+[[nodiscard]] BehaviourRows FileListBehaviour();
+[[nodiscard]] BehaviourRows PrinterBehaviour();
 
 // --- Functions that several groups use
 
@@ -60,6 +63,10 @@ bool LiveValue(ObjectWorld& world, ObjectRecord& object, const MemberInfo& membe
 /// The method is the widget's affair; without one nothing happens.
 bool WidgetMethod(ObjectWorld& world, ObjectRecord& object, const MemberInfo& member,
                   std::span<Value> arguments, Value& result);
+/// Gives a list other entries; none is picked then.
+void FillList(ObjectWorld& world, ObjectRecord& list, std::vector<std::string> texts);
+/// Reads the folder of a list of files that was not filled yet; nothing for other objects.
+void FillFileList(ObjectWorld& world, ObjectRecord& object);
 /// Shows a form and raises what showing raises.
 void ShowForm(ObjectWorld& world, ObjectId form);
 /// Shows the main menu of a form that is realised.

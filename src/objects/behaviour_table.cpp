@@ -9,7 +9,8 @@ namespace {
 constexpr std::array kGroups = {
     FormBehaviour,       ButtonBehaviour, ListBehaviour,    MenuBehaviour,   TextBehaviour,
     LabelBehaviour,      FontBehaviour,   PictureBehaviour, DialogBehaviour, StreamBehaviour,
-    StreamDataBehaviour, SystemBehaviour, GridBehaviour,    PageBehaviour};
+    StreamDataBehaviour, SystemBehaviour, GridBehaviour,    PageBehaviour,   SocketBehaviour,
+    FileListBehaviour,   PrinterBehaviour};
 
 using ClassBehaviour = std::vector<Behaviour>;  ///< by member
 
@@ -46,6 +47,7 @@ ObjectState MakeState() {
 constexpr StartRow kStartRows[] = {
     {ObjectClass::QForm, MakeState<FormState>},
     {ObjectClass::QListBox, MakeState<ListItems>},
+    {ObjectClass::QFileListBox, MakeState<ListItems>},
     {ObjectClass::QComboBox, MakeState<ListItems>},
     {ObjectClass::QStringList, MakeState<ListItems>},
     {ObjectClass::QTabControl, MakeState<ListItems>},

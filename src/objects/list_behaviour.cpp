@@ -1,4 +1,4 @@
-// Lists of entries: list boxes, drop-down lists, string lists, tabs.
+// Lists of entries: list boxes, lists of files, drop-down lists, string lists, tabs.
 #include <algorithm>
 
 #include "objects/behaviour.h"
@@ -12,6 +12,7 @@ using Kind = ItemsChange::Kind;
 
 /// The entry of an index; null and a reason when there is none.
 ListItems::Item* ItemAt(ObjectWorld& world, ObjectRecord& list, std::int64_t index) {
+  FillFileList(world, list);
   std::vector<ListItems::Item>& items = list.As<ListItems>()->Items;
   if (index >= 0 && index < static_cast<std::int64_t>(items.size())) {
     return &items[static_cast<std::size_t>(index)];
@@ -87,20 +88,8 @@ bool DelItems(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::sp
   return true;
 }
 
-void Refill(ObjectWorld& world, ObjectRecord& list, std::vector<std::string> texts) {
-  std::vector<ListItems::Item>& items = list.As<ListItems>()->Items;
-  items.clear();
-  for (std::string& text : texts) items.push_back({std::move(text), false});
-  if (list.Truth(Word::Sorted)) {
-    std::stable_sort(items.begin(), items.end(),
-                     [](const auto& a, const auto& b) { return LessFolded(a.Text, b.Text); });
-  }
-  MovePick(list, -1);
-  world.ShowItems(list, {Kind::All, 0, items.size()});
-}
-
 bool Clear(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<Value>, Value&) {
-  Refill(world, list, {});
+  FillList(world, list, {});
   if (list.Is(ObjectClass::QComboBox)) {
     world.Change(list, Word::Text, Value::Text({}), Origin::Code);
   }
@@ -110,7 +99,7 @@ bool Clear(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<
 bool LoadFromFile(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
                   std::span<Value> arguments, Value&) {
   const std::optional<std::string> text = ReadTextFile(world, list, arguments[0].AsText());
-  if (text) Refill(world, list, LinesOf(*text));
+  if (text) FillList(world, list, LinesOf(*text));
   return true;
 }
 
@@ -138,8 +127,9 @@ bool SetItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
   return true;
 }
 
-bool CountItems(ObjectWorld&, ObjectRecord& list, const MemberInfo&, std::span<const Value>,
+bool CountItems(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<const Value>,
                 Value& out) {
+  FillFileList(world, list);
   out = Value::Integer(static_cast<std::int64_t>(list.As<ListItems>()->Items.size()));
   return true;
 }
@@ -148,13 +138,14 @@ void SortedChanged(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, Or
   if (!list.Truth(Word::Sorted) || list.As<ListItems>()->Items.empty()) return;
   std::vector<std::string> texts;
   for (ListItems::Item& item : list.As<ListItems>()->Items) texts.push_back(std::move(item.Text));
-  Refill(world, list, std::move(texts));
+  FillList(world, list, std::move(texts));
 }
 
 // --- The entry that is picked
 
 bool SetIndex(ObjectWorld& world, ObjectRecord& list, const MemberInfo& member,
               std::span<const Value>, const Value& in) {
+  FillFileList(world, list);
   const auto count = static_cast<std::int64_t>(list.As<ListItems>()->Items.size());
   const std::int64_t index = in.AsInteger();
   // What is outside picks nothing.
@@ -236,7 +227,7 @@ bool GetText(ObjectWorld&, ObjectRecord& list, const MemberInfo&, std::span<cons
 
 bool SetText(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<const Value>,
              const Value& in) {
-  Refill(world, list, LinesOf(in.AsText()));
+  FillList(world, list, LinesOf(in.AsText()));
   return true;
 }
 
@@ -282,24 +273,42 @@ constexpr BehaviourRow kRows[] = {
     {None, Word::Item, {.Get = GetItem, .Set = SetItem}},
     {QTabControl, Word::Tab, {.Get = GetItem, .Set = SetItem}},
     {QListBox, Word::ItemCount, {.Get = CountItems}},
+    {QFileListBox, Word::ItemCount, {.Get = CountItems}},
     {QComboBox, Word::ItemCount, {.Get = CountItems}},
     {QStringList, Word::ItemCount, {.Get = CountItems}},
     {QTabControl, Word::TabCount, {.Get = CountItems}},
     {None, Word::Sorted, {.Changed = SortedChanged}},
     {QListBox, Word::ItemIndex, {.Set = SetIndex, .Changed = ListPicked}},
+    {QFileListBox, Word::ItemIndex, {.Set = SetIndex, .Changed = ListPicked}},
     {QComboBox, Word::ItemIndex, {.Set = SetIndex, .Changed = ComboPicked}},
     {QComboBox, Word::Text, {.Changed = ComboTyped}},
     {QTabControl, Word::TabIndex, {.Set = SetIndex, .Changed = TabPicked}},
     {QListBox, Word::Selected, {.Get = GetSelected, .Set = SetSelected}},
+    {QFileListBox, Word::Selected, {.Get = GetSelected, .Set = SetSelected}},
     {QListBox, Word::TopIndex, {.Get = LiveValue}},
+    {QFileListBox, Word::TopIndex, {.Get = LiveValue}},
     {QListBox, Word::ItemHeight, {.Get = LiveValue}},
+    {QFileListBox, Word::ItemHeight, {.Get = LiveValue}},
     {QListBox, Word::SelCount, {.Get = CountSelected}},
+    {QFileListBox, Word::SelCount, {.Get = CountSelected}},
     {QStringList, Word::Text, {.Get = GetText, .Set = SetText}},
     {QStringList, Word::Sort, {.Call = Sort}},
     {QStringList, Word::IndexOf, {.Call = IndexOf}},
 };
 
 }  // namespace
+
+void FillList(ObjectWorld& world, ObjectRecord& list, std::vector<std::string> texts) {
+  std::vector<ListItems::Item>& items = list.As<ListItems>()->Items;
+  items.clear();
+  for (std::string& text : texts) items.push_back({std::move(text), false});
+  if (list.Truth(Word::Sorted)) {
+    std::stable_sort(items.begin(), items.end(),
+                     [](const auto& a, const auto& b) { return LessFolded(a.Text, b.Text); });
+  }
+  MovePick(list, -1);
+  world.ShowItems(list, {Kind::All, 0, items.size()});
+}
 
 BehaviourRows ListBehaviour() {
   return kRows;

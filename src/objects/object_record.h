@@ -18,13 +18,16 @@ namespace tarnwick::objects {
 using basic::ObjectId;
 using basic::Value;
 
-/// Entries of a list box, drop-down list, string list or tab control, in order.
+/// Entries of a list box, list of files, drop-down list, string list or tab control, in order.
 struct ListItems {
   struct Item {
     std::string Text;
     bool Selected = false;  ///< of a list box with MultiSelect
   };
   std::vector<Item> Items;
+  std::uint32_t FileTypes =
+      64;               ///< of a list of files, bit n: files of kind n; plain ones at first
+  bool Filled = false;  ///< of a list of files: the folder was read
 };
 
 /// Rows below a menu or menu item, in order; and for a main menu the forms on which it hangs.

@@ -269,6 +269,7 @@ void ObjectWorld::Realise(ObjectRecord& object) {
     ObjectRecord* const next = Find(waiting.back());
     waiting.pop_back();
     if (next == nullptr || next->Realised || !next->Info().Has(ClassFlag::Widget)) continue;
+    FillFileList(*this, *next);
     next->Realised = true;
     widgets_.Realise(*next);
     LabelFitsText(*this, *next);

@@ -16,6 +16,8 @@
 
 namespace tarnwick::objects {
 
+class NetworkPort;
+
 /// Who changed a value.
 enum class Origin : std::uint8_t { Code, User };
 
@@ -51,6 +53,8 @@ class ObjectWorld final : public basic::ObjectHost {
 
   /// The machine that runs the handlers; to be called before the program starts.
   void Connect(basic::EventSink& machine) { machine_ = &machine; }
+  /// The connections to other programs; without them sockets cannot be opened.
+  void UseNetwork(NetworkPort& network) { network_ = &network; }
 
   // --- Asked by the machine
   ObjectId Create(basic::ClassId kind, std::string_view name, int index) override;
@@ -111,6 +115,8 @@ class ObjectWorld final : public basic::ObjectHost {
   // --- For the behaviour of the classes
   [[nodiscard]] WidgetPort& Widgets() { return widgets_; }
   [[nodiscard]] basic::FileHost* Files() { return files_; }
+  /// Null when there is none.
+  [[nodiscard]] NetworkPort* Network() { return network_; }
   [[nodiscard]] bool Ending() const { return machine_ != nullptr && machine_->Ending(); }
   void Terminate() {
     if (machine_ != nullptr) machine_->Terminate();
@@ -152,6 +158,7 @@ class ObjectWorld final : public basic::ObjectHost {
   WidgetPort& widgets_;
   basic::FileHost* files_;
   basic::EventSink* machine_ = nullptr;
+  NetworkPort* network_ = nullptr;
   ProgramFacts facts_;
   std::vector<Cell> cells_;
   std::vector<std::uint32_t> free_cells_;

@@ -17,8 +17,22 @@ namespace {
 struct Drawing {
   DrawingSurfaces& Surfaces;
   const ObjectRecord& Object;
-  QImage& Surface;
+  QImage* Surface;  ///< null on a page
+  QPainter* Page;   ///< null on a surface
   std::span<Value> Arguments;
+
+  /// Calls back with a painter whose settings last for this drawing.
+  template <class Use>
+  void Paint(Use use) {
+    if (Page == nullptr) {
+      QPainter painter(Surface);
+      use(painter);
+    } else {
+      Page->save();
+      use(*Page);
+      Page->restore();
+    }
+  }
 
   [[nodiscard]] bool Has(std::size_t index) const { return index < Arguments.size(); }
   [[nodiscard]] int Number(std::size_t index) const {
@@ -55,11 +69,27 @@ struct Drawing {
 
 void SetPoint(Drawing& on) {
   const QPoint at(on.Number(0), on.Number(1));
-  if (on.Surface.rect().contains(at)) on.Surface.setPixelColor(at, on.Color(2));
+  if (on.Surface == nullptr) {
+    on.Page->fillRect(QRect(at, QSize(1, 1)), on.Color(2));
+  } else if (on.Surface->rect().contains(at)) {
+    on.Surface->setPixelColor(at, on.Color(2));
+  }
+}
+
+/// A line on a page is as wide as on a screen of 300 points per inch, so that it is seen.
+QPen PagePen(const QPainter& page, const QColor& color) {
+  constexpr int kPointsPerInch = 300;
+  return QPen(color, std::max(1, page.device()->logicalDpiX() / kPointsPerInch));
 }
 
 /// All points but the last.
 void DrawLine(Drawing& on) {
+  if (on.Surface == nullptr) {
+    return on.Paint([&](QPainter& painter) {
+      painter.setPen(PagePen(painter, on.Color(4)));
+      painter.drawLine(on.Number(0), on.Number(1), on.Number(2), on.Number(3));
+    });
+  }
   int x = on.Number(0);
   int y = on.Number(1);
   const int to_x = on.Number(2);
@@ -71,7 +101,7 @@ void DrawLine(Drawing& on) {
   const int step_y = to_y < y ? -1 : 1;
   int error = wide - high;
   while (x != to_x || y != to_y) {
-    if (on.Surface.rect().contains(x, y)) on.Surface.setPixelColor(x, y, color);
+    if (on.Surface->rect().contains(x, y)) on.Surface->setPixelColor(x, y, color);
     const int twice = 2 * error;
     if (twice > -high) {
       error -= high;
@@ -85,36 +115,41 @@ void DrawLine(Drawing& on) {
 }
 
 void FillArea(Drawing& on) {
-  QPainter(&on.Surface).fillRect(on.Rect(0), on.Color(4));
+  on.Paint([&](QPainter& painter) { painter.fillRect(on.Rect(0), on.Color(4)); });
 }
 
 void SetOutline(QPainter& painter, const Drawing& on, std::size_t line, std::size_t fill) {
-  painter.setPen(on.Color(line));
+  painter.setPen(on.Page == nullptr ? QPen(on.Color(line)) : PagePen(painter, on.Color(line)));
   painter.setBrush(on.HasColor(fill) ? QBrush(on.Color(fill)) : QBrush(Qt::NoBrush));
 }
 
 void DrawRectangle(Drawing& on) {
-  QPainter painter(&on.Surface);
-  SetOutline(painter, on, 4, 5);
-  painter.drawRect(on.Rect(0).adjusted(0, 0, -1, -1));
+  on.Paint([&](QPainter& painter) {
+    SetOutline(painter, on, 4, 5);
+    painter.drawRect(on.Rect(0).adjusted(0, 0, -1, -1));
+  });
 }
 
 void DrawCircle(Drawing& on) {
-  QPainter painter(&on.Surface);
-  SetOutline(painter, on, 4, 5);
-  painter.drawEllipse(on.Rect(0).adjusted(0, 0, -1, -1));
+  on.Paint([&](QPainter& painter) {
+    SetOutline(painter, on, 4, 5);
+    painter.drawEllipse(on.Rect(0).adjusted(0, 0, -1, -1));
+  });
 }
 
 void DrawRoundRect(Drawing& on) {
-  QPainter painter(&on.Surface);
-  SetOutline(painter, on, 6, 7);
-  painter.drawRoundedRect(on.Rect(0).adjusted(0, 0, -1, -1), on.Number(4) / 2.0,
-                          on.Number(5) / 2.0);
+  on.Paint([&](QPainter& painter) {
+    SetOutline(painter, on, 6, 7);
+    painter.drawRoundedRect(on.Rect(0).adjusted(0, 0, -1, -1), on.Number(4) / 2.0,
+                            on.Number(5) / 2.0);
+  });
 }
 
 /// Fills from a point up to a border colour, row by row.
 void Flood(Drawing& on) {
-  QImage& surface = on.Surface;
+  // What is on a page already is not known.
+  if (on.Surface == nullptr) return;
+  QImage& surface = *on.Surface;
   const QRgb fill = on.Color(2).rgba();
   const QRgb border = on.Color(3).rgba();
   const QPoint start(on.Number(0), on.Number(1));
@@ -149,17 +184,26 @@ void Flood(Drawing& on) {
 void WriteText(Drawing& on, const QPoint& at, std::size_t first, const QRect* clip) {
   if (!on.Has(first)) return;
   Stage& stage = on.Surfaces.Owner();
-  const looks::FormFont& font = stage.FontOf(on.Object);
-  const looks::LaidText& laid =
-      stage.Texts().Lay(on.Arguments[first].AsText(), font, looks::TextFlow::Plain, 0);
-  QPainter painter(&on.Surface);
-  if (clip != nullptr) painter.setClipRect(*clip);
-  if (on.HasColor(first + 2)) {
-    painter.fillRect(QRect(at, QSize(laid.Width, laid.Height)), on.Color(first + 2));
-  }
-  painter.setFont(font.Font);
-  painter.setPen(on.Color(first + 1));
-  painter.drawStaticText(at, laid.Text);
+  on.Paint([&](QPainter& painter) {
+    if (clip != nullptr) painter.setClipRect(*clip);
+    painter.setPen(on.Color(first + 1));
+    if (on.Page != nullptr) {
+      const QString text = looks::ToQString(on.Arguments[first].AsText());
+      painter.setFont(PageFontOf(stage, on.Object));
+      const QRect room(at, PageTextSize(painter.fontMetrics(), text));
+      if (on.HasColor(first + 2)) painter.fillRect(room, on.Color(first + 2));
+      painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip, text);
+      return;
+    }
+    const looks::FormFont& font = stage.FontOf(on.Object);
+    const looks::LaidText& laid =
+        stage.Texts().Lay(on.Arguments[first].AsText(), font, looks::TextFlow::Plain, 0);
+    if (on.HasColor(first + 2)) {
+      painter.fillRect(QRect(at, QSize(laid.Width, laid.Height)), on.Color(first + 2));
+    }
+    painter.setFont(font.Font);
+    painter.drawStaticText(at, laid.Text);
+  });
 }
 
 void DrawTextAt(Drawing& on) {
@@ -174,32 +218,32 @@ void DrawTextWithin(Drawing& on) {
 void DrawPicture(Drawing& on) {
   if (!on.Has(2)) return;
   const QPixmap picture = on.Surfaces.PictureOf(on.Arguments[2]);
-  QPainter(&on.Surface).drawPixmap(on.Number(0), on.Number(1), picture);
+  on.Paint([&](QPainter& painter) { painter.drawPixmap(on.Number(0), on.Number(1), picture); });
 }
 
 void StretchPicture(Drawing& on) {
   if (!on.Has(1)) return;
   const QPixmap picture = on.Surfaces.PictureOf(on.Arguments[1]);
-  if (!picture.isNull()) QPainter(&on.Surface).drawPixmap(on.RectOf(0), picture);
+  if (picture.isNull()) return;
+  on.Paint([&](QPainter& painter) { painter.drawPixmap(on.RectOf(0), picture); });
 }
 
 void CopyPart(Drawing& on) {
   if (!on.Has(2)) return;
   const QPixmap picture = on.Surfaces.PictureOf(on.Arguments[1]);
-  if (!picture.isNull()) {
-    QPainter(&on.Surface).drawPixmap(on.RectOf(0), picture, on.RectOf(2));
-  }
+  if (picture.isNull()) return;
+  on.Paint([&](QPainter& painter) { painter.drawPixmap(on.RectOf(0), picture, on.RectOf(2)); });
 }
 
 void SaveFile(Drawing& on) {
-  if (!on.Has(0)) return;
+  if (!on.Has(0) || on.Surface == nullptr) return;
   basic::FileHost* const files = on.Surfaces.Owner().World().Files();
   const auto file =
       files == nullptr ? nullptr : files->Open(on.Arguments[0].AsText(), basic::FileMode::Create);
   if (file == nullptr) return;
   QBuffer bytes;
   bytes.open(QIODevice::WriteOnly);
-  on.Surface.convertToFormat(QImage::Format_RGB32).save(&bytes, "BMP");
+  on.Surface->convertToFormat(QImage::Format_RGB32).save(&bytes, "BMP");
   file->Write(
       std::string_view(bytes.data().constData(), static_cast<std::size_t>(bytes.data().size())));
 }
@@ -224,18 +268,45 @@ constexpr MethodRow kMethods[] = {
     {Word::SaveToFile, SaveFile},
 };
 
-}  // namespace
-
-bool DrawByMethod(DrawingSurfaces& surfaces, const ObjectRecord& object, Word method,
-                  std::span<Value> arguments, Value& /*result*/) {
+bool Draw(Drawing& drawing, Word method) {
   for (const MethodRow& row : kMethods) {
     if (row.Method != method) continue;
-    // The picture of an argument may be the surface itself: it is made before it is drawn on.
-    Drawing drawing{surfaces, object, surfaces.At(object), arguments};
     row.Draw(drawing);
     return true;
   }
   return false;
+}
+
+bool IsDrawing(Word method) {
+  return std::any_of(std::begin(kMethods), std::end(kMethods),
+                     [&](const MethodRow& row) { return row.Method == method; });
+}
+
+}  // namespace
+
+bool DrawByMethod(DrawingSurfaces& surfaces, const ObjectRecord& object, Word method,
+                  std::span<Value> arguments, Value& /*result*/) {
+  if (!IsDrawing(method)) return false;
+  // The picture of an argument may be the surface itself: it is made before it is drawn on.
+  Drawing drawing{surfaces, object, &surfaces.At(object), nullptr, arguments};
+  return Draw(drawing, method);
+}
+
+bool DrawOnPage(DrawingSurfaces& surfaces, const ObjectRecord& printer, QPainter& page, Word method,
+                std::span<Value> arguments) {
+  Drawing drawing{surfaces, printer, nullptr, &page, arguments};
+  return Draw(drawing, method);
+}
+
+QFont PageFontOf(Stage& stage, const ObjectRecord& printer) {
+  QFont font = stage.FontOf(printer).Font;
+  font.setPointSizeF(std::max<double>(1, static_cast<double>(stage.World().FontOf(printer).Size)));
+  return font;
+}
+
+QSize PageTextSize(const QFontMetrics& metrics, const QString& text) {
+  return metrics.boundingRect(QRect(), Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip, text)
+      .size();
 }
 
 }  // namespace tarnwick::run

@@ -28,6 +28,7 @@
 #include "run/message_windows.h"
 #include "run/stage.h"
 #include "run/stop_listener.h"
+#include "run/tcp_network.h"
 #include "run/window_console.h"
 #include "text/code_page.h"
 #include "text/path_text.h"
@@ -183,6 +184,8 @@ basic::RunResult RunCode(const PreparedProgram& program, const RunnerArguments& 
                              &files, facts);
   traced.Connect(world);
   stage.Connect(world);
+  TcpNetwork network([&](int wait_ms) { stage.Rest(wait_ms); });
+  world.UseNetwork(network);
   basic::Machine machine(program.Code, {console, &world, &files, &clock, &system, &natives},
                          arguments.Options());
   machine.SetResources(program.Resources);

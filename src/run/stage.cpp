@@ -8,6 +8,7 @@
 #include "run/drawing_surfaces.h"
 #include "run/file_dialogs.h"
 #include "run/menus.h"
+#include "run/page_printer.h"
 #include "run/system_view.h"
 
 namespace tarnwick::run {
@@ -16,7 +17,8 @@ using objects::ClassFlag;
 
 Stage::Stage()
     : pictures_([this](const std::string& path) { return ReadFile(path); }),
-      surfaces_(std::make_unique<DrawingSurfaces>(*this)) {}
+      surfaces_(std::make_unique<DrawingSurfaces>(*this)),
+      printer_(std::make_unique<PagePrinter>(*this)) {}
 
 Stage::~Stage() {
   // The objects are gone already: what windows report while they close is lost.
@@ -82,6 +84,9 @@ void Stage::MenuChanged(const ObjectRecord& menu) {
 
 bool Stage::Invoke(const ObjectRecord& object, const MemberInfo& method, std::span<Value> arguments,
                    Value& result) {
+  if (object.Is(ObjectClass::Printer)) {
+    return printer_->Invoke(object, method.Name, arguments, result);
+  }
   if (surfaces_->Invoke(object, method.Name, arguments, result)) return true;
   if (ObjectView* const view = ViewOf(object.Id)) {
     return view->Invoke(object, method, arguments, result);
@@ -91,6 +96,7 @@ bool Stage::Invoke(const ObjectRecord& object, const MemberInfo& method, std::sp
 
 bool Stage::Live(const ObjectRecord& object, const MemberInfo& member, std::span<const Value> index,
                  Value& out) {
+  if (object.Is(ObjectClass::Printer)) return printer_->Live(object, member.Name, out);
   if (surfaces_->Live(object, member.Name, index, out)) return true;
   if (ObjectView* const view = ViewOf(object.Id)) return view->Live(object, member, index, out);
   return LiveSystem(*this, object, member.Name, index, out);
@@ -191,6 +197,20 @@ void Stage::Repaint() {
                                   QEventLoop::ExcludeSocketNotifiers);
   --depth_;
   quiet_ = false;
+}
+
+void Stage::Rest(int wait_ms) {
+  QTimer wake;
+  wake.setSingleShot(true);
+  wake.setTimerType(Qt::PreciseTimer);
+  wake.start(wait_ms);
+  const bool before = quiet_;
+  quiet_ = true;
+  ++depth_;
+  QAbstractEventDispatcher::instance()->processEvents(QEventLoop::ExcludeUserInputEvents |
+                                                      QEventLoop::WaitForMoreEvents);
+  --depth_;
+  quiet_ = before;
 }
 
 // --- Menus

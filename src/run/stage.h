@@ -17,6 +17,7 @@
 namespace tarnwick::run {
 
 class DrawingSurfaces;
+class PagePrinter;
 
 /// Shows the records of an `ObjectWorld` as widgets and reports what the user does.
 ///
@@ -43,6 +44,9 @@ class Stage final : public objects::WidgetPort {
   void Destroy(ObjectId object) override;
   bool PumpEvents(int wait_ms) override;
   void Repaint() override;
+  /// Handles events for up to so many milliseconds, until some have come. Those of the user wait,
+  /// and nothing is reported to the program before it asks for events.
+  void Rest(int wait_ms);
   objects::TextSize Measure(const objects::FontValues& font, std::string_view text,
                             int wrap_width) override;
   objects::PickedNames PickFiles(const ObjectRecord& dialog) override;
@@ -56,6 +60,7 @@ class Stage final : public objects::WidgetPort {
   [[nodiscard]] looks::FormTexts& Texts() { return texts_; }
   [[nodiscard]] looks::PictureCache& Pictures() { return pictures_; }
   [[nodiscard]] DrawingSurfaces& Surfaces() { return *surfaces_; }
+  [[nodiscard]] PagePrinter& Printer() { return *printer_; }
   /// The view of an object; null when it is not realised.
   [[nodiscard]] ObjectView* ViewOf(ObjectId object) const;
   /// The view of the form on which an object stands; null when it stands on none.
@@ -93,6 +98,7 @@ class Stage final : public objects::WidgetPort {
   looks::FormTexts texts_;
   looks::PictureCache pictures_;
   std::unique_ptr<DrawingSurfaces> surfaces_;
+  std::unique_ptr<PagePrinter> printer_;
   std::unordered_map<ObjectId, ObjectView*> views_;
   std::vector<ObjectView*> retired_;
   std::set<ObjectId> changed_menus_;

@@ -60,6 +60,7 @@ class ObjectProgram : public basic::SourceReader {
     machine_ = std::make_unique<basic::Machine>(code_.Made, hosts, options);
     machine_->SetResources(std::move(resources));
     World->Connect(*machine_);
+    if (Network != nullptr) World->UseNetwork(*Network);
     Result = machine_->Run();
     return Printed + (Result.Text.empty() ? "" : "error: " + Result.Text);
   }
@@ -89,6 +90,7 @@ class ObjectProgram : public basic::SourceReader {
   RecordingWidgets Widgets;
   ProgramFiles Files;
   std::unique_ptr<objects::ObjectWorld> World;
+  objects::NetworkPort* Network = nullptr;  ///< null: the program has no connections
 
  private:
   std::map<std::string, std::string> sources_;

@@ -188,8 +188,10 @@ class ProgramFiles : public basic::FileHost {
   /// Masks "*" and "*.ext" and plain names in the current folder.
   std::vector<basic::FileEntry> List(std::string_view mask, int attributes) override {
     std::vector<basic::FileEntry> found;
-    const std::string lower = Lower(mask);
-    const std::string folder = current_ + "\\";
+    const std::size_t named = mask.rfind('\\');
+    const bool here = named == std::string_view::npos;
+    const std::string lower = Lower(here ? mask : mask.substr(named + 1));
+    const std::string folder = here ? current_ + "\\" : std::string(mask.substr(0, named + 1));
     const auto add = [&](const std::string& path, std::size_t size, int bits) {
       if (!path.starts_with(folder)) return;
       const std::string name = path.substr(folder.size());

@@ -36,6 +36,8 @@ LiveProgram::~LiveProgram() = default;
 void LiveProgram::Step() {
   // A timer does not fire while it is being handled: the next step has one of its own.
   if (next_ <= steps_.size()) QTimer::singleShot(pause_, &context_, [this] { Step(); });
+  // What the user does comes to a program that waits for events, not for data.
+  if (Stage.Quiet()) return;
   // The user waits for a window that has just been shown to become the active one.
   const QWidgetList windows = QApplication::topLevelWidgets();
   const bool shown = std::any_of(windows.begin(), windows.end(),
@@ -69,6 +71,7 @@ void LiveProgram::Run() {
   facts.Resources = Program.Resources;
   World = std::make_unique<objects::ObjectWorld>(Stage, &files_, std::move(facts));
   Stage.Connect(*World);
+  World->UseNetwork(Network);
   basic::RunOptions options;
   options.MaxSeconds = 30;
   machine_ = std::make_unique<basic::Machine>(

@@ -21,6 +21,7 @@
 #include "platform/profile_files.h"
 #include "run/desktop_system.h"
 #include "run/stage.h"
+#include "run/tcp_network.h"
 
 namespace tarnwick::test {
 
@@ -64,6 +65,7 @@ class LiveProgram {
   TemporaryFolder Folder;
   hosts::PreparedProgram Program;
   run::Stage Stage;
+  run::TcpNetwork Network{[this](int wait_ms) { Stage.Rest(wait_ms); }};
   std::unique_ptr<objects::ObjectWorld> World;
   std::string ExeName;
 

@@ -9,6 +9,7 @@
 
 #include "looks/platform_colors.h"
 #include "looks/text_bridge.h"
+#include "run/page_printer.h"
 #include "run/stage.h"
 #include "run/views/fields.h"
 #include "run/views/text_views.h"
@@ -199,6 +200,11 @@ bool RichEditView::Invoke(const ObjectRecord& box, const MemberInfo& method,
   }
   if (method.Name == Word::Undo) {
     Edit().undo();
+    return true;
+  }
+  if (method.Name == Word::Print) {
+    stage().Printer().Print(*Edit().document(),
+                            arguments.empty() ? std::string() : arguments[0].AsText());
     return true;
   }
   if (method.Name == Word::SelAttributes && !arguments.empty()) {

@@ -24,19 +24,20 @@ struct ViewRow {
   ObjectView* (*Make)(Stage&, const ObjectRecord&);
 };
 constexpr ViewRow kViews[] = {
-    {ObjectClass::QForm, Make<FormView>},           {ObjectClass::QButton, Make<ButtonView>},
-    {ObjectClass::QCoolBtn, Make<ButtonView>},      {ObjectClass::QOvalBtn, Make<ButtonView>},
-    {ObjectClass::QCheckBox, Make<MarkView>},       {ObjectClass::QRadioButton, Make<MarkView>},
-    {ObjectClass::QLabel, Make<LabelView>},         {ObjectClass::QImage, Make<ImageView>},
-    {ObjectClass::QCanvas, Make<ImageView>},        {ObjectClass::QEdit, Make<EditView>},
-    {ObjectClass::QRichEdit, Make<RichEditView>},   {ObjectClass::QListBox, Make<ListView>},
-    {ObjectClass::QComboBox, Make<ComboView>},      {ObjectClass::QTimer, Make<TimerView>},
-    {ObjectClass::QGlassFrame, Make<GlassView>},    {ObjectClass::QOleContainer, Make<PageView>},
-    {ObjectClass::QPanel, Make<PanelView>},         {ObjectClass::QGroupBox, Make<GroupView>},
-    {ObjectClass::QScrollBox, Make<ScrollBoxView>}, {ObjectClass::QGauge, Make<GaugeView>},
-    {ObjectClass::QTrackBar, Make<SliderView>},     {ObjectClass::QScrollBar, Make<SliderView>},
-    {ObjectClass::QStatusBar, Make<StatusView>},    {ObjectClass::QTabControl, Make<TabView>},
-    {ObjectClass::QSplitter, Make<SplitterView>},   {ObjectClass::QStringGrid, Make<GridView>},
+    {ObjectClass::QForm, Make<FormView>},         {ObjectClass::QButton, Make<ButtonView>},
+    {ObjectClass::QCoolBtn, Make<ButtonView>},    {ObjectClass::QOvalBtn, Make<ButtonView>},
+    {ObjectClass::QCheckBox, Make<MarkView>},     {ObjectClass::QRadioButton, Make<MarkView>},
+    {ObjectClass::QLabel, Make<LabelView>},       {ObjectClass::QImage, Make<ImageView>},
+    {ObjectClass::QCanvas, Make<ImageView>},      {ObjectClass::QEdit, Make<EditView>},
+    {ObjectClass::QRichEdit, Make<RichEditView>}, {ObjectClass::QListBox, Make<ListView>},
+    {ObjectClass::QFileListBox, Make<ListView>},  {ObjectClass::QComboBox, Make<ComboView>},
+    {ObjectClass::QTimer, Make<TimerView>},       {ObjectClass::QGlassFrame, Make<GlassView>},
+    {ObjectClass::QOleContainer, Make<PageView>}, {ObjectClass::QPanel, Make<PanelView>},
+    {ObjectClass::QGroupBox, Make<GroupView>},    {ObjectClass::QScrollBox, Make<ScrollBoxView>},
+    {ObjectClass::QGauge, Make<GaugeView>},       {ObjectClass::QTrackBar, Make<SliderView>},
+    {ObjectClass::QScrollBar, Make<SliderView>},  {ObjectClass::QStatusBar, Make<StatusView>},
+    {ObjectClass::QTabControl, Make<TabView>},    {ObjectClass::QSplitter, Make<SplitterView>},
+    {ObjectClass::QStringGrid, Make<GridView>},
 };
 
 }  // namespace
