@@ -163,6 +163,17 @@ TEST_F(ObjectCommandsTest, AlignToGridRoundsExactHalfDown) {
   EXPECT_EQ(a->Width, Twips(75)) << "sizes stay";
 }
 
+TEST_F(ObjectCommandsTest, AlignToGridWritesTheWholePlaceOfATransparentFrameToItsRecord) {
+  const ControlRef frame = Place("TransparentFrame", 13, 28);
+  frame->Width = Twips(123);
+  frame->Height = Twips(77);
+  commands.aligngrid();
+  EXPECT_EQ(record.TfLeft, 10);
+  EXPECT_EQ(record.TfTop, 30);
+  EXPECT_EQ(record.TfWidth, 123);
+  EXPECT_EQ(record.TfHeight, 77);
+}
+
 TEST_F(ObjectCommandsTest, AlignToGridYieldsAtEachControlAndEndsUpToDate) {
   const ControlRef frame = Place("TransparentFrame", 13, 28);
   Place("Button", 203, 11);

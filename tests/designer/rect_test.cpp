@@ -37,6 +37,8 @@ TEST(Rect, AReversedLineIsNormalisedAndFlagged) {
   EXPECT_EQ(rect.Flags, CRect::kLeftRightSwapped | CRect::kTopBottomSwapped);
   rect.SetRectToLine(1, 2, 3, 4);
   EXPECT_EQ(rect.Flags, 0);
+  rect.SetRectToLine(7, 5, 7, 5);
+  EXPECT_EQ(rect, (CRect{7, 5, 7, 5, 0})) << "nothing is reversed in a point";
 }
 
 TEST(Rect, NormalizeSwapsOnlyCrossedEdges) {

@@ -29,6 +29,7 @@ class FakeShellView final : public ShellView {
   int FormInFront = 0;
   int FocusedForm = 0;  ///< the form that got the focus last
   int CommandChanges = 0;
+  CallLog GestureLog;  ///< gestures draw too much to be of use among the commands
   bool PicturesLoad = true;
   std::function<void()> OnFormMain;
   std::function<void()> OnRestoreDialog;
@@ -68,7 +69,7 @@ class FakeShellView final : public ShellView {
     Say(visible ? "form shown" : "form hidden", std::to_string(form));
   }
   [[nodiscard]] GesturePort& Gestures(int form) override {
-    return gestures_.try_emplace(form, quiet_).first->second;
+    return gestures_.try_emplace(form, GestureLog).first->second;
   }
   [[nodiscard]] bool PictureLoads(const std::string& /*path*/) override { return PicturesLoad; }
   void ShowPanel(Panel panel, bool shown) override {
@@ -109,7 +110,7 @@ class FakeShellView final : public ShellView {
 
   /// Gestures of a form that can be steered.
   [[nodiscard]] FakeGestures& GesturesOf(int form) {
-    return gestures_.try_emplace(form, quiet_).first->second;
+    return gestures_.try_emplace(form, GestureLog).first->second;
   }
 
  private:
@@ -121,7 +122,6 @@ class FakeShellView final : public ShellView {
   }
 
   CallLog* log_;
-  CallLog quiet_;  ///< gestures draw too much to be of use among the commands
   std::map<int, FakeGestures> gestures_;
 };
 

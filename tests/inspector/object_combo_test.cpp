@@ -149,6 +149,17 @@ TEST(ObjectComboRows, WithTheRowOfTheSelectionNoneIsSelected) {
   EXPECT_EQ(bench.Sheet.Combo().Selected(), -1);
 }
 
+TEST(ObjectComboRows, ARowThatStandsFirstGoesWithItsObjectToo) {
+  SheetBench bench;
+  const ControlRef button = bench.Make(Kind::Button);
+  bench.Sheet.ClearPanelAndCombo();
+  bench.Sheet.ShowSelection();
+  ASSERT_EQ(bench.ComboRows(), Rows{"Form1Btn1   (Button)"});
+  bench.Sheet.RemoveComboRow(*button);
+  EXPECT_EQ(bench.ComboRows(), Rows{});
+  EXPECT_EQ(bench.Sheet.Combo().Selected(), -1);
+}
+
 TEST(ObjectComboRows, OfTwoObjectsWithOneNameTheDeletedOnesRowGoes) {
   SheetBench bench;
   bench.Make(Kind::Button)->Tag = "Ok";

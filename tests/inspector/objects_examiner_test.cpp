@@ -40,6 +40,18 @@ TEST(ObjectsExaminer, OpeningListsTheKindsAndSelectsTheFirst) {
   EXPECT_EQ(window.Editor(), "The window");
 }
 
+TEST(ObjectsExaminer, WithoutKindsNothingIsSelected) {
+  const SupportTables tables;
+  SheetBench bench;
+  FormViewObjects window{tables, bench.Sheet};
+  window.Open();
+  window.SelectMember(0);
+  EXPECT_TRUE(window.Lista().empty());
+  EXPECT_EQ(window.KindRow(), -1);
+  EXPECT_EQ(window.MemberRow(), -1);
+  EXPECT_EQ(window.Editor(), "");
+}
+
 TEST(ObjectsExaminer, AWantedRowIsSelectedOnce) {
   const SupportTables tables = Tables();
   SheetBench bench;

@@ -110,6 +110,14 @@ TEST(RowNumbers, SyncRowOfOtherObjectsHasNothingToBring) {
   EXPECT_EQ(button->Left, 300.0F);
 }
 
+TEST(RowNumbers, SyncRowWithNothingToBringLeavesTheTextThatIsBeingTyped) {
+  SheetBench bench;
+  bench.Make(Kind::Button);
+  bench.Type("Left", "12abc");
+  bench.Sheet.SyncRow("Button1", "left");
+  EXPECT_EQ(bench.Text("Left"), "12abc");
+}
+
 TEST(RowNumbers, SyncRowOfASelectionRowStoresTheSharedChoice) {
   SheetBench bench;
   bench.Make(Kind::Button);

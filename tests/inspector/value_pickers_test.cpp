@@ -239,6 +239,26 @@ TEST(ValuePickers, ResetRemovesThePictureOfTheControl) {
   EXPECT_EQ(image->Picture, "");
 }
 
+TEST(ValuePickers, TheViewsHearOfThePictureThatAResetTookAway) {
+  struct PictureReader final : ProjectObserver {
+    void ControlsChanged(int /*form*/) override { Picture = Control->Picture; }
+    ControlRef Control;
+    std::string Picture;
+  };
+  SupportTables rows;
+  AddKindFile(rows, "[IMAGE]\x8DIcoHandle\x99\x8E");
+  SheetBench bench{rows};
+  PictureReader view;
+  view.Control = bench.Make(Kind::Image);
+  view.Control->Picture = "C:\\a.bmp";
+  view.Picture = view.Control->Picture;
+  PropertySheet sheet{bench.Tables, rows, bench.Given, view, bench.Host, bench.Steps};
+  sheet.ShowSelection();
+  sheet.SelectRow(1);
+  sheet.ResetValue();
+  EXPECT_EQ(view.Picture, "");
+}
+
 TEST(ValuePickers, ResetOfARowWithoutANeutralTextDoesNothing) {
   SheetBench bench;
   bench.Make(Kind::OpenDialog);

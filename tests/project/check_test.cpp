@@ -362,6 +362,12 @@ TEST_F(CheckTest, StrictTypeCheckingDoesNotGoWithATransparentFrame) {
   EXPECT_EQ(Found("[DeclarePbl] String<$TYPECHECK ON>String\r\n"), Ids{});
 }
 
+TEST_F(CheckTest, ADirectiveWithoutAValueAsksForNoDeclarations) {
+  const std::string frame = "[TransparentFrame] {T}\r\n";
+  EXPECT_EQ(Found(frame + "[DeclarePbl] String<$TYPECHECK>String\r\n"), Ids{});
+  EXPECT_EQ(Found(frame + "[DeclarePbl] String<$OPTION>String\r\n"), Ids{});
+}
+
 TEST_F(CheckTest, StrictTypeCheckingCountsWhereverItIsWritten) {
   EXPECT_EQ(Only("[TransparentFrame] {T}\r\n[Button] (1) {A} Image<(None)>Image "
                  "Click<x = 1\x95$TYPECHECK ON>Click\r\n")

@@ -47,6 +47,13 @@ TEST_F(RecoveryTest, AChangeIsWrittenOnceAndASettledProjectTakesItAway) {
   EXPECT_FALSE(IsKept());
 }
 
+TEST_F(RecoveryTest, ASettledProjectOfWhichNothingWasKeptRemovesNoFile) {
+  project.Ports.Log.Clear();
+  recovery.Settle();
+  EXPECT_EQ(project.Ports.Log.Count("replace"), 1U) << "the name of the project";
+  EXPECT_EQ(project.Ports.Log.Count("remove"), 0U);
+}
+
 TEST_F(RecoveryTest, AChangeTakenBackByHandIsNotKeptAnyMore) {
   project.Form(1).Hint = "new";
   recovery.Keep();
@@ -112,6 +119,16 @@ TEST_F(RecoveryTest, TheLastTenAreKeptAndTheNewestStandsFirst) {
 TEST_F(RecoveryTest, AnEndWithNothingLeftBehindTakesTheFolderAway) {
   recovery.End();
   EXPECT_TRUE(folders.List("C:\\T\\recovery").empty());
+}
+
+TEST_F(RecoveryTest, NothingIsWrittenAfterTheEnd) {
+  recovery.End();
+  project.Form(1).Hint = "new";
+  project.Ports.Log.Clear();
+  recovery.Keep();
+  recovery.LeaveBehind();
+  recovery.Settle();
+  EXPECT_EQ(project.Ports.Log.Entries(), std::vector<std::string>());
 }
 
 TEST_F(RecoveryTest, AnEndKeepsTheFolderOfWorkThatWasLeftBehind) {

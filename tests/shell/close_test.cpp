@@ -96,6 +96,7 @@ TEST_F(CloseTest, TheWindowsAreUnloadedInTheirOrder) {
   const std::string view_codes = entry(SideWindow::FormViewCodes);
   ExpectOrder({add_items, code, logo, menu, popup, view_codes, "told closing 1", "told closing 2",
                "view unload container"});
+  EXPECT_EQ(log().Count("view unload "), kSideWindowCount + 1) << "each once, and the container";
 }
 
 TEST_F(CloseTest, ASecondRequestAsksNothingMore) {

@@ -44,7 +44,7 @@ TEST_F(DesignerLinkTest, WithTheCodeClosedAPressSelects) {
   EXPECT_EQ(log().Count("windows code to front"), 0U);
 }
 
-TEST_F(DesignerLinkTest, ARecolouredFormDrawsItsPointsAgain) {
+TEST_F(DesignerLinkTest, ARecolouredFormDrawsItsPointsAgainAndTakesTheFocus) {
   const ControlRef handle = surface().Form().Element(Kind::Handle, 0);
   ASSERT_NE(handle, nullptr);
   const float width = handle->Width;
@@ -55,8 +55,10 @@ TEST_F(DesignerLinkTest, ARecolouredFormDrawsItsPointsAgain) {
   int row = 0;
   while (row < sheet.RowCount() && sheet.Label(row) != "Color") ++row;
   sheet.SelectRow(row);
+  view.GestureLog.Clear();
   ASSERT_TRUE(sheet.ApplyText("255"));
   EXPECT_EQ(handle->Width, width) << "points and handles are drawn together";
+  EXPECT_EQ(view.GestureLog.Count("focus"), 1U);
 }
 
 TEST_F(DesignerLinkTest, AFileThatTheDesktopNamesBeforeTheStartIsThroughIsLeft) {

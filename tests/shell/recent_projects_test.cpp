@@ -23,6 +23,7 @@ TEST_F(RecentProjectsTest, EightAreKept) {
   ASSERT_EQ(recent.List().size(), 8U);
   EXPECT_EQ(recent.List().front(), "Z:\\9.tnp");
   EXPECT_EQ(recent.List().back(), "Z:\\2.tnp");
+  EXPECT_EQ(settings.Read("Recent", "9"), "") << "no more than that is written";
 }
 
 TEST_F(RecentProjectsTest, ClearEmptiesTheList) {

@@ -369,6 +369,9 @@ TEST_F(RunCommandTest, LinesWithoutAPlaceAndOtherFilesKeepTheirNumbers) {
   EXPECT_EQ(Shown()[0].Text, "a.com, line 1: first");
   EXPECT_EQ(Shown()[1].Text, "other.inc, line 7: elsewhere");
   EXPECT_EQ(Shown()[2].Text, "in general");
+  EXPECT_EQ(Shown()[0].SourceLine, 1);
+  EXPECT_EQ(Shown()[1].SourceLine, 0);
+  EXPECT_EQ(Shown()[2].SourceLine, 0);
 }
 
 TEST_F(RunCommandTest, TheEndTellsHowManyNotesThereWere) {

@@ -64,6 +64,24 @@ TEST_F(UnsavedWorkTest, RestoredWorkIsAProjectWithItsOldPathsNotSaved) {
   EXPECT_NE(third.Tables().CurrentForm->FindByTag("Form1Btn1"), nullptr);
 }
 
+TEST_F(UnsavedWorkTest, TheListOfTheRestoredFormsIsShownWithTheirMainForm) {
+  struct FormListReader final : ProjectObserver {
+    explicit FormListReader(const ProjectTables& tables) : Tables(tables) {}
+    void FormListChanged() override { MainForm = Tables.MainFormName; }
+    const ProjectTables& Tables;
+    std::string MainForm;
+  };
+  main.Commands().Run(Command::AddNewForm);
+  tables().MainFormName = "Form2 ()";
+  main.KeepWork();
+  Crash();
+  FormListReader list(next.Tables());
+  next.AddObserver(list);
+  next.Projects().Restore(next.Projects().UnsavedWork().at(0));
+  EXPECT_EQ(next.Tables().MainFormName, "Form2 ()");
+  EXPECT_EQ(list.MainForm, "Form2 ()");
+}
+
 TEST_F(UnsavedWorkTest, AProjectThatWasNeverSavedComesBackToo) {
   main.Commands().Run(Command::AddNewForm);
   Place(3, 20, 20);
