@@ -54,6 +54,8 @@ using BehaviourRows = std::span<const BehaviourRow>;
 [[nodiscard]] BehaviourRows SocketBehaviour();
 [[nodiscard]] BehaviourRows FileListBehaviour();
 [[nodiscard]] BehaviourRows PrinterBehaviour();
+[[nodiscard]] BehaviourRows ListViewBehaviour();
+[[nodiscard]] BehaviourRows TreeBehaviour();
 
 // --- Functions that several groups use
 

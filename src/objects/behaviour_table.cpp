@@ -7,10 +7,10 @@ namespace tarnwick::objects {
 namespace {
 
 constexpr std::array kGroups = {
-    FormBehaviour,       ButtonBehaviour, ListBehaviour,    MenuBehaviour,   TextBehaviour,
-    LabelBehaviour,      FontBehaviour,   PictureBehaviour, DialogBehaviour, StreamBehaviour,
-    StreamDataBehaviour, SystemBehaviour, GridBehaviour,    PageBehaviour,   SocketBehaviour,
-    FileListBehaviour,   PrinterBehaviour};
+    FormBehaviour,       ButtonBehaviour,  ListBehaviour,     MenuBehaviour,   TextBehaviour,
+    LabelBehaviour,      FontBehaviour,    PictureBehaviour,  DialogBehaviour, StreamBehaviour,
+    StreamDataBehaviour, SystemBehaviour,  GridBehaviour,     PageBehaviour,   SocketBehaviour,
+    FileListBehaviour,   PrinterBehaviour, ListViewBehaviour, TreeBehaviour};
 
 using ClassBehaviour = std::vector<Behaviour>;  ///< by member
 
@@ -61,6 +61,8 @@ constexpr StartRow kStartRows[] = {
     {ObjectClass::QRichEdit, MakeState<TextLines>},
     {ObjectClass::QStringGrid, MakeState<GridCells>},
     {ObjectClass::QStatusBar, MakeState<Panels>},
+    {ObjectClass::QListView, MakeState<ListRows>},
+    {ObjectClass::QTreeView, MakeState<TreeNodes>},
     {ObjectClass::QImageList, MakeState<PickedFiles>},
 };
 

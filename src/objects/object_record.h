@@ -69,6 +69,38 @@ struct Panels {
   std::vector<ObjectId> All;
 };
 
+/// Items of a list with columns, in order. The first text of an item is its caption.
+struct ListRows {
+  struct Column {
+    std::string Caption;
+    int Width = 50;     ///< pixels
+    int Alignment = 0;  ///< 0 left, 1 right, 2 centre
+  };
+  struct Row {
+    std::vector<std::string> Texts;
+    int Image = -1;  ///< index of its picture; -1: none
+    bool Checked = false;
+    bool Selected = false;  ///< of a list with MultiSelect
+  };
+  std::vector<Column> Columns;
+  std::vector<Row> Rows;
+  std::vector<ObjectId> ItemObjects;    ///< that stand for rows, by index; made when asked for
+  std::vector<ObjectId> ColumnObjects;  ///< that stand for columns
+};
+
+/// Nodes of a tree: each one in front of those below it, which have the next level.
+struct TreeNodes {
+  struct Node {
+    std::string Text;
+    int Level = 0;
+    bool Expanded = false;
+    int Image = -1;          ///< index of its picture; -1: none
+    int SelectedImage = -1;  ///< of its picture while it is picked; -1: the same
+  };
+  std::vector<Node> All;
+  std::vector<ObjectId> Objects;  ///< that stand for nodes, by index; made when asked for
+};
+
 /// What a form keeps besides its properties.
 struct FormState {
   bool Centered = false;           ///< placed in the middle of the screen when it is shown
@@ -79,7 +111,7 @@ struct FormState {
 };
 
 using ObjectState = std::variant<std::monostate, ListItems, MenuRows, StreamState, PickedFiles,
-                                 TextLines, GridCells, Panels, FormState>;
+                                 TextLines, GridCells, Panels, ListRows, TreeNodes, FormState>;
 
 /// One object of the running program.
 struct ObjectRecord {

@@ -288,11 +288,24 @@ bool SetSelAttributes(ObjectWorld& world, ObjectRecord& box, const MemberInfo& m
   return true;
 }
 
+/// Without a mask the text that is edited is the text.
+bool GetEditText(ObjectWorld&, ObjectRecord& box, const MemberInfo&, std::span<const Value>,
+                 Value& out) {
+  out = box.At(Word::Text);
+  return true;
+}
+
+bool SetEditText(ObjectWorld& world, ObjectRecord& box, const MemberInfo&,
+                 std::span<const Value> index, const Value& in) {
+  return SetText(world, box, *box.Info().Find(Word::Text), index, in);
+}
+
 using enum ObjectClass;
 constexpr Behaviour kText{.Set = SetText, .Changed = TextChanged};
 constexpr BehaviourRow kRows[] = {
     {QEdit, Word::Text, kText},
     {QRichEdit, Word::Text, kText},
+    {QEdit, Word::EditText, {.Get = GetEditText, .Set = SetEditText}},
     {None, Word::SelText, {.Get = GetSelected, .Set = SetSelected}},
     {None, Word::SelStart, {.Get = LiveValue}},
     {None, Word::SelLength, {.Get = LiveValue}},

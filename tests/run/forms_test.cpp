@@ -43,6 +43,25 @@ TEST(RunFormTest, EachBorderStyleHasItsFrame) {
   }
 }
 
+TEST(RunFormTest, AnotherBorderLeavesTheWindowAtItsPlace) {
+  LiveProgram live(
+      FormWith("DIM Go AS QBUTTON", "SUB Change\nF.BorderStyle = 3\nEND SUB\nGo.OnClick = Change"));
+  QPoint before;
+  live.Then([&] {
+    before = live.Widget("F")->pos();
+    live.World->Click(live.Object("Go").Id);
+  });
+  live.Then([&] {
+    EXPECT_EQ(before, QPoint(40, 40));
+    EXPECT_TRUE(live.Widget("F")->isVisible());
+    EXPECT_EQ(live.Widget("F")->pos(), QPoint(40, 40));
+    EXPECT_GE(live.Widget("F")->geometry().y(), 40);
+    EXPECT_EQ(live.Get("F", "Top"), "40");
+    EXPECT_EQ(ClientOf(live).size(), QSize(316, 212));
+  });
+  live.Run();
+}
+
 TEST(RunFormTest, ClosingAsksOnCloseAndHides) {
   LiveProgram live(
       "DIM F AS QFORM\nDIM Asked AS INTEGER\n"

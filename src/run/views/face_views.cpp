@@ -14,6 +14,9 @@
 namespace tarnwick::run {
 namespace {
 
+constexpr std::int64_t kRaised = 1;
+constexpr std::int64_t kLowered = 2;
+
 constexpr Qt::Alignment kAcross[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 constexpr Qt::Alignment kDown[] = {Qt::AlignTop, Qt::AlignVCenter, Qt::AlignBottom};
 
@@ -43,9 +46,24 @@ void LabelView::Paint(QPainter& painter) const {
   if (!label->Truth(Word::Transparent)) {
     face.Ground = looks::ColorOf(static_cast<std::int32_t>(label->Number(Word::Color)));
   }
-  looks::DrawLabelFace(
-      painter, stage().Texts(), Widget()->rect(),
-      {label->Text(Word::Caption), stage().FontOf(*label), ink, Widget()->isEnabled()}, face);
+  const auto draw = [&](const QPoint& by, const QColor& color) {
+    looks::DrawLabelFace(
+        painter, stage().Texts(), Widget()->rect().translated(by),
+        {label->Text(Word::Caption), stage().FontOf(*label), color, Widget()->isEnabled()}, face);
+  };
+  // The letters of a raised label are lit from above on the left, those of a lowered one shaded.
+  const std::int64_t style = label->Number(Word::LabelStyle);
+  if (style == kRaised || style == kLowered) {
+    if (face.Ground) painter.fillRect(Widget()->rect(), *face.Ground);
+    face.Ground.reset();
+    const int up = style == kRaised ? -1 : 1;
+    const auto color = [&](Word word) {
+      return looks::ColorOf(static_cast<std::int32_t>(label->Number(word)));
+    };
+    draw(QPoint(up, up), color(Word::UpperColor));
+    draw(QPoint(-up, -up), color(Word::LowerColor));
+  }
+  draw(QPoint(), ink);
 }
 
 ImageView::ImageView(Stage& stage, const ObjectRecord& image)

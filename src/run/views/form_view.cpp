@@ -149,6 +149,8 @@ void FormView::ShowFrame(const ObjectRecord& form) {
   showing_ = true;
   window_->setWindowFlags(flags);
   ShowSize(form);
+  // The window is another one to the desktop, which knows its frame only when it is shown.
+  window_->move(PlaceOf(form).topLeft());
   if (seen) window_->show();
   showing_ = false;
 }

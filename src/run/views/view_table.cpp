@@ -5,11 +5,13 @@
 #include "run/views/face_views.h"
 #include "run/views/form_view.h"
 #include "run/views/grid_view.h"
+#include "run/views/list_rows_view.h"
 #include "run/views/list_views.h"
 #include "run/views/other_views.h"
 #include "run/views/panel_views.h"
 #include "run/views/tab_view.h"
 #include "run/views/text_views.h"
+#include "run/views/tree_view.h"
 
 namespace tarnwick::run {
 namespace {
@@ -30,6 +32,7 @@ constexpr ViewRow kViews[] = {
     {ObjectClass::QLabel, Make<LabelView>},       {ObjectClass::QImage, Make<ImageView>},
     {ObjectClass::QCanvas, Make<ImageView>},      {ObjectClass::QEdit, Make<EditView>},
     {ObjectClass::QRichEdit, Make<RichEditView>}, {ObjectClass::QListBox, Make<ListView>},
+    {ObjectClass::QListView, Make<ListRowsView>}, {ObjectClass::QTreeView, Make<TreeView>},
     {ObjectClass::QFileListBox, Make<ListView>},  {ObjectClass::QComboBox, Make<ComboView>},
     {ObjectClass::QTimer, Make<TimerView>},       {ObjectClass::QGlassFrame, Make<GlassView>},
     {ObjectClass::QOleContainer, Make<PageView>}, {ObjectClass::QPanel, Make<PanelView>},
