@@ -238,23 +238,7 @@ void RunRow(const ClassInfo& kind, const MemberInfo& event, const MemberRow& row
 }
 
 TEST(ClassEventsTest, EveryOneIsRaisedByTheUserWithItsArguments) {
-  const test::MemberTable table("class_events.tsv");
-  const objects::ClassTable classes;
-  for (const std::string& name : test::GeneratedClasses()) {
-    const auto id = classes.FindClass(name);
-    ASSERT_TRUE(id.has_value()) << name;
-    const ClassInfo& kind = objects::InfoOf(*id);
-    for (const MemberInfo& member : kind.Members) {
-      if (!test::Works(member, true)) continue;
-      const MemberRow* const row = table.Find(name, member.Facts.Name);
-      if (row == nullptr) {
-        ADD_FAILURE() << name << "." << member.Facts.Name << " has no row in the table";
-        continue;
-      }
-      RunRow(kind, member, *row);
-    }
-  }
-  EXPECT_EQ(table.Unused(), std::vector<std::string>());
+  test::ForEachWorkingMember("class_events.tsv", true, RunRow);
 }
 
 }  // namespace

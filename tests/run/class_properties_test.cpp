@@ -150,23 +150,9 @@ class PropertyRun {
 };
 
 TEST(ClassPropertiesTest, EveryOneIsSetReadBackAndSeen) {
-  const test::MemberTable table("class_properties.tsv");
-  const objects::ClassTable classes;
-  for (const std::string& name : test::GeneratedClasses()) {
-    const auto id = classes.FindClass(name);
-    ASSERT_TRUE(id.has_value()) << name;
-    const ClassInfo& kind = objects::InfoOf(*id);
-    for (const MemberInfo& member : kind.Members) {
-      if (!test::Works(member, false)) continue;
-      const MemberRow* const row = table.Find(name, member.Facts.Name);
-      if (row == nullptr) {
-        ADD_FAILURE() << name << "." << member.Facts.Name << " has no row in the table";
-        continue;
-      }
-      PropertyRun(kind, member, *row).Run();
-    }
-  }
-  EXPECT_EQ(table.Unused(), std::vector<std::string>());
+  test::ForEachWorkingMember("class_properties.tsv", false,
+                             [](const ClassInfo& kind, const MemberInfo& member,
+                                const MemberRow& row) { PropertyRun(kind, member, row).Run(); });
 }
 
 }  // namespace

@@ -3,11 +3,26 @@
 #include <fstream>
 #include <iterator>
 
+#include <gtest/gtest.h>
+
 #include "fakes/build_paths.h"
 #include "text/code_page.h"
 #include "text/strings.h"
 
 namespace tarnwick::test {
+
+namespace {
+
+/// True for a property or event that the class table says works.
+bool Works(const objects::MemberInfo& member, bool event) {
+  using basic::MemberKind;
+  const MemberKind kind = member.Facts.Kind;
+  const bool property = kind == MemberKind::Property || kind == MemberKind::ArrayProperty;
+  return (event ? kind == MemberKind::Event : property) &&
+         member.Facts.Level == basic::SupportLevel::Full;
+}
+
+}  // namespace
 
 const std::vector<std::string>& GeneratedClasses() {
   static const std::vector<std::string> kClasses{
@@ -60,12 +75,27 @@ std::vector<std::string> MemberTable::Unused() const {
   return names;
 }
 
-bool Works(const objects::MemberInfo& member, bool event) {
-  using basic::MemberKind;
-  const MemberKind kind = member.Facts.Kind;
-  const bool property = kind == MemberKind::Property || kind == MemberKind::ArrayProperty;
-  return (event ? kind == MemberKind::Event : property) &&
-         member.Facts.Level == basic::SupportLevel::Full;
+void ForEachWorkingMember(
+    const std::string& file, bool events,
+    const std::function<void(const objects::ClassInfo& kind, const objects::MemberInfo& member,
+                             const MemberRow& row)>& run) {
+  const MemberTable table(file);
+  const objects::ClassTable classes;
+  for (const std::string& name : GeneratedClasses()) {
+    const auto id = classes.FindClass(name);
+    ASSERT_TRUE(id.has_value()) << name;
+    const objects::ClassInfo& kind = objects::InfoOf(*id);
+    for (const objects::MemberInfo& member : kind.Members) {
+      if (!Works(member, events)) continue;
+      const MemberRow* const row = table.Find(name, member.Facts.Name);
+      if (row == nullptr) {
+        ADD_FAILURE() << name << "." << member.Facts.Name << " has no row in " << file;
+        continue;
+      }
+      run(kind, member, *row);
+    }
+  }
+  EXPECT_EQ(table.Unused(), std::vector<std::string>());
 }
 
 }  // namespace tarnwick::test

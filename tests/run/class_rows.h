@@ -2,6 +2,7 @@
 // table says is there.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -38,7 +39,12 @@ class MemberTable {
   std::vector<Entry> entries_;
 };
 
-/// True for a property or event that the class table says works.
-[[nodiscard]] bool Works(const objects::MemberInfo& member, bool event);
+/// Calls `run` with each event of the generated classes that the class table says works, or with
+/// each such property, and its row of tests/run/<file>. A member without a row and a row without a
+/// member fail the test.
+void ForEachWorkingMember(
+    const std::string& file, bool events,
+    const std::function<void(const objects::ClassInfo& kind, const objects::MemberInfo& member,
+                             const MemberRow& row)>& run);
 
 }  // namespace tarnwick::test
