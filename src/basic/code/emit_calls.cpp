@@ -1,4 +1,6 @@
 // Calls of procedures, library functions, methods, and properties, which are called likewise.
+#include <utility>
+
 #include "basic/code/procedure_emitter.h"
 
 namespace tarnwick::basic {
@@ -61,34 +63,48 @@ Operand ProcedureEmitter::ReadArgument(const Argument& argument, Until until, Ca
   return address;
 }
 
+ProcedureEmitter::CallArguments ProcedureEmitter::NewCall() {
+  if (spare_calls_.empty()) return {};
+  CallArguments call = std::move(spare_calls_.back());
+  spare_calls_.pop_back();
+  return call;
+}
+
 ProcedureEmitter::CallArguments ProcedureEmitter::ReadArguments(ArgumentList arguments,
                                                                 const Procedure* target) {
-  CallArguments call;
-  call.Shape.Arguments.reserve(arguments.size());
-  call.Registers.reserve(arguments.size());
-  call.Held.reserve(arguments.size());
+  CallArguments call = NewCall();
   // In front of the last one that runs code, values are kept apart.
   std::size_t last = arguments.size();
   while (last > 0 && !ArgumentRunsCode(arguments[last - 1])) --last;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
-    if (arguments[i].Value == nullptr || arguments[i].Value->Kind.Kind == Storage::None) {
-      call.Shape.Arguments.push_back({SlotKind::Empty, Storage::None, false});
-      call.Registers.push_back(0);
-      continue;
-    }
     const bool known = target != nullptr && !target->Variadic && i < target->ParameterCount;
-    const Operand operand = ReadArgument(arguments[i], i + 1 < last ? Until::Later : Until::Now,
-                                         call, known ? &target->Locals[i] : nullptr);
-    call.Registers.push_back(operand.Register);
-    call.Held.push_back(operand);
+    AddArgument(arguments[i], i + 1 < last ? Until::Later : Until::Now, call,
+                known ? &target->Locals[i] : nullptr);
   }
   return call;
+}
+
+void ProcedureEmitter::AddArgument(const Argument& argument, Until until, CallArguments& call,
+                                   const Variable* parameter) {
+  if (argument.Value == nullptr || argument.Value->Kind.Kind == Storage::None) {
+    call.Shape.Arguments.push_back({SlotKind::Empty, Storage::None, false});
+    call.Registers.push_back(0);
+    return;
+  }
+  const Operand operand = ReadArgument(argument, until, call, parameter);
+  call.Registers.push_back(operand.Register);
+  call.Held.push_back(operand);
 }
 
 void ProcedureEmitter::FinishCall(CallArguments& call, SlotKind result) {
   call.Shape.Result = result;
   code_.Arguments(call.Shape, call.Registers);
   Free(call.Held);
+  // The next call takes over the memory of the lists.
+  call.Shape.Arguments.clear();
+  call.Registers.clear();
+  call.Held.clear();
+  spare_calls_.push_back(std::move(call));
 }
 
 void ProcedureEmitter::Store(const ProcedureCall& node, const Expression& whole,
@@ -118,10 +134,13 @@ void ProcedureEmitter::Store(const DllCall& node, const Expression& whole, std::
 
 void ProcedureEmitter::Store(const BuiltInCall& node, const Expression& whole,
                              std::uint16_t target) {
-  std::vector<Argument> arguments;
-  arguments.reserve(node.Arguments.size());
-  for (const Expression* const argument : node.Arguments) arguments.push_back({argument});
-  CallArguments call = ReadArguments(arguments, nullptr);
+  const ExpressionList values = node.Arguments;
+  CallArguments call = NewCall();
+  std::size_t last = values.size();
+  while (last > 0 && !ArgumentRunsCode({values[last - 1]})) --last;
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    AddArgument({values[i]}, i + 1 < last ? Until::Later : Until::Now, call, nullptr);
+  }
   code_.Add(Op::CALL_LIBRARY, target, static_cast<std::size_t>(node.Function));
   FinishCall(call, SlotKindOf(whole.Kind));
 }

@@ -92,6 +92,9 @@ class ProcedureEmitter {
     std::vector<std::uint16_t> Registers;
     std::vector<Operand> Held;
   };
+  CallArguments NewCall();
+  void AddArgument(const Argument& argument, Until until, CallArguments& call,
+                   const Variable* parameter);
   CallArguments ReadArguments(ArgumentList arguments, const Procedure* target);
   Operand ReadArgument(const Argument& argument, Until until, CallArguments& call,
                        const Variable* parameter);
@@ -179,6 +182,7 @@ class ProcedureEmitter {
   Registers registers_;
   std::vector<CodeLabel> labels_;
   std::vector<CodeLabel*> loop_ends_;
+  std::vector<CallArguments> spare_calls_;  ///< empty ones, whose memory is used again
   CodeLabel end_;
 };
 

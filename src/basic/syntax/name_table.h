@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <string_view>
 #include <unordered_map>
-#include <vector>
 
 #include "basic/syntax/words.h"
 #include "text/code_page.h"
@@ -22,16 +21,9 @@ class NameTable {
 
   /// The number of a name, which is taken in when it is new. None for "".
   NameId Of(std::string_view name);
-  /// The number of a name; None when it has never been taken in.
-  [[nodiscard]] NameId Find(std::string_view name) const;
-  /// The name as it was first written.
-  [[nodiscard]] std::string_view TextOf(NameId name) const {
-    return texts_[static_cast<std::size_t>(name)];
-  }
 
  private:
   std::unordered_map<std::string_view, NameId, FoldedHash, FoldedEqual> numbers_;
-  std::vector<std::string_view> texts_;
 };
 
 /// The word that a name is; None for any other name. The words have the first numbers.
