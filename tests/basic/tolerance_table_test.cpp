@@ -45,7 +45,9 @@ TEST(ToleranceTable, ARowForEachNameIsWhole) {
 
 TEST(ToleranceTable, TheOrderOfTheRowsIsFree) {
   const std::string first(kToleranceNames[0]);
-  const ToleranceTable table = ReadTolerances(Rows(first + "\tx = 1\tmerge\tn\tr\n", 0));
+  // The rows point into the text.
+  const std::string text = Rows(first + "\tx = 1\tmerge\tn\tr\n", 0);
+  const ToleranceTable table = ReadTolerances(text);
   EXPECT_TRUE(table.Whole);
   EXPECT_EQ(table.Rows[0].Line, "x = 1");
   EXPECT_EQ(table.Rows[0].Effect, ToleranceEffect::Merge);
