@@ -1,8 +1,11 @@
 #include "objects/supported_list.h"
 
+#include <array>
+#include <string_view>
 #include <vector>
 
 #include "basic/lib/function_table.h"
+#include "basic/syntax/tolerances.h"
 #include "objects/class_table.h"
 #include "text/strings.h"
 
@@ -10,6 +13,14 @@ namespace tarnwick::objects {
 namespace {
 
 using basic::SupportLevel;
+
+struct LevelRow {
+  SupportLevel Level;
+  std::string_view Head;
+};
+constexpr std::array<LevelRow, 3> kLevels = {{{SupportLevel::Full, "works"},
+                                              {SupportLevel::Stored, "kept without effect"},
+                                              {SupportLevel::None, "passed over"}}};
 
 std::string NamesOf(const ClassInfo& row, SupportLevel level) {
   std::vector<std::string> names;
@@ -19,8 +30,14 @@ std::string NamesOf(const ClassInfo& row, SupportLevel level) {
   return Join(names, " ");
 }
 
-void Add(std::string& text, std::string_view head, const std::string& names) {
-  if (!names.empty()) text += "  " + std::string(head) + ": " + names + "\n";
+std::string WhyLeftOut(const basic::LeftOut& word) {
+  return std::string(word.Reason) +
+         (word.Instead.empty() ? "" : ". Use " + std::string(word.Instead));
+}
+
+/// A text between the signs of code of Markdown.
+std::string AsCode(std::string_view text) {
+  return '`' + std::string(text) + '`';
 }
 
 }  // namespace
@@ -29,14 +46,45 @@ std::string SupportedList() {
   std::string text;
   for (const ClassInfo& row : ClassRows()) {
     text += std::string(row.Name) + (row.Note.empty() ? "" : ". " + std::string(row.Note)) + "\n";
-    Add(text, "works", NamesOf(row, SupportLevel::Full));
-    Add(text, "kept without effect", NamesOf(row, SupportLevel::Stored));
-    Add(text, "passed over", NamesOf(row, SupportLevel::None));
+    for (const LevelRow& level : kLevels) {
+      const std::string names = NamesOf(row, level.Level);
+      if (!names.empty()) text += "  " + std::string(level.Head) + ": " + names + "\n";
+    }
   }
   text += "\nLeft out:\n";
   for (const basic::LeftOut& word : basic::LeftOutWords()) {
-    text += "  " + std::string(word.Name) + ": " + std::string(word.Reason) +
-            (word.Instead.empty() ? "" : ". Use " + std::string(word.Instead)) + "\n";
+    text += "  " + std::string(word.Name) + ": " + WhyLeftOut(word) + "\n";
+  }
+  text += "\nAccepted in generated programs, but for --strict:\n";
+  for (const basic::ToleranceRow& row : basic::kTolerances) {
+    text += "  " + std::string(row.Line) + ": " + std::string(TextOf(row.Effect)) + "\n";
+  }
+  return text;
+}
+
+std::string SupportedPage() {
+  std::string text =
+      "# What the runner supports\n\n"
+      "The runner knows these classes. A member that is *kept without effect* takes its value and "
+      "gives it back; a line with one that is *passed over* has a note.\n\n";
+  for (const ClassInfo& row : ClassRows()) {
+    text += "## " + std::string(row.Name) + "\n\n";
+    if (!row.Note.empty()) text += std::string(row.Note) + "\n\n";
+    for (const LevelRow& level : kLevels) {
+      const std::string names = NamesOf(row, level.Level);
+      if (!names.empty()) text += "*" + std::string(level.Head) + "*: " + names + "\n\n";
+    }
+  }
+  text += "## Left out\n\n| word | why |\n|---|---|\n";
+  for (const basic::LeftOut& word : basic::LeftOutWords()) {
+    text += "| " + AsCode(word.Name) + " | " + WhyLeftOut(word) + " |\n";
+  }
+  text +=
+      "\n## Accepted in generated programs\n\n"
+      "Some lines that Tarnwick generates are irregular. The runner accepts them, the compiler may "
+      "not.\n\n| line | |\n|---|---|\n";
+  for (const basic::ToleranceRow& row : basic::kTolerances) {
+    text += "| " + AsCode(row.Line) + " | " + std::string(TextOf(row.Effect)) + " |\n";
   }
   return text;
 }

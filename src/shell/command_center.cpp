@@ -5,6 +5,7 @@
 #include "shell/edit_commands.h"
 #include "shell/findings_list.h"
 #include "shell/form_commands.h"
+#include "shell/help_pages.h"
 #include "shell/project_commands.h"
 #include "shell/run_command.h"
 #include "shell/shell_state.h"
@@ -97,6 +98,10 @@ void CommandCenter::Dispatch(Command command) {
       return Toggle(Panel::Output);
     case Command::Help:
       return OpenHelp();
+    case Command::HelpRunning:
+    case Command::HelpChoices:
+    case Command::HelpSupported:
+      return state_.View->ShowHelpPage(*HelpPageOf(command));
     case Command::Restore:
       return state_.View->RunRestoreDialog();
     case Command::About:

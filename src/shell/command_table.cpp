@@ -79,6 +79,11 @@ constexpr std::array kRunWithRows{
 
 constexpr std::array kHelpRows{
     MenuRow{"mnuHelp", "&Contents", "F1", Command::Help},
+    kSeparator,
+    MenuRow{"mnuHelpRunning", "&Runner and Compiler", "", Command::HelpRunning},
+    MenuRow{"mnuHelpChoices", "C&hoices of the Runner", "", Command::HelpChoices},
+    MenuRow{"mnuHelpSupported", "What the Runner &Supports", "", Command::HelpSupported},
+    kSeparator,
     MenuRow{"mnuAbout", "&About Tarnwick", "", Command::About},
 };
 

@@ -48,6 +48,9 @@ enum class Command : std::uint8_t {
   Check,
   Output,
   Help,
+  HelpRunning,
+  HelpChoices,
+  HelpSupported,
   About,
 };
 inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(Command::About) + 1;

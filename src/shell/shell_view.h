@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/ports.h"
+#include "shell/help_pages.h"
 #include "shell/panels.h"
 
 namespace tarnwick {
@@ -99,6 +100,8 @@ class ShellView {
   virtual void RunFormMain() = 0;
   /// Opens `FormAddItems` on the selected list of the form and returns when it is closed.
   virtual void RunItemDialog(int form) = 0;
+  /// Opens a page of the help in a window of its own, in front.
+  virtual void ShowHelpPage(HelpPage page) = 0;
   /// Name, version and program folder, in a box.
   virtual void ShowAbout(std::string_view program_folder) = 0;
   /// Takes a half-typed value out of the focused widget into the tables.

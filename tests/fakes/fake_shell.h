@@ -97,6 +97,7 @@ class FakeShellView final : public ShellView {
     if (OnFormMain) OnFormMain();
   }
   void RunItemDialog(int form) override { Say("item edit", std::to_string(form)); }
+  void ShowHelpPage(HelpPage page) override { Say("help", RowOf(page).File); }
   void ShowAbout(std::string_view program_folder) override { Say("about", program_folder); }
   void CommitPendingEdits() override { Say("commit"); }
   void CloseMainWindow() override {

@@ -98,7 +98,14 @@ const std::vector<Column>& ExpectedMenus() {
         line,
         {"mnuCheck", "C&heck", "Shift+F8"},
         {"mnuOutput", "&Output", ""}}},
-      {"&Help", {{"mnuHelp", "&Contents", "F1"}, {"mnuAbout", "&About Tarnwick", ""}}},
+      {"&Help",
+       {{"mnuHelp", "&Contents", "F1"},
+        line,
+        {"mnuHelpRunning", "&Runner and Compiler", ""},
+        {"mnuHelpChoices", "C&hoices of the Runner", ""},
+        {"mnuHelpSupported", "What the Runner &Supports", ""},
+        line,
+        {"mnuAbout", "&About Tarnwick", ""}}},
   };
   return menus;
 }

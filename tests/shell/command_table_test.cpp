@@ -103,6 +103,11 @@ TEST(CommandTable, EachRowOfTheMenuBarHasItsNameCaptionKeyAndCommand) {
        {"mnuCheck", "C&heck", "Shift+F8", Command::Check},
        {"mnuOutput", "&Output", "", Command::Output}},
       {{"mnuHelp", "&Contents", "F1", Command::Help},
+       {},
+       {"mnuHelpRunning", "&Runner and Compiler", "", Command::HelpRunning},
+       {"mnuHelpChoices", "C&hoices of the Runner", "", Command::HelpChoices},
+       {"mnuHelpSupported", "What the Runner &Supports", "", Command::HelpSupported},
+       {},
        {"mnuAbout", "&About Tarnwick", "", Command::About}},
   };
   ASSERT_EQ(MenuBar().size(), wanted.size());

@@ -232,6 +232,15 @@ TEST_F(OtherCommandsTest, AboutNamesTheProgramFolder) {
   EXPECT_EQ(log().Entries(), std::vector<std::string>{"view about Z:\\opt\\tarnwick"});
 }
 
+TEST_F(OtherCommandsTest, EachPageOfTheHelpIsOpenedByItsRow) {
+  for (const HelpPageRow& page : HelpPages()) {
+    log().Clear();
+    EXPECT_TRUE(main.Commands().State(page.Opens).Enabled);
+    main.Commands().Run(page.Opens);
+    EXPECT_EQ(log().Entries(), std::vector<std::string>{"view help " + std::string(page.File)});
+  }
+}
+
 TEST_F(OtherCommandsTest, WindowsOfOtherRoomsOpen) {
   main.Commands().Run(Command::PublicDeclarations);
   main.Commands().Run(Command::Examiner);

@@ -11,6 +11,7 @@
 #include "qt/frame/events_bar_window.h"
 #include "qt/frame/findings_panel.h"
 #include "qt/frame/form_list_panel.h"
+#include "qt/frame/help_window.h"
 #include "qt/frame/icon_display.h"
 #include "qt/frame/logo_window.h"
 #include "qt/frame/main_form_dialog.h"
@@ -272,6 +273,11 @@ void MainView::RunItemDialog(int form) {
   if (design == nullptr) return;
   FormAddItems logic(shell_.Tables(), shell_.Context().Observer, shell_.Steps(), *design);
   tarnwick::RunItemDialog(logic, &window_);
+}
+
+void MainView::ShowHelpPage(HelpPage page) {
+  if (help_ == nullptr) help_ = new HelpWindow(&window_);
+  help_->OpenPage(page);
 }
 
 void MainView::ShowAbout(std::string_view program_folder) {

@@ -18,6 +18,7 @@ namespace tarnwick {
 
 class MainWindow;
 class MDIForm1;
+class HelpWindow;
 class LogoWindow;
 
 /// Joins the shell and the widgets: built after both, it lends the windows to the commands.
@@ -63,6 +64,7 @@ class MainView final : public ShellView, public ProjectObserver {
   void RunRestoreDialog() override;
   void RunFormMain() override;
   void RunItemDialog(int form) override;
+  void ShowHelpPage(HelpPage page) override;
   void ShowAbout(std::string_view program_folder) override;
   void CommitPendingEdits() override;
   void CloseMainWindow() override;
@@ -92,6 +94,7 @@ class MainView final : public ShellView, public ProjectObserver {
   QTimer refresh_;
   QTimer keep_;  ///< runs from what the user did until the project is kept
   std::unique_ptr<WorkWatcher> work_;
+  QPointer<HelpWindow> help_;  ///< made with its first page
   QPointer<QWidget> held_focus_;
   bool offered_ = false;  ///< the work of a crashed run was offered
   std::unique_ptr<LogoWindow> logo_;

@@ -138,6 +138,9 @@ constexpr std::array<CommandIcon, kCommandCount> kCommandIcons{{
     {Command::Check, "check"},
     {Command::Output, "code"},
     {Command::Help, "help"},
+    {Command::HelpRunning, "help"},
+    {Command::HelpChoices, "help"},
+    {Command::HelpSupported, "help"},
     {Command::About, "about"},
 }};
 static_assert(HasRowOfEach(kCommandIcons, kCommandCount));
