@@ -142,6 +142,18 @@ TEST_F(FormGesturesTest, ASecondTransparentFrameCannotBeArmedWhileOneExists) {
   EXPECT_TRUE(ToolFits(kTransparentFrameTool, &form));
 }
 
+TEST_F(FormGesturesTest, APressPlacesNothingWhereTheNumbersOfAKindAreUsedUp) {
+  Place("Button", 10, 10);
+  constexpr int kHighest = 32767;
+  while (form.UBound(Kind::Label) < kHighest) form.Load(Kind::Label);
+  form.Objeto = "Label";
+  Press(300, 300);
+  EXPECT_EQ(form.UBound(Kind::Label), kHighest);
+  EXPECT_EQ(gestures.Mode(), DragMode::None);
+  EXPECT_FALSE(HandleVisible(0));
+  EXPECT_EQ(form.Objeto, "");
+}
+
 TEST_F(FormGesturesTest, PlacingAnObjectLetsTheToolBoxGoBackToTheArrow) {
   form.Objeto = "Button";
   Press(10, 10);

@@ -49,6 +49,17 @@ TEST_F(FormKeysTest, F7AndEnterOpenTheCode) {
   EXPECT_EQ(ports.Log.Count("code"), 2U);
 }
 
+TEST_F(FormKeysTest, EnterPlacesTheArmedObjectAndLeavesNoDragBehind) {
+  form.Objeto = "Button";
+  user.Keys().KeyDown(keys::kReturn, 0);
+  ASSERT_NE(form.ControlSel, nullptr);
+  EXPECT_EQ(form.NameObjet, "Button1");
+  EXPECT_EQ(gestures.Mode(), DragMode::None);
+  EXPECT_FALSE(ports.Gestures.Confined);
+  EXPECT_TRUE(HandleVisible(0));
+  EXPECT_EQ(history.UndoName(), "Place Form1Btn1");
+}
+
 TEST_F(FormKeysTest, ArrowsMoveToTheNextGridLine) {
   const ControlRef button = Place("Button", 13, 20);
   user.Keys().KeyDown(keys::kRight, 0);

@@ -255,6 +255,17 @@ TEST(PropertySheet, EachRowHasTheFindingsOfTheCheckThatAreAboutIt) {
   EXPECT_EQ(bench.Sheet.RowFault(bench.RowOf("Caption")), "");
 }
 
+TEST(PropertySheet, AFaultGoesWithTheValueThatIsChosenFromTheList) {
+  SheetBench bench;
+  bench.Make(Kind::WinSock);
+  bench.Record().WinSocks.At(1)->Family.clear();
+  bench.Sheet.ShowSelection();
+  const int row = bench.RowOf("Family");
+  EXPECT_NE(bench.Sheet.RowFault(row), "");
+  ASSERT_TRUE(bench.Choose("Family", 0));
+  EXPECT_EQ(bench.Sheet.RowFault(row), "");
+}
+
 TEST(PropertySheet, AFormOfManyObjectsShowsWithoutAWalkForEachRow) {
   SheetBench bench;
   for (int i = 0; i < 500; ++i) bench.Make(i % 2 == 0 ? Kind::Button : Kind::Label);

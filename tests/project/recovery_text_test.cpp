@@ -69,6 +69,13 @@ TEST(RecoveryText, NoBeginningOfAFileIsTakenForAWholeOne) {
   }
 }
 
+TEST(RecoveryText, AnEmptyValueNeedsNoLength) {
+  const auto kept = ReadKeptFile("Tarnwick recovery 1\r\nWhen  \r\nForm 1 F\r\nEnd 0 \r\n");
+  ASSERT_TRUE(kept);
+  EXPECT_EQ(kept->When, "");
+  EXPECT_EQ(kept->Forms.size(), 1U);
+}
+
 TEST(RecoveryText, BytesOfAnyKindAreNoProject) {
   for (const char* text : {"", "Tarnwick recovery 1\r\n", "Tarnwick recovery 1\r\nWhen x\r\n",
                            "Tarnwick recovery 1\r\nWhen 99999999999999999999 a\r\n",
