@@ -19,7 +19,8 @@ constexpr KindRow kKinds[] = {
     {"&Close", 0, Word::Kind},  {"Abort", 3, Word::Cancel}, {"&Retry", 4, Word::Default},
     {"&Ignore", 5, Word::Kind}, {"&All", 8, Word::Default}};
 
-void KindChanged(ObjectWorld& world, ObjectRecord& button, const MemberInfo&, Origin) {
+void KindChanged(ObjectWorld& world, ObjectRecord& button, const MemberInfo& /*member*/,
+                 Origin /*origin*/) {
   const std::int64_t kind = button.Number(Word::Kind);
   if (kind <= 0 || kind >= static_cast<std::int64_t>(std::size(kKinds))) return;
   const KindRow& row = kKinds[kind];
@@ -28,12 +29,14 @@ void KindChanged(ObjectWorld& world, ObjectRecord& button, const MemberInfo&, Or
   if (row.Key != Word::Kind) world.Change(button, row.Key, Value::Integer(1), Origin::Code);
 }
 
-void BoxChanged(ObjectWorld& world, ObjectRecord& box, const MemberInfo&, Origin) {
+void BoxChanged(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+                Origin /*origin*/) {
   world.Raise(box.Id, Word::OnClick);
 }
 
 /// One radio button of a parent is on. Those that go off raise nothing.
-void RadioChanged(ObjectWorld& world, ObjectRecord& radio, const MemberInfo& member, Origin) {
+void RadioChanged(ObjectWorld& world, ObjectRecord& radio, const MemberInfo& member,
+                  Origin /*origin*/) {
   if (!radio.Truth(Word::Checked)) return;
   const ObjectId id = radio.Id;
   if (const ObjectRecord* const parent = world.Find(radio.Parent)) {
@@ -48,7 +51,8 @@ void RadioChanged(ObjectWorld& world, ObjectRecord& radio, const MemberInfo& mem
 }
 
 /// Flat buttons of one group: one is down.
-void DownChanged(ObjectWorld& world, ObjectRecord& button, const MemberInfo& member, Origin) {
+void DownChanged(ObjectWorld& world, ObjectRecord& button, const MemberInfo& member,
+                 Origin /*origin*/) {
   const std::int64_t group = button.Number(Word::GroupIndex);
   const ObjectRecord* const parent = world.Find(button.Parent);
   if (group == 0 || parent == nullptr || !button.Truth(Word::Down)) return;
@@ -63,7 +67,7 @@ void DownChanged(ObjectWorld& world, ObjectRecord& button, const MemberInfo& mem
 
 /// Positions of bars stay within their bounds.
 bool SetPosition(ObjectWorld& world, ObjectRecord& bar, const MemberInfo& member,
-                 std::span<const Value>, const Value& in) {
+                 std::span<const Value> /*index*/, const Value& in) {
   const std::int64_t low = bar.Number(Word::Min);
   const std::int64_t high = std::max(bar.Number(Word::Max), low);
   world.Change(bar, member, Value::Integer(std::min(std::max(in.AsInteger(), low), high)),
@@ -71,7 +75,8 @@ bool SetPosition(ObjectWorld& world, ObjectRecord& bar, const MemberInfo& member
   return true;
 }
 
-void PositionChanged(ObjectWorld& world, ObjectRecord& bar, const MemberInfo&, Origin origin) {
+void PositionChanged(ObjectWorld& world, ObjectRecord& bar, const MemberInfo& /*member*/,
+                     Origin origin) {
   const ObjectId id = bar.Id;
   world.Raise(id, Word::OnChange);
   if (origin == Origin::User) world.Raise(id, Word::OnScroll);

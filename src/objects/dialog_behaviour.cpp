@@ -4,8 +4,8 @@
 namespace tarnwick::objects {
 namespace {
 
-bool Execute(ObjectWorld& world, ObjectRecord& dialog, const MemberInfo&, std::span<Value>,
-             Value& result) {
+bool Execute(ObjectWorld& world, ObjectRecord& dialog, const MemberInfo& /*member*/,
+             std::span<Value> /*arguments*/, Value& result) {
   const ObjectId id = dialog.Id;
   PickedNames picked = world.Widgets().PickFiles(dialog);
   result = Value::Integer(0);
@@ -26,7 +26,7 @@ bool ExecuteWidget(ObjectWorld& world, ObjectRecord& dialog, const MemberInfo& m
   return true;
 }
 
-bool GetFile(ObjectWorld& world, ObjectRecord& dialog, const MemberInfo&,
+bool GetFile(ObjectWorld& world, ObjectRecord& dialog, const MemberInfo& /*member*/,
              std::span<const Value> index, Value& out) {
   const std::vector<std::string>& files = dialog.As<PickedFiles>()->Files;
   const std::int64_t number = index[0].AsInteger();
@@ -38,8 +38,8 @@ bool GetFile(ObjectWorld& world, ObjectRecord& dialog, const MemberInfo&,
   return true;
 }
 
-bool ChangeOptions(ObjectWorld&, ObjectRecord& dialog, const MemberInfo& method,
-                   std::span<Value> arguments, Value&) {
+bool ChangeOptions(ObjectWorld& /*world*/, ObjectRecord& dialog, const MemberInfo& method,
+                   std::span<Value> arguments, Value& /*result*/) {
   std::int64_t& options = dialog.As<PickedFiles>()->Options;
   for (const Value& argument : arguments) {
     const std::int64_t option = argument.AsInteger();
@@ -52,7 +52,7 @@ bool ChangeOptions(ObjectWorld&, ObjectRecord& dialog, const MemberInfo& method,
 
 /// Pictures of a list are known by their files.
 bool AddPictures(ObjectWorld& world, ObjectRecord& list, const MemberInfo& method,
-                 std::span<Value> arguments, Value&) {
+                 std::span<Value> arguments, Value& /*result*/) {
   const bool handles = method.Name == Word::AddBMPHandle || method.Name == Word::AddICOHandle;
   for (const Value& argument : arguments) {
     list.As<PickedFiles>()->Files.push_back(
@@ -61,13 +61,14 @@ bool AddPictures(ObjectWorld& world, ObjectRecord& list, const MemberInfo& metho
   return true;
 }
 
-bool CountPictures(ObjectWorld&, ObjectRecord& list, const MemberInfo&, std::span<const Value>,
-                   Value& out) {
+bool CountPictures(ObjectWorld& /*world*/, ObjectRecord& list, const MemberInfo& /*member*/,
+                   std::span<const Value> /*index*/, Value& out) {
   out = Value::Integer(static_cast<std::int64_t>(list.As<PickedFiles>()->Files.size()));
   return true;
 }
 
-bool ClearPictures(ObjectWorld&, ObjectRecord& list, const MemberInfo&, std::span<Value>, Value&) {
+bool ClearPictures(ObjectWorld& /*world*/, ObjectRecord& list, const MemberInfo& /*member*/,
+                   std::span<Value> /*arguments*/, Value& /*result*/) {
   list.As<PickedFiles>()->Files.clear();
   return true;
 }

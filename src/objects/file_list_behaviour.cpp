@@ -91,23 +91,25 @@ void Refresh(ObjectWorld& world, ObjectRecord& list) {
   FillList(world, list, EntriesOf(world, list));
 }
 
-bool Update(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<Value>, Value&) {
+bool Update(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+            std::span<Value> /*arguments*/, Value& /*result*/) {
   Refresh(world, list);
   return true;
 }
 
-void SourceChanged(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, Origin) {
+void SourceChanged(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+                   Origin /*origin*/) {
   Refresh(world, list);
 }
 
-bool GetDirectory(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<const Value>,
-                  Value& out) {
+bool GetDirectory(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+                  std::span<const Value> /*index*/, Value& out) {
   out = Value::Text(FolderOfList(world, list));
   return true;
 }
 
 bool ChangeTypes(ObjectWorld& world, ObjectRecord& list, const MemberInfo& method,
-                 std::span<Value> arguments, Value&) {
+                 std::span<Value> arguments, Value& /*result*/) {
   std::uint32_t& types = list.As<ListItems>()->FileTypes;
   for (const Value& argument : arguments) {
     const std::int64_t type = argument.AsInteger();
@@ -120,8 +122,8 @@ bool ChangeTypes(ObjectWorld& world, ObjectRecord& list, const MemberInfo& metho
 }
 
 /// The full path of the entry that is picked; "" when none is.
-bool GetFileName(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<const Value>,
-                 Value& out) {
+bool GetFileName(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+                 std::span<const Value> /*index*/, Value& out) {
   FillFileList(world, list);
   const std::vector<ListItems::Item>& items = list.As<ListItems>()->Items;
   const std::int64_t picked = list.Number(Word::ItemIndex);
@@ -134,8 +136,8 @@ bool GetFileName(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std:
 }
 
 /// A path sets the folder too; a name with a mask in it is a mask, any other one is picked.
-bool SetFileName(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<const Value>,
-                 const Value& in) {
+bool SetFileName(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+                 std::span<const Value> /*index*/, const Value& in) {
   const std::string path = in.AsText();
   const std::string_view folder = FolderOf(path);
   const std::string_view name = BareName(path);

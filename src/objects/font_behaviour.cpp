@@ -9,8 +9,8 @@ namespace {
 constexpr double kPixelsPerInch = 96;
 constexpr double kPointsPerInch = 72;
 
-bool SetFont(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::span<const Value>,
-             const Value& in) {
+bool SetFont(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+             std::span<const Value> /*index*/, const Value& in) {
   const ObjectRecord* const source = world.Find(in.AsObject());
   if (source == nullptr || !source->Is(ObjectClass::QFont)) {
     return world.Fail("A font is a QFONT object");
@@ -24,13 +24,14 @@ bool SetFont(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::s
   return true;
 }
 
-bool GetFont(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::span<const Value>,
-             Value& out) {
+bool GetFont(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+             std::span<const Value> /*index*/, Value& out) {
   out = Value::Object(world.OwnFont(object).Id);
   return true;
 }
 
-void Follow(ObjectWorld& world, ObjectRecord& font, const MemberInfo&, Origin) {
+void Follow(ObjectWorld& world, ObjectRecord& font, const MemberInfo& /*member*/,
+            Origin /*origin*/) {
   world.Show(font, Word::Name);
   if (ObjectRecord* const owner = world.Find(font.Parent)) LabelFitsText(world, *owner);
 }
@@ -50,7 +51,7 @@ void HeightFollows(ObjectWorld& world, ObjectRecord& font, const MemberInfo& mem
 }
 
 bool ChangeStyles(ObjectWorld& world, ObjectRecord& font, const MemberInfo& method,
-                  std::span<Value> arguments, Value&) {
+                  std::span<Value> arguments, Value& /*result*/) {
   constexpr Word kStyles[] = {Word::Bold, Word::Italic, Word::Underline, Word::StrikeOut};
   const Value value = Value::Integer(method.Name == Word::AddStyles ? 1 : 0);
   for (const Value& argument : arguments) {

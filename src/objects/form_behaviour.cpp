@@ -8,20 +8,20 @@
 namespace tarnwick::objects {
 namespace {
 
-bool SetParentOf(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
-                 std::span<const Value>, const Value& in) {
+bool SetParentOf(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+                 std::span<const Value> /*index*/, const Value& in) {
   return world.SetParent(object, in.AsObject());
 }
 
-bool FreeObject(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::span<Value>,
-                Value&) {
+bool FreeObject(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+                std::span<Value> /*arguments*/, Value& /*result*/) {
   if (object.Info().Has(ClassFlag::BuiltIn)) return world.Fail("This object cannot be freed");
   world.Free(object.Id);
   return true;
 }
 
-bool HandleOf(ObjectWorld&, ObjectRecord& object, const MemberInfo&, std::span<const Value>,
-              Value& out) {
+bool HandleOf(ObjectWorld& /*world*/, ObjectRecord& object, const MemberInfo& /*member*/,
+              std::span<const Value> /*index*/, Value& out) {
   // A number of its own for each object; nothing outside the program knows it.
   out = Value::Integer(static_cast<std::int64_t>(object.Id) & 0x7FFFFFFF);
   return true;
@@ -43,7 +43,8 @@ void PutInTheMiddle(ObjectWorld& world, ObjectRecord& form) {
   world.Change(form, Word::Top, top, Origin::Code);
 }
 
-void VisibleChanged(ObjectWorld& world, ObjectRecord& form, const MemberInfo&, Origin) {
+void VisibleChanged(ObjectWorld& world, ObjectRecord& form, const MemberInfo& /*member*/,
+                    Origin /*origin*/) {
   const ObjectId id = form.Id;
   const bool visible = form.Truth(Word::Visible);
   world.FormVisible(visible);
@@ -59,8 +60,8 @@ void VisibleChanged(ObjectWorld& world, ObjectRecord& form, const MemberInfo&, O
   if (world.Raise(id, Word::OnShow) && first) world.Raise(id, Word::OnResize);
 }
 
-bool Show(ObjectWorld& world, ObjectRecord& form, const MemberInfo& method, std::span<Value>,
-          Value&) {
+bool Show(ObjectWorld& world, ObjectRecord& form, const MemberInfo& method,
+          std::span<Value> /*arguments*/, Value& /*result*/) {
   if (form.Truth(Word::Visible)) {
     Value nothing;
     return WidgetMethod(world, form, method, {}, nothing);  // comes to the front
@@ -69,19 +70,21 @@ bool Show(ObjectWorld& world, ObjectRecord& form, const MemberInfo& method, std:
   return true;
 }
 
-bool Hide(ObjectWorld& world, ObjectRecord& form, const MemberInfo&, std::span<Value>, Value&) {
+bool Hide(ObjectWorld& world, ObjectRecord& form, const MemberInfo& /*member*/,
+          std::span<Value> /*arguments*/, Value& /*result*/) {
   world.Change(form, Word::Visible, Value::Integer(0), Origin::Code);
   return true;
 }
 
-bool Close(ObjectWorld& world, ObjectRecord& form, const MemberInfo&, std::span<Value>, Value&) {
+bool Close(ObjectWorld& world, ObjectRecord& form, const MemberInfo& /*member*/,
+           std::span<Value> /*arguments*/, Value& /*result*/) {
   world.CloseForm(form.Id);
   return true;
 }
 
 /// Waits until the form is hidden, freed or has a result.
-bool ShowModal(ObjectWorld& world, ObjectRecord& form, const MemberInfo&, std::span<Value>,
-               Value& result) {
+bool ShowModal(ObjectWorld& world, ObjectRecord& form, const MemberInfo& /*member*/,
+               std::span<Value> /*arguments*/, Value& result) {
   constexpr std::int64_t kCancelled = 2;
   const ObjectId id = form.Id;
   if (form.As<FormState>()->Modal) {
@@ -111,18 +114,20 @@ bool ShowModal(ObjectWorld& world, ObjectRecord& form, const MemberInfo&, std::s
   return true;
 }
 
-void ModalResultChanged(ObjectWorld& world, ObjectRecord& form, const MemberInfo&, Origin) {
+void ModalResultChanged(ObjectWorld& world, ObjectRecord& form, const MemberInfo& /*member*/,
+                        Origin /*origin*/) {
   if (form.As<FormState>()->Modal && form.Number(Word::ModalResult) != 0) world.CloseForm(form.Id);
 }
 
-bool Center(ObjectWorld& world, ObjectRecord& form, const MemberInfo&, std::span<Value>, Value&) {
+bool Center(ObjectWorld& world, ObjectRecord& form, const MemberInfo& /*member*/,
+            std::span<Value> /*arguments*/, Value& /*result*/) {
   form.As<FormState>()->Centered = true;
   if (form.Truth(Word::Visible)) PutInTheMiddle(world, form);
   return true;
 }
 
 bool ChangeIcons(ObjectWorld& world, ObjectRecord& form, const MemberInfo& method,
-                 std::span<Value> arguments, Value&) {
+                 std::span<Value> arguments, Value& /*result*/) {
   FormState& state = *form.As<FormState>();
   for (const Value& argument : arguments) {
     const std::int64_t icon = argument.AsInteger();
@@ -136,39 +141,40 @@ bool ChangeIcons(ObjectWorld& world, ObjectRecord& form, const MemberInfo& metho
 
 // --- Sizes
 
-void SizeChanged(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, Origin) {
+void SizeChanged(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+                 Origin /*origin*/) {
   const bool shown = object.Is(ObjectClass::QForm) ? object.Truth(Word::Visible) : object.Realised;
   if (shown) world.Raise(object.Id, Word::OnResize);
 }
 
-bool GetClientWidth(ObjectWorld&, ObjectRecord& form, const MemberInfo&, std::span<const Value>,
-                    Value& out) {
+bool GetClientWidth(ObjectWorld& /*world*/, ObjectRecord& form, const MemberInfo& /*member*/,
+                    std::span<const Value> /*index*/, Value& out) {
   out = Value::Integer(std::max<std::int64_t>(form.Number(Word::Width) - FrameOf(form).Width, 0));
   return true;
 }
 
-bool GetClientHeight(ObjectWorld&, ObjectRecord& form, const MemberInfo&, std::span<const Value>,
-                     Value& out) {
+bool GetClientHeight(ObjectWorld& /*world*/, ObjectRecord& form, const MemberInfo& /*member*/,
+                     std::span<const Value> /*index*/, Value& out) {
   out = Value::Integer(std::max<std::int64_t>(form.Number(Word::Height) - FrameOf(form).Height, 0));
   return true;
 }
 
-bool SetClientWidth(ObjectWorld& world, ObjectRecord& form, const MemberInfo&,
-                    std::span<const Value>, const Value& in) {
+bool SetClientWidth(ObjectWorld& world, ObjectRecord& form, const MemberInfo& /*member*/,
+                    std::span<const Value> /*index*/, const Value& in) {
   world.Change(form, Word::Width, Value::Integer(in.AsInteger() + FrameOf(form).Width),
                Origin::Code);
   return true;
 }
 
-bool SetClientHeight(ObjectWorld& world, ObjectRecord& form, const MemberInfo&,
-                     std::span<const Value>, const Value& in) {
+bool SetClientHeight(ObjectWorld& world, ObjectRecord& form, const MemberInfo& /*member*/,
+                     std::span<const Value> /*index*/, const Value& in) {
   world.Change(form, Word::Height, Value::Integer(in.AsInteger() + FrameOf(form).Height),
                Origin::Code);
   return true;
 }
 
-bool ControlCount(ObjectWorld&, ObjectRecord& form, const MemberInfo&, std::span<const Value>,
-                  Value& out) {
+bool ControlCount(ObjectWorld& /*world*/, ObjectRecord& form, const MemberInfo& /*member*/,
+                  std::span<const Value> /*index*/, Value& out) {
   out = Value::Integer(static_cast<std::int64_t>(form.Children.size()));
   return true;
 }

@@ -26,7 +26,7 @@ std::int64_t KeyOf(ObjectWorld& world, const ObjectRecord& grid, std::span<const
   return -1;
 }
 
-bool GetCell(ObjectWorld& world, ObjectRecord& grid, const MemberInfo&,
+bool GetCell(ObjectWorld& world, ObjectRecord& grid, const MemberInfo& /*member*/,
              std::span<const Value> index, Value& out) {
   const std::int64_t key = KeyOf(world, grid, index);
   if (key < 0) return false;
@@ -36,7 +36,7 @@ bool GetCell(ObjectWorld& world, ObjectRecord& grid, const MemberInfo&,
   return true;
 }
 
-bool SetCell(ObjectWorld& world, ObjectRecord& grid, const MemberInfo&,
+bool SetCell(ObjectWorld& world, ObjectRecord& grid, const MemberInfo& /*member*/,
              std::span<const Value> index, const Value& in) {
   const std::int64_t key = KeyOf(world, grid, index);
   if (key < 0) return false;
@@ -46,13 +46,13 @@ bool SetCell(ObjectWorld& world, ObjectRecord& grid, const MemberInfo&,
 }
 
 bool SetCount(ObjectWorld& world, ObjectRecord& grid, const MemberInfo& member,
-              std::span<const Value>, const Value& in) {
+              std::span<const Value> /*index*/, const Value& in) {
   const std::int64_t count = std::clamp<std::int64_t>(in.AsInteger(), 1, kMostCells);
   world.Change(grid, member, Value::Integer(count), Origin::Code);
   return true;
 }
 
-bool GetSize(ObjectWorld&, ObjectRecord& grid, const MemberInfo& member,
+bool GetSize(ObjectWorld& /*world*/, ObjectRecord& grid, const MemberInfo& member,
              std::span<const Value> index, Value& out) {
   const bool width = member.Name == Word::ColWidths;
   const GridCells& cells = *grid.As<GridCells>();
@@ -93,7 +93,7 @@ void Shift(ObjectRecord& grid, bool rows, std::int64_t at, std::int64_t step) {
 }
 
 bool ChangeRows(ObjectWorld& world, ObjectRecord& grid, const MemberInfo& method,
-                std::span<Value> arguments, Value&) {
+                std::span<Value> arguments, Value& /*result*/) {
   const bool rows = method.Name == Word::InsertRow || method.Name == Word::DeleteRow;
   const bool inserts = method.Name == Word::InsertRow || method.Name == Word::InsertCol;
   const Word counter = rows ? Word::RowCount : Word::ColCount;
@@ -111,7 +111,7 @@ bool ChangeRows(ObjectWorld& world, ObjectRecord& grid, const MemberInfo& method
 
 /// A cell that is picked by the program lies within the grid.
 bool SetPicked(ObjectWorld& world, ObjectRecord& grid, const MemberInfo& member,
-               std::span<const Value>, const Value& in) {
+               std::span<const Value> /*index*/, const Value& in) {
   const std::int64_t count =
       grid.Number(member.Name == Word::Row ? Word::RowCount : Word::ColCount);
   const std::int64_t index = std::clamp<std::int64_t>(in.AsInteger(), 0, count - 1);
@@ -120,7 +120,7 @@ bool SetPicked(ObjectWorld& world, ObjectRecord& grid, const MemberInfo& member,
 }
 
 bool ChangeOptions(ObjectWorld& world, ObjectRecord& grid, const MemberInfo& method,
-                   std::span<Value> arguments, Value&) {
+                   std::span<Value> arguments, Value& /*result*/) {
   constexpr std::int64_t kMost = 31;
   std::uint32_t& options = grid.As<GridCells>()->Options;
   for (const Value& argument : arguments) {
@@ -139,8 +139,8 @@ void ShowPanels(ObjectWorld& world, const ObjectRecord& bar) {
   world.ShowItems(bar, {ItemsChange::Kind::All, 0, bar.As<Panels>()->All.size()});
 }
 
-bool AddPanels(ObjectWorld& world, ObjectRecord& bar, const MemberInfo&, std::span<Value> arguments,
-               Value&) {
+bool AddPanels(ObjectWorld& world, ObjectRecord& bar, const MemberInfo& /*member*/,
+               std::span<Value> arguments, Value& /*result*/) {
   for (const Value& argument : arguments) {
     const std::size_t index = bar.As<Panels>()->All.size();
     const ObjectId made = world.Create(static_cast<basic::ClassId>(ObjectClass::QStatusPanel),
@@ -155,15 +155,15 @@ bool AddPanels(ObjectWorld& world, ObjectRecord& bar, const MemberInfo&, std::sp
   return true;
 }
 
-bool ClearPanels(ObjectWorld& world, ObjectRecord& bar, const MemberInfo&, std::span<Value>,
-                 Value&) {
+bool ClearPanels(ObjectWorld& world, ObjectRecord& bar, const MemberInfo& /*member*/,
+                 std::span<Value> /*arguments*/, Value& /*result*/) {
   const std::vector<ObjectId> going = std::exchange(bar.As<Panels>()->All, {});
   for (const ObjectId id : going) world.Free(id);
   ShowPanels(world, bar);
   return true;
 }
 
-bool GetPanel(ObjectWorld& world, ObjectRecord& bar, const MemberInfo&,
+bool GetPanel(ObjectWorld& world, ObjectRecord& bar, const MemberInfo& /*member*/,
               std::span<const Value> index, Value& out) {
   const std::vector<ObjectId>& panels = bar.As<Panels>()->All;
   const std::int64_t number = index[0].AsInteger();
@@ -175,13 +175,14 @@ bool GetPanel(ObjectWorld& world, ObjectRecord& bar, const MemberInfo&,
   return true;
 }
 
-void PanelChanged(ObjectWorld& world, ObjectRecord& panel, const MemberInfo&, Origin) {
+void PanelChanged(ObjectWorld& world, ObjectRecord& panel, const MemberInfo& /*member*/,
+                  Origin /*origin*/) {
   const ObjectRecord* const bar = world.Find(panel.Parent);
   if (bar != nullptr && bar->As<Panels>() != nullptr) ShowPanels(world, *bar);
 }
 
-bool CountPanels(ObjectWorld&, ObjectRecord& bar, const MemberInfo&, std::span<const Value>,
-                 Value& out) {
+bool CountPanels(ObjectWorld& /*world*/, ObjectRecord& bar, const MemberInfo& /*member*/,
+                 std::span<const Value> /*index*/, Value& out) {
   out = Value::Integer(static_cast<std::int64_t>(bar.As<Panels>()->All.size()));
   return true;
 }

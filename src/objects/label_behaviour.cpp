@@ -4,7 +4,8 @@
 namespace tarnwick::objects {
 namespace {
 
-void FitsAgain(ObjectWorld& world, ObjectRecord& label, const MemberInfo&, Origin) {
+void FitsAgain(ObjectWorld& world, ObjectRecord& label, const MemberInfo& /*member*/,
+               Origin /*origin*/) {
   LabelFitsText(world, label);
 }
 

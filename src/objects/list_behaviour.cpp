@@ -48,16 +48,16 @@ void Insert(ObjectWorld& world, ObjectRecord& list, std::size_t at, std::string 
   world.ShowItems(list, {Kind::Inserted, at, 1});
 }
 
-bool AddItems(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<Value> arguments,
-              Value&) {
+bool AddItems(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+              std::span<Value> arguments, Value& /*result*/) {
   for (const Value& argument : arguments) {
     Insert(world, list, list.As<ListItems>()->Items.size(), argument.AsText());
   }
   return true;
 }
 
-bool InsertItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
-                std::span<Value> arguments, Value&) {
+bool InsertItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+                std::span<Value> arguments, Value& /*result*/) {
   const std::int64_t index = arguments[0].AsInteger();
   const auto count = static_cast<std::int64_t>(list.As<ListItems>()->Items.size());
   if (index < 0 || index > count) {
@@ -68,8 +68,8 @@ bool InsertItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
   return true;
 }
 
-bool DelItems(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<Value> arguments,
-              Value&) {
+bool DelItems(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+              std::span<Value> arguments, Value& /*result*/) {
   std::vector<ListItems::Item>& items = list.As<ListItems>()->Items;
   std::vector<std::int64_t> indexes;
   for (const Value& argument : arguments) {
@@ -88,7 +88,8 @@ bool DelItems(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::sp
   return true;
 }
 
-bool Clear(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<Value>, Value&) {
+bool Clear(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+           std::span<Value> /*arguments*/, Value& /*result*/) {
   FillList(world, list, {});
   if (list.Is(ObjectClass::QComboBox)) {
     world.Change(list, Word::Text, Value::Text({}), Origin::Code);
@@ -96,21 +97,21 @@ bool Clear(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<
   return true;
 }
 
-bool LoadFromFile(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
-                  std::span<Value> arguments, Value&) {
+bool LoadFromFile(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+                  std::span<Value> arguments, Value& /*result*/) {
   const std::optional<std::string> text = ReadTextFile(world, list, arguments[0].AsText());
   if (text) FillList(world, list, LinesOf(*text));
   return true;
 }
 
-bool SaveToFile(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
-                std::span<Value> arguments, Value&) {
+bool SaveToFile(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+                std::span<Value> arguments, Value& /*result*/) {
   std::string text;
   for (const ListItems::Item& item : list.As<ListItems>()->Items) text += item.Text + "\r\n";
   return WriteTextFile(world, list, arguments[0].AsText(), text);
 }
 
-bool GetItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
+bool GetItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
              std::span<const Value> index, Value& out) {
   const ListItems::Item* const item = ItemAt(world, list, index[0].AsInteger());
   if (item == nullptr) return false;
@@ -118,7 +119,7 @@ bool GetItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
   return true;
 }
 
-bool SetItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
+bool SetItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
              std::span<const Value> index, const Value& in) {
   ListItems::Item* const item = ItemAt(world, list, index[0].AsInteger());
   if (item == nullptr) return false;
@@ -127,14 +128,15 @@ bool SetItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
   return true;
 }
 
-bool CountItems(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<const Value>,
-                Value& out) {
+bool CountItems(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+                std::span<const Value> /*index*/, Value& out) {
   FillFileList(world, list);
   out = Value::Integer(static_cast<std::int64_t>(list.As<ListItems>()->Items.size()));
   return true;
 }
 
-void SortedChanged(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, Origin) {
+void SortedChanged(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+                   Origin /*origin*/) {
   if (!list.Truth(Word::Sorted) || list.As<ListItems>()->Items.empty()) return;
   std::vector<std::string> texts;
   for (ListItems::Item& item : list.As<ListItems>()->Items) texts.push_back(std::move(item.Text));
@@ -144,7 +146,7 @@ void SortedChanged(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, Or
 // --- The entry that is picked
 
 bool SetIndex(ObjectWorld& world, ObjectRecord& list, const MemberInfo& member,
-              std::span<const Value>, const Value& in) {
+              std::span<const Value> /*index*/, const Value& in) {
   FillFileList(world, list);
   const auto count = static_cast<std::int64_t>(list.As<ListItems>()->Items.size());
   const std::int64_t index = in.AsInteger();
@@ -154,13 +156,15 @@ bool SetIndex(ObjectWorld& world, ObjectRecord& list, const MemberInfo& member,
   return true;
 }
 
-void ListPicked(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, Origin origin) {
+void ListPicked(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+                Origin origin) {
   if (origin == Origin::Code) return;
   const ObjectId id = list.Id;
   if (world.Raise(id, Word::OnClick)) world.Raise(id, Word::OnChange);
 }
 
-void ComboPicked(ObjectWorld& world, ObjectRecord& combo, const MemberInfo&, Origin origin) {
+void ComboPicked(ObjectWorld& world, ObjectRecord& combo, const MemberInfo& /*member*/,
+                 Origin origin) {
   const ObjectId id = combo.Id;
   const std::int64_t index = combo.Number(Word::ItemIndex);
   const std::vector<ListItems::Item>& items = combo.As<ListItems>()->Items;
@@ -172,7 +176,8 @@ void ComboPicked(ObjectWorld& world, ObjectRecord& combo, const MemberInfo&, Ori
 }
 
 /// Only what the user types is a change; a text that is an entry picks it.
-void ComboTyped(ObjectWorld& world, ObjectRecord& combo, const MemberInfo&, Origin origin) {
+void ComboTyped(ObjectWorld& world, ObjectRecord& combo, const MemberInfo& /*member*/,
+                Origin origin) {
   const std::vector<ListItems::Item>& items = combo.As<ListItems>()->Items;
   const auto found = std::find_if(items.begin(), items.end(), [&](const ListItems::Item& item) {
     return item.Text == combo.Text(Word::Text);
@@ -181,11 +186,12 @@ void ComboTyped(ObjectWorld& world, ObjectRecord& combo, const MemberInfo&, Orig
   if (origin == Origin::User) world.Raise(combo.Id, Word::OnChange);
 }
 
-void TabPicked(ObjectWorld& world, ObjectRecord& tabs, const MemberInfo&, Origin origin) {
+void TabPicked(ObjectWorld& world, ObjectRecord& tabs, const MemberInfo& /*member*/,
+               Origin origin) {
   if (origin == Origin::User) world.Raise(tabs.Id, Word::OnChange);
 }
 
-bool GetSelected(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
+bool GetSelected(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
                  std::span<const Value> index, Value& out) {
   const ListItems::Item* const item = ItemAt(world, list, index[0].AsInteger());
   if (item == nullptr) return false;
@@ -195,7 +201,7 @@ bool GetSelected(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
   return true;
 }
 
-bool SetSelected(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
+bool SetSelected(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
                  std::span<const Value> index, const Value& in) {
   ListItems::Item* const item = ItemAt(world, list, index[0].AsInteger());
   if (item == nullptr) return false;
@@ -204,8 +210,8 @@ bool SetSelected(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
   return true;
 }
 
-bool CountSelected(ObjectWorld&, ObjectRecord& list, const MemberInfo&, std::span<const Value>,
-                   Value& out) {
+bool CountSelected(ObjectWorld& /*world*/, ObjectRecord& list, const MemberInfo& /*member*/,
+                   std::span<const Value> /*index*/, Value& out) {
   const std::vector<ListItems::Item>& items = list.As<ListItems>()->Items;
   const auto count = list.Truth(Word::MultiSelect)
                          ? std::count_if(items.begin(), items.end(),
@@ -217,29 +223,30 @@ bool CountSelected(ObjectWorld&, ObjectRecord& list, const MemberInfo&, std::spa
 
 // --- String lists
 
-bool GetText(ObjectWorld&, ObjectRecord& list, const MemberInfo&, std::span<const Value>,
-             Value& out) {
+bool GetText(ObjectWorld& /*world*/, ObjectRecord& list, const MemberInfo& /*member*/,
+             std::span<const Value> /*index*/, Value& out) {
   std::string text;
   for (const ListItems::Item& item : list.As<ListItems>()->Items) text += item.Text + "\r\n";
   out = Value::Text(std::move(text));
   return true;
 }
 
-bool SetText(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<const Value>,
-             const Value& in) {
+bool SetText(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+             std::span<const Value> /*index*/, const Value& in) {
   FillList(world, list, LinesOf(in.AsText()));
   return true;
 }
 
-bool Sort(ObjectWorld&, ObjectRecord& list, const MemberInfo&, std::span<Value>, Value&) {
+bool Sort(ObjectWorld& /*world*/, ObjectRecord& list, const MemberInfo& /*member*/,
+          std::span<Value> /*arguments*/, Value& /*result*/) {
   std::vector<ListItems::Item>& items = list.As<ListItems>()->Items;
   std::stable_sort(items.begin(), items.end(),
                    [](const auto& a, const auto& b) { return LessFolded(a.Text, b.Text); });
   return true;
 }
 
-bool IndexOf(ObjectWorld&, ObjectRecord& list, const MemberInfo&, std::span<Value> arguments,
-             Value& result) {
+bool IndexOf(ObjectWorld& /*world*/, ObjectRecord& list, const MemberInfo& /*member*/,
+             std::span<Value> arguments, Value& result) {
   const std::vector<ListItems::Item>& items = list.As<ListItems>()->Items;
   const std::string text = arguments[0].AsText();
   const auto found = std::find_if(items.begin(), items.end(), [&](const ListItems::Item& item) {

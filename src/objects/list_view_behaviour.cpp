@@ -48,16 +48,16 @@ void Insert(ObjectWorld& world, ObjectRecord& list, std::size_t at, std::string 
   world.ShowItems(list, {Kind::Inserted, at, 1});
 }
 
-bool AddItems(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<Value> arguments,
-              Value&) {
+bool AddItems(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+              std::span<Value> arguments, Value& /*result*/) {
   for (const Value& argument : arguments) {
     Insert(world, list, RowsOf(list).Rows.size(), argument.AsText());
   }
   return true;
 }
 
-bool InsertItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
-                std::span<Value> arguments, Value&) {
+bool InsertItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+                std::span<Value> arguments, Value& /*result*/) {
   const std::int64_t index = arguments[0].AsInteger();
   const std::size_t count = RowsOf(list).Rows.size();
   if (index != static_cast<std::int64_t>(count) && !HasPart(world, list, "item", count, index)) {
@@ -67,8 +67,8 @@ bool InsertItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
   return true;
 }
 
-bool DelItems(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<Value> arguments,
-              Value&) {
+bool DelItems(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+              std::span<Value> arguments, Value& /*result*/) {
   std::vector<ListRows::Row>& rows = RowsOf(list).Rows;
   std::vector<std::int64_t> indexes;
   for (const Value& argument : arguments) {
@@ -89,15 +89,16 @@ bool DelItems(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::sp
   return true;
 }
 
-bool Clear(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, std::span<Value>, Value&) {
+bool Clear(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+           std::span<Value> /*arguments*/, Value& /*result*/) {
   RowsOf(list).Rows.clear();
   list.Put(Word::ItemIndex, Value::Integer(-1));
   ShowAll(world, list);
   return true;
 }
 
-bool AddColumns(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
-                std::span<Value> arguments, Value&) {
+bool AddColumns(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+                std::span<Value> arguments, Value& /*result*/) {
   for (const Value& argument : arguments) {
     RowsOf(list).Columns.emplace_back().Caption = argument.AsText();
   }
@@ -106,8 +107,8 @@ bool AddColumns(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
 }
 
 /// Texts for the columns behind the first one, behind those that are there.
-bool AddSubItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
-                std::span<Value> arguments, Value&) {
+bool AddSubItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+                std::span<Value> arguments, Value& /*result*/) {
   std::vector<ListRows::Row>& rows = RowsOf(list).Rows;
   const std::int64_t index = arguments[0].AsInteger();
   if (!HasPart(world, list, "item", rows.size(), index)) return false;
@@ -118,10 +119,10 @@ bool AddSubItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
   return true;
 }
 
-bool Count(ObjectWorld&, ObjectRecord& list, const MemberInfo& member, std::span<const Value>,
-           Value& out) {
+bool Count(ObjectWorld& /*world*/, ObjectRecord& list, const MemberInfo& member,
+           std::span<const Value> /*index*/, Value& out) {
   const ListRows& rows = RowsOf(list);
-  std::int64_t count = static_cast<std::int64_t>(rows.Rows.size());
+  auto count = static_cast<std::int64_t>(rows.Rows.size());
   if (member.Name == Word::ColumnCount) count = static_cast<std::int64_t>(rows.Columns.size());
   if (member.Name == Word::SelCount) {
     count = list.Truth(Word::MultiSelect)
@@ -133,7 +134,7 @@ bool Count(ObjectWorld&, ObjectRecord& list, const MemberInfo& member, std::span
   return true;
 }
 
-bool GetItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
+bool GetItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
              std::span<const Value> index, Value& out) {
   ListRows& rows = RowsOf(list);
   const std::int64_t number = index[0].AsInteger();
@@ -143,7 +144,7 @@ bool GetItem(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
   return true;
 }
 
-bool GetColumn(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
+bool GetColumn(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
                std::span<const Value> index, Value& out) {
   ListRows& rows = RowsOf(list);
   const std::int64_t number = index[0].AsInteger();
@@ -155,18 +156,19 @@ bool GetColumn(ObjectWorld& world, ObjectRecord& list, const MemberInfo&,
 
 /// An index outside picks nothing.
 bool SetIndex(ObjectWorld& world, ObjectRecord& list, const MemberInfo& member,
-              std::span<const Value>, const Value& in) {
+              std::span<const Value> /*index*/, const Value& in) {
   const std::int64_t index = in.AsInteger();
   const bool inside = index >= 0 && index < static_cast<std::int64_t>(RowsOf(list).Rows.size());
   world.Change(list, member, Value::Integer(inside ? index : -1), Origin::Code);
   return true;
 }
 
-void Picked(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, Origin origin) {
+void Picked(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/, Origin origin) {
   if (origin == Origin::User) world.Raise(list.Id, Word::OnChange);
 }
 
-void SortChanged(ObjectWorld& world, ObjectRecord& list, const MemberInfo&, Origin) {
+void SortChanged(ObjectWorld& world, ObjectRecord& list, const MemberInfo& /*member*/,
+                 Origin /*origin*/) {
   if (!IsSorted(list)) return;
   std::vector<ListRows::Row>& rows = RowsOf(list).Rows;
   std::stable_sort(rows.begin(), rows.end(), LessByText);
@@ -192,7 +194,7 @@ struct ItemOf {
 };
 
 bool GetOfItem(ObjectWorld& world, ObjectRecord& item, const MemberInfo& member,
-               std::span<const Value>, Value& out) {
+               std::span<const Value> /*index*/, Value& out) {
   const ItemOf of(world, item);
   if (of.Row == nullptr) return false;
   switch (member.Name) {
@@ -218,7 +220,7 @@ bool GetOfItem(ObjectWorld& world, ObjectRecord& item, const MemberInfo& member,
 }
 
 bool SetOfItem(ObjectWorld& world, ObjectRecord& item, const MemberInfo& member,
-               std::span<const Value>, const Value& in) {
+               std::span<const Value> /*index*/, const Value& in) {
   const ItemOf of(world, item);
   if (of.Row == nullptr) return false;
   switch (member.Name) {
@@ -247,7 +249,7 @@ bool SetOfItem(ObjectWorld& world, ObjectRecord& item, const MemberInfo& member,
 }
 
 /// Texts behind the caption, counted from 0; those that are not there are empty.
-bool GetSubItem(ObjectWorld& world, ObjectRecord& item, const MemberInfo&,
+bool GetSubItem(ObjectWorld& world, ObjectRecord& item, const MemberInfo& /*member*/,
                 std::span<const Value> index, Value& out) {
   const ItemOf of(world, item);
   if (of.Row == nullptr) return false;
@@ -257,7 +259,7 @@ bool GetSubItem(ObjectWorld& world, ObjectRecord& item, const MemberInfo&,
   return true;
 }
 
-bool SetSubItem(ObjectWorld& world, ObjectRecord& item, const MemberInfo&,
+bool SetSubItem(ObjectWorld& world, ObjectRecord& item, const MemberInfo& /*member*/,
                 std::span<const Value> index, const Value& in) {
   constexpr std::int64_t kMostColumns = 256;
   const ItemOf of(world, item);
@@ -285,7 +287,7 @@ ListRows::Column* ColumnOf(ObjectWorld& world, const ObjectRecord& column, Objec
 }
 
 bool GetOfColumn(ObjectWorld& world, ObjectRecord& column, const MemberInfo& member,
-                 std::span<const Value>, Value& out) {
+                 std::span<const Value> /*index*/, Value& out) {
   ObjectRecord* list = nullptr;
   const ListRows::Column* const of = ColumnOf(world, column, list);
   if (of == nullptr) return false;
@@ -298,7 +300,7 @@ bool GetOfColumn(ObjectWorld& world, ObjectRecord& column, const MemberInfo& mem
 }
 
 bool SetOfColumn(ObjectWorld& world, ObjectRecord& column, const MemberInfo& member,
-                 std::span<const Value>, const Value& in) {
+                 std::span<const Value> /*index*/, const Value& in) {
   constexpr std::int64_t kWidest = 10'000;
   ObjectRecord* list = nullptr;
   ListRows::Column* const of = ColumnOf(world, column, list);

@@ -38,8 +38,8 @@ bool Insert(ObjectWorld& world, ObjectRecord& menu, std::size_t at, const Value&
   return true;
 }
 
-bool AddItems(ObjectWorld& world, ObjectRecord& menu, const MemberInfo&, std::span<Value> arguments,
-              Value&) {
+bool AddItems(ObjectWorld& world, ObjectRecord& menu, const MemberInfo& /*member*/,
+              std::span<Value> arguments, Value& /*result*/) {
   for (const Value& argument : arguments) {
     if (!Insert(world, menu, menu.As<MenuRows>()->Rows.size(), argument)) return false;
   }
@@ -47,16 +47,16 @@ bool AddItems(ObjectWorld& world, ObjectRecord& menu, const MemberInfo&, std::sp
   return true;
 }
 
-bool InsertItem(ObjectWorld& world, ObjectRecord& menu, const MemberInfo&,
-                std::span<Value> arguments, Value&) {
+bool InsertItem(ObjectWorld& world, ObjectRecord& menu, const MemberInfo& /*member*/,
+                std::span<Value> arguments, Value& /*result*/) {
   const std::int64_t index = std::max<std::int64_t>(arguments[0].AsInteger(), 0);
   if (!Insert(world, menu, static_cast<std::size_t>(index), arguments[1])) return false;
   Changed(world, menu);
   return true;
 }
 
-bool DelItems(ObjectWorld& world, ObjectRecord& menu, const MemberInfo&, std::span<Value> arguments,
-              Value&) {
+bool DelItems(ObjectWorld& world, ObjectRecord& menu, const MemberInfo& /*member*/,
+              std::span<Value> arguments, Value& /*result*/) {
   std::vector<ObjectId>& rows = menu.As<MenuRows>()->Rows;
   std::vector<ObjectId> going;
   for (const Value& argument : arguments) {
@@ -74,7 +74,8 @@ bool DelItems(ObjectWorld& world, ObjectRecord& menu, const MemberInfo&, std::sp
   return true;
 }
 
-bool Clear(ObjectWorld& world, ObjectRecord& menu, const MemberInfo&, std::span<Value>, Value&) {
+bool Clear(ObjectWorld& world, ObjectRecord& menu, const MemberInfo& /*member*/,
+           std::span<Value> /*arguments*/, Value& /*result*/) {
   for (const ObjectId id : menu.As<MenuRows>()->Rows) {
     if (ObjectRecord* const item = world.Find(id)) item->Parent = ObjectId::None;
   }
@@ -83,15 +84,15 @@ bool Clear(ObjectWorld& world, ObjectRecord& menu, const MemberInfo&, std::span<
   return true;
 }
 
-bool CountItems(ObjectWorld&, ObjectRecord& menu, const MemberInfo&, std::span<const Value>,
-                Value& out) {
+bool CountItems(ObjectWorld& /*world*/, ObjectRecord& menu, const MemberInfo& /*member*/,
+                std::span<const Value> /*index*/, Value& out) {
   out = Value::Integer(static_cast<std::int64_t>(menu.As<MenuRows>()->Rows.size()));
   return true;
 }
 
 /// Hangs a main menu on one more form. A form has one: the last one that was hung there.
-bool SetForm(ObjectWorld& world, ObjectRecord& menu, const MemberInfo&, std::span<const Value>,
-             const Value& in) {
+bool SetForm(ObjectWorld& world, ObjectRecord& menu, const MemberInfo& /*member*/,
+             std::span<const Value> /*index*/, const Value& in) {
   ObjectRecord* const form = world.Find(in.AsObject());
   FormState* const state = form == nullptr ? nullptr : form->As<FormState>();
   if (state == nullptr) return world.Fail("A main menu hangs on a form");
@@ -105,12 +106,14 @@ bool SetForm(ObjectWorld& world, ObjectRecord& menu, const MemberInfo&, std::spa
   return true;
 }
 
-void RowChanged(ObjectWorld& world, ObjectRecord& row, const MemberInfo&, Origin) {
+void RowChanged(ObjectWorld& world, ObjectRecord& row, const MemberInfo& /*member*/,
+                Origin /*origin*/) {
   Changed(world, row);
 }
 
 /// Of the radio items of a group one is checked.
-void CheckedChanged(ObjectWorld& world, ObjectRecord& row, const MemberInfo& member, Origin) {
+void CheckedChanged(ObjectWorld& world, ObjectRecord& row, const MemberInfo& member,
+                    Origin /*origin*/) {
   const ObjectRecord* const menu = world.Find(row.Parent);
   if (menu != nullptr && row.Truth(Word::RadioItem) && row.Truth(Word::Checked)) {
     for (const ObjectId other : menu->As<MenuRows>()->Rows) {
@@ -124,8 +127,8 @@ void CheckedChanged(ObjectWorld& world, ObjectRecord& row, const MemberInfo& mem
   Changed(world, row);
 }
 
-bool GetIndex(ObjectWorld& world, ObjectRecord& row, const MemberInfo&, std::span<const Value>,
-              Value& out) {
+bool GetIndex(ObjectWorld& world, ObjectRecord& row, const MemberInfo& /*member*/,
+              std::span<const Value> /*index*/, Value& out) {
   out = Value::Integer(-1);
   const ObjectRecord* const menu = world.Find(row.Parent);
   if (menu == nullptr) return true;
@@ -134,8 +137,8 @@ bool GetIndex(ObjectWorld& world, ObjectRecord& row, const MemberInfo&, std::spa
   return true;
 }
 
-bool SetIndex(ObjectWorld& world, ObjectRecord& row, const MemberInfo&, std::span<const Value>,
-              const Value& in) {
+bool SetIndex(ObjectWorld& world, ObjectRecord& row, const MemberInfo& /*member*/,
+              std::span<const Value> /*index*/, const Value& in) {
   ObjectRecord* const menu = world.Find(row.Parent);
   if (menu == nullptr) return true;
   std::vector<ObjectId>& rows = menu->As<MenuRows>()->Rows;
@@ -157,7 +160,8 @@ bool Popup(ObjectWorld& world, ObjectRecord& menu, const MemberInfo& method,
 }
 
 /// A separator, put in front of an item or at the end of a submenu's rows.
-bool AddBreak(ObjectWorld& world, ObjectRecord& menu, const MemberInfo&, std::span<Value>, Value&) {
+bool AddBreak(ObjectWorld& world, ObjectRecord& menu, const MemberInfo& /*member*/,
+              std::span<Value> /*arguments*/, Value& /*result*/) {
   const ObjectId made = world.Create(static_cast<basic::ClassId>(ObjectClass::QMenuItem),
                                      menu.FullName() + ".Break", -1);
   ObjectRecord& line = *world.Find(made);

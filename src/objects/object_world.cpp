@@ -111,7 +111,7 @@ const ObjectRecord* ObjectWorld::Find(ObjectId object) const {
   return const_cast<ObjectWorld*>(this)->Find(object);
 }
 
-void ObjectWorld::ForEach(const std::function<void(const ObjectRecord&)>& use) const {
+void ObjectWorld::ForEach(const std::function<void(const ObjectRecord& /*object*/)>& use) const {
   std::vector<const ObjectRecord*> records;
   for (const Cell& cell : cells_) {
     if (cell.Record != nullptr) records.push_back(cell.Record.get());

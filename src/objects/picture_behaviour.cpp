@@ -12,7 +12,7 @@ bool Draw(ObjectWorld& world, ObjectRecord& object, const MemberInfo& method,
   return true;
 }
 
-bool SetPixel(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
+bool SetPixel(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
               std::span<const Value> index, const Value& in) {
   Value arguments[] = {index[0], index[1], in};
   Value nothing;
@@ -33,15 +33,15 @@ bool Measure(ObjectWorld& world, ObjectRecord& object, const MemberInfo& method,
 }
 
 /// A picture that is read stands for the object that has it, so that it can be drawn elsewhere.
-bool GetPicture(ObjectWorld&, ObjectRecord& object, const MemberInfo&, std::span<const Value>,
-                Value& out) {
+bool GetPicture(ObjectWorld& /*world*/, ObjectRecord& object, const MemberInfo& /*member*/,
+                std::span<const Value> /*index*/, Value& out) {
   out = Value::Object(object.Id);
   return true;
 }
 
 /// Assigning a picture wipes what was drawn, also when it is the same file once more.
 bool SetPicture(ObjectWorld& world, ObjectRecord& object, const MemberInfo& member,
-                std::span<const Value>, const Value& in) {
+                std::span<const Value> /*index*/, const Value& in) {
   object.Values[member.Slot] = in;
   if (object.Realised || object.Drawn || object.Is(ObjectClass::QBitmap)) {
     object.Drawn = object.Drawn || object.Is(ObjectClass::QBitmap);

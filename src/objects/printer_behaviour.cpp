@@ -18,7 +18,7 @@ bool BeginDoc(ObjectWorld& world, ObjectRecord& printer, const MemberInfo& metho
   printer.Put(Word::Printing, Value::Integer(1));
   printer.Put(Word::PageNumber, Value::Integer(1));
   if (!world.Widgets().Invoke(printer, method, arguments, result)) {
-    world.Note("A program without windows does not print");
+    world.Note("Nothing is printed in a run without windows");
   }
   return true;
 }

@@ -143,7 +143,7 @@ TextSize ScriptedWidgets::Measure(const FontValues& font, std::string_view text,
   return {static_cast<int>(width), static_cast<int>(height)};
 }
 
-PickedNames ScriptedWidgets::PickFiles(const ObjectRecord&) {
+PickedNames ScriptedWidgets::PickFiles(const ObjectRecord& /*object*/) {
   return std::exchange(picked_, {});
 }
 

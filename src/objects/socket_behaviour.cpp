@@ -34,7 +34,7 @@ bool IsReadable(NetworkPort& network, std::int64_t number) {
 }
 
 std::string NoNetwork(const ObjectRecord& socket) {
-  return socket.FullName() + ": a program without windows has no network connections";
+  return socket.FullName() + ": there are no network connections in a run without windows";
 }
 
 /// True when the socket of a number is a connection; else the world has the reason.
@@ -76,8 +76,8 @@ void Transferred(ObjectRecord& socket, std::size_t bytes) {
 
 // --- Sockets
 
-bool Open(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&, std::span<Value> arguments,
-          Value& result) {
+bool Open(ObjectWorld& world, ObjectRecord& socket, const MemberInfo& /*member*/,
+          std::span<Value> arguments, Value& result) {
   result = Value::Integer(kNoSocket);
   socket.Put(Word::MySocket, result);
   const std::int64_t port = arguments[0].AsInteger();
@@ -94,7 +94,7 @@ bool Open(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&, std::span
   return true;
 }
 
-bool Connect(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&,
+bool Connect(ObjectWorld& world, ObjectRecord& socket, const MemberInfo& /*member*/,
              std::span<Value> arguments, Value& result) {
   result = Value::Integer(kNoSocket);
   socket.Put(Word::MySocket, result);
@@ -116,8 +116,8 @@ bool Connect(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&,
   return true;
 }
 
-bool Accept(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&, std::span<Value> arguments,
-            Value& result) {
+bool Accept(ObjectWorld& world, ObjectRecord& socket, const MemberInfo& /*member*/,
+            std::span<Value> arguments, Value& result) {
   result = Value::Integer(kNoSocket);
   NetworkPort* const network = world.Network();
   if (network == nullptr) return world.Fail(NoNetwork(socket));
@@ -135,8 +135,8 @@ bool Accept(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&, std::sp
 }
 
 /// Without a number the socket that the object has opened last.
-bool Close(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&, std::span<Value> arguments,
-           Value&) {
+bool Close(ObjectWorld& world, ObjectRecord& socket, const MemberInfo& /*member*/,
+           std::span<Value> arguments, Value& /*result*/) {
   if (world.Network() == nullptr) return true;
   world.Network()->Close(arguments.empty() ? socket.Number(Word::MySocket)
                                            : arguments[0].AsInteger());
@@ -145,8 +145,8 @@ bool Close(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&, std::spa
 
 /// A server is ready when a client waits, a connection when reading does not wait. The socket in
 /// question is the last argument.
-bool IsReady(ObjectWorld& world, ObjectRecord&, const MemberInfo&, std::span<Value> arguments,
-             Value& result) {
+bool IsReady(ObjectWorld& world, ObjectRecord& /*object*/, const MemberInfo& /*member*/,
+             std::span<Value> arguments, Value& result) {
   result = Value::Integer(0);
   NetworkPort* const network = world.Network();
   if (network == nullptr) return true;
@@ -173,8 +173,8 @@ bool ReadBytes(ObjectWorld& world, ObjectRecord& socket, std::int64_t number, st
   return true;
 }
 
-bool Read(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&, std::span<Value> arguments,
-          Value& result) {
+bool Read(ObjectWorld& world, ObjectRecord& socket, const MemberInfo& /*member*/,
+          std::span<Value> arguments, Value& result) {
   std::string bytes;
   if (!ReadBytes(world, socket, arguments[0].AsInteger(), arguments[1].AsInteger(), bytes)) {
     return false;
@@ -183,7 +183,7 @@ bool Read(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&, std::span
   return true;
 }
 
-bool ReadByte(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&,
+bool ReadByte(ObjectWorld& world, ObjectRecord& socket, const MemberInfo& /*member*/,
               std::span<Value> arguments, Value& result) {
   std::string bytes;
   if (!ReadBytes(world, socket, arguments[0].AsInteger(), 1, bytes)) return false;
@@ -192,7 +192,7 @@ bool ReadByte(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&,
 }
 
 /// Up to the LF, without it and a CR in front of it; at the end of a connection what is left.
-bool ReadLine(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&,
+bool ReadLine(ObjectWorld& world, ObjectRecord& socket, const MemberInfo& /*member*/,
               std::span<Value> arguments, Value& result) {
   const std::int64_t number = arguments[0].AsInteger();
   if (!CheckConnection(world, socket, number)) return false;
@@ -215,8 +215,8 @@ bool ReadLine(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&,
 }
 
 /// What has come already; it never waits for more.
-bool Peek(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&, std::span<Value> arguments,
-          Value& result) {
+bool Peek(ObjectWorld& world, ObjectRecord& socket, const MemberInfo& /*member*/,
+          std::span<Value> arguments, Value& result) {
   const std::int64_t number = arguments[0].AsInteger();
   if (!CheckConnection(world, socket, number)) return false;
   NetworkPort& network = *world.Network();
@@ -253,8 +253,8 @@ bool WriteBytes(ObjectWorld& world, ObjectRecord& socket, std::int64_t number,
 }
 
 /// As many bytes as asked for; without a number all.
-bool Write(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&, std::span<Value> arguments,
-           Value&) {
+bool Write(ObjectWorld& world, ObjectRecord& socket, const MemberInfo& /*member*/,
+           std::span<Value> arguments, Value& /*result*/) {
   const std::string text = arguments[1].AsText();
   std::size_t count = text.size();
   if (arguments.size() > 2) {
@@ -264,13 +264,13 @@ bool Write(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&, std::spa
                     std::string_view(text).substr(0, count));
 }
 
-bool WriteByte(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&,
-               std::span<Value> arguments, Value&) {
+bool WriteByte(ObjectWorld& world, ObjectRecord& socket, const MemberInfo& /*member*/,
+               std::span<Value> arguments, Value& /*result*/) {
   const char byte = static_cast<char>(arguments[1].AsInteger() & 0xFF);
   return WriteBytes(world, socket, arguments[0].AsInteger(), std::string_view(&byte, 1));
 }
 
-bool WriteLine(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&,
+bool WriteLine(ObjectWorld& world, ObjectRecord& socket, const MemberInfo& /*member*/,
                std::span<Value> arguments, Value& result) {
   const std::string line = arguments[1].AsText() + "\r\n";
   if (!WriteBytes(world, socket, arguments[0].AsInteger(), line)) return false;
@@ -280,7 +280,7 @@ bool WriteLine(ObjectWorld& world, ObjectRecord& socket, const MemberInfo&,
 
 // --- Names
 
-bool GetName(ObjectWorld& world, ObjectRecord&, const MemberInfo& method,
+bool GetName(ObjectWorld& world, ObjectRecord& /*object*/, const MemberInfo& method,
              std::span<Value> arguments, Value& result) {
   NetworkPort* const network = world.Network();
   std::string name;

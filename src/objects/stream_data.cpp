@@ -74,7 +74,7 @@ Storage WidthOf(const Value& value) {
   return value.Kind() == SlotKind::Number ? Storage::Double : Storage::Integer;
 }
 
-bool ReadNum(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
+bool ReadNum(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
              std::span<Value> arguments, Value& result) {
   Stream stream(world, object);
   if (!stream.Check()) return false;
@@ -83,8 +83,8 @@ bool ReadNum(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
   return true;
 }
 
-bool WriteNum(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
-              std::span<Value> arguments, Value&) {
+bool WriteNum(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+              std::span<Value> arguments, Value& /*result*/) {
   Stream stream(world, object);
   const Storage type = NumberType(arguments[1].AsInteger());
   const Value number = type == Storage::Double || type == Storage::Single
@@ -94,8 +94,8 @@ bool WriteNum(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
 }
 
 /// As many bytes as the variable takes; a text as many as it has.
-bool Read(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::span<Value> arguments,
-          Value&) {
+bool Read(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+          std::span<Value> arguments, Value& /*result*/) {
   Stream stream(world, object);
   if (!stream.Check()) return false;
   Value& variable = arguments[0];
@@ -108,8 +108,8 @@ bool Read(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::span
   return true;
 }
 
-bool Write(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::span<Value> arguments,
-           Value&) {
+bool Write(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+           std::span<Value> arguments, Value& /*result*/) {
   Stream stream(world, object);
   return stream.Check() && stream.Write(Packed(arguments[0], WidthOf(arguments[0])));
 }
@@ -191,7 +191,7 @@ bool ReadSlot(Stream& stream, basic::Slot& slot, SlotKind kind, Storage storage,
 }
 
 bool ReadWhole(ObjectWorld& world, ObjectRecord& object, const MemberInfo& method,
-               std::span<Value> arguments, Value&) {
+               std::span<Value> arguments, Value& /*result*/) {
   Stream stream(world, object);
   if (!stream.Check()) return false;
   const bool reads = method.Name == Word::ReadUDT || method.Name == Word::LoadArray;

@@ -92,8 +92,8 @@ namespace {
 
 constexpr std::int64_t kCreate = 65535;
 
-bool Open(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::span<Value> arguments,
-          Value& result) {
+bool Open(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+          std::span<Value> arguments, Value& result) {
   constexpr basic::FileMode kModes[] = {basic::FileMode::Read, basic::FileMode::Write,
                                         basic::FileMode::ReadWrite};
   StreamState& state = *object.As<StreamState>();
@@ -111,37 +111,38 @@ bool Open(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::span
 }
 
 /// Closes a file; a stream in memory is emptied.
-bool Close(ObjectWorld&, ObjectRecord& object, const MemberInfo&, std::span<Value>, Value&) {
+bool Close(ObjectWorld& /*world*/, ObjectRecord& object, const MemberInfo& /*member*/,
+           std::span<Value> /*arguments*/, Value& /*result*/) {
   object.State = StreamState();
   return true;
 }
 
-bool GetPosition(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
-                 std::span<const Value>, Value& out) {
+bool GetPosition(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+                 std::span<const Value> /*index*/, Value& out) {
   Stream stream(world, object);
   if (!stream.Check()) return false;
   out = Value::Integer(stream.Position());
   return true;
 }
 
-bool SetPosition(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
-                 std::span<const Value>, const Value& in) {
+bool SetPosition(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+                 std::span<const Value> /*index*/, const Value& in) {
   Stream stream(world, object);
   if (!stream.Check()) return false;
   stream.Seek(in.AsInteger());
   return true;
 }
 
-bool GetSize(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::span<const Value>,
-             Value& out) {
+bool GetSize(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+             std::span<const Value> /*index*/, Value& out) {
   Stream stream(world, object);
   if (!stream.Check()) return false;
   out = Value::Integer(stream.Size());
   return true;
 }
 
-bool GetEnd(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::span<const Value>,
-            Value& out) {
+bool GetEnd(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+            std::span<const Value> /*index*/, Value& out) {
   Stream stream(world, object);
   if (!stream.Check()) return false;
   out = Value::Truth(stream.Position() >= stream.Size());
@@ -149,8 +150,8 @@ bool GetEnd(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::sp
 }
 
 /// Line feeds, and a last line without one. The position stays.
-bool CountLines(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::span<const Value>,
-                Value& out) {
+bool CountLines(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+                std::span<const Value> /*index*/, Value& out) {
   constexpr std::int64_t kPiece = 1 << 16;
   Stream stream(world, object);
   if (!stream.Check()) return false;
@@ -167,8 +168,8 @@ bool CountLines(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std
   return true;
 }
 
-bool Seek(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::span<Value> arguments,
-          Value&) {
+bool Seek(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+          std::span<Value> arguments, Value& /*result*/) {
   constexpr std::int64_t kFromCurrent = 1;
   constexpr std::int64_t kFromEnd = 2;
   Stream stream(world, object);
@@ -181,15 +182,15 @@ bool Seek(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::span
   return true;
 }
 
-bool ReadLine(ObjectWorld& world, ObjectRecord& object, const MemberInfo&, std::span<Value>,
-              Value& result) {
+bool ReadLine(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+              std::span<Value> /*arguments*/, Value& result) {
   Stream stream(world, object);
   if (!stream.Check()) return false;
   result = Value::Text(stream.ReadLine());
   return true;
 }
 
-bool ReadText(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
+bool ReadText(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
               std::span<Value> arguments, Value& result) {
   Stream stream(world, object);
   if (!stream.Check()) return false;
@@ -197,15 +198,15 @@ bool ReadText(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
   return true;
 }
 
-bool WriteLine(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
-               std::span<Value> arguments, Value&) {
+bool WriteLine(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+               std::span<Value> arguments, Value& /*result*/) {
   Stream stream(world, object);
   return stream.Check() && stream.Write(arguments[0].AsText() + "\r\n");
 }
 
 /// As many bytes as asked for: of a text that is shorter all, without a number all.
-bool WriteText(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
-               std::span<Value> arguments, Value&) {
+bool WriteText(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+               std::span<Value> arguments, Value& /*result*/) {
   Stream stream(world, object);
   if (!stream.Check()) return false;
   const std::string text = arguments[0].AsText();
@@ -217,8 +218,8 @@ bool WriteText(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
 }
 
 /// Copies from the position of the other stream on; 0 bytes: all of it from its start.
-bool CopyFrom(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
-              std::span<Value> arguments, Value&) {
+bool CopyFrom(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+              std::span<Value> arguments, Value& /*result*/) {
   constexpr std::int64_t kPiece = 1 << 16;
   Stream to(world, object);
   Stream from(world, arguments[0].AsObject());
@@ -237,8 +238,8 @@ bool CopyFrom(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
   return true;
 }
 
-bool ExtractResource(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
-                     std::span<Value> arguments, Value&) {
+bool ExtractResource(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+                     std::span<Value> arguments, Value& /*result*/) {
   Stream stream(world, object);
   if (!stream.Check()) return false;
   const std::string path(world.ResourceFile(arguments[0].AsInteger()));
@@ -246,8 +247,8 @@ bool ExtractResource(ObjectWorld& world, ObjectRecord& object, const MemberInfo&
   return !bytes || stream.Write(*bytes);
 }
 
-bool LoadFromFile(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
-                  std::span<Value> arguments, Value&) {
+bool LoadFromFile(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+                  std::span<Value> arguments, Value& /*result*/) {
   std::optional<std::string> bytes = ReadTextFile(world, object, arguments[0].AsText());
   if (!bytes) return true;
   StreamState& state = *object.As<StreamState>();
@@ -256,8 +257,8 @@ bool LoadFromFile(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
   return true;
 }
 
-bool SaveToFile(ObjectWorld& world, ObjectRecord& object, const MemberInfo&,
-                std::span<Value> arguments, Value&) {
+bool SaveToFile(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*member*/,
+                std::span<Value> arguments, Value& /*result*/) {
   return WriteTextFile(world, object, arguments[0].AsText(), object.As<StreamState>()->Bytes);
 }
 

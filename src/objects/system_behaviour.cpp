@@ -4,13 +4,14 @@
 namespace tarnwick::objects {
 namespace {
 
-bool Terminate(ObjectWorld& world, ObjectRecord&, const MemberInfo&, std::span<Value>, Value&) {
+bool Terminate(ObjectWorld& world, ObjectRecord& /*object*/, const MemberInfo& /*member*/,
+               std::span<Value> /*arguments*/, Value& /*result*/) {
   world.Terminate();
   return true;
 }
 
-bool ClearClipboard(ObjectWorld& world, ObjectRecord& clipboard, const MemberInfo&,
-                    std::span<Value>, Value&) {
+bool ClearClipboard(ObjectWorld& world, ObjectRecord& clipboard, const MemberInfo& /*member*/,
+                    std::span<Value> /*arguments*/, Value& /*result*/) {
   world.Change(clipboard, Word::Text, Value::Text({}), Origin::Code);
   return true;
 }
@@ -30,20 +31,21 @@ bool HasFormat(ObjectWorld& world, ObjectRecord& clipboard, const MemberInfo& me
   return true;
 }
 
-bool CountFormats(ObjectWorld& world, ObjectRecord& clipboard, const MemberInfo&,
-                  std::span<const Value>, Value& out) {
+bool CountFormats(ObjectWorld& world, ObjectRecord& clipboard, const MemberInfo& /*member*/,
+                  std::span<const Value> /*index*/, Value& out) {
   out = Value::Integer(HasText(world, clipboard) ? 1 : 0);
   return true;
 }
 
 /// What is copied is there at once, whether or not the clipboard was opened.
-bool Nothing(ObjectWorld&, ObjectRecord&, const MemberInfo&, std::span<Value>, Value&) {
+bool Nothing(ObjectWorld& /*world*/, ObjectRecord& /*object*/, const MemberInfo& /*member*/,
+             std::span<Value> /*arguments*/, Value& /*result*/) {
   return true;
 }
 
 /// The clipboard is not the program's own: a text that it holds already may be another by now.
 bool SetClipboard(ObjectWorld& world, ObjectRecord& clipboard, const MemberInfo& member,
-                  std::span<const Value>, const Value& in) {
+                  std::span<const Value> /*index*/, const Value& in) {
   clipboard.Put(member.Name, Value::Text(in.AsText()));
   world.Show(clipboard, member.Name);
   return true;

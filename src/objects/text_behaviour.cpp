@@ -19,7 +19,7 @@ void SetTextOf(ObjectWorld& world, ObjectRecord& box, std::string text) {
 }
 
 bool SetText(ObjectWorld& world, ObjectRecord& box, const MemberInfo& member,
-             std::span<const Value>, const Value& in) {
+             std::span<const Value> /*index*/, const Value& in) {
   constexpr std::int64_t kUpper = 1;
   constexpr std::int64_t kLower = 2;
   const std::int64_t letters = box.Number(Word::CharCase);
@@ -30,7 +30,8 @@ bool SetText(ObjectWorld& world, ObjectRecord& box, const MemberInfo& member,
   return true;
 }
 
-void TextChanged(ObjectWorld& world, ObjectRecord& box, const MemberInfo&, Origin origin) {
+void TextChanged(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+                 Origin origin) {
   if (auto* const lines = box.As<TextLines>()) lines->Starts.clear();
   box.Put(Word::Modified, Value::Integer(origin == Origin::User ? 1 : 0));
   if (origin == Origin::Code) {
@@ -60,8 +61,8 @@ Selection SelectionOf(ObjectWorld& world, ObjectRecord& box) {
   return selection;
 }
 
-bool GetSelected(ObjectWorld& world, ObjectRecord& box, const MemberInfo&, std::span<const Value>,
-                 Value& out) {
+bool GetSelected(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+                 std::span<const Value> /*index*/, Value& out) {
   const Selection selection = SelectionOf(world, box);
   out = Value::Text(std::string(TextOf(box).substr(selection.Start, selection.Length)));
   return true;
@@ -86,21 +87,22 @@ void ReplaceSelected(ObjectWorld& world, ObjectRecord& box, std::string_view tex
   world.Change(*after, Word::SelLength, Value::Integer(0), Origin::Code);
 }
 
-bool SetSelected(ObjectWorld& world, ObjectRecord& box, const MemberInfo&, std::span<const Value>,
-                 const Value& in) {
+bool SetSelected(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+                 std::span<const Value> /*index*/, const Value& in) {
   ReplaceSelected(world, box, in.AsText());
   return true;
 }
 
-bool SelectAll(ObjectWorld& world, ObjectRecord& box, const MemberInfo&, std::span<Value>, Value&) {
+bool SelectAll(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+               std::span<Value> /*arguments*/, Value& /*result*/) {
   const auto size = static_cast<std::int64_t>(TextOf(box).size());
   world.Change(box, Word::SelStart, Value::Integer(0), Origin::Code);
   world.Change(box, Word::SelLength, Value::Integer(size), Origin::Code);
   return true;
 }
 
-bool ClearSelection(ObjectWorld& world, ObjectRecord& box, const MemberInfo&, std::span<Value>,
-                    Value&) {
+bool ClearSelection(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+                    std::span<Value> /*arguments*/, Value& /*result*/) {
   ReplaceSelected(world, box, {});
   return true;
 }
@@ -109,8 +111,8 @@ ObjectRecord& ClipboardOf(ObjectWorld& world) {
   return *world.Find(world.BuiltIn(static_cast<basic::ClassId>(ObjectClass::Clipboard)));
 }
 
-bool Copy(ObjectWorld& world, ObjectRecord& box, const MemberInfo& method, std::span<Value>,
-          Value&) {
+bool Copy(ObjectWorld& world, ObjectRecord& box, const MemberInfo& method,
+          std::span<Value> /*arguments*/, Value& /*result*/) {
   Value selected;
   GetSelected(world, box, method, {}, selected);
   if (selected.View().empty()) return true;
@@ -119,7 +121,8 @@ bool Copy(ObjectWorld& world, ObjectRecord& box, const MemberInfo& method, std::
   return true;
 }
 
-bool Paste(ObjectWorld& world, ObjectRecord& box, const MemberInfo&, std::span<Value>, Value&) {
+bool Paste(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+           std::span<Value> /*arguments*/, Value& /*result*/) {
   ObjectRecord& clipboard = ClipboardOf(world);
   Value text;
   LiveValue(world, clipboard, *clipboard.Info().Find(Word::Text), {}, text);
@@ -127,7 +130,8 @@ bool Paste(ObjectWorld& world, ObjectRecord& box, const MemberInfo&, std::span<V
   return true;
 }
 
-bool Clear(ObjectWorld& world, ObjectRecord& box, const MemberInfo&, std::span<Value>, Value&) {
+bool Clear(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+           std::span<Value> /*arguments*/, Value& /*result*/) {
   SetTextOf(world, box, {});
   return true;
 }
@@ -157,8 +161,8 @@ std::string_view WholeLine(ObjectRecord& box, std::size_t line) {
   return TextOf(box).substr(starts[line], starts[line + 1] - starts[line]);
 }
 
-bool GetLine(ObjectWorld& world, ObjectRecord& box, const MemberInfo&, std::span<const Value> index,
-             Value& out) {
+bool GetLine(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+             std::span<const Value> index, Value& out) {
   const std::int64_t line = index[0].AsInteger();
   const std::size_t count = LineCountOf(box);
   if (line < 0 || line >= static_cast<std::int64_t>(count)) {
@@ -191,40 +195,40 @@ void Splice(ObjectWorld& world, ObjectRecord& box, std::int64_t line, std::size_
   SetTextOf(world, box, std::move(text));
 }
 
-bool SetLine(ObjectWorld& world, ObjectRecord& box, const MemberInfo&, std::span<const Value> index,
-             const Value& in) {
+bool SetLine(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+             std::span<const Value> index, const Value& in) {
   Splice(world, box, index[0].AsInteger(), 1, in.AsText() + "\r\n");
   return true;
 }
 
-bool CountLines(ObjectWorld&, ObjectRecord& box, const MemberInfo&, std::span<const Value>,
-                Value& out) {
+bool CountLines(ObjectWorld& /*world*/, ObjectRecord& box, const MemberInfo& /*member*/,
+                std::span<const Value> /*index*/, Value& out) {
   out = Value::Integer(static_cast<std::int64_t>(LineCountOf(box)));
   return true;
 }
 
-bool InsertLine(ObjectWorld& world, ObjectRecord& box, const MemberInfo&,
-                std::span<Value> arguments, Value&) {
+bool InsertLine(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+                std::span<Value> arguments, Value& /*result*/) {
   Splice(world, box, arguments[0].AsInteger(), 0, arguments[1].AsText() + "\r\n");
   return true;
 }
 
-bool DeleteLine(ObjectWorld& world, ObjectRecord& box, const MemberInfo&,
-                std::span<Value> arguments, Value&) {
+bool DeleteLine(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+                std::span<Value> arguments, Value& /*result*/) {
   Splice(world, box, arguments[0].AsInteger(), 1, {});
   return true;
 }
 
-bool AddStrings(ObjectWorld& world, ObjectRecord& box, const MemberInfo&,
-                std::span<Value> arguments, Value&) {
+bool AddStrings(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+                std::span<Value> arguments, Value& /*result*/) {
   std::string lines;
   for (const Value& argument : arguments) lines += argument.AsText() + "\r\n";
   Splice(world, box, static_cast<std::int64_t>(LineCountOf(box)), 0, lines);
   return true;
 }
 
-bool GetColumn(ObjectWorld& world, ObjectRecord& box, const MemberInfo&, std::span<const Value>,
-               Value& out) {
+bool GetColumn(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+               std::span<const Value> /*index*/, Value& out) {
   const std::size_t caret = SelectionOf(world, box).Start;
   const std::size_t end = caret == 0 ? std::string_view::npos : TextOf(box).rfind('\n', caret - 1);
   out = Value::Integer(
@@ -232,8 +236,8 @@ bool GetColumn(ObjectWorld& world, ObjectRecord& box, const MemberInfo&, std::sp
   return true;
 }
 
-bool GetRow(ObjectWorld& world, ObjectRecord& box, const MemberInfo&, std::span<const Value>,
-            Value& out) {
+bool GetRow(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+            std::span<const Value> /*index*/, Value& out) {
   const std::string_view before = TextOf(box).substr(0, SelectionOf(world, box).Start);
   out = Value::Integer(std::count(before.begin(), before.end(), '\n'));
   return true;
@@ -250,22 +254,22 @@ std::string ContentOf(const ObjectRecord& box) {
   return box.Truth(Word::PlainText) ? std::string(TextOf(box)) : RichTextOf(TextOf(box));
 }
 
-bool LoadFromFile(ObjectWorld& world, ObjectRecord& box, const MemberInfo&,
-                  std::span<Value> arguments, Value&) {
+bool LoadFromFile(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+                  std::span<Value> arguments, Value& /*result*/) {
   std::optional<std::string> bytes = ReadTextFile(world, box, arguments[0].AsText());
   if (bytes) TakeContent(world, box, *std::move(bytes));
   return true;
 }
 
-bool SaveToFile(ObjectWorld& world, ObjectRecord& box, const MemberInfo&,
-                std::span<Value> arguments, Value&) {
+bool SaveToFile(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+                std::span<Value> arguments, Value& /*result*/) {
   if (!WriteTextFile(world, box, arguments[0].AsText(), ContentOf(box))) return false;
   box.Put(Word::Modified, Value::Integer(0));
   return true;
 }
 
-bool LoadFromStream(ObjectWorld& world, ObjectRecord& box, const MemberInfo&,
-                    std::span<Value> arguments, Value&) {
+bool LoadFromStream(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+                    std::span<Value> arguments, Value& /*result*/) {
   Stream stream(world, arguments[0].AsObject());
   if (!stream.Check()) return false;
   const std::int64_t count = arguments.size() > 1 ? arguments[1].AsInteger() : 0;
@@ -273,15 +277,15 @@ bool LoadFromStream(ObjectWorld& world, ObjectRecord& box, const MemberInfo&,
   return true;
 }
 
-bool SaveToStream(ObjectWorld& world, ObjectRecord& box, const MemberInfo&,
-                  std::span<Value> arguments, Value&) {
+bool SaveToStream(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
+                  std::span<Value> arguments, Value& /*result*/) {
   Stream stream(world, arguments[0].AsObject());
   return stream.Check() && stream.Write(ContentOf(box));
 }
 
 /// The font of what is selected: known to the widget alone.
 bool SetSelAttributes(ObjectWorld& world, ObjectRecord& box, const MemberInfo& member,
-                      std::span<const Value>, const Value& in) {
+                      std::span<const Value> /*index*/, const Value& in) {
   Value font = in;
   Value nothing;
   if (box.Realised) world.Widgets().Invoke(box, member, {&font, 1}, nothing);
@@ -289,13 +293,13 @@ bool SetSelAttributes(ObjectWorld& world, ObjectRecord& box, const MemberInfo& m
 }
 
 /// Without a mask the text that is edited is the text.
-bool GetEditText(ObjectWorld&, ObjectRecord& box, const MemberInfo&, std::span<const Value>,
-                 Value& out) {
+bool GetEditText(ObjectWorld& /*world*/, ObjectRecord& box, const MemberInfo& /*member*/,
+                 std::span<const Value> /*index*/, Value& out) {
   out = box.At(Word::Text);
   return true;
 }
 
-bool SetEditText(ObjectWorld& world, ObjectRecord& box, const MemberInfo&,
+bool SetEditText(ObjectWorld& world, ObjectRecord& box, const MemberInfo& /*member*/,
                  std::span<const Value> index, const Value& in) {
   return SetText(world, box, *box.Info().Find(Word::Text), index, in);
 }

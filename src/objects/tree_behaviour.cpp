@@ -11,6 +11,8 @@ namespace {
 using Kind = ItemsChange::Kind;
 using Nodes = std::vector<TreeNodes::Node>;
 
+constexpr int kMostLevels = 1000;  ///< below each other, so that a tree can always be shown
+
 Nodes& NodesOf(ObjectRecord& tree) {
   return tree.As<TreeNodes>()->All;
 }
@@ -38,8 +40,8 @@ void Insert(ObjectRecord& tree, std::size_t at, std::string text, int level) {
   if (picked >= static_cast<std::int64_t>(at)) MovePick(tree, picked + 1);
 }
 
-bool AddItems(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&, std::span<Value> arguments,
-              Value&) {
+bool AddItems(ObjectWorld& world, ObjectRecord& tree, const MemberInfo& /*member*/,
+              std::span<Value> arguments, Value& /*result*/) {
   for (const Value& argument : arguments) {
     Insert(tree, NodesOf(tree).size(), argument.AsText(), 0);
   }
@@ -47,12 +49,16 @@ bool AddItems(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&, std::sp
   return true;
 }
 
-bool AddChildItems(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&,
-                   std::span<Value> arguments, Value&) {
+bool AddChildItems(ObjectWorld& world, ObjectRecord& tree, const MemberInfo& /*member*/,
+                   std::span<Value> arguments, Value& /*result*/) {
   Nodes& nodes = NodesOf(tree);
   const std::int64_t index = arguments[0].AsInteger();
   if (!HasPart(world, tree, "item", nodes.size(), index)) return false;
   const auto parent = static_cast<std::size_t>(index);
+  if (nodes[parent].Level + 1 >= kMostLevels) {
+    return world.Fail(tree.FullName() + ": nodes can stand " + std::to_string(kMostLevels) +
+                      " levels deep at most");
+  }
   std::size_t at = EndOf(nodes, parent);
   for (const Value& argument : arguments.subspan(1)) {
     Insert(tree, at++, argument.AsText(), nodes[parent].Level + 1);
@@ -62,8 +68,8 @@ bool AddChildItems(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&,
 }
 
 /// In front of a node, beside it; behind the last one at the top.
-bool InsertItem(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&,
-                std::span<Value> arguments, Value&) {
+bool InsertItem(ObjectWorld& world, ObjectRecord& tree, const MemberInfo& /*member*/,
+                std::span<Value> arguments, Value& /*result*/) {
   const Nodes& nodes = NodesOf(tree);
   const std::int64_t index = arguments[0].AsInteger();
   const bool last = index == static_cast<std::int64_t>(nodes.size());
@@ -75,8 +81,8 @@ bool InsertItem(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&,
 }
 
 /// What is below a node goes with it.
-bool DelItems(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&, std::span<Value> arguments,
-              Value&) {
+bool DelItems(ObjectWorld& world, ObjectRecord& tree, const MemberInfo& /*member*/,
+              std::span<Value> arguments, Value& /*result*/) {
   Nodes& nodes = NodesOf(tree);
   std::vector<std::int64_t> indexes;
   for (const Value& argument : arguments) {
@@ -96,23 +102,24 @@ bool DelItems(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&, std::sp
   return true;
 }
 
-bool Clear(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&, std::span<Value>, Value&) {
+bool Clear(ObjectWorld& world, ObjectRecord& tree, const MemberInfo& /*member*/,
+           std::span<Value> /*arguments*/, Value& /*result*/) {
   NodesOf(tree).clear();
   MovePick(tree, -1);
   ShowAll(world, tree);
   return true;
 }
 
-bool ExpandAll(ObjectWorld& world, ObjectRecord& tree, const MemberInfo& method, std::span<Value>,
-               Value&) {
+bool ExpandAll(ObjectWorld& world, ObjectRecord& tree, const MemberInfo& method,
+               std::span<Value> /*arguments*/, Value& /*result*/) {
   for (TreeNodes::Node& node : NodesOf(tree)) node.Expanded = method.Name == Word::FullExpand;
   ShowAll(world, tree);
   return true;
 }
 
 /// A line for each node, with a tab for each level.
-bool LoadFromFile(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&,
-                  std::span<Value> arguments, Value&) {
+bool LoadFromFile(ObjectWorld& world, ObjectRecord& tree, const MemberInfo& /*member*/,
+                  std::span<Value> arguments, Value& /*result*/) {
   const std::optional<std::string> text = ReadTextFile(world, tree, arguments[0].AsText());
   if (!text) return true;
   Nodes& nodes = NodesOf(tree);
@@ -121,7 +128,7 @@ bool LoadFromFile(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&,
   for (const std::string& line : LinesOf(*text)) {
     const std::size_t tabs = std::min(line.find_first_not_of('\t'), line.size());
     // A node stands one level below the one in front of it at most.
-    const int deepest = nodes.empty() ? 0 : nodes.back().Level + 1;
+    const int deepest = nodes.empty() ? 0 : std::min(nodes.back().Level + 1, kMostLevels - 1);
     const int level =
         static_cast<int>(std::min<std::size_t>(tabs, static_cast<std::size_t>(deepest)));
     nodes.push_back({line.substr(tabs), level, false, -1, -1});
@@ -130,8 +137,8 @@ bool LoadFromFile(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&,
   return true;
 }
 
-bool SaveToFile(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&,
-                std::span<Value> arguments, Value&) {
+bool SaveToFile(ObjectWorld& world, ObjectRecord& tree, const MemberInfo& /*member*/,
+                std::span<Value> arguments, Value& /*result*/) {
   std::string text;
   for (const TreeNodes::Node& node : NodesOf(tree)) {
     text += std::string(static_cast<std::size_t>(node.Level), '\t') + node.Text + "\r\n";
@@ -139,13 +146,13 @@ bool SaveToFile(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&,
   return WriteTextFile(world, tree, arguments[0].AsText(), text);
 }
 
-bool Count(ObjectWorld&, ObjectRecord& tree, const MemberInfo&, std::span<const Value>,
-           Value& out) {
+bool Count(ObjectWorld& /*world*/, ObjectRecord& tree, const MemberInfo& /*member*/,
+           std::span<const Value> /*index*/, Value& out) {
   out = Value::Integer(static_cast<std::int64_t>(NodesOf(tree).size()));
   return true;
 }
 
-bool GetItem(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&,
+bool GetItem(ObjectWorld& world, ObjectRecord& tree, const MemberInfo& /*member*/,
              std::span<const Value> index, Value& out) {
   const std::int64_t number = index[0].AsInteger();
   if (!HasPart(world, tree, "item", NodesOf(tree).size(), number)) return false;
@@ -156,14 +163,14 @@ bool GetItem(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&,
 
 /// An index outside picks nothing.
 bool SetIndex(ObjectWorld& world, ObjectRecord& tree, const MemberInfo& member,
-              std::span<const Value>, const Value& in) {
+              std::span<const Value> /*index*/, const Value& in) {
   const std::int64_t index = in.AsInteger();
   const bool inside = index >= 0 && index < static_cast<std::int64_t>(NodesOf(tree).size());
   world.Change(tree, member, Value::Integer(inside ? index : -1), Origin::Code);
   return true;
 }
 
-void Picked(ObjectWorld& world, ObjectRecord& tree, const MemberInfo&, Origin origin) {
+void Picked(ObjectWorld& world, ObjectRecord& tree, const MemberInfo& /*member*/, Origin origin) {
   if (origin == Origin::User) world.Raise(tree.Id, Word::OnChange);
 }
 
@@ -186,7 +193,7 @@ std::int64_t ParentOf(const Nodes& nodes, std::size_t index) {
 }
 
 bool GetOfNode(ObjectWorld& world, ObjectRecord& node, const MemberInfo& member,
-               std::span<const Value>, Value& out) {
+               std::span<const Value> /*index*/, Value& out) {
   ObjectRecord* tree = nullptr;
   const Nodes* const nodes = NodesBehind(world, node, tree);
   if (nodes == nullptr) return false;
@@ -227,7 +234,7 @@ bool GetOfNode(ObjectWorld& world, ObjectRecord& node, const MemberInfo& member,
 }
 
 bool SetOfNode(ObjectWorld& world, ObjectRecord& node, const MemberInfo& member,
-               std::span<const Value>, const Value& in) {
+               std::span<const Value> /*index*/, const Value& in) {
   ObjectRecord* tree = nullptr;
   Nodes* const nodes = NodesBehind(world, node, tree);
   if (nodes == nullptr) return false;

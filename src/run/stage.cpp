@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QTimer>
 #include <algorithm>
+#include <utility>
 
 #include "run/drawing_surfaces.h"
 #include "run/file_dialogs.h"
@@ -144,7 +145,7 @@ void Stage::Report(std::function<void()> report) {
 
 bool Stage::Raise(ObjectId object, Word event, std::vector<Value> arguments) {
   if (quiet_) {
-    reports_.push_back([this, object, event, arguments] { Raise(object, event, arguments); });
+    reports_.emplace_back([this, object, event, arguments] { Raise(object, event, arguments); });
     return true;
   }
   if (Ending()) return false;
@@ -154,11 +155,12 @@ bool Stage::Raise(ObjectId object, Word event, std::vector<Value> arguments) {
 }
 
 void Stage::RunReports() {
-  for (std::size_t i = 0; i < reports_.size(); ++i) {
-    const std::function<void()> report = std::move(reports_[i]);
-    if (!Ending()) report();
+  // A handler that waits for data may bring further reports.
+  while (!reports_.empty()) {
+    for (const std::function<void()>& report : std::exchange(reports_, {})) {
+      if (!Ending()) report();
+    }
   }
-  reports_.clear();
 }
 
 bool Stage::PumpEvents(int wait_ms) {

@@ -128,6 +128,13 @@ TEST(Trees, AFileHasATabForEachLevel) {
   EXPECT_EQ(program.Files.BytesOf("t.txt"), "a\r\n\tc\r\n\t\te\r\n\td\r\nb\r\n");
 }
 
+TEST(Trees, LevelsHaveTheirLimit) {
+  EXPECT_EQ(PrintedBy("DIM T AS QTREEVIEW\nT.AddItems \"0\"\nFOR k = 0 TO 998\n"
+                      "T.AddChildItems k, STR$(k)\nNEXT\nPRINT T.Item(999).Level\n"
+                      "T.AddChildItems 999, \"x\""),
+            "999\nerror: T: nodes can stand 1000 levels deep at most");
+}
+
 TEST(Trees, WhatIsNotThereIsAnError) {
   EXPECT_EQ(PrintedBy(kTree + "PRINT T.Item(5).Text"),
             "error: T has no item 5: it has 5, counted from 0");

@@ -38,7 +38,7 @@ TEST(Printers, WithoutWindowsNothingIsPrintedAndANoteTellsSo) {
       "R.Print(\"Text\")\nPRINT Printer.Title");
   EXPECT_EQ(program.Run(), "List\n");
   ASSERT_EQ(program.Result.Notes.size(), 2U);
-  EXPECT_EQ(program.Result.Notes[0].Text, "A program without windows does not print");
+  EXPECT_EQ(program.Result.Notes[0].Text, "Nothing is printed in a run without windows");
   EXPECT_EQ(program.Result.Notes[1].Text, "R is not shown in a window: nothing was printed");
 }
 

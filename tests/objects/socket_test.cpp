@@ -168,7 +168,7 @@ TEST(Sockets, WithoutANetworkTheProgramIsToldSo) {
       "PRINT S.Open(80); A.Connect(\"here\", 80); A.IsServerReady(1); A.GetHostName\nA.Close\n"
       "PRINT A.ReadLine(-1)");
   program.Network = nullptr;
-  const std::string why = "a program without windows has no network connections";
+  const std::string why = "there are no network connections in a run without windows";
   EXPECT_EQ(program.Run(), "-1-10\nerror: A: " + why);
   EXPECT_EQ(program.Notes(), "S: " + why + "\nA: " + why + "\n");
   ASSERT_EQ(program.Result.Notes.size(), 2U);

@@ -137,6 +137,13 @@ TEST(IncludeFile, GridsListsOfFilesAndSoundsHaveTheirNames) {
     ASSERT_TRUE(constants.contains(type)) << type;
     EXPECT_EQ(constants[type], number++) << type;
   }
+  number = 0;
+  for (const char* style : {"vsIcon", "vsSmallIcon", "vsList", "vsReport"}) {
+    ASSERT_TRUE(constants.contains(style)) << style;
+    EXPECT_EQ(constants[style], number++) << style;
+  }
+  EXPECT_EQ(constants["stBoth"], 3);
+  EXPECT_EQ(constants["poLandscape"], 1);
   ASSERT_TRUE(constants.contains("SND_SYNC"));
   EXPECT_EQ(constants["SND_SYNC"], 0);
   EXPECT_EQ(constants["SND_ASYNC"], 1);
