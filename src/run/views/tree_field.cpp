@@ -1,5 +1,6 @@
 #include "run/views/tree_field.h"
 
+#include <QEvent>
 #include <algorithm>
 
 #include "looks/object_faces.h"

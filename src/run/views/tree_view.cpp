@@ -1,6 +1,6 @@
 #include "run/views/tree_view.h"
 
-#include <QMetaObject>
+#include <QTimer>
 #include <algorithm>
 
 #include "looks/object_faces.h"
@@ -45,13 +45,10 @@ void TreeView::ShowItems(const ObjectRecord& tree, const ItemsChange& change) {
   }
   if (waiting_) return;
   waiting_ = true;
-  QMetaObject::invokeMethod(
-      this,
-      [this] {
-        waiting_ = false;
-        if (const ObjectRecord* const now = Record()) ShowNodes(*now);
-      },
-      Qt::QueuedConnection);
+  QTimer::singleShot(0, this, [this] {
+    waiting_ = false;
+    if (const ObjectRecord* const now = Record()) ShowNodes(*now);
+  });
 }
 
 void TreeView::ShowNode(const ObjectRecord& tree, std::size_t index) {
