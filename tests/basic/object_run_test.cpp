@@ -50,6 +50,15 @@ TEST(ObjectRunTest, AParameterOfAnObjectTypeGetsTheSender) {
   EXPECT_EQ(run.Printed, "1 from 9\n");
 }
 
+TEST(ObjectRunTest, AParameterOfATypeOfOnesOwnGetsTheSenderWithItsFields) {
+  const BoxRun run = RunBoxes(
+      "TYPE TBox EXTENDS QBOX\nExtra AS INTEGER\nEND TYPE\n"
+      "SUB Handle(n AS INTEGER, Sender AS TBox)\nPRINT n; \" from \"; Sender.Extra\nEND SUB\n"
+      "DIM b AS TBox\nb.Extra = 7\nb.OnFire = Handle\nb.Fire(1)\n");
+  EXPECT_EQ(run.Faults, "");
+  EXPECT_EQ(run.Printed, "1 from 7\n");
+}
+
 TEST(ObjectRunTest, EndInsideAHandlerEndsTheProgram) {
   const BoxRun run = RunBoxes(
       "SUB Handle(n AS INTEGER)\nEND\nEND SUB\nDIM b AS QBOX\nb.OnFire = Handle\nb.Fire(1)\n"

@@ -14,11 +14,11 @@ constexpr std::array<std::string_view, 4> kHandedOn = {"$TYPECHECK", "$RESOURCE"
 
 }  // namespace
 
-Preprocessor::Preprocessor(SourceSet& files, SourceReader& reader, const SourceOptions& options,
+Preprocessor::Preprocessor(SourceSet& files, SourceReader& reader, SourceOptions options,
                            Messages& messages)
     : files_(files),
       reader_(reader),
-      options_(options),
+      options_(std::move(options)),
       messages_(messages),
       macros_(memory_, messages) {
   if (files_.Count() > 0) OpenUp(0);

@@ -28,8 +28,7 @@ struct SourceOptions {
 /// there. The views of the tokens point into the source set and into this.
 class Preprocessor final : public TokenLines {
  public:
-  Preprocessor(SourceSet& files, SourceReader& reader, const SourceOptions& options,
-               Messages& messages);
+  Preprocessor(SourceSet& files, SourceReader& reader, SourceOptions options, Messages& messages);
 
   void Next(std::vector<SourceToken>& line) override;
 
