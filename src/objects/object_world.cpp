@@ -273,9 +273,11 @@ void ObjectWorld::Realise(ObjectRecord& object) {
     next->Realised = true;
     widgets_.Realise(*next);
     LabelFitsText(*this, *next);
-    for (auto child = next->Children.rbegin(); child != next->Children.rend(); ++child) {
-      const ObjectRecord* const record = Find(*child);
-      if (record != nullptr && !record->Info().Has(ClassFlag::Window)) waiting.push_back(*child);
+    // The last one waits longest.
+    const std::vector<ObjectId> children(next->Children.rbegin(), next->Children.rend());
+    for (const ObjectId child : children) {
+      const ObjectRecord* const record = Find(child);
+      if (record != nullptr && !record->Info().Has(ClassFlag::Window)) waiting.push_back(child);
     }
   }
   RealiseMenu(*this, object);
@@ -344,12 +346,13 @@ void ObjectWorld::Free(ObjectId object) {
   }
   for (const ObjectId id : going) LeaveMenus(*this, id);
   // What stands on a widget goes before it.
-  for (auto id = going.rbegin(); id != going.rend(); ++id) {
-    const ObjectRecord* const record = Find(*id);
+  std::reverse(going.begin(), going.end());
+  for (const ObjectId id : going) {
+    const ObjectRecord* const record = Find(id);
     if (record == nullptr) continue;
     if (record->Info().Has(ClassFlag::Window) && record->Truth(Word::Visible)) FormVisible(false);
-    if (record->Realised || record->Drawn) widgets_.Destroy(*id);
-    const std::uint64_t cell = (static_cast<std::uint64_t>(*id) & 0xFFFFFFFFU) - 1;
+    if (record->Realised || record->Drawn) widgets_.Destroy(id);
+    const std::uint64_t cell = (static_cast<std::uint64_t>(id) & 0xFFFFFFFFU) - 1;
     cells_[cell].Record.reset();
     ++cells_[cell].Generation;
     free_cells_.push_back(static_cast<std::uint32_t>(cell));

@@ -36,7 +36,7 @@ class Reader {
   }
 
  private:
-  bool Silent() const { return silent_ > 0; }
+  [[nodiscard]] bool Silent() const { return silent_ > 0; }
 
   void Put(std::string_view text) {
     if (!Silent()) text_ += text;
@@ -110,7 +110,7 @@ std::string PlainTextOf(std::string_view rich) {
 
 std::string RichTextOf(std::string_view plain) {
   constexpr char kDigits[] = "0123456789abcdef";
-  std::string rich = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0 MS Sans Serif;}}\\f0\\fs16 ";
+  std::string rich = R"({\rtf1\ansi\ansicpg1252\deff0{\fonttbl{\f0 MS Sans Serif;}}\f0\fs16 )";
   for (std::size_t i = 0; i < plain.size(); ++i) {
     const char c = plain[i];
     const auto byte = static_cast<unsigned char>(c);

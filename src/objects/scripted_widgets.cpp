@@ -36,7 +36,7 @@ ScriptedWidgets::ScriptedWidgets(std::string_view script) {
   }
 }
 
-bool ScriptedWidgets::PumpEvents(int) {
+bool ScriptedWidgets::PumpEvents(int /*wait_ms*/) {
   if (lines_.empty() || world_ == nullptr) return false;
   const std::string line = std::move(lines_.front());
   lines_.pop_front();

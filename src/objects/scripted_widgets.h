@@ -35,17 +35,19 @@ class ScriptedWidgets final : public WidgetPort {
   /// The objects on which the script is played; to be set before the program runs.
   void Play(ObjectWorld& world) { world_ = &world; }
 
-  void Realise(const ObjectRecord&) override {}
-  void Apply(const ObjectRecord&, const MemberInfo&) override {}
-  void ItemsChanged(const ObjectRecord&, const ItemsChange&) override {}
-  void MenuChanged(const ObjectRecord&) override {}
-  bool Invoke(const ObjectRecord&, const MemberInfo&, std::span<Value>, Value&) override {
+  void Realise(const ObjectRecord& /*object*/) override {}
+  void Apply(const ObjectRecord& /*object*/, const MemberInfo& /*member*/) override {}
+  void ItemsChanged(const ObjectRecord& /*list*/, const ItemsChange& /*change*/) override {}
+  void MenuChanged(const ObjectRecord& /*menu*/) override {}
+  bool Invoke(const ObjectRecord& /*object*/, const MemberInfo& /*method*/,
+              std::span<Value> /*arguments*/, Value& /*result*/) override {
     return false;
   }
-  bool Live(const ObjectRecord&, const MemberInfo&, std::span<const Value>, Value&) override {
+  bool Live(const ObjectRecord& /*object*/, const MemberInfo& /*member*/,
+            std::span<const Value> /*index*/, Value& /*out*/) override {
     return false;
   }
-  void Destroy(ObjectId) override {}
+  void Destroy(ObjectId /*object*/) override {}
   bool PumpEvents(int wait_ms) override;
   /// As if every letter had the same width.
   [[nodiscard]] TextSize Measure(const FontValues& font, std::string_view text,
