@@ -254,23 +254,27 @@ Operand ProcedureEmitter::AddressOfLocation(Location& location) {
   return address;
 }
 
-void ProcedureEmitter::Store(const GlobalSlot&, const Expression& whole, std::uint16_t target) {
+void ProcedureEmitter::Store(const GlobalSlot& /*node*/, const Expression& whole,
+                             std::uint16_t target) {
   const Location location = Find(whole, Until::Now);
   ReadLocation(location, whole.Kind, target);
 }
 
-void ProcedureEmitter::Store(const LocalSlot&, const Expression& whole, std::uint16_t target) {
+void ProcedureEmitter::Store(const LocalSlot& /*node*/, const Expression& whole,
+                             std::uint16_t target) {
   const Location location = Find(whole, Until::Now);
   ReadLocation(location, whole.Kind, target);
 }
 
-void ProcedureEmitter::Store(const ArrayElement&, const Expression& whole, std::uint16_t target) {
+void ProcedureEmitter::Store(const ArrayElement& /*node*/, const Expression& whole,
+                             std::uint16_t target) {
   Location location = Find(whole, Until::Now);
   ReadLocation(location, whole.Kind, target);
   Release(location);
 }
 
-void ProcedureEmitter::Store(const RecordField&, const Expression& whole, std::uint16_t target) {
+void ProcedureEmitter::Store(const RecordField& /*node*/, const Expression& whole,
+                             std::uint16_t target) {
   Location location = Find(whole, Until::Now);
   ReadLocation(location, whole.Kind, target);
   Release(location);

@@ -220,15 +220,15 @@ void ProcedureEmitter::Make(const OnJump& node) {
   Free(selector);
 }
 
-void ProcedureEmitter::Make(const Return&) {
+void ProcedureEmitter::Make(const Return& /*node*/) {
   code_.Add(Op::RETURN_GOSUB);
 }
 
-void ProcedureEmitter::Make(const ExitProcedure&) {
+void ProcedureEmitter::Make(const ExitProcedure& /*node*/) {
   code_.Jump(Op::JUMP, end_);
 }
 
-void ProcedureEmitter::Make(const EndProgram&) {
+void ProcedureEmitter::Make(const EndProgram& /*node*/) {
   code_.Add(Op::END);
 }
 

@@ -186,7 +186,8 @@ bool ProcedureEmitter::StoreMixed(const BinaryOperation& node, std::uint16_t tar
   return true;
 }
 
-void ProcedureEmitter::Store(const BinaryOperation& node, const Expression&, std::uint16_t target) {
+void ProcedureEmitter::Store(const BinaryOperation& node, const Expression& /*whole*/,
+                             std::uint16_t target) {
   if (StoreMixed(node, target)) return;
   const ValueKind kind = node.Left->Gives();
   const Until until = RunsCode(*node.Right) ? Until::Later : Until::Now;
@@ -228,7 +229,8 @@ void ProcedureEmitter::StoreBoxed(const BinaryOperation& node, std::uint16_t tar
   code_.Add(Op::WORD, static_cast<std::size_t>(node.Operator));
 }
 
-void ProcedureEmitter::Store(const UnaryOperation& node, const Expression&, std::uint16_t target) {
+void ProcedureEmitter::Store(const UnaryOperation& node, const Expression& /*whole*/,
+                             std::uint16_t target) {
   const Operand operand = Read(*node.Operand, Until::Now);
   Op op = Op::NOT_I;
   if (node.Operator == UnaryOperator::Negate) {

@@ -35,11 +35,11 @@ struct CodeFinder {
     return RunsCode(*node.Array) || AnyRunsCode(node.Indexes);
   }
   bool operator()(const RecordField& node) const { return RunsCode(*node.Record); }
-  bool operator()(const PropertyValue&) const { return true; }
-  bool operator()(const MethodCall&) const { return true; }
-  bool operator()(const ProcedureCall&) const { return true; }
-  bool operator()(const PointerCall&) const { return true; }
-  bool operator()(const DllCall&) const { return true; }
+  bool operator()(const PropertyValue& /*node*/) const { return true; }
+  bool operator()(const MethodCall& /*node*/) const { return true; }
+  bool operator()(const ProcedureCall& /*node*/) const { return true; }
+  bool operator()(const PointerCall& /*node*/) const { return true; }
+  bool operator()(const DllCall& /*node*/) const { return true; }
   bool operator()(const BinaryOperation& node) const {
     return RunsCode(*node.Left) || RunsCode(*node.Right);
   }
@@ -63,7 +63,7 @@ struct CodeFinder {
     return node.Index != nullptr && RunsCode(*node.Index);
   }
   // Constants, variables and the objects that are always there.
-  bool operator()(const auto&) const { return false; }
+  bool operator()(const auto& /*node*/) const { return false; }
 };
 
 }  // namespace
@@ -160,19 +160,22 @@ void ProcedureEmitter::Into(const Expression& expression, std::uint16_t target) 
   expression.Visit([&](const auto& node) { Store(node, expression, target); });
 }
 
-void ProcedureEmitter::Store(const WholeConstant& node, const Expression&, std::uint16_t target) {
+void ProcedureEmitter::Store(const WholeConstant& node, const Expression& /*whole*/,
+                             std::uint16_t target) {
   const Operand value = Number(node.Value);
   code_.Add(Op::MOVE, target, value.Register);
   Free(value);
 }
 
-void ProcedureEmitter::Store(const RealConstant& node, const Expression&, std::uint16_t target) {
+void ProcedureEmitter::Store(const RealConstant& node, const Expression& /*whole*/,
+                             std::uint16_t target) {
   const Operand value = ConstantOperand(NumberSlot(node.Value));
   code_.Add(Op::MOVE, target, value.Register);
   Free(value);
 }
 
-void ProcedureEmitter::Store(const TextConstant& node, const Expression&, std::uint16_t target) {
+void ProcedureEmitter::Store(const TextConstant& node, const Expression& /*whole*/,
+                             std::uint16_t target) {
   if (node.Value.empty()) {
     code_.Add(Op::CLEAR_C, target);
     return;
@@ -182,7 +185,7 @@ void ProcedureEmitter::Store(const TextConstant& node, const Expression&, std::u
   Free(value);
 }
 
-void ProcedureEmitter::Store(const NothingConstant&, const Expression& whole,
+void ProcedureEmitter::Store(const NothingConstant& /*node*/, const Expression& whole,
                              std::uint16_t target) {
   if (IsCounted(whole.Kind)) {
     code_.Add(Op::CLEAR_C, target);
@@ -193,21 +196,25 @@ void ProcedureEmitter::Store(const NothingConstant&, const Expression& whole,
   Free(value);
 }
 
-void ProcedureEmitter::Store(const BuiltInObject& node, const Expression&, std::uint16_t target) {
+void ProcedureEmitter::Store(const BuiltInObject& node, const Expression& /*whole*/,
+                             std::uint16_t target) {
   code_.Add(Op::BUILT_IN, target, static_cast<std::size_t>(node.Class));
 }
 
-void ProcedureEmitter::Store(const FoundFile& node, const Expression&, std::uint16_t target) {
+void ProcedureEmitter::Store(const FoundFile& node, const Expression& /*whole*/,
+                             std::uint16_t target) {
   code_.Add(Op::FOUND_FILE, target, static_cast<std::size_t>(node.Part));
 }
 
-void ProcedureEmitter::Store(const CharacterAt& node, const Expression&, std::uint16_t target) {
+void ProcedureEmitter::Store(const CharacterAt& node, const Expression& /*whole*/,
+                             std::uint16_t target) {
   const std::array<Operand, 2> operands = ReadBoth(*node.Text, *node.Index);
   code_.Add(Op::CHARACTER, target, operands[0].Register, operands[1].Register);
   Free(operands);
 }
 
-void ProcedureEmitter::Store(const ArrayBound& node, const Expression&, std::uint16_t target) {
+void ProcedureEmitter::Store(const ArrayBound& node, const Expression& /*whole*/,
+                             std::uint16_t target) {
   const Operand dimension = Read(*node.Dimension, Until::Now);
   const Operand array = ArrayOperand(*node.Array);
   code_.Add(Op::BOUND, target, array.Register, dimension.Register);
@@ -216,7 +223,8 @@ void ProcedureEmitter::Store(const ArrayBound& node, const Expression&, std::uin
   Free(dimension);
 }
 
-void ProcedureEmitter::Store(const AddressOf& node, const Expression&, std::uint16_t target) {
+void ProcedureEmitter::Store(const AddressOf& node, const Expression& /*whole*/,
+                             std::uint16_t target) {
   Location location = Find(*node.Location, Until::Now);
   const Operand address = AddressOfLocation(location);
   code_.Add(Op::ADDRESS, target, address.Register, code_.LayoutNumber("", node.Location->Kind));
@@ -231,7 +239,8 @@ void ProcedureEmitter::Store(const AddressOf& node, const Expression&, std::uint
   Release(location);
 }
 
-void ProcedureEmitter::Store(const SizeOf& node, const Expression&, std::uint16_t target) {
+void ProcedureEmitter::Store(const SizeOf& node, const Expression& /*whole*/,
+                             std::uint16_t target) {
   const Operand array = ArrayOperand(*node.Location);
   code_.Add(Op::SIZE_OF_ARRAY, target, array.Register, 1);
   Free(array);
@@ -240,7 +249,7 @@ void ProcedureEmitter::Store(const SizeOf& node, const Expression&, std::uint16_
   Free(bytes);
 }
 
-void ProcedureEmitter::Store(const VariableParameter& node, const Expression&,
+void ProcedureEmitter::Store(const VariableParameter& node, const Expression& /*whole*/,
                              std::uint16_t target) {
   if (node.Index == nullptr) {
     code_.Add(Op::PARAM_COUNT, target, node.Text ? 1 : 0);
