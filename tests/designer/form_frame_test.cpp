@@ -13,6 +13,13 @@ TEST_F(FormFrameTest, LoadingTakesTheFrameOfTheRecordsBorder) {
   EXPECT_FALSE(user.Frame().Style().Get(clsStyle::Member::ControlBox));
 }
 
+TEST_F(FormFrameTest, AFormThatAnUndoRestoredTakesTheFrameOfItsRecord) {
+  user.Frame().borderstylea(5);
+  record.BorderStyle = 0;
+  user.Restored();
+  EXPECT_FALSE(user.Frame().Style().Get(clsStyle::Member::ControlBox));
+}
+
 TEST_F(FormFrameTest, BorderStyleASetsTheFrameAndTheRecordKeepsTheCode) {
   user.Frame().borderstylea(5);
   EXPECT_TRUE(user.Frame().Style().Get(clsStyle::Member::ToolWindow));

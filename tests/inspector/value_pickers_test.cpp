@@ -114,6 +114,18 @@ TEST(ValuePickers, AColourThatNoNumberHoldsStartsTheDialogAtTheStoredOne) {
   EXPECT_EQ(bench.Fakes.Dialogs.LastColor, 255);
 }
 
+TEST(ValuePickers, TheColourDialogStartsAtBlackInARowThatKeepsNoColour) {
+  SupportTables rows;
+  AddKindFile(rows,
+              "[FILESTREAM]\x8D"
+              "Nonsense\x9B\x8E");
+  SheetBench bench{rows};
+  bench.Make(Kind::FileStream);
+  bench.Fakes.Dialogs.LastColor = -1;
+  bench.PressButton("Nonsense");
+  EXPECT_EQ(bench.Fakes.Dialogs.LastColor, 0);
+}
+
 TEST(ValuePickers, TheFontOfAButtonSetsTheColourInItsRecord) {
   SheetBench bench;
   bench.Make(Kind::Button);

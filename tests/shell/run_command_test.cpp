@@ -284,6 +284,7 @@ TEST_F(RunCommandTest, AnotherProjectLeavesTheProgramRunningAndItsLinesWithoutAP
   ASSERT_EQ(Shown().size(), 2U);
   EXPECT_EQ(Shown()[0].Text, "Form1.Push.OnClick, line 2: before");
   EXPECT_EQ(Shown()[1].Text, "a.com, line " + std::to_string(line) + ": behind");
+  EXPECT_EQ(Shown()[0].SourceLine, 0) << "it is about the source that was";
   EXPECT_FALSE(main.Runner().Jump(0));
   EXPECT_FALSE(main.Runner().Jump(1));
   EXPECT_EQ(log().Count("windows open code"), 0U);

@@ -23,8 +23,13 @@ TEST_F(UnsavedWorkTest, ACrashedRunIsOfferedAtTheNextStartWithProjectDateAndForm
   Place(0, 20, 20);
   main.KeepWork();
   Crash();
+  view.OnRestoreDialog = [&] {
+    next.OfferCrashedWork();
+    next.Commands().Run(Command::AddNewForm);
+  };
   next.OfferCrashedWork();
   EXPECT_EQ(log().Count("view restore dialog"), 1U);
+  EXPECT_EQ(next.Tables().FormsCount, 1) << "no command runs while the dialog is open";
   const auto offers = next.Projects().UnsavedWork();
   ASSERT_EQ(offers.size(), 1U);
   EXPECT_TRUE(offers[0].Crashed);
@@ -187,6 +192,15 @@ TEST_F(UnsavedWorkTest, TheSecondInstanceOnAProjectSaysSo) {
   next.Time_Timer();
   next.OpenNamed("Z:\\p\\a.tnp");
   EXPECT_EQ(view.Status, "Z:\\p\\a.tnp is open in another window of Tarnwick: the last save wins");
+}
+
+TEST_F(UnsavedWorkTest, AProjectThatNoOtherInstanceHasOpensWithoutAWord) {
+  SaveUnder("Z:\\p\\a.tnp", {"Z:\\p\\one.ftn"});
+  main.Commands().Run(Command::New);
+  next.Load(views);
+  next.Time_Timer();
+  next.OpenNamed("Z:\\p\\a.tnp");
+  EXPECT_EQ(view.Status, "");
 }
 
 TEST_F(UnsavedWorkTest, WithoutAFolderForItEverythingElseGoesOn) {
