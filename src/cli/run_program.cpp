@@ -29,7 +29,7 @@ namespace {
 /// The running machine, for the handler of the interrupt.
 std::atomic<basic::Machine*> g_running = nullptr;
 
-void StopRunning(int) {
+void StopRunning(int /*signal*/) {
   if (basic::Machine* const machine = g_running.load()) machine->Stop();
 }
 
@@ -76,6 +76,7 @@ basic::RunResult RunCode(const hosts::PreparedProgram& program, objects::Scripte
   basic::RunResult result = machine.Run();
   std::signal(SIGINT, before);
   g_running = nullptr;
+  widgets.EndPlay();
   std::fflush(streams.Out);
   return result;
 }
@@ -160,10 +161,10 @@ std::optional<RunArguments> ParseRunArguments(const std::vector<std::string>& wo
     }
     switch (TakeOption(arguments, name, value)) {
       case hosts::Taken::No:
-        wrong = "unknown option \"" + name + "\"";
+        wrong = std::string("unknown option \"").append(name).append("\"");
         return std::nullopt;
       case hosts::Taken::Wrong:
-        wrong = name + " does not take \"" + value + "\"";
+        wrong = std::string(name).append(" does not take \"").append(value).append("\"");
         return std::nullopt;
       case hosts::Taken::Value:
         if (!joined) ++at;

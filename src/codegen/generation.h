@@ -46,7 +46,7 @@ class Generation {
   SourceMap* Map = nullptr;
 
   /// The lines from here on are those of a place of the selected form.
-  void Mark(SourcePlace place) {
+  void Mark(SourcePlace place) const {
     if (Map == nullptr) return;
     place.Form = State.i;
     Map->Begin(Out.Size(), place);

@@ -34,6 +34,8 @@ class ScriptedWidgets final : public WidgetPort {
   explicit ScriptedWidgets(std::string_view script);
   /// The objects on which the script is played; to be set before the program runs.
   void Play(ObjectWorld& world) { world_ = &world; }
+  /// The objects are about to go; what is left of the script is not played.
+  void EndPlay() { world_ = nullptr; }
 
   void Realise(const ObjectRecord& /*object*/) override {}
   void Apply(const ObjectRecord& /*object*/, const MemberInfo& /*member*/) override {}

@@ -89,6 +89,11 @@ void ShowErrors(const QString& title, const QStringList& errors) {
   box.exec();
 }
 
+void CloseMessagesSoon() {
+  QMetaObject::invokeMethod(
+      QCoreApplication::instance(), [] { CloseMessages(); }, Qt::QueuedConnection);
+}
+
 void CloseMessages() {
   while (QWidget* const menu = QApplication::activePopupWidget()) {
     if (!menu->close()) break;

@@ -24,5 +24,7 @@ void ShowErrors(const QString& title, const QStringList& errors);
 /// Closes the menus, messages and dialogs that are open, as Esc would, the innermost first: a
 /// program that is to end does not wait for the user.
 void CloseMessages();
+/// The same as soon as the toolkit's thread takes its events; may be called from any thread.
+void CloseMessagesSoon();
 
 }  // namespace tarnwick::run

@@ -1,6 +1,5 @@
 #include "run/session.h"
 
-#include <QCoreApplication>
 #include <QTimer>
 #include <atomic>
 #include <chrono>
@@ -85,8 +84,7 @@ class StopRequests {
       if (machine_ != nullptr) machine_->Stop();
     }
     // Wakes a program that waits for events, and closes the message that it shows.
-    QMetaObject::invokeMethod(
-        QCoreApplication::instance(), [] { CloseMessages(); }, Qt::QueuedConnection);
+    CloseMessagesSoon();
   }
 
   std::mutex mutex_;
