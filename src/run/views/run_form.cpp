@@ -22,9 +22,10 @@ namespace {
 /// The area on which the objects stand.
 class ClientArea final : public QWidget {
  public:
-  ClientArea(FormView& view, Stage& stage, RunForm& window)
-      : view_(view), stage_(stage), window_(window) {
+  ClientArea(FormView& view, Stage& stage, RunForm& window) : view_(view), stage_(stage) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    fit_.setSingleShot(true);
+    connect(&fit_, &QTimer::timeout, &window, [&window] { window.FitClient(); });
   }
 
   /// The room that the objects need; those that are docked need none.
@@ -74,18 +75,12 @@ class ClientArea final : public QWidget {
  private:
   /// Many objects that move at once are measured once.
   void WantFit() {
-    if (wanted_) return;
-    wanted_ = true;
-    QTimer::singleShot(0, this, [this] {
-      wanted_ = false;
-      window_.FitClient();
-    });
+    if (!fit_.isActive()) fit_.start(0);
   }
 
   FormView& view_;
   Stage& stage_;
-  RunForm& window_;
-  bool wanted_ = false;
+  QTimer fit_;
 };
 
 /// Scrolls the client area. Keys are the affair of the form.

@@ -1,6 +1,5 @@
 #include "run/views/tree_view.h"
 
-#include <QTimer>
 #include <algorithm>
 
 #include "looks/object_faces.h"
@@ -25,6 +24,10 @@ TreeView::TreeView(Stage& stage, const ObjectRecord& tree)
     : TableView(stage, tree, MakeField(*this), WidgetEvents::Mouse::OwnClicks) {
   TreeField& field = Field();
   Events().Watch(field, *field.viewport());
+  refresh_.setSingleShot(true);
+  connect(&refresh_, &QTimer::timeout, this, [this] {
+    if (const ObjectRecord* const now = Record()) ShowNodes(*now);
+  });
   field.setHeaderHidden(true);
   field.setColumnCount(1);
   connect(&field, &QTreeWidget::currentItemChanged, this, [this] { Picked(); });
@@ -40,15 +43,10 @@ TreeField& TreeView::Field() const {
 }
 
 void TreeView::ShowItems(const ObjectRecord& tree, const ItemsChange& change) {
-  if (change.What == ItemsChange::Kind::Replaced && !waiting_) {
+  if (change.What == ItemsChange::Kind::Replaced && !Waiting()) {
     return ShowNode(tree, change.First);
   }
-  if (waiting_) return;
-  waiting_ = true;
-  QTimer::singleShot(0, this, [this] {
-    waiting_ = false;
-    if (const ObjectRecord* const now = Record()) ShowNodes(*now);
-  });
+  if (!Waiting()) refresh_.start(0);
 }
 
 void TreeView::ShowNode(const ObjectRecord& tree, std::size_t index) {
@@ -104,7 +102,7 @@ void TreeView::ShowMode(const ObjectRecord& tree) {
 }
 
 void TreeView::ShowPicked(const ObjectRecord& tree) {
-  if (waiting_) return;
+  if (Waiting()) return;
   const std::int64_t index = tree.Number(Word::ItemIndex);
   const bool there = index >= 0 && index < static_cast<std::int64_t>(shown_.size());
   QTreeWidgetItem* const wanted = there ? shown_[static_cast<std::size_t>(index)] : nullptr;
@@ -125,7 +123,7 @@ int TreeView::IndexOf(const QTreeWidgetItem* shown) const {
 void TreeView::Picked() {
   const ObjectRecord* const before = Record();
   const QTreeWidgetItem* const item = Field().currentItem();
-  if (showing_ || waiting_ || before == nullptr) return;
+  if (showing_ || Waiting() || before == nullptr) return;
   // The focus goes to a node without picking it, and comes to one before a press picks it.
   if (item == nullptr || !item->isSelected()) return;
   const int index = IndexOf(item);
@@ -135,7 +133,7 @@ void TreeView::Picked() {
     stage().World().UserSet(Id(), Word::ItemIndex, Value::Integer(index));
     // A node may have another picture while it is picked.
     const ObjectRecord* const tree = Record();
-    if (tree == nullptr || waiting_) return;
+    if (tree == nullptr || Waiting()) return;
     if (last >= 0) ShowNode(*tree, static_cast<std::size_t>(last));
     ShowNode(*tree, static_cast<std::size_t>(index));
   });
@@ -143,7 +141,7 @@ void TreeView::Picked() {
 
 void TreeView::Opened(const QTreeWidgetItem& shown, bool open) {
   objects::ObjectRecord* const tree = stage().World().Find(Id());
-  if (showing_ || waiting_ || tree == nullptr) return;
+  if (showing_ || Waiting() || tree == nullptr) return;
   std::vector<TreeNodes::Node>& nodes = tree->As<TreeNodes>()->All;
   const int index = IndexOf(&shown);
   if (index < 0 || static_cast<std::size_t>(index) >= nodes.size()) return;

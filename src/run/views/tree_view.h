@@ -1,6 +1,7 @@
 // Trees of nodes.
 #pragma once
 
+#include <QTimer>
 #include <vector>
 
 #include "run/widget_view.h"
@@ -27,13 +28,14 @@ class TreeView final : public TableView<TreeView> {
 
  private:
   [[nodiscard]] TreeField& Field() const;
+  [[nodiscard]] bool Waiting() const { return refresh_.isActive(); }
   void ShowNode(const ObjectRecord& tree, std::size_t index);
   void Picked();
   void Opened(const QTreeWidgetItem& shown, bool open);
   [[nodiscard]] int IndexOf(const QTreeWidgetItem* shown) const;
   std::vector<QTreeWidgetItem*> shown_;  ///< by the index of the node
   bool showing_ = false;                 ///< what changes now is no choice of the user
-  bool waiting_ = false;                 ///< all nodes are to be shown again
+  QTimer refresh_;                       ///< runs while all nodes are to be shown again
 };
 
 }  // namespace tarnwick::run
