@@ -30,6 +30,15 @@ TEST(MemoryReuse, AnArrayThatGrewInAProcedureEndsWithIt) {
   EXPECT_EQ(Output(text, 200), "51\n");
 }
 
+TEST(MemoryReuse, AnArrayThatWasHandedOnAgainAndAgainEndsWithItsProcedure) {
+  const std::string text =
+      "DIM i AS INTEGER\nSUB Fill(a() AS INTEGER, n AS INTEGER)\na(n) = n\nEND SUB\n"
+      "SUB Work\nDIM d(40) AS INTEGER, k AS INTEGER\n"
+      "FOR k = 1 TO 5\nFill d, k\nNEXT\nEND SUB\n"
+      "FOR i = 1 TO 50\nWork\nNEXT\nPRINT i\n";
+  EXPECT_EQ(Output(text, 60), "51\n");
+}
+
 TEST(MemoryReuse, ALocalArrayEndsWithItsProcedure) {
   const std::string text =
       "DIM i AS INTEGER\nSUB Work\nDIM d(40) AS STRING\nd(3) = \"a\"\nEND SUB\n"

@@ -37,3 +37,19 @@ FOR i = 1 TO 10 DO
   END IF
 NEXT whatever
 PRINT
+' A step of zero goes upwards: the loop is entered when the start is not past the end.
+DIM fraction AS DOUBLE, whole AS INTEGER
+FOR fraction = 0.5 TO 2 STEP 0
+  PRINT "once"; fraction
+  EXIT FOR
+NEXT
+FOR fraction = 3 TO 2 STEP 0
+  PRINT "never"
+NEXT
+FOR whole = 1 TO 2 STEP 0
+  PRINT "once"; whole
+  EXIT FOR
+NEXT
+FOR whole = 3 TO 2 STEP 0
+  PRINT "never"
+NEXT
