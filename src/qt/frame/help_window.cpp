@@ -6,6 +6,8 @@
 #include <QShortcut>
 #include <QTextBrowser>
 #include <QTextDocument>
+#include <QTextFrame>
+#include <QTextTable>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -34,6 +36,21 @@ QString MarkdownOf(HelpPage page) {
   Q_UNUSED(registered)
   QFile file(QStringLiteral(":/pages/") + ToQString(RowOf(page).File));
   return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// Tables as Markdown gives them are crammed: room around them and in their cells.
+void GiveTablesRoom(QTextDocument& page) {
+  for (QTextFrame* const frame : page.rootFrame()->childFrames()) {
+    auto* const table = qobject_cast<QTextTable*>(frame);
+    if (table == nullptr) continue;
+    QTextTableFormat format = table->format();
+    format.setBorderCollapse(true);
+    format.setCellSpacing(0);
+    format.setCellPadding(kGap);
+    format.setTopMargin(kRoom);
+    format.setBottomMargin(kRoom);
+    table->setFormat(format);
+  }
 }
 
 }  // namespace
@@ -80,6 +97,7 @@ void HelpWindow::Show(HelpPage page) {
   page_ = page;
   setWindowTitle(ToQString(RowOf(page).Title));
   text_->setMarkdown(MarkdownOf(page));
+  GiveTablesRoom(*text_->document());
 }
 
 void HelpWindow::GoBack() {
