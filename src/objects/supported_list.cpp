@@ -1,6 +1,7 @@
 #include "objects/supported_list.h"
 
 #include <array>
+#include <initializer_list>
 #include <string_view>
 #include <vector>
 
@@ -31,13 +32,13 @@ std::string NamesOf(const ClassInfo& row, SupportLevel level) {
 }
 
 std::string WhyLeftOut(const basic::LeftOut& word) {
-  return std::string(word.Reason) +
-         (word.Instead.empty() ? "" : ". Use " + std::string(word.Instead));
+  std::string why(word.Reason);
+  if (!word.Instead.empty()) why.append(". Use ").append(word.Instead);
+  return why;
 }
 
-/// A text between the signs of code of Markdown.
-std::string AsCode(std::string_view text) {
-  return '`' + std::string(text) + '`';
+void Add(std::string& text, std::initializer_list<std::string_view> parts) {
+  for (const std::string_view part : parts) text += part;
 }
 
 }  // namespace
@@ -45,19 +46,19 @@ std::string AsCode(std::string_view text) {
 std::string SupportedList() {
   std::string text;
   for (const ClassInfo& row : ClassRows()) {
-    text += std::string(row.Name) + (row.Note.empty() ? "" : ". " + std::string(row.Note)) + "\n";
+    Add(text, {row.Name, row.Note.empty() ? "" : ". ", row.Note, "\n"});
     for (const LevelRow& level : kLevels) {
       const std::string names = NamesOf(row, level.Level);
-      if (!names.empty()) text += "  " + std::string(level.Head) + ": " + names + "\n";
+      if (!names.empty()) Add(text, {"  ", level.Head, ": ", names, "\n"});
     }
   }
   text += "\nLeft out:\n";
   for (const basic::LeftOut& word : basic::LeftOutWords()) {
-    text += "  " + std::string(word.Name) + ": " + WhyLeftOut(word) + "\n";
+    Add(text, {"  ", word.Name, ": ", WhyLeftOut(word), "\n"});
   }
   text += "\nAccepted in generated programs, but for --strict:\n";
   for (const basic::ToleranceRow& row : basic::kTolerances) {
-    text += "  " + std::string(row.Line) + ": " + std::string(TextOf(row.Effect)) + "\n";
+    Add(text, {"  ", row.Line, ": ", TextOf(row.Effect), "\n"});
   }
   return text;
 }
@@ -68,23 +69,23 @@ std::string SupportedPage() {
       "The runner knows these classes. A member that is *kept without effect* takes its value and "
       "gives it back; a line with one that is *passed over* has a note.\n\n";
   for (const ClassInfo& row : ClassRows()) {
-    text += "## " + std::string(row.Name) + "\n\n";
-    if (!row.Note.empty()) text += std::string(row.Note) + "\n\n";
+    Add(text, {"## ", row.Name, "\n\n"});
+    if (!row.Note.empty()) Add(text, {row.Note, "\n\n"});
     for (const LevelRow& level : kLevels) {
       const std::string names = NamesOf(row, level.Level);
-      if (!names.empty()) text += "*" + std::string(level.Head) + "*: " + names + "\n\n";
+      if (!names.empty()) Add(text, {"*", level.Head, "*: ", names, "\n\n"});
     }
   }
   text += "## Left out\n\n| word | why |\n|---|---|\n";
   for (const basic::LeftOut& word : basic::LeftOutWords()) {
-    text += "| " + AsCode(word.Name) + " | " + WhyLeftOut(word) + " |\n";
+    Add(text, {"| `", word.Name, "` | ", WhyLeftOut(word), " |\n"});
   }
   text +=
       "\n## Accepted in generated programs\n\n"
       "Some lines that Tarnwick generates are irregular. The runner accepts them, the compiler may "
       "not.\n\n| line | |\n|---|---|\n";
   for (const basic::ToleranceRow& row : basic::kTolerances) {
-    text += "| " + AsCode(row.Line) + " | " + std::string(TextOf(row.Effect)) + " |\n";
+    Add(text, {"| `", row.Line, "` | ", TextOf(row.Effect), " |\n"});
   }
   return text;
 }
