@@ -62,7 +62,8 @@ std::vector<std::string> EntriesOf(ObjectWorld& world, const ObjectRecord& list)
   std::set<std::string, decltype(less)> folders(less);
   std::set<std::string, decltype(less)> files(less);
   const std::string masks(list.Text(Word::Mask));
-  for (const std::string_view part : Split(masks.empty() ? "*.*" : masks, ";")) {
+  const std::string_view shown = masks.empty() ? std::string_view("*.*") : masks;
+  for (const std::string_view part : Split(shown, ";")) {
     const std::string_view mask = Trim(part);
     if (mask.empty()) continue;
     for (basic::FileEntry& entry : world.Files()->List(Joined(folder, mask), kAnything)) {

@@ -169,7 +169,6 @@ void Closed(const std::string& text, FaultyConsole& console) noexcept {
   folder.Write("p.bas", text);
   const PreparedProgram program = PrepareProgram(folder.Native("p.bas"), objects::ClassTable(), {});
   const RunReport places(stderr, ReportForm::People, "p");
-  const FaultWatch watch("tarnwick-run 9.9", "p.bas");
   basic::Hosts hosts;
   hosts.Console = &console;
   basic::Machine machine(program.Code, hosts, {});
@@ -177,9 +176,15 @@ void Closed(const std::string& text, FaultyConsole& console) noexcept {
   static_cast<void>(machine.Run());
 }
 
+/// As a program does whose toolkit lets none through.
+void WatchedAndClosed(const std::string& text, FaultyConsole& console) {
+  const FaultWatch watch("tarnwick-run 9.9", "p.bas");
+  Closed(text, console);
+}
+
 TEST_F(FaultReportTest, AFaultThatCannotBeCaughtIsReportedAsTheProcessEnds) {
   FaultyConsole console;
-  EXPECT_EXIT(Closed("PRINT 1\n", console), testing::ExitedWithCode(6),
+  EXPECT_EXIT(WatchedAndClosed("PRINT 1\n", console), testing::ExitedWithCode(6),
               "tarnwick-run 9.9: fault of the runner: the console broke.*A report is in ");
   EXPECT_NE(Report().find("fault:   the console broke\n"), std::string::npos);
 }
