@@ -220,7 +220,7 @@ void LeaveMenus(ObjectWorld& world, ObjectId object) {
     ObjectRecord* const menu = world.Find(state->Menu);
     if (menu != nullptr) std::erase(menu->As<MenuRows>()->Forms, object);
   }
-  MenuRows* const rows = record->As<MenuRows>();
+  auto* const rows = record->As<MenuRows>();
   if (rows == nullptr) return;
   for (const ObjectId id : rows->Rows) {
     if (ObjectRecord* const row = world.Find(id)) row->Parent = ObjectId::None;

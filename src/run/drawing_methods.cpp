@@ -51,10 +51,10 @@ struct Drawing {
   }
   /// The rectangle of four numbers; the right and lower edges lie outside.
   [[nodiscard]] QRect Rect(std::size_t index) const {
-    return QRect(QPoint(std::min(Number(index), Number(index + 2)),
-                        std::min(Number(index + 1), Number(index + 3))),
-                 QSize(std::abs(Number(index + 2) - Number(index)),
-                       std::abs(Number(index + 3) - Number(index + 1))));
+    return {QPoint(std::min(Number(index), Number(index + 2)),
+                   std::min(Number(index + 1), Number(index + 3))),
+            QSize(std::abs(Number(index + 2) - Number(index)),
+                  std::abs(Number(index + 3) - Number(index + 1)))};
   }
   /// The rectangle of a QRECT.
   [[nodiscard]] QRect RectOf(std::size_t index) const {
@@ -79,7 +79,7 @@ void SetPoint(Drawing& on) {
 /// A line on a page is as wide as on a screen of 300 points per inch, so that it is seen.
 QPen PagePen(const QPainter& page, const QColor& color) {
   constexpr int kPointsPerInch = 300;
-  return QPen(color, std::max(1, page.device()->logicalDpiX() / kPointsPerInch));
+  return {color, qreal(std::max(1, page.device()->logicalDpiX() / kPointsPerInch))};
 }
 
 /// All points but the last.

@@ -29,13 +29,13 @@ class TcpNetwork final : public objects::NetworkPort {
 
   std::int64_t Listen(int port) override;
   std::int64_t Connect(std::string_view host, int port) override;
-  objects::SocketState StateOf(std::int64_t socket) override;
+  objects::SocketState StateOf(std::int64_t number) override;
   bool HasClient(std::int64_t server) override;
   std::int64_t Accept(std::int64_t server) override;
   std::string Peek(std::int64_t socket, std::size_t most) override;
   std::string Read(std::int64_t socket, std::size_t most) override;
   std::size_t Write(std::int64_t socket, std::string_view bytes) override;
-  void Close(std::int64_t socket) override;
+  void Close(std::int64_t number) override;
   std::string PeerName(std::int64_t socket) override;
   std::string HostName() override;
   std::string HostAddress() override;

@@ -235,7 +235,7 @@ void WindowConsole::Located() {
   PageChanged();
 }
 
-void WindowConsole::Colored(int, int) {
+void WindowConsole::Colored(int /*text*/, int /*back*/) {
   Open();
 }
 

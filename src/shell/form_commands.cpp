@@ -167,7 +167,7 @@ void FormCommands::BringUp(int form) {
   state_.View->CommandsChanged();
 }
 
-void FormCommands::SelectMainForm() {
+void FormCommands::SelectMainForm() const {
   state_.View->RunFormMain();
 }
 

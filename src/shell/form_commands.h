@@ -37,7 +37,7 @@ class FormCommands final : public project::ContainerHost {
   /// `FormMain`'s OK: takes the dialog's text.
   void TakeMainForm(const FormMain& dialog);
   /// Runs the dialog of the main form.
-  void SelectMainForm();
+  void SelectMainForm() const;
 
   /// True while some form is not removed.
   [[nodiscard]] bool HasForm() const;

@@ -161,7 +161,8 @@ void PropertyGrid::ShowSelection() {
 /// The one row at which the Tab key stops, its buttons behind it.
 void PropertyGrid::SetTabStop(PropertyRowView* stop) {
   for (PropertyRowView* view : rows_) {
-    const Qt::FocusPolicy policy = view == stop ? Qt::StrongFocus : Qt::ClickFocus;
+    const Qt::FocusPolicy policy =
+        stop != nullptr && view == stop ? Qt::StrongFocus : Qt::ClickFocus;
     if (view->Field().focusPolicy() != policy) view->Field().setFocusPolicy(policy);
   }
   if (stop == nullptr || stop == tab_stop_) return;
@@ -242,8 +243,8 @@ void PropertyGrid::PickOrCycle(int row) {
                         ? values.begin()
                         : std::next(present);
   const int index = static_cast<int>(next - values.begin());
-  const std::string value = *next;
-  sheet_.ApplyChoice(value, index);
+  // A copy: the choice may fill the list again.
+  sheet_.ApplyChoice(std::string(*next), index);
 }
 
 void PropertyGrid::ShowList(bool is_open) {
