@@ -1,4 +1,4 @@
-// Every event that works, of every class that generated programs have, raised by keys and mouse.
+// Every event that works, of every class, raised by keys and mouse.
 // The rows are in class_events.tsv:
 //
 //   class member   see MemberTable
@@ -8,11 +8,15 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QEnterEvent>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScrollArea>
+#include <QTabBar>
 #include <QTest>
 #include <QTextBrowser>
+#include <map>
 
 #include <gtest/gtest.h>
 
@@ -59,6 +63,7 @@ struct Target {
   /// What the pointer meets, and where a position of the object is on it.
   [[nodiscard]] QWidget& Pointed() const {
     if (auto* const form = dynamic_cast<run::RunForm*>(&Widget())) return *form->Client();
+    if (auto* const box = qobject_cast<QScrollArea*>(&Widget())) return *box->widget();
     auto* const area = qobject_cast<QAbstractScrollArea*>(&Widget());
     return area == nullptr ? Widget() : *area->viewport();
   }
@@ -101,8 +106,11 @@ void Double(const Target& on, const std::string& rest) {
 
 void Key(const Target& on, const std::string& rest) {
   Focus(on);
-  if (rest == "down") {
-    QTest::keyClick(&on.Keys(), Qt::Key_Down);
+  static const std::map<std::string, Qt::Key> kArrows{
+      {"down", Qt::Key_Down}, {"left", Qt::Key_Left}, {"right", Qt::Key_Right}};
+  const auto arrow = kArrows.find(rest);
+  if (arrow != kArrows.end()) {
+    QTest::keyClick(&on.Keys(), arrow->second);
   } else {
     QTest::keyClick(&on.Keys(), rest.at(0));
   }
@@ -156,6 +164,20 @@ void PickFromMenu(const Target& on, const std::string&) {
   QTest::mouseClick(rows, Qt::LeftButton, {}, rows->actionGeometry(rows->actions().at(0)).center());
 }
 
+/// The head of the first column.
+void PressHeader(const Target& on, const std::string&) {
+  auto* const header = on.Widget().findChild<QHeaderView*>();
+  ASSERT_NE(header, nullptr);
+  QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(8, header->height() / 2));
+}
+
+/// The second tab.
+void PressTab(const Target& on, const std::string&) {
+  auto* const tabs = on.Widget().findChild<QTabBar*>();
+  ASSERT_NE(tabs, nullptr);
+  QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(1).center());
+}
+
 struct ActRow {
   const char* Word;
   void (*Do)(const Target&, const std::string&);
@@ -175,6 +197,8 @@ const ActRow kActs[] = {
     {"right", Right},
     {"wait", Wait},
     {"menu", PickFromMenu},
+    {"header", PressHeader},
+    {"tab", PressTab},
     {"do",
      [](const Target& on, const std::string&) { on.Live.World->Click(on.Live.Object("Does").Id); }},
 };

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMetaEnum>
+#include <QScrollArea>
 #include <QTest>
 #include <QTextEdit>
 #include <cmath>
@@ -84,7 +85,9 @@ std::string Next(const Sight& at) {
 std::string PopupRow(const Sight& at) {
   QWidget* const client = qobject_cast<QWidget*>(&at.Client());
   QWidget* target = at.Name == "F" ? client : &at.Widget();
-  if (auto* const area = qobject_cast<QAbstractScrollArea*>(target)) target = area->viewport();
+  auto* const box = qobject_cast<QScrollArea*>(target);
+  auto* const area = qobject_cast<QAbstractScrollArea*>(target);
+  if (area != nullptr) target = box != nullptr ? box->widget() : area->viewport();
   QTest::mouseClick(target, Qt::RightButton, {}, QPoint(3, 3));
   auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
   if (menu == nullptr || menu->actions().isEmpty()) return "no menu";

@@ -1,5 +1,5 @@
-// Every property that works, of every class that generated programs have: set by the program, read
-// back, and seen. The rows are in class_properties.tsv:
+// Every property that works, of every class: set by the program, read back, and seen. The rows are
+// in class_properties.tsv:
 //
 //   class member   see MemberTable
 //   setup          lines of the program; O is the object (F for a form), shown on the form F

@@ -24,12 +24,17 @@ bool Works(const objects::MemberInfo& member, bool event) {
 
 }  // namespace
 
-const std::vector<std::string>& GeneratedClasses() {
+const std::vector<std::string>& ClassesOfPrograms() {
   static const std::vector<std::string> kClasses{
-      "QFont",       "QForm",       "QPopupMenu",   "QMenuItem", "QSocket",     "QButton",
-      "QCheckBox",   "QComboBox",   "QImage",       "QLabel",    "QListBox",    "QRadioButton",
-      "QRichEdit",   "QEdit",       "QMainMenu",    "QTimer",    "QOpenDialog", "QSaveDialog",
-      "QFileStream", "QGlassFrame", "QOleContainer"};
+      // of generated programs
+      "QFont", "QForm", "QPopupMenu", "QMenuItem", "QSocket", "QButton", "QCheckBox", "QComboBox",
+      "QImage", "QLabel", "QListBox", "QRadioButton", "QRichEdit", "QEdit", "QMainMenu", "QTimer",
+      "QOpenDialog", "QSaveDialog", "QFileStream", "QGlassFrame", "QOleContainer",
+      // of programs that are written by hand
+      "QPanel", "QGroupBox", "QScrollBox", "QCanvas", "QBitmap", "QCoolBtn", "QOvalBtn",
+      "QStatusBar", "QGauge", "QTrackBar", "QScrollBar", "QTabControl", "QStringGrid", "QSplitter",
+      "QFontDialog", "QImageList", "QRect", "QStringList", "QMemoryStream", "QFileListBox",
+      "QListView", "QTreeView"};
   return kClasses;
 }
 
@@ -81,7 +86,7 @@ void ForEachWorkingMember(
                              const MemberRow& row)>& run) {
   const MemberTable table(file);
   const objects::ClassTable classes;
-  for (const std::string& name : GeneratedClasses()) {
+  for (const std::string& name : ClassesOfPrograms()) {
     const auto id = classes.FindClass(name);
     ASSERT_TRUE(id.has_value()) << name;
     const objects::ClassInfo& kind = objects::InfoOf(*id);

@@ -12,8 +12,8 @@
 
 namespace tarnwick::test {
 
-/// The classes that generated programs have.
-[[nodiscard]] const std::vector<std::string>& GeneratedClasses();
+/// The classes of which a program can make objects.
+[[nodiscard]] const std::vector<std::string>& ClassesOfPrograms();
 
 /// The cells of a row behind the class and the member, by the names in the head of the table.
 using MemberRow = std::map<std::string, std::string>;
@@ -39,7 +39,7 @@ class MemberTable {
   std::vector<Entry> entries_;
 };
 
-/// Calls `run` with each event of the generated classes that the class table says works, or with
+/// Calls `run` with each event of these classes that the class table says works, or with
 /// each such property, and its row of tests/run/<file>. A member without a row and a row without a
 /// member fail the test.
 void ForEachWorkingMember(
