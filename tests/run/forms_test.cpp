@@ -2,8 +2,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -62,40 +60,6 @@ TEST(RunFormTest, AnotherBorderLeavesTheWindowAtItsPlace) {
     EXPECT_EQ(ClientOf(live).size(), QSize(316, 212));
   });
   live.Run();
-}
-
-TEST(RunFormTest, BarsComeWhenObjectsNeedMoreRoom) {
-  LiveProgram live(
-      FormWith("DIM B AS QBUTTON: B.Parent = F: B.Left = 10: B.Top = 150\n"
-               "DIM P AS QPANEL: P.Parent = F: P.Align = 1: P.Height = 20",
-               "DIM Far AS QBUTTON, Near AS QBUTTON\nSUB GoFar\nB.Top = 400\nEND SUB\n"
-               "SUB GoNear\nB.Top = 100\nEND SUB\nFar.OnClick = GoFar: Near.OnClick = GoNear\n"
-               "SUB Down (Button AS INTEGER, X AS INTEGER, Y AS INTEGER)\nPRINT X; \" \"; Y\n"
-               "END SUB\nF.OnMouseDown = Down"));
-  const auto bar = [&] { return live.Widget("F")->findChild<QScrollArea*>()->verticalScrollBar(); };
-  live.Then([&] {
-    EXPECT_EQ(ClientOf(live).size(), QSize(312, 208));
-    EXPECT_FALSE(bar()->isVisible());
-    live.World->Click(live.Object("Far").Id);
-  });
-  live.Then([] {});
-  live.Then([&] {
-    EXPECT_TRUE(bar()->isVisible());
-    EXPECT_EQ(ClientOf(live).height(), 425);
-    EXPECT_EQ(ClientOf(live).width(), 312 - bar()->width());
-    EXPECT_EQ(live.Widget("P")->width(), ClientOf(live).width()) << "docked";
-    bar()->setValue(bar()->maximum());
-    EXPECT_EQ(ClientOf(live).y(), 208 - 425);
-    QTest::mouseClick(&ClientOf(live), Qt::LeftButton, {}, QPoint(200, 420));
-    live.World->Click(live.Object("Near").Id);
-  });
-  live.Then([] {});
-  live.Then([&] {
-    EXPECT_FALSE(bar()->isVisible());
-    EXPECT_EQ(ClientOf(live).geometry(), QRect(0, 0, 312, 208));
-  });
-  live.Run();
-  EXPECT_EQ(live.Printed, "200 420\n") << "positions are those of the whole area";
 }
 
 TEST(RunFormTest, ClosingAsksOnCloseAndHides) {

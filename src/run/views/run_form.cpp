@@ -4,9 +4,6 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPainter>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QTimer>
 #include <algorithm>
 
 #include "looks/frame_metrics.h"
@@ -22,47 +19,12 @@ namespace {
 /// The area on which the objects stand.
 class ClientArea final : public QWidget {
  public:
-  ClientArea(FormView& view, Stage& stage, RunForm& window) : view_(view), stage_(stage) {
+  ClientArea(FormView& view, Stage& stage, QWidget* parent)
+      : QWidget(parent), view_(view), stage_(stage) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    fit_.setSingleShot(true);
-    connect(&fit_, &QTimer::timeout, &window, [&window] { window.FitClient(); });
-  }
-
-  /// The room that the objects need; those that are docked need none.
-  [[nodiscard]] QSize Needed() const {
-    QRect needed(0, 0, 0, 0);
-    const ObjectRecord* const form = view_.Record();
-    if (form == nullptr || !form->Truth(Word::AutoScroll)) return needed.size();
-    for (const ObjectId id : form->Children) {
-      const ObjectRecord* const child = stage_.RecordOf(id);
-      const ObjectView* const shown = stage_.ViewOf(id);
-      const QWidget* const widget = shown == nullptr ? nullptr : shown->Widget();
-      const bool here = child != nullptr && widget != nullptr && widget->parentWidget() == this;
-      if (here && !widget->isHidden() && child->Number(Word::Align) == 0) {
-        needed = needed.united(widget->geometry());
-      }
-    }
-    return {needed.right() + 1, needed.bottom() + 1};
   }
 
  protected:
-  void childEvent(QChildEvent* event) override {
-    if (event->added()) event->child()->installEventFilter(this);
-    if (event->removed()) WantFit();
-  }
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    switch (event->type()) {
-      case QEvent::Move:
-      case QEvent::Resize:
-      case QEvent::ShowToParent:
-      case QEvent::HideToParent:
-        WantFit();
-        break;
-      default:
-        break;
-    }
-    return false;
-  }
   void paintEvent(QPaintEvent* event) override {
     QPainter painter(this);
     const ObjectRecord* const form = view_.Record();
@@ -73,36 +35,14 @@ class ClientArea final : public QWidget {
   }
 
  private:
-  /// Many objects that move at once are measured once.
-  void WantFit() {
-    if (!fit_.isActive()) fit_.start(0);
-  }
-
   FormView& view_;
   Stage& stage_;
-  QTimer fit_;
-};
-
-/// Scrolls the client area. Keys are the affair of the form.
-class FormArea final : public QScrollArea {
- public:
-  explicit FormArea(QWidget* parent) : QScrollArea(parent) {
-    setFrameStyle(NoFrame);
-    setFocusPolicy(Qt::NoFocus);
-  }
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
 };
 
 }  // namespace
 
 RunForm::RunForm(FormView& view, Stage& stage)
-    : view_(view),
-      area_(new FormArea(this)),
-      client_(new ClientArea(view, stage, *this)),
-      strip_(MakeMenuStrip(this)) {
-  area_->setWidget(client_);
+    : view_(view), client_(new ClientArea(view, stage, this)), strip_(MakeMenuStrip(this)) {
   strip_->hide();
 }
 
@@ -119,23 +59,7 @@ int RunForm::StripHeight() const {
 void RunForm::Arrange() {
   const int strip = StripHeight();
   strip_->setGeometry(0, 0, width(), looks::kMenuStripHeight);
-  area_->setGeometry(0, strip, width(), std::max(0, height() - strip));
-  FitClient();
-}
-
-void RunForm::FitClient() {
-  const QSize needed = static_cast<const ClientArea&>(*client_).Needed();
-  const QSize room = area_->size();
-  const int bar = area_->verticalScrollBar()->sizeHint().width();
-  // One bar may take the room that makes the other one needed.
-  bool down = needed.height() > room.height();
-  const bool across = needed.width() > room.width() - (down ? bar : 0);
-  down = down || needed.height() > room.height() - (across ? bar : 0);
-  const QSize left(room.width() - (down ? bar : 0), room.height() - (across ? bar : 0));
-  const QSize wanted = needed.expandedTo(left);
-  if (client_->size() == wanted) return;
-  client_->resize(wanted);
-  view_.ClientResized();
+  client_->setGeometry(0, strip, width(), std::max(0, height() - strip));
 }
 
 void RunForm::resizeEvent(QResizeEvent* /*event*/) {

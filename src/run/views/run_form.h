@@ -4,7 +4,6 @@
 #include <QWidget>
 
 class QMenuBar;
-class QScrollArea;
 
 namespace tarnwick::run {
 
@@ -21,9 +20,6 @@ class RunForm final : public QWidget {
   /// Shows or hides the menu strip; the client area takes the rest.
   void SetStrip(bool there);
   [[nodiscard]] int StripHeight() const;
-  /// Makes the client area as large as its objects need, with bars where the window is smaller; as
-  /// large as the window leaves when they need less, or the form does not scroll.
-  void FitClient();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -36,7 +32,6 @@ class RunForm final : public QWidget {
   void Arrange();
 
   FormView& view_;
-  QScrollArea* area_;
   QWidget* client_;
   QMenuBar* strip_;
   bool has_strip_ = false;
