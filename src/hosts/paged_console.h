@@ -1,4 +1,4 @@
-// The console pages of a running program, whatever shows the visible one.
+// The console pages of a running program; derived classes show the visible one.
 #pragma once
 
 #include <array>

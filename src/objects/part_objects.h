@@ -12,7 +12,7 @@ namespace tarnwick::objects {
 bool HasPart(ObjectWorld& world, const ObjectRecord& owner, std::string_view what,
              std::size_t count, std::int64_t index);
 /// The object for the part of an index, which is made when it is asked for first and goes with its
-/// owner. `known` keeps them. It stands for whatever is at that index.
+/// owner. `known` keeps them. It stands for the part at that index.
 [[nodiscard]] ObjectId PartObject(ObjectWorld& world, ObjectRecord& owner,
                                   std::vector<ObjectId>& known, ObjectClass kind,
                                   std::string_view what, std::int64_t index);

@@ -7,7 +7,7 @@
 namespace tarnwick::objects {
 namespace {
 
-constexpr std::int64_t kNoSocket = -1;  ///< what Open, Connect and Accept return in vain
+constexpr std::int64_t kNoSocket = -1;  ///< what Open, Connect and Accept return on failure
 constexpr std::int64_t kMostPort = 65'535;
 constexpr std::int64_t kDatagrams = 2;         ///< of Type
 constexpr std::int64_t kLongestWait = 30'000;  ///< milliseconds without any progress

@@ -19,7 +19,7 @@ struct RunStreams {
 /// Checks and runs the program; windows need the toolkit's application. Its PRINT goes to `Out`,
 /// errors and notes to `Err` in the form that the arguments want. A run-time error and the errors
 /// of a source are shown in a window too, unless the program that started the runner shows them. A
-/// fault of the runner itself is told with the file that its report was written to.
+/// message about a fault of the runner itself names the file of its report.
 [[nodiscard]] hosts::RunExit RunSession(const RunnerArguments& arguments,
                                         const RunStreams& streams);
 

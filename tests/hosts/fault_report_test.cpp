@@ -52,7 +52,7 @@ class DataFolder {
 
 class FaultReportTest : public testing::Test {
  protected:
-  /// Runs a program whose first PRINT meets the fault; what is told of it.
+  /// Runs a program whose first PRINT throws. Returns the message to the user.
   std::string TextOfRun(const std::string& text, FaultyConsole& console,
                         const basic::RunOptions& options = {}) {
     folder.Write("p.bas", text);
@@ -87,11 +87,11 @@ class FaultReportTest : public testing::Test {
 
 TEST_F(FaultReportTest, ItNamesProgramFaultAndTheRunningCalls) {
   FaultyConsole console;
-  const std::string told = TextOfRun("SUB Work\nx = 1\nPRINT x\nEND SUB\n\nWork\n", console);
+  const std::string message = TextOfRun("SUB Work\nx = 1\nPRINT x\nEND SUB\n\nWork\n", console);
   const std::string path = folder.Native("p.bas");
-  EXPECT_TRUE(told.starts_with("fault of the runner: the console broke, in Work, " + path +
-                               ":3:1. A report is in " + folder.Native("data/tarnwick/")))
-      << told;
+  EXPECT_TRUE(message.starts_with("fault of the runner: the console broke, in Work, " + path +
+                                  ":3:1. A report is in " + folder.Native("data/tarnwick/")))
+      << message;
   EXPECT_EQ(Report(),
             "tarnwick-run 9.9 failed.\n\n"
             "fault:   the console broke\n"
@@ -127,15 +127,15 @@ TEST_F(FaultReportTest, StepsAreNamedWhereTheyAreCounted) {
 
 TEST_F(FaultReportTest, AWantOfMemoryIsAFaultLikeAnyOther) {
   FaultyConsole console(true);
-  const std::string told = TextOfRun("PRINT 1\n", console);
-  EXPECT_TRUE(told.starts_with("fault of the runner: ")) << told;
+  const std::string message = TextOfRun("PRINT 1\n", console);
+  EXPECT_TRUE(message.starts_with("fault of the runner: ")) << message;
   EXPECT_NE(Report().find("p.bas:1:1"), std::string::npos);
 }
 
 TEST_F(FaultReportTest, WithoutARunningProgramNoLineIsNamed) {
   FaultWatch watch("tarnwick-run 9.9", "");
-  const std::string told = watch.Report(std::runtime_error("early"));
-  EXPECT_TRUE(told.starts_with("fault of the runner: early. A report is in ")) << told;
+  const std::string message = watch.Report(std::runtime_error("early"));
+  EXPECT_TRUE(message.starts_with("fault of the runner: early. A report is in ")) << message;
   EXPECT_EQ(Report(),
             "tarnwick-run 9.9 failed.\n\nfault:   early\nsteps:   not counted\n"
             "No line of the program was running.\n");
