@@ -197,19 +197,10 @@ struct VariableParameter {
 
 /// One expression. `Kind` is its type: of a location the storage that it has, of anything else
 /// Whole, Double, String, Variant, Object, Record or None.
-struct Expression {
+struct Expression : Sorted<Expression> {
   Type Kind;
   SourcePlace At;
   std::uint8_t Sort = 0;  ///< in `ExpressionSorts`
-
-  /// The content when it is of that sort, else null.
-  template <class T>
-  [[nodiscard]] const T* As() const;
-  template <class T>
-  [[nodiscard]] bool Is() const;
-  /// Calls the visitor with the content.
-  template <class Visitor>
-  decltype(auto) Visit(Visitor&& visitor) const;
   [[nodiscard]] ValueKind Gives() const noexcept { return KindOf(Kind); }
   /// True for what can be assigned to and passed by reference.
   [[nodiscard]] bool IsLocation() const noexcept;
@@ -221,18 +212,7 @@ using ExpressionSorts =
           PointerCall, DllCall, BuiltInCall, ArrayBound, AddressOf, SizeOf, FoundFile,
           VariableParameter>;
 
-template <class T>
-const T* Expression::As() const {
-  return ExpressionSorts::As<T>(*this);
-}
-template <class T>
-bool Expression::Is() const {
-  return ExpressionSorts::Is<T>(*this);
-}
-template <class Visitor>
-decltype(auto) Expression::Visit(Visitor&& visitor) const {
-  return ExpressionSorts::Visit(visitor, *this);
-}
+ExpressionSorts SortsOf(const Expression& head);
 inline bool Expression::IsLocation() const noexcept {
   return Is<GlobalSlot>() || Is<LocalSlot>() || Is<ArrayElement>() || Is<RecordField>();
 }

@@ -166,35 +166,15 @@ struct QuickSort {
 };
 
 /// One statement.
-struct Statement {
+struct Statement : Sorted<Statement> {
   SourcePlace At;
   std::uint8_t Sort = 0;  ///< in `StatementSorts`
-
-  /// The content when it is of that sort, else null.
-  template <class T>
-  [[nodiscard]] const T* As() const;
-  template <class T>
-  [[nodiscard]] bool Is() const;
-  /// Calls the visitor with the content.
-  template <class Visitor>
-  decltype(auto) Visit(Visitor&& visitor) const;
 };
 using StatementSorts =
     Sorts<Statement, Assign, SetProperty, CopyObject, HookEvent, Evaluate, MakeVariable, If,
           SelectCase, ForLoop, Loop, ExitLoop, LabelMark, Goto, Gosub, OnJump, Return,
           ExitProcedure, EndProgram, Print, Input, Read, Restore, Swap, InitArray, QuickSort>;
 
-template <class T>
-const T* Statement::As() const {
-  return StatementSorts::As<T>(*this);
-}
-template <class T>
-bool Statement::Is() const {
-  return StatementSorts::Is<T>(*this);
-}
-template <class Visitor>
-decltype(auto) Statement::Visit(Visitor&& visitor) const {
-  return StatementSorts::Visit(visitor, *this);
-}
+StatementSorts SortsOf(const Statement& head);
 
 }  // namespace tarnwick::basic

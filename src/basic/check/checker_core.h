@@ -75,12 +75,12 @@ class Checker {
   template <class T>
   Expr Make(Type type, SourcePlace at, T node) {
     return program_.Memory.Make<ExpressionSorts::Of<T>>(
-        ExpressionSorts::Made({type, at}, std::move(node)));
+        ExpressionSorts::Made({{}, type, at}, std::move(node)));
   }
   template <class T>
   void Add(Statements& out, SourcePlace at, T node) {
-    out.push_back(
-        program_.Memory.Make<StatementSorts::Of<T>>(StatementSorts::Made({at}, std::move(node))));
+    out.push_back(program_.Memory.Make<StatementSorts::Of<T>>(
+        StatementSorts::Made({{}, at}, std::move(node))));
   }
   template <class T>
   std::span<const T> List(const std::vector<T>& items) {

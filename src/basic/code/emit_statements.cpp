@@ -88,7 +88,7 @@ void ProcedureEmitter::Make(const MakeVariable& node) {
   if (node.Keeps) flags |= kArrayKeeps;
   if (node.OnlyOnce) flags |= kOnlyOnce;
   std::vector<const Expression*> bounds;
-  const auto zero = ExpressionSorts::Made({kWholeType, {}}, WholeConstant{0});
+  const auto zero = ExpressionSorts::Made({{}, kWholeType, {}}, WholeConstant{0});
   for (const DimensionBounds& bound : node.Dimensions) {
     bounds.push_back(bound.Low != nullptr ? bound.Low : &zero);
     bounds.push_back(bound.High);

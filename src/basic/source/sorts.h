@@ -59,4 +59,27 @@ class Sorts {
   }
 };
 
+/// What the nodes of a tree can be asked, in front of their own members. `SortsOf(const Self&)`,
+/// which is declared behind the sorts and never called, names them.
+template <class Self>
+struct Sorted {
+  /// The content when it is of that sort, else null.
+  template <class T>
+  [[nodiscard]] const T* As() const {
+    return decltype(SortsOf(Head()))::template As<T>(Head());
+  }
+  template <class T>
+  [[nodiscard]] bool Is() const {
+    return decltype(SortsOf(Head()))::template Is<T>(Head());
+  }
+  /// Calls the visitor with the content.
+  template <class Visitor>
+  decltype(auto) Visit(Visitor&& visitor) const {
+    return decltype(SortsOf(Head()))::Visit(visitor, Head());
+  }
+
+ private:
+  [[nodiscard]] const Self& Head() const { return static_cast<const Self&>(*this); }
+};
+
 }  // namespace tarnwick::basic

@@ -107,40 +107,20 @@ struct Checked {
   const basic::Expression* Value;
 };
 
-struct Node {
+struct Node : Sorted<Node> {
   SourcePlace At;
   std::uint16_t Height;   ///< nodes from here to the deepest leaf, at most `kMaxExpressionHeight`
   std::uint8_t Sort = 0;  ///< in `NodeSorts`
-
-  /// The content when it is of that sort, else null.
-  template <class T>
-  [[nodiscard]] const T* As() const;
-  template <class T>
-  [[nodiscard]] bool Is() const;
-  /// Calls the visitor with the content.
-  template <class Visitor>
-  decltype(auto) Visit(Visitor&& visitor) const;
 };
 using NodeSorts = Sorts<Node, WholeNumber, RealNumber, TextLiteral, Name, Apply, Subscript,
                         MemberAccess, ByReference, Unary, Binary, Checked>;
 
-template <class T>
-const T* Node::As() const {
-  return NodeSorts::As<T>(*this);
-}
-template <class T>
-bool Node::Is() const {
-  return NodeSorts::Is<T>(*this);
-}
-template <class Visitor>
-decltype(auto) Node::Visit(Visitor&& visitor) const {
-  return NodeSorts::Visit(visitor, *this);
-}
+NodeSorts SortsOf(const Node& head);
 
 /// Makes a node with its content.
 template <class T>
 Node* MakeNode(Arena& memory, SourcePlace at, int height, T content) {
-  const Node head{at, static_cast<std::uint16_t>(height)};
+  const Node head{{}, at, static_cast<std::uint16_t>(height)};
   return memory.Make<NodeSorts::Of<T>>(NodeSorts::Made(head, std::move(content)));
 }
 
@@ -350,18 +330,9 @@ struct TypeCheckLine {
 struct DefaultTypeLine {
   TypeName As;
 };
-struct StatementNode {
+struct StatementNode : Sorted<StatementNode> {
   SourcePlace At;
   std::uint8_t Sort = 0;  ///< in `StatementSorts`
-
-  /// The content when it is of that sort, else null.
-  template <class T>
-  [[nodiscard]] const T* As() const;
-  template <class T>
-  [[nodiscard]] bool Is() const;
-  /// Calls the visitor with the content.
-  template <class Visitor>
-  decltype(auto) Visit(Visitor&& visitor) const;
 };
 using StatementSorts =
     Sorts<StatementNode, Declaration, ConstDeclaration, Assignment, Step, CallLine, IfBlock,
@@ -369,23 +340,12 @@ using StatementSorts =
           PrintLine, InputLine, DataLine, ReadLine, RestoreLine, BindLine, WithBlock, CreateBlock,
           Routine, DeclareLine, TypeBlock, ResourceLine, TypeCheckLine, DefaultTypeLine>;
 
-template <class T>
-const T* StatementNode::As() const {
-  return StatementSorts::As<T>(*this);
-}
-template <class T>
-bool StatementNode::Is() const {
-  return StatementSorts::Is<T>(*this);
-}
-template <class Visitor>
-decltype(auto) StatementNode::Visit(Visitor&& visitor) const {
-  return StatementSorts::Visit(visitor, *this);
-}
+StatementSorts SortsOf(const StatementNode& head);
 
 /// Makes a statement with its content.
 template <class T>
 StatementNode* MakeStatement(Arena& memory, SourcePlace at, T content) {
-  return memory.Make<StatementSorts::Of<T>>(StatementSorts::Made({at}, std::move(content)));
+  return memory.Make<StatementSorts::Of<T>>(StatementSorts::Made({{}, at}, std::move(content)));
 }
 
 /// An argument handed over with "@": its callee's parameter is a reference.
