@@ -1,9 +1,11 @@
 #include "run/widget_events.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QWheelEvent>
 
 #include "looks/text_bridge.h"
 #include "run/stage.h"
@@ -62,6 +64,9 @@ bool WidgetEvents::ByMouse(QEvent& event) {
       return Moved(static_cast<QMouseEvent&>(event));
     case QEvent::MouseButtonDblClick:
       return DoubleClicked(static_cast<QMouseEvent&>(event));
+    case QEvent::Wheel:
+      Turned(static_cast<QWheelEvent&>(event));
+      return true;
     case QEvent::Enter:
     case QEvent::Leave:
       ShowHint(event.type() == QEvent::Enter);
@@ -123,6 +128,29 @@ bool WidgetEvents::Released(const QMouseEvent& event) {
        Value::Integer(ShiftBits(event.modifiers(), event.buttons()))});
   if (event.button() == Qt::RightButton) ShowPopup(global);
   return mouse_ == Mouse::Plain;
+}
+
+void WidgetEvents::Turned(QWheelEvent& event) {
+  // What the control does not need scrolls what it stands on.
+  const QPointer<QWidget> pointed(pointed_);
+  const auto turn = [&](QWidget& at) {
+    QWheelEvent own(at.mapFromGlobal(event.globalPosition()), event.globalPosition(),
+                    event.pixelDelta(), event.angleDelta(), event.buttons(), event.modifiers(),
+                    event.phase(), event.inverted(), event.source());
+    own.ignore();
+    QCoreApplication::sendEvent(&at, &own);
+    return own.isAccepted();
+  };
+  const bool before = std::exchange(sending_, true);
+  bool taken = turn(*pointed);
+  QPointer<QWidget> above(pointed.isNull() ? nullptr : pointed->parentWidget());
+  while (!taken && !above.isNull() && !above->isWindow()) {
+    auto* const area = qobject_cast<QAbstractScrollArea*>(above.data());
+    if (area != nullptr && area->viewport() != pointed) taken = turn(*area->viewport());
+    if (!above.isNull()) above = above->parentWidget();
+  }
+  sending_ = before;
+  event.setAccepted(taken);
 }
 
 void WidgetEvents::ShowHint(bool enters) {

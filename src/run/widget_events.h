@@ -7,6 +7,7 @@
 
 class QKeyEvent;
 class QMouseEvent;
+class QWheelEvent;
 class QWidget;
 
 namespace tarnwick::run {
@@ -35,6 +36,7 @@ class WidgetEvents final : public QObject {
   [[nodiscard]] bool Released(const QMouseEvent& event);
   [[nodiscard]] bool Moved(const QMouseEvent& event);
   [[nodiscard]] bool DoubleClicked(const QMouseEvent& event);
+  void Turned(QWheelEvent& event);
   [[nodiscard]] bool KeyPressed(QWidget& widget, const QKeyEvent& event);
   [[nodiscard]] bool KeyReleased(const QKeyEvent& event);
   void ShowPopup(const QPoint& global);

@@ -11,6 +11,8 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextEdit>
 #include <filesystem>
@@ -19,6 +21,7 @@
 
 #include "fakes/build_paths.h"
 #include "run/live_program.h"
+#include "run/views/run_form.h"
 
 namespace tarnwick {
 namespace {
@@ -84,6 +87,72 @@ void NameFile(const std::string& path) {
   ASSERT_NE(name, nullptr);
   name->setText(QString::fromStdString(path));
   QTest::keyClick(name, Qt::Key_Return);
+}
+
+/// The bars of all forms that are shown.
+int FormBars() {
+  int bars = 0;
+  for (const QWidget* const window : QApplication::topLevelWidgets()) {
+    if (!window->isVisible() || dynamic_cast<const run::RunForm*>(window) == nullptr) continue;
+    const auto* const area = window->findChild<QScrollArea*>();
+    bars += area->verticalScrollBar()->isVisible() ? 1 : 0;
+    bars += area->horizontalScrollBar()->isVisible() ? 1 : 0;
+  }
+  return bars;
+}
+
+TEST(RunExamplesTest, NoFormAsDrawnHasBars) {
+  struct Row {
+    const char* Folder;
+    const char* File;
+    std::vector<std::string> Forms;
+  };
+  const std::vector<Row> rows = {{"temperature", "", {"frmTemperature"}},
+                                 {"converter", "", {"ConvForm"}},
+                                 {"clock", "", {"ClockForm", "SettingsForm"}},
+                                 {"notepad", "", {"NoteForm", "FindForm", "AboutForm"}},
+                                 {"old", "notes", {"Form"}}};
+  for (const Row& row : rows) {
+    const ExampleSource source(row.Folder, row.File);
+    LiveProgram live("", source.Path);
+    live.Then([&] {
+      for (const std::string& form : row.Forms) {
+        const objects::ObjectRecord& record = live.Object(form);
+        live.World->Change(*live.World->Find(record.Id), objects::Word::Visible,
+                           basic::Value::Integer(1), objects::Origin::Code);
+      }
+    });
+    live.Then([&] {
+      for (const std::string& form : row.Forms) {
+        EXPECT_TRUE(live.The<QWidget>(form).isVisible()) << form;
+      }
+      EXPECT_EQ(FormBars(), 0) << row.Folder;
+    });
+    live.Run();
+  }
+}
+
+TEST(RunExamplesTest, TheFootOfTheNotepadIsSeen) {
+  const ExampleSource source("notepad");
+  LiveProgram live("", source.Path);
+  const auto foot = [&] {
+    const QWidget& label = live.The<QWidget>("StatusLabel");
+    EXPECT_EQ(FormBars(), 0);
+    EXPECT_TRUE(label.visibleRegion().boundingRect().height() >= 18)
+        << label.visibleRegion().boundingRect().height();
+  };
+  live.Then([] {});
+  live.Then([&] {
+    foot();
+    live.Widget("NoteForm")->resize(400, 200);
+    foot();
+  });
+  live.Then([&] {
+    foot();
+    live.Widget("NoteForm")->resize(700, 500);
+  });
+  live.Then(foot);
+  live.Run();
 }
 
 TEST(RunExamplesTest, TemperatureConvertsWhatIsTyped) {

@@ -88,7 +88,7 @@ QWidget* FormView::Ground() const {
   return window_ == nullptr ? nullptr : window_->Client();
 }
 
-const ShowRow<FormView> FormView::kRows[17] = {
+const ShowRow<FormView> FormView::kRows[18] = {
     {Word::BorderStyle, &FormView::ShowFrame}, {Word::FormStyle, &FormView::ShowFrame},
     {Word::Parent, &FormView::ShowMenu},       {Word::Width, &FormView::ShowSize},
     {Word::Height, &FormView::ShowSize},       {Word::Left, &FormView::ShowPlace},
@@ -97,7 +97,7 @@ const ShowRow<FormView> FormView::kRows[17] = {
     {Word::Hint, &FormView::ShowHint},         {Word::ShowHint, &FormView::ShowHint},
     {Word::Icon, &FormView::ShowIcon},         {Word::IcoHandle, &FormView::ShowIcon},
     {Word::Enabled, &FormView::ShowEnabled},   {Word::WindowState, &FormView::ShowState},
-    {Word::Visible, &FormView::ShowVisible},
+    {Word::Visible, &FormView::ShowVisible},   {Word::AutoScroll, &FormView::ShowScroll},
 };
 
 void FormView::Build(const ObjectRecord& form) {
@@ -211,6 +211,10 @@ void FormView::ShowMenu(const ObjectRecord& form) {
   ShowSize(form);
 }
 
+void FormView::ShowScroll(const ObjectRecord& /*form*/) {
+  window_->FitClient();
+}
+
 void FormView::ShowState(const ObjectRecord& form) {
   if (!form.Truth(Word::Visible)) return;
   const std::int64_t state = form.Number(Word::WindowState);
@@ -265,10 +269,14 @@ void FormView::Disappear() {
 
 // --- Reported by the window
 
+void FormView::ClientResized() {
+  if (Record() != nullptr) DockChildren(stage(), Id(), window_->Client()->rect());
+}
+
 void FormView::Resized() {
   const ObjectRecord* const form = Record();
   if (form == nullptr) return;
-  DockChildren(stage(), Id(), window_->Client()->rect());
+  ClientResized();
   if (showing_ || !window_->isVisible() || window_->isMinimized()) return;
   const objects::FrameSize frame = objects::FrameOf(*form);
   const Value width = Value::Integer(window_->width() + frame.Width);

@@ -27,6 +27,7 @@ class FormView final : public ObjectView {
 
   // Reported by the window
   void Resized();
+  void ClientResized();
   void Moved();
   void StateChanged();
   void ActivationChanged();
@@ -45,6 +46,7 @@ class FormView final : public ObjectView {
   void ShowIcon(const ObjectRecord& form);
   void ShowEnabled(const ObjectRecord& form);
   void ShowMenu(const ObjectRecord& form);
+  void ShowScroll(const ObjectRecord& form);
   void ShowState(const ObjectRecord& form);
   void ShowVisible(const ObjectRecord& form);
   void Appear(const ObjectRecord& form);
@@ -52,7 +54,7 @@ class FormView final : public ObjectView {
   /// The windows that stand around the client area: what the menu strip takes.
   [[nodiscard]] int StripHeight() const;
 
-  static const ShowRow<FormView> kRows[17];
+  static const ShowRow<FormView> kRows[18];
   QPointer<RunForm> window_;
   WidgetEvents events_;
   bool showing_ = false;  ///< sizes that come now are our own

@@ -4,6 +4,9 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPainter>
+#include <QScrollArea>
+#include <QStyle>
+#include <QTimer>
 #include <algorithm>
 
 #include "looks/frame_metrics.h"
@@ -19,12 +22,52 @@ namespace {
 /// The area on which the objects stand.
 class ClientArea final : public QWidget {
  public:
-  ClientArea(FormView& view, Stage& stage, QWidget* parent)
-      : QWidget(parent), view_(view), stage_(stage) {
+  ClientArea(FormView& view, Stage& stage, RunForm& window) : view_(view), stage_(stage) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    fit_.setSingleShot(true);
+    connect(&fit_, &QTimer::timeout, &window, [&window] { window.FitClient(); });
+  }
+
+  /// The room that the objects need; those that are docked need none. Nothing when the form does
+  /// not scroll.
+  [[nodiscard]] QSize Needed() const {
+    QRect needed(0, 0, 0, 0);
+    const ObjectRecord* const form = view_.Record();
+    if (form == nullptr || !form->Truth(Word::AutoScroll)) return needed.size();
+    for (const ObjectId id : form->Children) {
+      const ObjectRecord* const child = stage_.RecordOf(id);
+      const ObjectView* const shown = stage_.ViewOf(id);
+      const QWidget* const widget = shown == nullptr ? nullptr : shown->Widget();
+      const bool here = child != nullptr && widget != nullptr && widget->parentWidget() == this;
+      if (here && !widget->isHidden() && child->Number(Word::Align) == 0) {
+        needed = needed.united(widget->geometry());
+      }
+    }
+    return {needed.right() + 1, needed.bottom() + 1};
+  }
+  /// Measures again with the next events: many objects that move at once are measured once.
+  void WantFit() {
+    if (!fit_.isActive()) fit_.start(0);
   }
 
  protected:
+  void childEvent(QChildEvent* event) override {
+    if (event->added()) event->child()->installEventFilter(this);
+    if (event->removed()) WantFit();
+  }
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::Move:
+      case QEvent::Resize:
+      case QEvent::ShowToParent:
+      case QEvent::HideToParent:
+        WantFit();
+        break;
+      default:
+        break;
+    }
+    return false;
+  }
   void paintEvent(QPaintEvent* event) override {
     QPainter painter(this);
     const ObjectRecord* const form = view_.Record();
@@ -37,12 +80,31 @@ class ClientArea final : public QWidget {
  private:
   FormView& view_;
   Stage& stage_;
+  QTimer fit_;
+};
+
+/// Scrolls the client area. Keys are the affair of the form.
+class FormArea final : public QScrollArea {
+ public:
+  explicit FormArea(QWidget* parent) : QScrollArea(parent) {
+    setFrameStyle(NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
 };
 
 }  // namespace
 
 RunForm::RunForm(FormView& view, Stage& stage)
-    : view_(view), client_(new ClientArea(view, stage, this)), strip_(MakeMenuStrip(this)) {
+    : view_(view),
+      area_(new FormArea(this)),
+      client_(new ClientArea(view, stage, *this)),
+      strip_(MakeMenuStrip(this)) {
+  area_->setWidget(client_);
   strip_->hide();
 }
 
@@ -59,7 +121,37 @@ int RunForm::StripHeight() const {
 void RunForm::Arrange() {
   const int strip = StripHeight();
   strip_->setGeometry(0, 0, width(), looks::kMenuStripHeight);
-  client_->setGeometry(0, strip, width(), std::max(0, height() - strip));
+  area_->setGeometry(0, strip, width(), std::max(0, height() - strip));
+  // A program that lays out its objects by the size does so before they are measured.
+  const bool scrolls = client_->size() != room_;
+  room_ = area_->size();
+  if (scrolls) {
+    FitClient();
+  } else {
+    client_->resize(room_);
+    static_cast<ClientArea&>(*client_).WantFit();
+  }
+}
+
+void RunForm::FitClient() {
+  // As many pixels may be hidden: a form was drawn with the frame of another desktop around it, and
+  // perhaps before it got its menu.
+  const QSize hidden(2 * looks::kSizableBorder, 2 * looks::kSizableBorder + StripHeight());
+  const QSize needed = static_cast<const ClientArea&>(*client_).Needed();
+  const QSize most = needed - hidden;
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, area_);
+  // One bar may take the room that makes the other one needed.
+  bool down = most.height() > room_.height();
+  const bool across = most.width() > room_.width() - (down ? bar : 0);
+  down = down || most.height() > room_.height() - (across ? bar : 0);
+  QSize wanted(room_.width() - (down ? bar : 0), room_.height() - (across ? bar : 0));
+  if (across) wanted.setWidth(std::max(needed.width(), wanted.width()));
+  if (down) wanted.setHeight(std::max(needed.height(), wanted.height()));
+  area_->setHorizontalScrollBarPolicy(across ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+  area_->setVerticalScrollBarPolicy(down ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+  if (client_->size() == wanted) return;
+  client_->resize(wanted);
+  view_.ClientResized();
 }
 
 void RunForm::resizeEvent(QResizeEvent* /*event*/) {

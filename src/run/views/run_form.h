@@ -4,6 +4,7 @@
 #include <QWidget>
 
 class QMenuBar;
+class QScrollArea;
 
 namespace tarnwick::run {
 
@@ -20,6 +21,9 @@ class RunForm final : public QWidget {
   /// Shows or hides the menu strip; the client area takes the rest.
   void SetStrip(bool there);
   [[nodiscard]] int StripHeight() const;
+  /// Makes the client area as large as its objects need, with bars, when the window is smaller by
+  /// more than the difference of a frame; else as large as the window leaves it.
+  void FitClient();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -32,8 +36,10 @@ class RunForm final : public QWidget {
   void Arrange();
 
   FormView& view_;
+  QScrollArea* area_;
   QWidget* client_;
   QMenuBar* strip_;
+  QSize room_;  ///< of the client area without bars
   bool has_strip_ = false;
 };
 
