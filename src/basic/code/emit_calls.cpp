@@ -161,7 +161,7 @@ void ProcedureEmitter::Store(const PropertyValue& node, const Expression& whole,
   std::vector<const Expression*> all{node.Object};
   all.insert(all.end(), node.Indexes.begin(), node.Indexes.end());
   const std::vector<Operand> operands = ReadAll(all);
-  CallArguments call;
+  CallArguments call = NewCall();
   for (std::size_t i = 1; i < all.size(); ++i) {
     call.Shape.Arguments.push_back({SlotKindOf(all[i]->Kind), all[i]->Kind.Kind, false});
     call.Registers.push_back(operands[i].Register);
@@ -175,7 +175,7 @@ void ProcedureEmitter::Make(const SetProperty& node) {
   std::vector<const Expression*> all{node.Object, node.Value};
   all.insert(all.end(), node.Indexes.begin(), node.Indexes.end());
   const std::vector<Operand> operands = ReadAll(all);
-  CallArguments call;
+  CallArguments call = NewCall();
   for (std::size_t i = 1; i < all.size(); ++i) {
     call.Shape.Arguments.push_back({SlotKindOf(all[i]->Kind), all[i]->Kind.Kind, false});
     call.Registers.push_back(operands[i].Register);

@@ -100,7 +100,7 @@ void ProcedureEmitter::Make(const MakeVariable& node) {
   if (type.IsArray()) {
     if (bounds.empty()) flags |= kArrayGrows;
     code_.Add(Op::MAKE_ARRAY, address.Register, layout, flags);
-    CallArguments call;
+    CallArguments call = NewCall();
     for (const Operand& operand : operands) {
       call.Shape.Arguments.push_back({SlotKind::Integer, Storage::Whole, false});
       call.Registers.push_back(operand.Register);
