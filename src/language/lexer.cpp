@@ -46,7 +46,9 @@ class LineLexer {
         continue;
       }
       const std::size_t begin = at_;
-      if (c == '\'') {
+      if (IsNameStart(c) && c != '_') {
+        LexName(statement_start);
+      } else if (c == '\'') {
         at_ = line_.size();
         Add(TokenKind::Comment, begin);
       } else if (c == '"') {
@@ -84,7 +86,9 @@ class LineLexer {
     return at < line_.size() && IsNameStart(line_[at]);
   }
   void SkipName() {
-    while (at_ < line_.size() && IsNameByte(line_[at_])) ++at_;
+    std::size_t at = at_;
+    while (at < line_.size() && IsNameByte(line_[at])) ++at;
+    at_ = at;
   }
   /// True when only blanks or a comment stand from `at` on.
   [[nodiscard]] bool EndsLine(std::size_t at) const {
@@ -95,9 +99,8 @@ class LineLexer {
   [[nodiscard]] bool BehindLast(bool before) const {
     if (tokens_.empty()) return before;
     const Token& last = tokens_.back();
-    const std::string_view text = last.In(line_);
-    if (last.Kind == TokenKind::Sign) return text == ":";
-    if (last.Kind == TokenKind::Name) return StartsStatement(text);
+    if (last.Kind == TokenKind::Sign) return line_[last.Begin] == ':';
+    if (last.Kind == TokenKind::Name) return StartsStatement(last.In(line_));
     return last.Kind == TokenKind::Number && before && tokens_.size() == 1;  // a line number
   }
 
@@ -134,12 +137,12 @@ class LineLexer {
     const std::size_t begin = at_;
     SkipName();
     const std::string_view word = line_.substr(begin, at_ - begin);
-    if (statement_start && EqualsFolded(word, "REM")) {
+    if (statement_start && word.size() == 3 && EqualsFolded(word, "REM")) {
       at_ = line_.size();
       Add(TokenKind::Comment, begin);
       return;
     }
-    if (statement_start && EqualsFolded(word, "PRINT")) {
+    if (statement_start && word.size() == 5 && EqualsFolded(word, "PRINT")) {
       Add(TokenKind::Name, begin);  // PRINT#1 and PRINT"a"
       return;
     }

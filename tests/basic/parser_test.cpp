@@ -14,16 +14,18 @@ using test::ParsedText;
 std::string Value(const std::string& text) {
   ParsedText parsed("x = " + text);
   EXPECT_EQ(parsed.Faults(), "") << text;
-  if (parsed.Tree.Statements.empty()) return "nothing";
-  const auto* line = parsed.Tree.Statements[0]->As<tree::Assignment>();
+  const tree::StatementList statements = parsed.Tree.Pieces[0].Statements;
+  if (statements.empty()) return "nothing";
+  const auto* line = statements[0]->As<tree::Assignment>();
   return line == nullptr ? "no assignment" : test::TextOf(line->Value);
 }
 /// Target and arguments of a call as a statement.
 std::string Call(const std::string& text) {
   ParsedText parsed(text);
   EXPECT_EQ(parsed.Faults(), "") << text;
-  if (parsed.Tree.Statements.empty()) return "nothing";
-  const auto* line = parsed.Tree.Statements[0]->As<tree::CallLine>();
+  const tree::StatementList statements = parsed.Tree.Pieces[0].Statements;
+  if (statements.empty()) return "nothing";
+  const auto* line = statements[0]->As<tree::CallLine>();
   if (line == nullptr) return "no call";
   std::string written = test::TextOf(line->Target);
   for (const tree::Node* argument : line->Arguments) written += " " + test::TextOf(argument);

@@ -33,7 +33,7 @@ LineResult RunSource(const std::string& text, ProgramWorld& world, const RunOpti
   test::ParsedText parsed(text);
   LineResult result;
   const NoClasses classes;
-  const Program program = Check(parsed.Tree, classes, false, parsed.Found);
+  const Program program = Check(std::move(parsed.Tree), classes, false, parsed.Found);
   const std::vector<Message>& found = parsed.Found.All();
   const auto error = std::find_if(found.begin(), found.end(), [](const Message& message) {
     return message.Level == Severity::Error;

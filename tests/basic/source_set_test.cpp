@@ -8,7 +8,9 @@ namespace tarnwick::basic {
 namespace {
 
 std::vector<std::string_view> LinesOf(const SourceSet& set) {
-  return set.File(0).Lines;
+  std::vector<std::string_view> lines;
+  for (LineWalk walk(set.File(0).Bytes); !walk.AtEnd();) lines.push_back(walk.Next());
+  return lines;
 }
 
 TEST(SourceSet, LinesEndWithCrLfLfOrCr) {
@@ -16,6 +18,18 @@ TEST(SourceSet, LinesEndWithCrLfLfOrCr) {
   set.Add("a.bas", "one\r\ntwo\nthree\rfour\n\rsix");
   EXPECT_EQ(LinesOf(set),
             (std::vector<std::string_view>{"one", "two", "three", "four", "", "six"}));
+}
+TEST(SourceSet, SeveralCarriageReturnsInARowEndSeveralLines) {
+  SourceSet set;
+  set.Add("a.bas", "one\r\r\n\n\rtwo\r\r");
+  EXPECT_EQ(LinesOf(set), (std::vector<std::string_view>{"one", "", "", "", "two", ""}));
+}
+TEST(SourceSet, ALineEndAtTheEndOfAFileBeginsNoFurtherLine) {
+  for (const char* const text : {"one\n", "one\r", "one\r\n", "one"}) {
+    SourceSet set;
+    set.Add("a.bas", text);
+    EXPECT_EQ(LinesOf(set), (std::vector<std::string_view>{"one"})) << text;
+  }
 }
 TEST(SourceSet, AnEmptyFileHasNoLines) {
   SourceSet set;

@@ -96,11 +96,11 @@ void Checker::CheckAssignment(const tree::Assignment& line, SourcePlace at, Stat
     return;
   }
   if (apply == nullptr && FrameRest(name->Text(), true, at, out)) return;
-  const Symbol* const local = FindIn(frame_->Names, name->Id);
+  const Symbol* const local = FindLocal(name->Id);
   const bool create = !around_.empty() && around_.back().Create;
   if (local == nullptr || create) {
     const std::optional<MemberUse> implied = Implied(name->Text(), at);
-    const bool known = local != nullptr || globals_.contains(name->Id);
+    const bool known = local != nullptr || globals_.Find(name->Id) != nullptr;
     if (implied && (create || implied->Field != nullptr || !known)) {
       return AssignMember(*implied, indexes, value, name->Text(), at, out);
     }

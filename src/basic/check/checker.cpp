@@ -5,9 +5,8 @@
 
 namespace tarnwick::basic {
 
-Program Check(const tree::SyntaxTree& tree, const ClassCatalog& classes, bool strict,
-              Messages& messages) {
-  return Checker(tree, classes, strict, messages).Run();
+Program Check(tree::SyntaxTree tree, const ClassCatalog& classes, bool strict, Messages& messages) {
+  return Checker(std::move(tree), classes, strict, messages).Run();
 }
 
 Program Checker::Run() {
@@ -17,15 +16,26 @@ Program Checker::Run() {
   if (tree_.ApplicationTypeGiven) {
     program_.Application = tree_.Console ? ApplicationKind::Console : ApplicationKind::Gui;
   }
-  if (tree_.HasTypes) CollectTypes(tree_.Statements);
-  CollectHeads(tree_.Statements, false);
+  if (tree_.HasTypes) {
+    for (const tree::Piece& piece : tree_.Pieces) CollectTypes(piece.Statements);
+  }
+  for (const tree::Piece& piece : tree_.Pieces) {
+    if (piece.HasHeads) CollectHeads(piece.Statements, false);
+  }
   for (std::size_t i = 0; i < types_.size(); ++i) FillType(static_cast<RecordId>(i));
   for (std::size_t i = 0; i < types_.size(); ++i) CollectMembers(static_cast<RecordId>(i));
   MarkReferences();
   default_storage_ = kUndeclaredStorage;
-  CollectLabels(tree_.Statements);
-  const Block body = CheckBlock(tree_.Statements);
-  program_.Procedures[0].Body = body;
+  for (const tree::Piece& piece : tree_.Pieces) CollectLabels(piece.Statements);
+  std::size_t count = 0;
+  for (const tree::Piece& piece : tree_.Pieces) count += piece.Statements.size();
+  Statements body;
+  body.reserve(count);
+  for (tree::Piece& piece : tree_.Pieces) {
+    CheckAll(piece.Statements, body);
+    piece = {};
+  }
+  program_.Procedures[0].Body = List(body);
   program_.Procedures[0].LabelCount = static_cast<std::uint32_t>(main_.Labels.size());
   return std::move(program_);
 }
@@ -55,11 +65,15 @@ void Checker::CollectLabels(tree::StatementList statements) {
 
 Block Checker::CheckBlock(tree::StatementList statements) {
   Statements out;
+  CheckAll(statements, out);
+  return List(out);
+}
+
+void Checker::CheckAll(tree::StatementList statements, Statements& out) {
   for (const tree::StatementNode* statement : statements) {
     if (messages_.Full()) break;
     CheckStatement(*statement, out);
   }
-  return List(out);
 }
 
 /// Hands each sort of statement to its function.

@@ -11,6 +11,7 @@
 #include "basic/check/class_catalog.h"
 #include "basic/check/program.h"
 #include "basic/check/similar_name.h"
+#include "basic/check/symbol_table.h"
 #include "basic/semantics.h"
 #include "basic/syntax/tolerances.h"
 #include "basic/syntax/tree.h"
@@ -21,16 +22,8 @@ namespace tarnwick::basic {
 template <class Value>
 using FoldedMap = std::unordered_map<std::string_view, Value, FoldedHash, FoldedEqual>;
 
-/// What a name stands for.
-struct Symbol {
-  enum class Sort : std::uint8_t { Global, Local, Constant, Procedure, Dll, Resource } Kind{};
-  std::uint32_t Index = 0;               ///< slot, procedure, entry or resource
-  const Expression* Constant = nullptr;  ///< the value of a constant
-  SourcePlace At;
-  std::string_view Name;  ///< as it is declared
-};
-/// Looked up for every name of the program: by number, not by text.
-using SymbolMap = std::unordered_map<NameId, Symbol>;
+/// The symbols of one procedure, which are few.
+using LocalSymbols = std::unordered_map<NameId, Symbol>;
 
 /// What the checker knows of a TYPE beside its `RecordType`.
 struct TypeFacts {
@@ -46,7 +39,7 @@ struct TypeFacts {
 /// The procedure being checked.
 struct RoutineScope {
   ProcedureId Id = kMainProcedure;
-  SymbolMap Names;
+  LocalSymbols Names;
   FoldedMap<LabelId> Labels;
   std::vector<tree::ExitKind> Loops;
   std::optional<RecordId> This;  ///< in a member of a TYPE: that of local 0
@@ -62,9 +55,11 @@ struct Surrounding {
 
 class Checker {
  public:
-  Checker(const tree::SyntaxTree& tree, const ClassCatalog& classes, bool strict,
-          Messages& messages)
-      : tree_(tree), classes_(classes), messages_(messages), tolerant_(tree.Generated && !strict) {}
+  Checker(tree::SyntaxTree tree, const ClassCatalog& classes, bool strict, Messages& messages)
+      : tree_(std::move(tree)),
+        classes_(classes),
+        messages_(messages),
+        tolerant_(tree_.Generated && !strict) {}
   Program Run();
 
  private:
@@ -124,14 +119,16 @@ class Checker {
 
   // --- Names (names.cpp) -------------------------------------------------------------------------
   [[nodiscard]] NameId IdOf(std::string_view name) const { return tree_.Names->Of(name); }
-  [[nodiscard]] static const Symbol* FindIn(const SymbolMap& names, NameId name) {
-    const auto found = names.find(name);
-    return found == names.end() ? nullptr : &found->second;
+  /// What a name means in the procedure alone; null for nothing of its own.
+  [[nodiscard]] const Symbol* FindLocal(NameId name) const {
+    if (frame_->Names.empty()) return nullptr;  // as at the top level
+    const auto found = frame_->Names.find(name);
+    return found == frame_->Names.end() ? nullptr : &found->second;
   }
   /// What a name means here: that of the procedure first. Null for none.
   [[nodiscard]] const Symbol* Find(NameId name) const {
-    const Symbol* const local = FindIn(frame_->Names, name);
-    return local != nullptr ? local : FindIn(globals_, name);
+    const Symbol* const local = FindLocal(name);
+    return local != nullptr ? local : globals_.Find(name);
   }
   [[nodiscard]] const Symbol* Find(const tree::Name& name) const { return Find(name.Id); }
   /// True inside a function for its own name, unless a variable hides it.
@@ -260,6 +257,7 @@ class Checker {
 
   // --- Statements (statements.cpp, assignments.cpp, blocks.cpp) ----------------------------------
   Block CheckBlock(tree::StatementList statements);
+  void CheckAll(tree::StatementList statements, Statements& out);
   void CheckStatement(const tree::StatementNode& statement, Statements& out);
   struct Dispatch;
   void CheckRoutine(const tree::Routine& routine, SourcePlace at);
@@ -290,14 +288,15 @@ class Checker {
   void CheckLabel(const tree::Label& line, SourcePlace at, Statements& out);
   ExpressionList Targets(tree::NodeList nodes);
 
-  const tree::SyntaxTree& tree_;
+  tree::SyntaxTree tree_;
   const ClassCatalog& classes_;
   Messages& messages_;
   Program program_;
   bool tolerant_;
   bool must_declare_ = false;                     ///< $TYPECHECK ON
   Storage default_storage_ = kUndeclaredStorage;  ///< $OPTION DIM
-  SymbolMap globals_;
+  NameId found_file_ = IdOf("FILEREC");
+  SymbolTable globals_;
   FoldedMap<RecordId> type_names_;
   std::vector<TypeFacts> types_;  ///< by RecordId
   FoldedMap<std::uint32_t> data_labels_;

@@ -11,7 +11,7 @@ void Checker::Declare(const tree::Declaration& line, SourcePlace /*at*/, Stateme
 
 void Checker::DeclareOne(tree::DeclareKind kind, const tree::Declarator& name, Statements& out) {
   if (kind == tree::DeclareKind::Shared) {
-    if (!globals_.contains(IdOf(name.Name))) Undeclared(name.Name, name.At);
+    if (globals_.Find(IdOf(name.Name)) == nullptr) Undeclared(name.Name, name.At);
     return;
   }
   const bool main = frame_->Id == kMainProcedure;
@@ -44,7 +44,7 @@ const Symbol* Checker::DeclareLocal(const tree::Declarator& name, bool is_static
     type.Dimensions = static_cast<std::uint8_t>(std::min<std::size_t>(name.Dimensions.size(), 255));
   }
   const NameId id = IdOf(name.Name);
-  if (const Symbol* const old = FindIn(frame_->Names, id)) {
+  if (const Symbol* const old = FindLocal(id)) {
     const Symbol& known = *old;
     const bool same = known.Kind == Symbol::Sort::Local &&
                       Current().Locals[known.Index].Kind == type &&
@@ -60,13 +60,13 @@ const Symbol* Checker::DeclareLocal(const tree::Declarator& name, bool is_static
   }
   if (!is_static) {
     NewLocal(name.Name, type, name.At);
-    return FindIn(frame_->Names, id);
+    return FindLocal(id);
   }
   const auto index = static_cast<std::uint32_t>(program_.Globals.size());
   const std::string_view kept = Keep(name.Name);
   program_.Globals.push_back({kept, type, name.At, false});
   frame_->Names[id] = {Symbol::Sort::Global, index, nullptr, name.At, kept};
-  return FindIn(frame_->Names, id);
+  return FindLocal(id);
 }
 
 void Checker::MakeValue(Expr variable, const tree::Declarator& name, bool keeps, bool once,
@@ -103,7 +103,7 @@ void Checker::StartValue(Expr variable, const tree::Declarator& name, Statements
 void Checker::CheckConst(const tree::ConstDeclaration& line, SourcePlace at, Statements& out) {
   const auto late = late_constants_.find(&line);
   if (late != late_constants_.end()) {
-    Store(SlotOf(globals_.at(IdOf(line.Name)), at), late->second, at, out);
+    Store(SlotOf(*globals_.Find(IdOf(line.Name)), at), late->second, at, out);
     return;
   }
   if (frame_->Id == kMainProcedure) return;

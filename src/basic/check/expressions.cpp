@@ -33,7 +33,7 @@ const Expression* Checker::Value(const tree::Node* node) {
 }
 
 const Expression* Checker::NameValue(const tree::Name& name, SourcePlace at) {
-  const Symbol* const local = FindIn(frame_->Names, name.Id);
+  const Symbol* const local = FindLocal(name.Id);
   if (local != nullptr) return OfSymbol(*local, at);
   // Inside a function its own name without brackets is the result so far.
   if (IsOwnResult(local, name.Id)) {
@@ -44,7 +44,7 @@ const Expression* Checker::NameValue(const tree::Name& name, SourcePlace at) {
   if (implied && (implied->Field != nullptr || implied->Routine)) {
     return UseValue(*implied, {}, false, name.Text(), at, false);
   }
-  if (const Symbol* const global = FindIn(globals_, name.Id)) return OfSymbol(*global, at);
+  if (const Symbol* const global = globals_.Find(name.Id)) return OfSymbol(*global, at);
   if (EqualsFolded(name.Text(), "TRUE")) return Whole(kTrueConstant, at);
   if (EqualsFolded(name.Text(), "FALSE")) return Whole(kFalseConstant, at);
   if (implied) return UseValue(*implied, {}, false, name.Text(), at, false);
@@ -64,7 +64,7 @@ const Expression* Checker::ApplyValue(const tree::Apply& apply, SourcePlace at) 
                     false);
   }
   if (const auto* name = apply.Target->As<tree::Name>()) {
-    const Symbol* const local = FindIn(frame_->Names, name->Id);
+    const Symbol* const local = FindLocal(name->Id);
     const Symbol* symbol = IsOwnResult(local, name->Id) ? nullptr : Find(*name);
     const bool variable = symbol != nullptr && (symbol->Kind == Symbol::Sort::Global ||
                                                 symbol->Kind == Symbol::Sort::Local);

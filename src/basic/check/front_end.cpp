@@ -16,8 +16,8 @@ FrontEndResult CheckProgram(const std::string& path, SourceReader& reader,
     return result;
   }
   Preprocessor lines(result.Files, reader, options.Source, result.Found);
-  const tree::SyntaxTree tree = Parse(lines, options.Strict, result.Found);
-  Program program = Check(tree, classes, options.Strict, result.Found);
+  Program program =
+      Check(Parse(lines, options.Strict, result.Found), classes, options.Strict, result.Found);
   result.Found.SortByPlace();
   if (result.Found.HasErrors()) return result;
   for (std::size_t i = 0; i < result.Files.Count(); ++i) {

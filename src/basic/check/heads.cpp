@@ -63,7 +63,7 @@ void Checker::CollectHead(const tree::StatementNode& statement, bool in_routine)
         const auto index = static_cast<std::uint32_t>(program_.Resources.size());
         const std::string_view name = Keep(line.Name);
         program_.Resources.push_back({name, Keep(line.File), at});
-        globals_[IdOf(name)] = {Symbol::Sort::Resource, index, nullptr, at, name};
+        globals_.Set(IdOf(name), {Symbol::Sort::Resource, index, nullptr, at, name});
       },
       [&](const tree::Declaration& line) {
         if (in_routine || line.Kind == tree::DeclareKind::Shared) return;
@@ -147,10 +147,11 @@ void Checker::CollectProcedure(const tree::Routine& routine, SourcePlace at) {
   const std::string_view name = program_.At(id).Name;
   const Symbol symbol{Symbol::Sort::Procedure, static_cast<std::uint32_t>(id), nullptr,
                       routine.NameAt, name};
-  const auto [known, added] = globals_.try_emplace(IdOf(name), symbol);
-  if (!added) {
+  if (const Symbol* const known = globals_.Find(IdOf(name))) {
     Error(routine.NameAt, '"' + std::string(name) + "\" is declared twice",
-          "The other one is in line " + std::to_string(known->second.At.Line));
+          "The other one is in line " + std::to_string(known->At.Line));
+  } else {
+    globals_.Set(IdOf(name), symbol);
   }
 }
 
@@ -167,7 +168,7 @@ void Checker::CollectDll(const tree::DeclareLine& line, SourcePlace at) {
   }
   if (line.Function) entry.Result = TypeOf(line.Result, line.Name, false);
   const auto index = static_cast<std::uint32_t>(program_.DllEntries.size());
-  globals_[IdOf(entry.Name)] = {Symbol::Sort::Dll, index, nullptr, at, entry.Name};
+  globals_.Set(IdOf(entry.Name), {Symbol::Sort::Dll, index, nullptr, at, entry.Name});
   program_.DllEntries.push_back(std::move(entry));
 }
 
@@ -176,7 +177,7 @@ void Checker::CollectGlobal(const tree::Declarator& name) {
   if (name.IsArray && !name.Dimensions.empty()) {
     type.Dimensions = static_cast<std::uint8_t>(std::min<std::size_t>(name.Dimensions.size(), 255));
   }
-  const Symbol* const old = FindIn(globals_, IdOf(name.Name));
+  const Symbol* const old = globals_.Find(IdOf(name.Name));
   if (old == nullptr) {
     NewGlobal(name.Name, type, name.At);
   } else if (!Redeclared(*old, type, name)) {
@@ -201,19 +202,18 @@ bool Checker::Redeclared(const Symbol& old, Type type, const tree::Declarator& n
 
 void Checker::CollectConstant(const tree::ConstDeclaration& line, SourcePlace at) {
   const std::string_view name = Keep(line.Name);
-  if (const auto old = globals_.find(IdOf(name)); old != globals_.end()) {
+  if (const Symbol* const old = globals_.Find(IdOf(name))) {
     // The program's own constants hold, whatever the files that it includes call by their names.
-    const bool elsewhere =
-        old->second.Kind == Symbol::Sort::Constant && old->second.At.File != at.File;
+    const bool elsewhere = old->Kind == Symbol::Sort::Constant && old->At.File != at.File;
     if (!elsewhere) Error(at, '"' + std::string(name) + "\" is declared twice");
-    if (!elsewhere || old->second.At.File == 0) return;
+    if (!elsewhere || old->At.File == 0) return;
   }
   Expr value = Value(line.Value);
   if (!line.As.Text.empty()) value = Fit(value, TypeOf(line.As, {}, false), true);
   const bool constant =
       value->Is<WholeConstant>() || value->Is<RealConstant>() || value->Is<TextConstant>();
   if (constant) {
-    globals_[IdOf(name)] = {Symbol::Sort::Constant, 0, value, at, name};
+    globals_.Set(IdOf(name), {Symbol::Sort::Constant, 0, value, at, name});
     return;
   }
   // A constant that only the running program can work out is a variable that is set in its place.

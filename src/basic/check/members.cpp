@@ -49,11 +49,11 @@ Checker::MemberUse Checker::MemberOf(const tree::MemberAccess& access, SourcePla
     return use;
   }
   const auto* name = access.Target->As<tree::Name>();
-  if (name != nullptr && EqualsFolded(name->Text(), "FILEREC") && Find(*name) == nullptr) {
+  if (name != nullptr && name->Id == found_file_ && Find(*name) == nullptr) {
     use.Field = FoundFileOf(access.Name, at);
     return use;
   }
-  if (name != nullptr && EqualsFolded(name->Text(), "SUPER") && frame_->This) {
+  if (name != nullptr && frame_->This && EqualsFolded(name->Text(), "SUPER")) {
     const Expr object = ObjectOf(This(at));
     if (object != nullptr) return MemberOfObject(object, access.Name);
   }

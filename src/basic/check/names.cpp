@@ -15,7 +15,7 @@ bool Checker::Tolerate(Tolerance which, SourcePlace at) {
 std::string Checker::SimilarTo(std::string_view name) const {
   SimilarName similar(name);
   for (const auto& [id, symbol] : frame_->Names) similar.Offer(symbol.Name);
-  for (const auto& [id, symbol] : globals_) {
+  for (const Symbol& symbol : globals_.All()) {
     // Names that were never declared are no better than this one.
     const bool declared = symbol.Kind != Symbol::Sort::Global || symbol.At.Line > 0;
     if (declared) similar.Offer(symbol.Name);
@@ -27,7 +27,7 @@ std::string Checker::SimilarTo(std::string_view name) const {
 }
 
 std::optional<ProcedureId> Checker::FindProcedure(NameId name) const {
-  const Symbol* const found = FindIn(globals_, name);
+  const Symbol* const found = globals_.Find(name);
   if (found == nullptr || found->Kind != Symbol::Sort::Procedure) return std::nullopt;
   return static_cast<ProcedureId>(found->Index);
 }
@@ -72,7 +72,9 @@ std::uint32_t Checker::NewGlobal(std::string_view name, Type type, SourcePlace a
   const auto index = static_cast<std::uint32_t>(program_.Globals.size());
   const std::string_view kept = Keep(name);
   program_.Globals.push_back({kept, type, at, false});
-  if (!name.empty()) globals_[IdOf(kept)] = {Symbol::Sort::Global, index, nullptr, at, kept};
+  if (!name.empty()) {
+    globals_.Set(IdOf(kept), {Symbol::Sort::Global, index, nullptr, at, kept});
+  }
   return index;
 }
 

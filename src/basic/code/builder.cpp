@@ -25,6 +25,8 @@ CodeBuilder::CodeBuilder(const Program& program) : program_(program) {
   for (const Procedure& procedure : program.Procedures) statements += procedure.Body.size() + 1;
   code_.Instructions.reserve(statements * kInstructionsOfOne);
   code_.Places.reserve(statements);
+  code_.Procedures.reserve(program.Procedures.size());
+  code_.GlobalNames.reserve(program.Globals.size());
   code_.Files = program.Files;
   for (const DllEntry& native : program.DllEntries) {
     code_.Natives.push_back(
@@ -145,7 +147,7 @@ std::size_t CodeBuilder::LayoutNumber(std::string_view name, const Type& type) {
   const std::uint64_t key = static_cast<std::uint64_t>(type.Detail) << 16U |
                             static_cast<std::uint64_t>(type.Dimensions) << 8U |
                             static_cast<std::uint64_t>(type.Kind);
-  const auto [row, fresh] = layouts_.try_emplace({name, key}, code_.Variables.size());
+  const auto [row, fresh] = layouts_.try_emplace(LayoutKey{name, key}, code_.Variables.size());
   if (fresh) code_.Variables.push_back(std::make_unique<FieldLayout>(LayoutOf(name, type)));
   return row->second;
 }

@@ -1,9 +1,12 @@
 // Puts the parts of a program's code together: instructions with their places, constants, shapes.
 #pragma once
 
-#include <map>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "basic/check/program.h"
 #include "basic/code/code.h"
@@ -14,6 +17,18 @@ namespace tarnwick::basic {
 struct CodeLabel {
   std::int64_t Position = -1;
   std::vector<std::size_t> Waiting;  ///< words to fill in once the position is known
+};
+
+/// A variable's name and its type as a number.
+struct LayoutKey {
+  std::string_view Name;
+  std::uint64_t Type;
+  friend bool operator==(const LayoutKey&, const LayoutKey&) = default;
+};
+struct LayoutHash {
+  std::size_t operator()(const LayoutKey& key) const {
+    return std::hash<std::string_view>()(key.Name) ^ (key.Type * 0x9E3779B97F4A7C15U);
+  }
 };
 
 struct ShapeHash {
@@ -59,7 +74,7 @@ class CodeBuilder {
   SourcePlace at_;
   std::unordered_map<std::string_view, Slot> texts_;
   std::unordered_map<std::int64_t, std::size_t> constants_;
-  std::map<std::pair<std::string_view, std::uint64_t>, std::size_t> layouts_;
+  std::unordered_map<LayoutKey, std::size_t, LayoutHash> layouts_;
   std::unordered_map<CallShape, std::size_t, ShapeHash> shapes_;
 };
 

@@ -104,6 +104,7 @@ void ProcedureEmitter::FinishCall(CallArguments& call, SlotKind result) {
   call.Shape.Arguments.clear();
   call.Registers.clear();
   call.Held.clear();
+  call.Parts.clear();
   spare_calls_.push_back(std::move(call));
 }
 
@@ -156,33 +157,34 @@ void ProcedureEmitter::Store(const MethodCall& node, const Expression& whole,
   Free(object);
 }
 
+Operand ProcedureEmitter::ReadParts(CallArguments& call) {
+  ReadAll(call.Parts, call.Held);
+  for (std::size_t i = 1; i < call.Parts.size(); ++i) {
+    const Type& type = call.Parts[i]->Kind;
+    call.Shape.Arguments.push_back({SlotKindOf(type), type.Kind, false});
+    call.Registers.push_back(call.Held[i].Register);
+  }
+  return call.Held[0];
+}
+
 void ProcedureEmitter::Store(const PropertyValue& node, const Expression& whole,
                              std::uint16_t target) {
-  std::vector<const Expression*> all{node.Object};
-  all.insert(all.end(), node.Indexes.begin(), node.Indexes.end());
-  const std::vector<Operand> operands = ReadAll(all);
   CallArguments call = NewCall();
-  for (std::size_t i = 1; i < all.size(); ++i) {
-    call.Shape.Arguments.push_back({SlotKindOf(all[i]->Kind), all[i]->Kind.Kind, false});
-    call.Registers.push_back(operands[i].Register);
-  }
-  code_.Add(Op::GET_PROPERTY, target, operands[0].Register, static_cast<std::size_t>(node.Member));
+  call.Parts.push_back(node.Object);
+  call.Parts.insert(call.Parts.end(), node.Indexes.begin(), node.Indexes.end());
+  const Operand object = ReadParts(call);
+  code_.Add(Op::GET_PROPERTY, target, object.Register, static_cast<std::size_t>(node.Member));
   FinishCall(call, SlotKindOf(whole.Kind));
-  Free(operands);
 }
 
 void ProcedureEmitter::Make(const SetProperty& node) {
-  std::vector<const Expression*> all{node.Object, node.Value};
-  all.insert(all.end(), node.Indexes.begin(), node.Indexes.end());
-  const std::vector<Operand> operands = ReadAll(all);
   CallArguments call = NewCall();
-  for (std::size_t i = 1; i < all.size(); ++i) {
-    call.Shape.Arguments.push_back({SlotKindOf(all[i]->Kind), all[i]->Kind.Kind, false});
-    call.Registers.push_back(operands[i].Register);
-  }
-  code_.Add(Op::SET_PROPERTY, static_cast<std::size_t>(node.Member), operands[0].Register);
+  call.Parts.push_back(node.Object);
+  call.Parts.push_back(node.Value);
+  call.Parts.insert(call.Parts.end(), node.Indexes.begin(), node.Indexes.end());
+  const Operand object = ReadParts(call);
+  code_.Add(Op::SET_PROPERTY, static_cast<std::size_t>(node.Member), object.Register);
   FinishCall(call, SlotKind::Empty);
-  Free(operands);
 }
 
 }  // namespace tarnwick::basic

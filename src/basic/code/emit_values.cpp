@@ -139,15 +139,20 @@ Operand ProcedureEmitter::Read(const Expression& expression, Until until) {
   return operand;
 }
 
-std::vector<Operand> ProcedureEmitter::ReadAll(std::span<const Expression* const> expressions) {
+void ProcedureEmitter::ReadAll(std::span<const Expression* const> expressions,
+                               std::vector<Operand>& operands) {
   // In front of the last one that runs code, values are kept apart.
   std::size_t last = expressions.size();
   while (last > 0 && !RunsCode(*expressions[last - 1])) --last;
-  std::vector<Operand> operands;
-  operands.reserve(expressions.size());
   for (std::size_t i = 0; i < expressions.size(); ++i) {
     operands.push_back(Read(*expressions[i], i + 1 < last ? Until::Later : Until::Now));
   }
+}
+
+std::vector<Operand> ProcedureEmitter::ReadAll(std::span<const Expression* const> expressions) {
+  std::vector<Operand> operands;
+  operands.reserve(expressions.size());
+  ReadAll(expressions, operands);
   return operands;
 }
 

@@ -55,6 +55,8 @@ class ProcedureEmitter {
   // Values (emit_values.cpp, emit_operations.cpp)
   Operand Read(const Expression& expression, Until until);
   void Into(const Expression& expression, std::uint16_t target);
+  /// Reads the expressions left to right; the operands come behind those in the list.
+  void ReadAll(std::span<const Expression* const> expressions, std::vector<Operand>& operands);
   std::vector<Operand> ReadAll(std::span<const Expression* const> expressions);
   std::array<Operand, 2> ReadBoth(const Expression& left, const Expression& right);
   Operand Number(std::int64_t value);
@@ -91,6 +93,7 @@ class ProcedureEmitter {
     CallShape Shape;
     std::vector<std::uint16_t> Registers;
     std::vector<Operand> Held;
+    std::vector<const Expression*> Parts;  ///< of a property: object, value when it is set, indexes
   };
   CallArguments NewCall();
   void AddArgument(const Argument& argument, Until until, CallArguments& call,
@@ -99,6 +102,8 @@ class ProcedureEmitter {
   Operand ReadArgument(const Argument& argument, Until until, CallArguments& call,
                        const Variable* parameter);
   void FinishCall(CallArguments& call, SlotKind result);
+  /// Reads the parts of a property and makes all but the object arguments; returns that.
+  Operand ReadParts(CallArguments& call);
 
   // Locations (emit_locations.cpp)
   void Store(const GlobalSlot& node, const Expression& whole, std::uint16_t target);

@@ -101,7 +101,7 @@ void LineReader::Next(bool escapes, bool counts, std::vector<SourceToken>& token
   state.EscapeChars = escapes;
   int lines = 0;
   do {
-    const std::string_view line = file_.Lines[next_++];
+    const std::string_view line = walk_.Next();
     state = language::LexLine(line, state, lexed_);
     std::size_t end = 0;
     for (const language::Token& token : lexed_) {
@@ -117,8 +117,8 @@ void LineReader::Next(bool escapes, bool counts, std::vector<SourceToken>& token
     }
     if (lines == 0 && !lexed_.empty()) rest_ = line.substr(lexed_[0].Begin + lexed_[0].Length);
     if (++lines == kMaxContinuedLines && state.Continued) {
-      messages_.Error(PlaceIn(index_, next_, 0, line.size()), "The statement takes too many lines",
-                      "Split it into several statements");
+      messages_.Error(PlaceIn(index_, walk_.Count(), 0, line.size()),
+                      "The statement takes too many lines", "Split it into several statements");
       return;
     }
   } while (state.Continued && HasNext());
@@ -133,7 +133,7 @@ void LineReader::Take(std::string_view line, const language::Token& token, bool 
   std::string_view text(line.data() + token.Begin, token.Length);
   if (token.Kind == TokenKind::Unknown) {
     if (counts_) {
-      messages_.Error(PlaceIn(index_, next_, token.Begin, token.Length),
+      messages_.Error(PlaceIn(index_, walk_.Count(), token.Begin, token.Length),
                       "This character has no meaning here");
     }
     return;
@@ -154,7 +154,7 @@ void LineReader::Take(std::string_view line, const language::Token& token, bool 
   made.Touches = touches;
   made.Unclosed = token.Unclosed;
   made.Text = text;
-  made.At.Line = static_cast<std::uint32_t>(next_);
+  made.At.Line = static_cast<std::uint32_t>(walk_.Count());
   made.At.File = index_;
   made.At.Column = Narrow(token.Begin + std::size_t{1});
   made.At.Length = Narrow(token.Length);

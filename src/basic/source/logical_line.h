@@ -21,10 +21,10 @@ inline constexpr int kMaxContinuedLines = 1000;
 class LineReader {
  public:
   LineReader(const SourceFile& file, std::uint16_t index, Arena& memory, Messages& messages)
-      : file_(file), index_(index), memory_(memory), messages_(messages) {}
+      : walk_(file.Bytes), index_(index), memory_(memory), messages_(messages) {}
 
   /// True when a further line is there.
-  [[nodiscard]] bool HasNext() const noexcept { return next_ < file_.Lines.size(); }
+  [[nodiscard]] bool HasNext() const noexcept { return !walk_.AtEnd(); }
   /// Replaces `tokens` by those of the next statement line, without comments and without a LineEnd.
   /// `escapes` says whether "\" escapes in its texts, `counts` whether its faults are reported.
   void Next(bool escapes, bool counts, std::vector<SourceToken>& tokens);
@@ -36,11 +36,10 @@ class LineReader {
   void Take(std::string_view line, const language::Token& token, bool touches, bool escapes,
             std::vector<SourceToken>& tokens);
 
-  const SourceFile& file_;
+  LineWalk walk_;
   std::uint16_t index_;
   Arena& memory_;
   Messages& messages_;
-  std::size_t next_ = 0;
   std::string_view rest_;  ///< with its blanks
   bool counts_ = true;
   std::vector<language::Token> lexed_;

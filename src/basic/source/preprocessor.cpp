@@ -77,8 +77,11 @@ bool Preprocessor::FinishLine(Tokens& line) {
 void Preprocessor::FollowRoutines(const Tokens& line) {
   static constexpr std::array<std::string_view, 4> kHeads = {"SUB", "FUNCTION", "SUBI",
                                                              "FUNCTIONI"};
-  const char first = UpperByte(line[0].Text.empty() ? ' ' : line[0].Text[0]);
-  const bool may_begin = first == 'S' || first == 'F' || first == 'P';
+  constexpr std::size_t kLongest = 9;  // FUNCTIONI
+  const std::string_view start = line[0].Text;
+  const char first = UpperByte(start.empty() ? ' ' : start[0]);
+  const bool may_begin =
+      (first == 'S' || first == 'F' || first == 'P') && start.size() <= kLongest && line.size() > 1;
   if (!may_begin && !in_routine_) return;
   const auto begins = [&](std::size_t at) {
     return at < line.size() && line[at].Kind == SourceTokenKind::Name &&

@@ -8,24 +8,6 @@
 namespace tarnwick::basic {
 namespace {
 
-std::vector<std::string_view> LinesOf(std::string_view bytes) {
-  std::vector<std::string_view> lines;
-  lines.reserve(static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n')) + 1);
-  while (!bytes.empty()) {
-    const std::size_t feed = bytes.find('\n');
-    std::string_view rest = bytes.substr(0, feed);
-    bytes.remove_prefix(feed == std::string_view::npos ? bytes.size() : feed + 1);
-    // Carriage returns in front of the line feed end lines, too; the last one belongs to it.
-    std::size_t end = rest.find('\r');
-    for (; end != std::string_view::npos && end + 1 < rest.size(); end = rest.find('\r')) {
-      lines.push_back(rest.substr(0, end));
-      rest.remove_prefix(end + 1);
-    }
-    lines.push_back(rest.substr(0, end));
-  }
-  return lines;
-}
-
 /// The folder of a path with its last separator; "" for a bare name.
 std::string_view FolderOf(std::string_view path) {
   const std::size_t last = path.find_last_of("\\/:");
@@ -33,6 +15,22 @@ std::string_view FolderOf(std::string_view path) {
 }
 
 }  // namespace
+
+std::string_view LineWalk::Next() noexcept {
+  if (!feed_known_) {
+    feed_ = std::min(rest_.find('\n'), rest_.size());
+    feed_known_ = true;
+  }
+  const std::string_view line = rest_.substr(0, std::min(rest_.substr(0, feed_).find('\r'), feed_));
+  // A carriage return right in front of the line feed belongs to it.
+  const bool at_feed = line.size() + 1 >= feed_;
+  const std::size_t taken = std::min(at_feed ? feed_ + 1 : line.size() + 1, rest_.size());
+  rest_.remove_prefix(taken);
+  feed_known_ = !at_feed;
+  feed_ -= std::min(taken, feed_);
+  ++count_;
+  return line;
+}
 
 std::optional<std::uint16_t> SourceSet::Add(std::string path, std::string bytes) {
   if (files_.size() >= kMaxSourceFiles || bytes.size() > kMaxSourceBytes - bytes_) {
@@ -42,7 +40,6 @@ std::optional<std::uint16_t> SourceSet::Add(std::string path, std::string bytes)
   SourceFile& file = files_.emplace_back();
   file.Path = std::move(path);
   file.Bytes = std::move(bytes);
-  file.Lines = LinesOf(file.Bytes);
   return static_cast<std::uint16_t>(files_.size() - 1);
 }
 
@@ -72,8 +69,12 @@ std::optional<std::uint16_t> SourceSet::Include(SourceReader& reader, std::strin
 
 std::string_view SourceSet::LineAt(SourcePlace at) const noexcept {
   if (at.Line == 0 || at.File >= files_.size()) return {};
-  const std::vector<std::string_view>& lines = files_[at.File].Lines;
-  return at.Line <= lines.size() ? lines[at.Line - 1] : std::string_view();
+  LineWalk lines(files_[at.File].Bytes);
+  while (!lines.AtEnd()) {
+    const std::string_view line = lines.Next();
+    if (lines.Count() == at.Line) return line;
+  }
+  return {};
 }
 
 }  // namespace tarnwick::basic

@@ -1,4 +1,4 @@
-// The files of a program with their lines.
+// The files of a program and their lines.
 #pragma once
 
 #include <cstddef>
@@ -21,11 +21,26 @@ class SourceReader {
   [[nodiscard]] virtual std::optional<std::string> ReadSource(const std::string& path) = 0;
 };
 
-/// One file: its bytes and its lines. A line ends with CR LF, LF or CR, which are not part of it.
 struct SourceFile {
   std::string Path;
   std::string Bytes;
-  std::vector<std::string_view> Lines;
+};
+
+/// Goes through the lines of a text. A line ends with CR LF, LF or CR, which are not part of it.
+class LineWalk {
+ public:
+  explicit LineWalk(std::string_view text) : rest_(text) {}
+  [[nodiscard]] bool AtEnd() const noexcept { return rest_.empty(); }
+  /// The next line; there must be one.
+  std::string_view Next() noexcept;
+  /// Lines taken so far.
+  [[nodiscard]] std::size_t Count() const noexcept { return count_; }
+
+ private:
+  std::string_view rest_;
+  std::size_t feed_ = 0;  ///< bytes of the rest in front of its first line feed, when it is known
+  bool feed_known_ = false;
+  std::size_t count_ = 0;
 };
 
 /// The file of constants that programs include by habit, and the one delivered with this system,

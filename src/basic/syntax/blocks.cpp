@@ -16,7 +16,7 @@ void Parser::IfStatement(Statements& out) {
   if (!AtLineEnd()) {
     arms.push_back({condition, LineBody()});
     if (TakeWord(Word::Else)) arms.push_back({nullptr, LineBody()});
-    return Add(out, at, tree::IfBlock{memory_.List(arms)});
+    return Add(out, at, tree::IfBlock{memory_->List(arms)});
   }
   arms.push_back({condition, Body(BlockKind::If, at)});
   while (WordAhead() == Word::ElseIf || WordAhead() == Word::Else) {
@@ -31,7 +31,7 @@ void Parser::IfStatement(Statements& out) {
     arms.push_back({next, Body(BlockKind::If, at)});
   }
   TakeEnd(BlockKind::If);
-  Add(out, at, tree::IfBlock{memory_.List(arms)});
+  Add(out, at, tree::IfBlock{memory_->List(arms)});
 }
 
 /// The statements behind THEN or ELSE on the same line.
@@ -58,7 +58,7 @@ tree::StatementList Parser::LineBody() {
     Statement(body, false);
   }
   --in_line_if_;
-  return memory_.List(body);
+  return memory_->List(body);
 }
 
 void Parser::SelectStatement(Statements& out) {
@@ -84,10 +84,10 @@ void Parser::SelectStatement(Statements& out) {
       } while (!failed_ && TakeSign(","));
     }
     if (failed_ || !AtStatementEnd()) EndOfStatement();
-    cases.push_back({memory_.List(values), otherwise, Body(BlockKind::Select, case_at)});
+    cases.push_back({memory_->List(values), otherwise, Body(BlockKind::Select, case_at)});
   }
   TakeEnd(BlockKind::Select);
-  Add(out, at, tree::SelectBlock{selector, memory_.List(cases)});
+  Add(out, at, tree::SelectBlock{selector, memory_->List(cases)});
 }
 
 tree::CaseValue Parser::CaseValueHere() {

@@ -16,7 +16,7 @@ void Parser::DimStatement(Statements& out, tree::DeclareKind kind) {
     if (!DeclaratorHere(name)) return;
     names.push_back(name);
   } while (TakeSign(","));
-  Add(out, at, tree::Declaration{kind, memory_.List(names)});
+  Add(out, at, tree::Declaration{kind, memory_->List(names)});
 }
 
 void Parser::DefStatement(Statements& out, std::string_view type) {
@@ -31,7 +31,7 @@ void Parser::DefStatement(Statements& out, std::string_view type) {
     if (failed_) return;
     names.push_back(name);
   } while (TakeSign(","));
-  Add(out, at, tree::Declaration{tree::DeclareKind::Dim, memory_.List(names)});
+  Add(out, at, tree::Declaration{tree::DeclareKind::Dim, memory_->List(names)});
 }
 
 void Parser::InitialHere(tree::Declarator& out) {
@@ -93,7 +93,7 @@ void Parser::DimensionsHere(tree::Declarator& out) {
     if (low != nullptr && high != nullptr && high->Value > low->Value) dimensions[0].High = second;
     Tolerate(Tolerance::SocketArray, first);
   }
-  out.Dimensions = memory_.List(dimensions);
+  out.Dimensions = memory_->List(dimensions);
 }
 
 tree::TypeName Parser::OptionalType() {

@@ -74,7 +74,7 @@ const tree::Node* Parser::BinaryFrom(int level) {
   }
   const Node* left = Prefix();
   while (!failed_) {
-    const OperatorRow* row = facts_[std::min(at_, facts_.size() - 1)].Binary;
+    const OperatorRow* row = FactsAhead(0).Binary;
     if (row == nullptr || row->Level <= level) break;
     if (in_line_if_ > 0 && WordAhead() == Word::Else) break;
     const bool doubled = row->Sign == "++" || row->Sign == "--";
@@ -164,7 +164,8 @@ tree::NodeList Parser::ArgumentsUntil(const Node* callee, std::string_view closi
     }
     if (!TakeSign(",")) break;
   }
-  const tree::NodeList list = memory_.List(std::span<const Node* const>(arguments_).subspan(first));
+  const tree::NodeList list =
+      memory_->List(std::span<const Node* const>(arguments_).subspan(first));
   arguments_.resize(first);
   return list;
 }

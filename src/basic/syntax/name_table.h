@@ -1,20 +1,24 @@
 // The names of a program as numbers.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
-#include <unordered_map>
+#include <vector>
 
+#include "basic/source/arena.h"
 #include "basic/syntax/words.h"
-#include "text/code_page.h"
 
 namespace tarnwick::basic {
 
 /// Number of a name in a `NameTable`.
 enum class NameId : std::uint32_t { None = 0 };
 
-/// Gives each name a number, the same for every way of writing it: names compare without case. The
-/// names themselves must live as long as the table.
+/// Gives each name a number, the same for every way of writing it: names compare without case.
+///
+/// Every name of a program is looked up here each time it stands in the text. So the numbers stand
+/// in one open table, with a part of the hash beside each: a look-up touches a row of it and the
+/// name that it finds, no more.
 class NameTable {
  public:
   NameTable();
@@ -23,7 +27,15 @@ class NameTable {
   NameId Of(std::string_view name);
 
  private:
-  std::unordered_map<std::string_view, NameId, FoldedHash, FoldedEqual> numbers_;
+  struct Row {
+    std::uint32_t Hash = 0;
+    NameId Id = NameId::None;  ///< None: free
+  };
+  void Grow();
+
+  Arena texts_;
+  std::vector<std::string_view> names_;  ///< by number, from 1
+  std::vector<Row> rows_;                ///< a power of two of them, half of them free at least
 };
 
 /// The word that a name is; None for any other name. The words have the first numbers.

@@ -32,6 +32,12 @@ NumberLiteral RadixNumber(std::string_view token) {
 NumberLiteral NumberOf(std::string_view token) {
   if (!token.empty() && token.front() == '&') return RadixNumber(token);
   const bool plain = std::all_of(token.begin(), token.end(), language::IsDigit);
+  constexpr std::size_t kSureDigits = 18;  // so many always fit
+  if (plain && token.size() <= kSureDigits) {
+    std::int64_t value = 0;
+    for (const char digit : token) value = value * 10 + (digit - '0');
+    return {value, static_cast<double>(value)};
+  }
   const bool real = !plain && token.find_first_of(".eEdD!#") != std::string_view::npos;
   while (!plain && !token.empty() &&
          std::string_view("%&!#").find(token.back()) != std::string_view::npos) {

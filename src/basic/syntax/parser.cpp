@@ -69,6 +69,7 @@ void Parser::NextLine() {
   for (const SourceToken& token : line_) facts_.push_back(FactsOf(token));
   ++line_number_;
   at_ = 0;
+  last_ = line_.size() - 1;
 }
 
 Parser::TokenFacts Parser::FactsOf(const SourceToken& token) const {
@@ -79,26 +80,21 @@ Parser::TokenFacts Parser::FactsOf(const SourceToken& token) const {
     if (word != Word::None) facts.Binary = OperatorOf(TextOf(word));
     if (!token.Plain) facts.Keyword = word;
   } else if (token.Kind == SourceTokenKind::Sign) {
+    facts.Sign = SignCode(token.Text);
     facts.Binary = OperatorOf(token.Text);
   }
   return facts;
 }
 
 void Parser::Run() {
-  Statements all;
   while (Peek().Kind != SourceTokenKind::End && !messages_.Full()) {
     // What closes nothing is reported where it stands, and the rest is read on.
     const auto before = Position();
-    const tree::StatementList part = Body(BlockKind::If, {});
+    const tree::StatementList statements = Body(BlockKind::If, {});
+    out_.Pieces.back().Statements = statements;
     if (Position() == before) Take();
-    if (all.empty() && Peek().Kind == SourceTokenKind::End) {
-      // As nearly always: all of the program is one list.
-      out_.Statements = part;
-      return;
-    }
-    all.insert(all.end(), part.begin(), part.end());
+    NewPiece();
   }
-  out_.Statements = memory_.List(all);
 }
 
 bool Parser::BeginsGenerated() const {
@@ -248,10 +244,11 @@ tree::StatementList Parser::Body(BlockKind kind, SourcePlace opened) {
     failed_ = false;
     Statement(out, first_on_line);
     first_on_line = false;
+    if (outermost && memory_->Bytes() >= tree::kPieceBytes) break;
   }
   if (!outermost) open_.pop_back();
   failed_ = false;
-  return memory_.List(out);
+  return memory_->List(out);
 }
 
 void Parser::Statement(Statements& out, bool first_on_line) {

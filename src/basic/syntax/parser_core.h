@@ -45,7 +45,8 @@ struct OperatorRow {
 class Parser {
  public:
   Parser(TokenLines& lines, bool strict, tree::SyntaxTree& out, Messages& messages)
-      : lines_(lines), out_(out), memory_(out.Memory), messages_(messages) {
+      : lines_(lines), out_(out), messages_(messages) {
+    NewPiece();
     NextLine();
     tolerant_ = !strict && BeginsGenerated();
     out_.Generated = BeginsGenerated();
@@ -59,11 +60,11 @@ class Parser {
   // --- Tokens (parser.cpp) -----------------------------------------------------------------------
   /// A token of the line; behind its end the LineEnd, or the End of the program.
   [[nodiscard]] const SourceToken& Peek(std::size_t ahead = 0) const {
-    return line_[std::min(at_ + ahead, line_.size() - 1)];
+    return line_[std::min(at_ + ahead, last_)];
   }
   /// Stays valid until the line behind it has been taken.
   const SourceToken& Take() {
-    if (at_ + 1 < line_.size()) return line_[at_++];
+    if (at_ < last_) return line_[at_++];
     if (Peek().Kind == SourceTokenKind::End) return Peek();
     NextLine();
     return line_before_.back();
@@ -80,12 +81,10 @@ class Parser {
     return Peek(ahead).Kind == SourceTokenKind::Name;
   }
   [[nodiscard]] bool IsSign(std::string_view sign, std::size_t ahead = 0) const {
-    return Peek(ahead).Kind == SourceTokenKind::Sign && Peek(ahead).Text == sign;
+    return FactsAhead(ahead).Sign == SignCode(sign);
   }
   /// The word of a name; None for every other token.
-  [[nodiscard]] Word WordAhead(std::size_t ahead = 0) const {
-    return facts_[std::min(at_ + ahead, facts_.size() - 1)].Keyword;
-  }
+  [[nodiscard]] Word WordAhead(std::size_t ahead = 0) const { return FactsAhead(ahead).Keyword; }
   bool TakeSign(std::string_view sign) {
     if (!IsSign(sign)) return false;
     Take();
@@ -127,11 +126,15 @@ class Parser {
   // --- Statements --------------------------------------------------------------------------------
   template <class T>
   void Add(Statements& out, SourcePlace at, T value) {
-    tree::StatementNode* const made = tree::MakeStatement(memory_, at, std::move(value));
+    tree::StatementNode* const made = tree::MakeStatement(*memory_, at, std::move(value));
     made->At.Length = LengthFrom(at);
+    if constexpr (tree::kIsHead<T>) out_.Pieces.back().HasHeads = true;
     out.push_back(made);
   }
-  /// Statements up to the word that closes the block, which stays.
+  /// From here on nodes belong to another piece.
+  void NewPiece() { memory_ = &out_.Pieces.emplace_back().Memory; }
+  /// Statements up to the word that closes the block, which stays. Those of the top level, which
+  /// nothing opens, end where the piece is full.
   tree::StatementList Body(BlockKind kind, SourcePlace opened);
   /// One statement; a separator must follow.
   void Statement(Statements& out, bool first_on_line);
@@ -214,21 +217,32 @@ class Parser {
   /// What is known of a token of the line beside its text.
   struct TokenFacts {
     NameId Name = NameId::None;
-    Word Keyword = Word::None;
+    std::uint32_t Sign = 0;               ///< its `SignCode`; 0: no sign
     const OperatorRow* Binary = nullptr;  ///< null: no operator between two values
+    Word Keyword = Word::None;
   };
   [[nodiscard]] TokenFacts FactsOf(const SourceToken& token) const;
+  [[nodiscard]] const TokenFacts& FactsAhead(std::size_t ahead) const {
+    return facts_[std::min(at_ + ahead, last_)];
+  }
+  /// The bytes of a sign as a number: signs are compared all the time, and have three at most.
+  [[nodiscard]] static constexpr std::uint32_t SignCode(std::string_view sign) {
+    std::uint32_t code = 0;
+    for (const char byte : sign) code = code << 8U | static_cast<unsigned char>(byte);
+    return code;
+  }
   [[nodiscard]] static const OperatorRow* OperatorOf(std::string_view text);
 
   TokenLines& lines_;
   tree::SyntaxTree& out_;
-  Arena& memory_;
+  Arena* memory_ = nullptr;  ///< that of the last piece
   Messages& messages_;
   std::vector<SourceToken> line_before_;
   std::vector<SourceToken> line_;
   std::vector<TokenFacts> facts_;  ///< by token of the line
   std::size_t line_number_ = 0;
   std::size_t at_ = 0;                  ///< index in the line
+  std::size_t last_ = 0;                ///< index of its last token
   std::vector<const Node*> arguments_;  ///< those of the calls that are being read
   bool tolerant_ = false;
   bool failed_ = false;           ///< the statement being parsed has met an error
@@ -245,9 +259,9 @@ const tree::Node* Parser::MakeNode(SourcePlace from, int height, T value) {
   if (height >= kMaxExpressionHeight) {
     if (!failed_) Error(from, "The expression is too long", "Split it into several statements");
     height = 0;
-    return tree::MakeNode(memory_, from, 1, tree::WholeNumber{0});
+    return tree::MakeNode(*memory_, from, 1, tree::WholeNumber{0});
   }
-  Node* const made = tree::MakeNode(memory_, from, height + 1, std::move(value));
+  Node* const made = tree::MakeNode(*memory_, from, height + 1, std::move(value));
   made->At.Length = LengthFrom(from);
   return made;
 }

@@ -17,7 +17,7 @@ std::string_view Parser::RoutineName(SourcePlace& at) {
   for (int i = 0; i < 4; ++i) joined += Take().Text;
   at.Length = LengthFrom(at);
   Tolerate(Tolerance::BracketName, at);
-  return memory_.Text(joined);
+  return out_.Texts.Text(joined);
 }
 
 bool Parser::RoutineHead(tree::Routine& routine, BlockKind& kind) {
@@ -61,7 +61,7 @@ bool Parser::RoutineHead(tree::Routine& routine, BlockKind& kind) {
   // SUBI: whatever stands in the brackets, the arguments are reached by number.
   routine.Variadic = word == Word::SubI || word == Word::FunctionI;
   if (routine.Variadic) parameters.clear();
-  routine.Parameters = memory_.List(parameters);
+  routine.Parameters = memory_->List(parameters);
   if (kind == BlockKind::Function) routine.Result = OptionalType();
   return !failed_;
 }
@@ -130,7 +130,7 @@ void Parser::DeclareStatement(Statements& out) {
   }
   bool variadic = false;
   const std::vector<tree::ParameterNode> parameters = ParametersHere(variadic);
-  declare.Parameters = memory_.List(parameters);
+  declare.Parameters = memory_->List(parameters);
   if (failed_) return;
   declare.Result = OptionalType();
   Add(out, at, declare);
@@ -176,8 +176,8 @@ void Parser::TypeStatement(Statements& out) {
     Error(at, "END TYPE of this type is missing");
   }
   private_ = false;
-  type.Fields = memory_.List(fields);
-  type.Members = memory_.List(members);
+  type.Fields = memory_->List(fields);
+  type.Members = memory_->List(members);
   out_.HasTypes = true;
   Add(out, at, type);
 }
@@ -236,7 +236,7 @@ void Parser::FieldsHere(std::vector<tree::Declarator>& fields) {
       name.append(".").append(Take().Text);
     }
     if (failed_) return;
-    field.Name = memory_.Text(name);
+    field.Name = memory_->Text(name);
     if (IsSign("(")) DimensionsHere(field);
     if (failed_) return;
     if (WordAhead() == Word::As && WordAhead(1) == Word::Event && IsSign("(", 2)) {

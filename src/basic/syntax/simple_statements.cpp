@@ -87,7 +87,7 @@ void Parser::PrintStatement(Statements& out) {
     parts.push_back(part);
     if (part.Mark == tree::PrintMark::LineEnd) break;
   }
-  print.Parts = memory_.List(parts);
+  print.Parts = memory_->List(parts);
   Add(out, at, print);
 }
 
@@ -103,7 +103,7 @@ void Parser::InputStatement(Statements& out) {
   do {
     targets.push_back(Postfix());
   } while (!failed_ && TakeSign(","));
-  input.Targets = memory_.List(targets);
+  input.Targets = memory_->List(targets);
   Add(out, at, input);
 }
 
@@ -126,7 +126,7 @@ void Parser::OnStatement(Statements& out) {
   do {
     labels.push_back(LabelName());
   } while (!failed_ && TakeSign(","));
-  Add(out, at, tree::OnJumpLine{selector, memory_.List(labels), returns});
+  Add(out, at, tree::OnJumpLine{selector, memory_->List(labels), returns});
 }
 
 void Parser::JumpStatement(Statements& out, bool returns) {
@@ -179,9 +179,9 @@ void Parser::DataStatement(Statements& out) {
       if (!text.empty() && !token.Touches) text += ' ';
       text += token.Text;
     }
-    items.push_back({memory_.Text(text), quoted});
+    items.push_back({memory_->Text(text), quoted});
   } while (TakeSign(","));
-  Add(out, at, tree::DataLine{memory_.List(items)});
+  Add(out, at, tree::DataLine{memory_->List(items)});
 }
 
 void Parser::ReadStatement(Statements& out) {
@@ -191,7 +191,7 @@ void Parser::ReadStatement(Statements& out) {
   do {
     targets.push_back(Postfix());
   } while (!failed_ && TakeSign(","));
-  Add(out, at, tree::ReadLine{memory_.List(targets)});
+  Add(out, at, tree::ReadLine{memory_->List(targets)});
 }
 
 void Parser::RestoreStatement(Statements& out) {

@@ -6,6 +6,7 @@
 #include <memory>
 #include <span>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -354,13 +355,32 @@ struct ReferenceUse {
   std::size_t Argument;
 };
 
-/// A whole program as it stands in the source. Its texts lie in the source set and with the
-/// preprocessor that it was made by.
-struct SyntaxTree {
+/// True for statements that say something about the program as a whole, which is collected before
+/// any body is checked.
+template <class T>
+inline constexpr bool kIsHead =
+    std::is_same_v<T, Declaration> || std::is_same_v<T, ConstDeclaration> ||
+    std::is_same_v<T, Label> || std::is_same_v<T, DataLine> || std::is_same_v<T, CreateBlock> ||
+    std::is_same_v<T, Routine> || std::is_same_v<T, DeclareLine> || std::is_same_v<T, TypeBlock> ||
+    std::is_same_v<T, ResourceLine> || std::is_same_v<T, DefaultTypeLine>;
+
+/// Some statements of the top level, one behind the other, with all that is in them. The nodes of a
+/// piece are of no more use once it is checked, and are freed then.
+struct Piece {
   Arena Memory;
+  StatementList Statements;
+  bool HasHeads = false;  ///< one of them, or of those inside them, is a head
+};
+/// Bytes of nodes behind which a piece ends with its statement.
+inline constexpr std::size_t kPieceBytes = std::size_t{1} << 18U;
+
+/// A whole program as it stands in the source. Its texts lie in the source set, with the
+/// preprocessor that it was made by, and in `Texts`.
+struct SyntaxTree {
+  Arena Texts;  ///< names put together of several tokens
   /// The names in it; those that the checker makes come to them.
   std::unique_ptr<NameTable> Names = std::make_unique<NameTable>();
-  StatementList Statements;
+  std::vector<Piece> Pieces;
   std::vector<ReferenceUse> References;
   bool HasLabels = false;
   bool HasTypes = false;
