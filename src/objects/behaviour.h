@@ -75,8 +75,8 @@ void ShowForm(ObjectWorld& world, ObjectId form);
 void RealiseMenu(ObjectWorld& world, const ObjectRecord& form);
 /// Takes an object that is about to go out of all menus and off all forms.
 void LeaveMenus(ObjectWorld& world, ObjectId object);
-/// Gives a label with AutoSize the size of its text; nothing for other objects, and for one that is
-/// not shown yet.
-void LabelFitsText(ObjectWorld& world, ObjectRecord& label);
+/// Gives a label with AutoSize the size of its text, when it is shown, and an edit with AutoSize
+/// the height of its font; nothing for other objects.
+void FitText(ObjectWorld& world, ObjectRecord& label);
 
 }  // namespace tarnwick::objects

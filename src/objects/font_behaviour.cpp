@@ -20,7 +20,7 @@ bool SetFont(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*membe
   own.Values = world.Find(in.AsObject())->Values;
   if (!other) return true;
   world.Show(object, Word::Font);
-  LabelFitsText(world, object);
+  FitText(world, object);
   return true;
 }
 
@@ -33,7 +33,7 @@ bool GetFont(ObjectWorld& world, ObjectRecord& object, const MemberInfo& /*membe
 void Follow(ObjectWorld& world, ObjectRecord& font, const MemberInfo& /*member*/,
             Origin /*origin*/) {
   world.Show(font, Word::Name);
-  if (ObjectRecord* const owner = world.Find(font.Parent)) LabelFitsText(world, *owner);
+  if (ObjectRecord* const owner = world.Find(font.Parent)) FitText(world, *owner);
 }
 
 void SizeFollows(ObjectWorld& world, ObjectRecord& font, const MemberInfo& member, Origin origin) {

@@ -272,7 +272,7 @@ void ObjectWorld::Realise(ObjectRecord& object) {
     FillFileList(*this, *next);
     next->Realised = true;
     widgets_.Realise(*next);
-    LabelFitsText(*this, *next);
+    if (next->Is(ObjectClass::QLabel)) FitText(*this, *next);
     // The last one waits longest.
     const std::vector<ObjectId> children(next->Children.rbegin(), next->Children.rend());
     for (const ObjectId child : children) {

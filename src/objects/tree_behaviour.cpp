@@ -4,6 +4,7 @@
 #include "objects/behaviour.h"
 #include "objects/part_objects.h"
 #include "objects/text_files.h"
+#include "text/code_page.h"
 
 namespace tarnwick::objects {
 namespace {
@@ -32,8 +33,68 @@ void MovePick(ObjectRecord& tree, std::int64_t index) {
   tree.Put(Word::ItemIndex, Value::Integer(index));
 }
 
+bool IsSorted(const ObjectRecord& tree) {
+  constexpr std::int64_t kByText = 2;
+  return tree.Number(Word::SortType) >= kByText;
+}
+
+bool LessByText(const TreeNodes::Node& a, const TreeNodes::Node& b) {
+  return Lower(a.Text) < Lower(b.Text);
+}
+
+/// The nodes that begin at `first` and stand beside each other, each group of them in order, with
+/// what is below. `order` has the index that each node had.
+void SortBeside(Nodes& nodes, std::vector<std::size_t>& order, std::size_t first, std::size_t end) {
+  std::vector<std::size_t> starts;
+  for (std::size_t at = first; at < end; at = EndOf(nodes, at)) starts.push_back(at);
+  for (const std::size_t start : starts) {
+    const std::size_t last = EndOf(nodes, start);
+    if (last > start + 1) SortBeside(nodes, order, start + 1, last);
+  }
+  std::stable_sort(starts.begin(), starts.end(),
+                   [&](std::size_t a, std::size_t b) { return LessByText(nodes[a], nodes[b]); });
+  Nodes sorted;
+  std::vector<std::size_t> from;
+  for (const std::size_t start : starts) {
+    const std::size_t last = EndOf(nodes, start);
+    const auto begin = static_cast<std::ptrdiff_t>(start);
+    const auto behind = static_cast<std::ptrdiff_t>(last);
+    from.insert(from.end(), order.begin() + begin, order.begin() + behind);
+    sorted.insert(sorted.end(), nodes.begin() + begin, nodes.begin() + behind);
+  }
+  std::copy(from.begin(), from.end(), order.begin() + static_cast<std::ptrdiff_t>(first));
+  std::move(sorted.begin(), sorted.end(), nodes.begin() + static_cast<std::ptrdiff_t>(first));
+}
+
+/// Sorts all nodes of a tree with SortType; the one that is picked stays picked.
+void SortAll(ObjectRecord& tree) {
+  if (!IsSorted(tree)) return;
+  Nodes& nodes = NodesOf(tree);
+  std::vector<std::size_t> order(nodes.size());
+  for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
+  SortBeside(nodes, order, 0, nodes.size());
+  const std::int64_t picked = tree.Number(Word::ItemIndex);
+  const auto found = std::find(order.begin(), order.end(), static_cast<std::size_t>(picked));
+  if (picked >= 0 && found != order.end()) MovePick(tree, found - order.begin());
+}
+
+void SortChanged(ObjectWorld& world, ObjectRecord& tree, const MemberInfo& /*member*/,
+                 Origin /*origin*/) {
+  if (!IsSorted(tree)) return;
+  SortAll(tree);
+  ShowAll(world, tree);
+}
+
+/// Puts a node in front of the one at `at`; in a sorted tree among those beside it.
 void Insert(ObjectRecord& tree, std::size_t at, std::string text, int level) {
   Nodes& nodes = NodesOf(tree);
+  if (IsSorted(tree)) {
+    while (at > 0 && nodes[at - 1].Level >= level) --at;
+    const std::string folded = Lower(text);
+    while (at < nodes.size() && nodes[at].Level == level && Lower(nodes[at].Text) <= folded) {
+      at = EndOf(nodes, at);
+    }
+  }
   nodes.insert(nodes.begin() + static_cast<std::ptrdiff_t>(at),
                {std::move(text), level, false, -1, -1});
   const std::int64_t picked = tree.Number(Word::ItemIndex);
@@ -133,6 +194,7 @@ bool LoadFromFile(ObjectWorld& world, ObjectRecord& tree, const MemberInfo& /*me
         static_cast<int>(std::min<std::size_t>(tabs, static_cast<std::size_t>(deepest)));
     nodes.push_back({line.substr(tabs), level, false, -1, -1});
   }
+  SortAll(tree);
   ShowAll(world, tree);
   return true;
 }
@@ -253,7 +315,10 @@ bool SetOfNode(ObjectWorld& world, ObjectRecord& node, const MemberInfo& member,
       break;
     default:
       of.Text = in.AsText();
-      break;
+      if (!IsSorted(*tree)) break;
+      SortAll(*tree);
+      ShowAll(world, *tree);
+      return true;
   }
   world.ShowItems(*tree, {Kind::Replaced, index, 1});
   return true;
@@ -270,6 +335,7 @@ constexpr BehaviourRow kRows[] = {
     {QTreeView, Word::FullCollapse, {.Call = ExpandAll}},
     {QTreeView, Word::LoadFromFile, {.Call = LoadFromFile}},
     {QTreeView, Word::SaveToFile, {.Call = SaveToFile}},
+    {QTreeView, Word::SortType, {.Changed = SortChanged}},
     {QTreeView, Word::ItemCount, {.Get = Count}},
     {QTreeView, Word::Item, {.Get = GetItem}},
     {QTreeView, Word::ItemIndex, {.Set = SetIndex, .Changed = Picked}},

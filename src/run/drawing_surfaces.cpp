@@ -13,9 +13,9 @@ namespace {
 constexpr int kLargestSide = 16'384;
 
 /// The classes that have a surface of their own.
-constexpr ObjectClass kDrawn[] = {ObjectClass::QForm,    ObjectClass::QImage,
-                                  ObjectClass::QCanvas,  ObjectClass::QBitmap,
-                                  ObjectClass::QListBox, ObjectClass::QStringGrid};
+constexpr ObjectClass kDrawn[] = {
+    ObjectClass::QForm,    ObjectClass::QImage,      ObjectClass::QCanvas,  ObjectClass::QBitmap,
+    ObjectClass::QListBox, ObjectClass::QStringGrid, ObjectClass::QComboBox};
 /// The properties that assign a picture.
 constexpr Word kPictures[] = {Word::Bmp, Word::BMPHandle, Word::Icon, Word::IcoHandle};
 
@@ -44,6 +44,15 @@ void DrawingSurfaces::PropertyChanged(const ObjectRecord& object, Word property)
   } else {
     surfaces_[object.Id] = assigned.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
   }
+}
+
+void DrawingSurfaces::Prepare(ObjectId object, const QSize& size) {
+  const ObjectRecord* const record = stage_.RecordOf(object);
+  if (record == nullptr) return;
+  const QSize fitted =
+      SizeOf(*record).expandedTo(size).boundedTo(QSize(kLargestSide, kLargestSide));
+  surfaces_[object] = QImage(fitted, QImage::Format_ARGB32_Premultiplied);
+  surfaces_[object].fill(Qt::transparent);
 }
 
 const QPixmap& DrawingSurfaces::PictureOf(const ObjectRecord& object) const {

@@ -25,6 +25,8 @@ class DrawingSurfaces {
   bool Invoke(const ObjectRecord& object, Word method, std::span<Value> arguments, Value& result);
   /// Pixel(x, y); false for every other property.
   bool Live(const ObjectRecord& object, Word property, std::span<const Value> index, Value& out);
+  /// Gives an object an empty surface of at least this size.
+  void Prepare(ObjectId object, const QSize& size);
   void Forget(ObjectId object) { surfaces_.erase(object); }
 
   /// The picture that an object shows: what was drawn on it, else what was assigned. Null when it

@@ -43,7 +43,7 @@ bool ShowFault(const FaultText& fault, bool can_show) {
   bold.setBold(true);
   what->setFont(bold);
   rows->addWidget(what);
-  rows->addWidget(PlainLabel(fault.Place, "Place"));
+  if (!fault.Place.isEmpty()) rows->addWidget(PlainLabel(fault.Place, "Place"));
   if (!fault.Line.isEmpty()) {
     QLabel* const line = PlainLabel(fault.Line, "Line");
     line->setFrameStyle(QFrame::Panel | QFrame::Sunken);

@@ -9,7 +9,7 @@ namespace tarnwick::run {
 struct FaultText {
   QString Title;
   QString What;       ///< what is wrong
-  QString Place;      ///< "notes.com, line 12"
+  QString Place;      ///< "notes.com, line 12"; may be empty
   QString Line;       ///< the text of the line; may be empty
   QStringList Chain;  ///< the running calls, innermost first; may be empty
 };

@@ -24,7 +24,11 @@ void OwnerDrawing::Run() {
     rect_ = world.Create(static_cast<basic::ClassId>(ObjectClass::QRect),
                          world.Find(object_)->FullName() + ".Rect", -1);
   }
-  for (const DrawnPart& part : parts_()) {
+  const std::vector<DrawnPart> parts = parts_();
+  QRect needed;
+  for (const DrawnPart& part : parts) needed |= part.Place;
+  stage_.Surfaces().Prepare(object_, {needed.right() + 1, needed.bottom() + 1});
+  for (const DrawnPart& part : parts) {
     objects::ObjectRecord* const rect = world.Find(rect_);
     if (rect == nullptr) return;
     rect->Put(Word::Left, Value::Integer(part.Place.left()));

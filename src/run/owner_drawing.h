@@ -22,6 +22,7 @@ struct DrawnPart {
 inline constexpr std::int64_t kPartSelected = 1;
 inline constexpr std::int64_t kPartDisabled = 4;
 inline constexpr std::int64_t kPartFocused = 16;
+inline constexpr std::int64_t kPartFace = 4096;  ///< the box of a drop-down list, not its list
 
 /// Raises the drawing event of a list or a grid for each part that is to be seen. The handlers draw
 /// on the object's surface, which its view paints above everything else. They never run while a

@@ -9,6 +9,7 @@
 #include <mutex>
 #include <optional>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "basic/vm/machine.h"
@@ -24,6 +25,7 @@
 #include "platform/native_files.h"
 #include "platform/profile_files.h"
 #include "run/desktop_system.h"
+#include "run/line_printer.h"
 #include "run/message_windows.h"
 #include "run/stage.h"
 #include "run/stop_listener.h"
@@ -154,6 +156,24 @@ void WriteTrace(std::FILE* file, std::string_view line) {
   std::fflush(file);
 }
 
+/// True when nobody sees what is written to the standard streams: a program that was started from
+/// the desktop, without a terminal. A pipe and a file have a reader.
+bool IsUnread(std::FILE* in, std::FILE* out) {
+  struct stat facts {};
+  if (::isatty(::fileno(in)) != 0 || ::isatty(::fileno(out)) != 0) return false;
+  if (::fstat(::fileno(out), &facts) != 0) return false;
+  return S_ISCHR(facts.st_mode) || S_ISSOCK(facts.st_mode);
+}
+
+bool HasShownForms(const objects::ObjectWorld& world) {
+  bool shown = false;
+  world.ForEach([&](const objects::ObjectRecord& object) {
+    const auto* const form = object.As<objects::FormState>();
+    shown = shown || (form != nullptr && form->Shown);
+  });
+  return shown;
+}
+
 /// `trace` gets the changes that the windows show; null for none.
 basic::RunResult RunCode(const PreparedProgram& program, const RunnerArguments& arguments,
                          const RunStreams& streams, const RunReport& report, StopRequests& requests,
@@ -165,8 +185,11 @@ basic::RunResult RunCode(const PreparedProgram& program, const RunnerArguments& 
   std::optional<WindowConsole> window;
   std::optional<hosts::StreamConsole> stream;
   basic::ConsoleHost* console = streams.Console;
-  if (console == nullptr && (arguments.WithIde || arguments.Windows)) {
+  const bool unread =
+      !arguments.WithIde && (arguments.Windows || IsUnread(streams.In, streams.Out));
+  if (console == nullptr && (arguments.WithIde || unread)) {
     console = &window.emplace(looks::ToQString(facts.Title), streams.Out);
+    window->ShowsText = unread;
   } else if (console == nullptr) {
     console = &stream.emplace(streams.In, streams.Out);
   }
@@ -184,7 +207,8 @@ basic::RunResult RunCode(const PreparedProgram& program, const RunnerArguments& 
   stage.Connect(world);
   TcpNetwork network([&](int wait_ms) { stage.Rest(wait_ms); });
   world.UseNetwork(network);
-  basic::Machine machine(program.Code, {console, &world, &files, &clock, &system, &natives},
+  LinePrinter lines(stage);
+  basic::Machine machine(program.Code, {console, &world, &files, &clock, &system, &natives, &lines},
                          arguments.Options());
   machine.SetResources(program.Resources);
   world.Connect(machine);
@@ -202,11 +226,20 @@ basic::RunResult RunCode(const PreparedProgram& program, const RunnerArguments& 
   basic::RunResult result = machine.Run();
   result.End = stopping.EndOf(result.End);
   std::fflush(streams.Out);
+  // A program without forms has no other window in which its text can be read.
+  if (window && window->ShowsText && result.End == basic::RunEnd::Ended && !HasShownForms(world)) {
+    window->WaitClosed([&] { return requests.Asked(); });
+  }
   return result;
 }
 
 QString FromUtf8(const std::string& text) {
   return QString::fromStdString(text);
+}
+
+/// The name of a file of this machine.
+std::string BareNameOf(const std::string& path) {
+  return path.substr(path.rfind('/') + 1);
 }
 
 void ShowRunTimeError(const PreparedProgram& program, const RunReport& report,
@@ -275,7 +308,12 @@ RunExit RunSession(const RunnerArguments& arguments, const RunStreams& streams) 
   try {
     exit = Run(arguments, streams, report);
   } catch (const std::exception& fault) {
-    report.Say({}, "error", Utf8ToCodePage(watch.Report(fault)));
+    const std::string text = watch.Report(fault);
+    report.Say({}, "error", Utf8ToCodePage(text));
+    // The program that started the runner shows it itself.
+    if (!arguments.WithIde) {
+      ShowFault({FromUtf8(BareNameOf(arguments.Source)), FromUtf8(text), {}, {}, {}}, false);
+    }
   }
   report.Signal("end", std::to_string(static_cast<int>(exit)));
   return exit;

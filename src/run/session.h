@@ -17,9 +17,10 @@ struct RunStreams {
 };
 
 /// Checks and runs the program; windows need the toolkit's application. Its PRINT goes to `Out`,
-/// errors and notes to `Err` in the form that the arguments want. A run-time error and the errors
-/// of a source are shown in a window too, unless the program that started the runner shows them. A
-/// message about a fault of the runner itself names the file of its report.
+/// errors and notes to `Err` in the form that the arguments want. A run-time error is shown in a
+/// window too, with a way to its line for the program that started the runner; the errors of a
+/// source, and a fault of the runner itself, are where no other program shows them. The message
+/// about such a fault names the file of its report.
 [[nodiscard]] hosts::RunExit RunSession(const RunnerArguments& arguments,
                                         const RunStreams& streams);
 

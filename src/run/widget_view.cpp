@@ -145,7 +145,11 @@ void WidgetView::ShowParent(const ObjectRecord& object) {
 
 void WidgetView::ShowPlace(const ObjectRecord& object) {
   widget_->setGeometry(PlaceOf(object));
-  if (object.Number(Word::Align) != 0) ShowAlign(object);
+  if (object.Number(Word::Align) != 0) {
+    ShowAlign(object);
+  } else {
+    Placed(object);
+  }
 }
 
 void WidgetView::ShowAlign(const ObjectRecord& object) {

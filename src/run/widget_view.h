@@ -32,6 +32,8 @@ class WidgetView : public ObjectView {
   /// Gives the widget the font and the colours of the object.
   virtual void ShowFont(const ObjectRecord& object);
   virtual void ShowColor(const ObjectRecord& object);
+  /// The widget has got the place of the object.
+  virtual void Placed(const ObjectRecord& /*object*/) {}
   [[nodiscard]] WidgetEvents& Events() { return events_; }
 
  private:

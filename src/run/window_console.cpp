@@ -145,8 +145,22 @@ void WindowConsole::Send(std::string_view text) {
   std::fflush(out_);
 }
 
+void WindowConsole::WaitClosed(const std::function<bool()>& ending) {
+  if (window_ == nullptr || closed_) return;
+  window_->setWindowTitle(title_ + QStringLiteral(" (ended)"));
+  window_->update();
+  QEventLoop loop;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+    if (closed_ || ending()) loop.quit();
+  });
+  look.start(kLookEvery);
+  loop.exec();
+}
+
 void WindowConsole::Printed(std::string_view text) {
   Send(text);
+  if (ShowsText && !closed_) Open();
   PageChanged();
 }
 

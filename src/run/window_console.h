@@ -14,7 +14,7 @@ namespace tarnwick::run {
 
 /// What is printed goes out at once as UTF-8. A window with the console's page opens when the
 /// program asks for keys or lines, or works with places and colours of the page. While it waits for
-/// them its other windows stay alive.
+/// them its other windows stay alive. Where nobody reads what goes out the first text opens it.
 class WindowConsole final : public hosts::PagedConsole {
  public:
   WindowConsole(QString title, std::FILE* out);
@@ -26,6 +26,12 @@ class WindowConsole final : public hosts::PagedConsole {
   std::function<bool()> Ending;
   /// The user closed the window.
   std::function<void()> Closed;
+  /// Nobody reads what goes out: text is shown in the window.
+  bool ShowsText = false;
+
+  /// Keeps the window of a program that has ended until the user closes it or `ending` returns
+  /// true; nothing when there is none.
+  void WaitClosed(const std::function<bool()>& ending);
 
   std::optional<std::string> ReadLine() override;
   std::string ReadBytes(std::size_t count) override;

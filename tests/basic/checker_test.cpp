@@ -230,7 +230,7 @@ TEST(Checker, IifTakesNumbersOrTexts) {
 }
 TEST(Checker, WordsThatAreLeftOutSaySo) {
   EXPECT_NE(Check1("x = INP(1)").find("INP is not supported by the runner"), std::string::npos);
-  EXPECT_NE(Check1("LPRINT \"a\"").find("LPRINT is not supported by the runner"),
+  EXPECT_NE(Check1("x = INPUTHANDLE").find("INPUTHANDLE is not supported by the runner"),
             std::string::npos);
 }
 TEST(Checker, TheRestOfTheStatements) {

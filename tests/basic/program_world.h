@@ -29,7 +29,8 @@ struct ProgramWorld {
   test::ProgramFiles Files;
   test::StillClock Clock{Log};
   test::LogSystem System{Log};
-  Hosts Host{&Console, nullptr, &Files, &Clock, &System, nullptr};
+  test::LogPrinter Printer{Log};
+  Hosts Host{&Console, nullptr, &Files, &Clock, &System, nullptr, &Printer};
   std::vector<std::string> Resources = {"a.txt", "gone.bmp"};
 };
 

@@ -135,7 +135,7 @@ TEST(RunProgramTest, WhatIsSupportedIsListed) {
   EXPECT_EQ(outcome.Exit, RunExit::Ended);
   EXPECT_NE(outcome.Out.find("QFORM\n  works: "), std::string::npos);
   EXPECT_NE(outcome.Out.find("passed over: "), std::string::npos);
-  EXPECT_NE(outcome.Out.find("LPRINT: "), std::string::npos);
+  EXPECT_NE(outcome.Out.find("INPUTHANDLE: "), std::string::npos);
 }
 
 }  // namespace

@@ -9,11 +9,13 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "basic/hosts/clock_host.h"
 #include "basic/hosts/console_host.h"
 #include "basic/hosts/file_host.h"
+#include "basic/hosts/printer_host.h"
 #include "basic/hosts/system_host.h"
 #include "text/code_page.h"
 
@@ -233,6 +235,26 @@ class StillClock : public basic::ClockHost {
 
  private:
   std::string& log_;
+};
+
+/// Prints into the log, with "/" for each line end.
+class LogPrinter : public basic::PrinterHost {
+ public:
+  explicit LogPrinter(std::string& log) : log_(log) {}
+  void Write(std::string_view text) override {
+    for (const char byte : text) gathered_ += byte == '\n' ? '/' : byte;
+  }
+  int Column() override {
+    const std::size_t end = gathered_.rfind('/');
+    return static_cast<int>(gathered_.size() - (end == std::string::npos ? 0 : end + 1)) + 1;
+  }
+  void Flush() override {
+    if (!gathered_.empty()) log_ += Call("Pages", {std::exchange(gathered_, {})});
+  }
+
+ private:
+  std::string& log_;
+  std::string gathered_;
 };
 
 class LogSystem : public basic::SystemHost {

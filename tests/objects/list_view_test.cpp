@@ -128,6 +128,27 @@ TEST(Trees, AFileHasATabForEachLevel) {
   EXPECT_EQ(program.Files.BytesOf("t.txt"), "a\r\n\tc\r\n\t\te\r\n\td\r\nb\r\n");
 }
 
+TEST(Trees, NodesBesideEachOtherAreSortedByText) {
+  // What is picked stays picked, and what is below goes with its node.
+  constexpr auto kMixed =
+      "T.Clear\nT.AddItems \"m\", \"B\", \"a\"\nT.AddChildItems 0, \"z\", \"Y\"\nT.ItemIndex = 1\n";
+  EXPECT_EQ(PrintedBy(std::string(kTree) + kMixed + "T.SortType = 2\nShow\nT.SortType = 3\nShow"),
+            "a0 B0 m0 Y1 z1 4\na0 B0 m0 Y1 z1 4\n");
+  EXPECT_EQ(PrintedBy(std::string(kTree) + "T.SortType = 1\n" + kMixed + "Show"),
+            "m0 z1 Y1 B0 a0 1\n");
+}
+
+TEST(Trees, ASortedTreeStaysSorted) {
+  EXPECT_EQ(PrintedBy(std::string(kTree) +
+                      "T.Clear\nT.SortType = 2\nT.AddItems \"m\", \"b\", \"a\"\n"
+                      "T.AddChildItems 1, \"z\", \"y\"\nT.InsertItem 0, \"c\"\nShow\n"
+                      "T.Item(0).Text = \"x\"\nShow"),
+            "a0 b0 y1 z1 c0 m0 -1\nb0 y1 z1 c0 m0 x0 -1\n");
+  ObjectProgram program(std::string(kTree) + "T.SortType = 2\nT.LoadFromFile \"mixed.txt\"\nShow");
+  program.Files.Add("C:\\work\\mixed.txt", "b\r\n\td\r\n\tc\r\na\r\n");
+  EXPECT_EQ(program.Run(), "a0 b0 c1 d1 -1\n");
+}
+
 TEST(Trees, LevelsHaveTheirLimit) {
   EXPECT_EQ(PrintedBy("DIM T AS QTREEVIEW\nT.AddItems \"0\"\nFOR k = 0 TO 998\n"
                       "T.AddChildItems k, STR$(k)\nNEXT\nPRINT T.Item(999).Level\n"

@@ -100,6 +100,43 @@ TEST(RunFormTest, BarsComeWhenObjectsNeedMoreRoom) {
   EXPECT_EQ(live.Printed, "200 420\n") << "positions are those of the whole area";
 }
 
+TEST(RunFormTest, ABorderSetAheadOfShowingIsThatOfTheWindow) {
+  LiveProgram live(
+      "DIM F AS QFORM\nF.Left = 60: F.Top = 70: F.Width = 320: F.Height = 240\n"
+      "F.Show\nF.Hide\nF.BorderStyle = 3\nF.BorderStyle = 4\nF.Show\nDO\nDOEVENTS\nLOOP\n");
+  live.Then([&] {
+    const QWidget& window = *live.Widget("F");
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.windowFlags() & Qt::WindowType_Mask, Qt::Tool);
+    EXPECT_EQ(window.pos(), QPoint(60, 70));
+    EXPECT_EQ(ClientOf(live).size(), QSize(316, 217));
+  });
+  live.Run();
+}
+
+TEST(RunFormTest, AnotherBorderKeepsStateFocusAndWaiting) {
+  LiveProgram live(
+      FormWith("DIM A AS QEDIT: A.Parent = F\nDIM B AS QEDIT: B.Parent = F: B.Top = 50\n"
+               "DIM Go AS QBUTTON",
+               "SUB Change\nF.BorderStyle = 1\nF.BorderStyle = 5\nF.DelBorderIcons 2\nEND SUB\n"
+               "Go.OnClick = Change\nSUB Seen\nPRINT \"shown\"\nEND SUB\nF.OnShow = Seen"));
+  live.Then([&] {
+    live.Widget("B")->setFocus();
+    live.World->Click(live.Object("Go").Id);
+  });
+  live.Then([&] {
+    const QWidget& window = *live.Widget("F");
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.windowModality(), Qt::ApplicationModal) << "ShowModal still waits";
+    EXPECT_EQ(window.focusWidget(), live.Widget("B"));
+    EXPECT_EQ(window.maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX)) << "can be dragged";
+    live.Widget("F")->close();
+    EXPECT_FALSE(window.isVisible());
+  });
+  live.Run();
+  EXPECT_EQ(live.Printed, "shown\n");
+}
+
 /// The bars of the form F; null for one that is not to be seen.
 QScrollBar* DownBar(const LiveProgram& live) {
   QScrollBar* const bar = live.Widget("F")->findChild<QScrollArea*>()->verticalScrollBar();

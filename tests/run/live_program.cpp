@@ -75,8 +75,8 @@ void LiveProgram::Run() {
   basic::RunOptions options;
   options.MaxSeconds = 30;
   machine_ = std::make_unique<basic::Machine>(
-      Program.Code, basic::Hosts{&console_, World.get(), &files_, &clock_, &system_, &natives_},
-      options);
+      Program.Code,
+      basic::Hosts{&console_, World.get(), &files_, &clock_, &system_, &natives_, &Lines}, options);
   machine_->SetResources(Program.Resources);
   World->Connect(*machine_);
   QTimer::singleShot(pause_, &context_, [this] { Step(); });

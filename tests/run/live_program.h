@@ -20,6 +20,7 @@
 #include "platform/native_files.h"
 #include "platform/profile_files.h"
 #include "run/desktop_system.h"
+#include "run/line_printer.h"
 #include "run/stage.h"
 #include "run/tcp_network.h"
 
@@ -66,6 +67,7 @@ class LiveProgram {
   hosts::PreparedProgram Program;
   run::Stage Stage;
   run::TcpNetwork Network{[this](int wait_ms) { Stage.Rest(wait_ms); }};
+  run::LinePrinter Lines{Stage};
   std::unique_ptr<objects::ObjectWorld> World;
   std::string ExeName;
 

@@ -118,6 +118,38 @@ TEST_F(RunPrinterTest, ADocumentThatIsNotEndedIsPrintedWithTheProgram) {
   EXPECT_EQ(CountOf(kept.Read("main.pdf"), "/Type /Page\n"), 1U);
 }
 
+TEST_F(RunPrinterTest, LinesArePrintedWhereTheyAreSentOut) {
+  LiveProgram live("LPRINT \"Total\"; 12\nLPRINT \"a\", \"b\"\nLFLUSH\nPRINT \"on\"");
+  live.Run();
+  EXPECT_EQ(live.Printed, "on\n");
+  const std::string file = live.Folder.Read("main.pdf");
+  EXPECT_EQ(CountOf(file, "/Type /Page\n"), 1U);
+  EXPECT_GE(CountOf(DrawnIn(file), "Tj"), 2U);
+  ASSERT_EQ(live.Result.Notes.size(), 1U);
+  EXPECT_EQ(live.Result.Notes[0].Text,
+            "There is no printer: the pages are in " + live.Folder.Path("main.pdf"));
+}
+
+TEST_F(RunPrinterTest, LinesGoOnFurtherPages) {
+  LiveProgram live(
+      "FOR i = 1 TO 150: LPRINT i: NEXT\nLPRINT CHR$(12); \"last\"; CHR$(12)\nLFLUSH\nLFLUSH");
+  live.Run();
+  const std::string file = live.Folder.Read("main.pdf");
+  // Some sixty lines to the page, and a form feed begins one.
+  EXPECT_EQ(CountOf(file, "/Type /Page\n"), 4U);
+  EXPECT_GE(CountOf(DrawnIn(file), "Tj"), 151U);
+  EXPECT_EQ(live.Folder.Read("main 2.pdf"), "") << "nothing was left for a second file";
+}
+
+TEST_F(RunPrinterTest, LinesThatWereNotSentOutArePrintedAtTheEnd) {
+  for (const char* const text : {"LPRINT \"a\"", "LPRINT \"a\": END", "LPRINT \"a\": x = 1 \\ y"}) {
+    LiveProgram live(text);
+    live.Run();
+    EXPECT_EQ(CountOf(live.Folder.Read("main.pdf"), "/Type /Page\n"), 1U) << text;
+    EXPECT_EQ(live.Result.Notes.size(), 1U) << text;
+  }
+}
+
 TEST_F(RunPrinterTest, ARichTextIsPrinted) {
   LiveProgram live(
       FormWith("DIM R AS QRICHEDIT: R.Parent = F\nFOR k = 1 TO 200: R.Text = R.Text + \"line\" + "

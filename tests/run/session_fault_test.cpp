@@ -1,4 +1,8 @@
 // A run that meets a fault of the runner itself.
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QTimer>
 #include <cstdlib>
 #include <stdexcept>
 
@@ -31,8 +35,20 @@ TEST(SessionFaultTest, AFaultOfTheRunnerEndsWithItsCodeAndNamesItsReport) {
   const test::TextStream out;
   const test::TextStream err;
   BrokenConsole console;
+  // It is shown, since no other program does that.
+  QString shown;
+  QTimer closing;
+  QObject::connect(&closing, &QTimer::timeout, &closing, [&] {
+    auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (box == nullptr) return;
+    shown = box->findChild<QLabel*>(QStringLiteral("What"))->text();
+    box->reject();
+  });
+  closing.start(10);
   const hosts::RunExit exit = run::RunSession(arguments, {stdin, out.File(), err.File(), &console});
   ::unsetenv("XDG_DATA_HOME");
+  EXPECT_TRUE(shown.startsWith(QStringLiteral("fault of the runner: the console broke")))
+      << shown.toStdString();
   EXPECT_EQ(exit, hosts::RunExit::Fault);
   const std::string head = "start\nerror\t\t0\t0\t0\tfault of the runner: the console broke, " +
                            folder.Native("p.bas") + ":3:1. A report is in " +

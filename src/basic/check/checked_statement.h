@@ -130,10 +130,11 @@ struct PrintItem {
   const Expression* Value;   ///< Whole, Real, Text or Variant; null: only the separator
   PrintSeparator Separator;  ///< what follows the value
 };
-/// PRINT. No items: an empty line.
+/// PRINT and LPRINT. No items: an empty line.
 struct Print {
   const Expression* Page;  ///< `PRINT #n,`; null: the visible page
   std::span<const PrintItem> Items;
+  bool Printer;  ///< LPRINT: there is no page
 };
 /// INPUT: one line, its values parted by commas.
 struct Input {

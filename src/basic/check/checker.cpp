@@ -192,15 +192,9 @@ void Checker::CheckBody(const tree::Routine& routine, ProcedureId id,
 }
 
 void Checker::CheckPrint(const tree::PrintLine& line, SourcePlace at, Statements& out) {
-  if (line.Printer) {
-    const LeftOut* left_out = FindLeftOut("LPRINT");
-    if (left_out != nullptr) {
-      Error(at, TextOf(*left_out), RemedyOf(*left_out));
-    }
-    return;
-  }
-  program_.UsesConsole = true;
-  const Expr page = line.Page == nullptr ? nullptr : WholeValue(line.Page);
+  if (!line.Printer) program_.UsesConsole = true;
+  const bool paged = line.Page != nullptr && !line.Printer;
+  const Expr page = paged ? WholeValue(line.Page) : nullptr;
   std::vector<PrintItem> items;
   for (const tree::PrintPart& part : line.Parts) {
     Expr value = part.Value == nullptr ? nullptr : Value(part.Value);
@@ -214,7 +208,7 @@ void Checker::CheckPrint(const tree::PrintLine& line, SourcePlace at, Statements
                                                 : PrintSeparator::LineEnd;
     items.push_back({value, separator});
   }
-  Add(out, at, Print{page, List(items)});
+  Add(out, at, Print{page, List(items), line.Printer});
 }
 
 ExpressionList Checker::Targets(tree::NodeList nodes) {

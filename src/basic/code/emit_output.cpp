@@ -1,10 +1,12 @@
 // PRINT, INPUT, READ.
 #include "basic/code/procedure_emitter.h"
+#include "basic/hosts/printer_host.h"
 
 namespace tarnwick::basic {
 
 void ProcedureEmitter::Make(const Print& node) {
-  const Operand page = node.Page != nullptr ? Temporary(false) : Number(0);
+  const Operand page =
+      node.Page != nullptr ? Temporary(false) : Number(node.Printer ? kPrinterPage : 0);
   if (node.Page != nullptr) Into(*node.Page, page.Register);
   if (node.Items.empty()) code_.Add(Op::PRINT_END, 0, page.Register);
   for (const PrintItem& item : node.Items) {

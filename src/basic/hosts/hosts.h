@@ -8,6 +8,7 @@ class ConsoleHost;
 class FileHost;
 class NativeCalls;
 class ObjectHost;
+class PrinterHost;
 class SystemHost;
 
 /// A host that is not there is null: what needs it ends the program with a run-time error that
@@ -19,6 +20,7 @@ struct Hosts {
   ClockHost* Clock = nullptr;
   SystemHost* System = nullptr;
   NativeCalls* Natives = nullptr;
+  PrinterHost* Printer = nullptr;  ///< without one, what LPRINT writes is lost, with a note
 };
 
 }  // namespace tarnwick::basic

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "basic/hosts/console_host.h"
+#include "basic/hosts/printer_host.h"
 #include "basic/hosts/system_host.h"
 #include "basic/lib/native_help.h"
 #include "basic/lib/native_table.h"
@@ -89,6 +90,10 @@ void SetConsoleTitle(LibraryCall& call) {
   if (ConsoleHost* console = NeedConsole(call)) console->SetTitle(TextAt(call, 0));
 }
 
+void Lflush(LibraryCall& call) {
+  if (call.Host.Printer != nullptr) call.Host.Printer->Flush();
+}
+
 void PlayWav(LibraryCall& call) {
   SystemHost* system = NeedSystem(call);
   if (system == nullptr) return;
@@ -107,13 +112,21 @@ void Sound(LibraryCall& call) {
 }
 
 constexpr NativeRow kRows[] = {
-    {FunctionId::Cls, Cls},         {FunctionId::Color, Color},
-    {FunctionId::CsrLin, CsrLin},   {FunctionId::Inkey, Inkey},
-    {FunctionId::InputOf, InputOf}, {FunctionId::IsConsole, IsConsole},
-    {FunctionId::Locate, Locate},   {FunctionId::Pcopy, Pcopy},
-    {FunctionId::Peek, Peek},       {FunctionId::PlayWav, PlayWav},
-    {FunctionId::Poke, Poke},       {FunctionId::Pos, Pos},
-    {FunctionId::Screen, Screen},   {FunctionId::SetConsoleTitle, SetConsoleTitle},
+    {FunctionId::Cls, Cls},
+    {FunctionId::Color, Color},
+    {FunctionId::CsrLin, CsrLin},
+    {FunctionId::Inkey, Inkey},
+    {FunctionId::InputOf, InputOf},
+    {FunctionId::IsConsole, IsConsole},
+    {FunctionId::Lflush, Lflush},
+    {FunctionId::Locate, Locate},
+    {FunctionId::Pcopy, Pcopy},
+    {FunctionId::Peek, Peek},
+    {FunctionId::PlayWav, PlayWav},
+    {FunctionId::Poke, Poke},
+    {FunctionId::Pos, Pos},
+    {FunctionId::Screen, Screen},
+    {FunctionId::SetConsoleTitle, SetConsoleTitle},
     {FunctionId::Sound, Sound},
 };
 

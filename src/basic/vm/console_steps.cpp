@@ -1,6 +1,9 @@
 // PRINT, INPUT, DATA, and the arguments of a SUBI.
+#include <utility>
+
 #include "basic/check/checked_expression.h"
 #include "basic/hosts/console_host.h"
+#include "basic/hosts/printer_host.h"
 #include "basic/lib/date_text.h"
 #include "basic/vm/machine_state.h"
 #include "basic/vm/number_text.h"
@@ -21,14 +24,26 @@ std::string_view Trimmed(std::string_view text) {
 }  // namespace
 
 bool MachineState::PrintText(std::string_view text, std::int64_t page) {
+  if (page == kPrinterPage) {
+    if (Host.Printer != nullptr) {
+      Host.Printer->Write(text);
+    } else if (!std::exchange(PrinterMissed, true)) {
+      Library.Notes.push_back("There is no printer in this run: what LPRINT writes is lost");
+      TakeNotes();
+    }
+    return true;
+  }
   if (Host.Console == nullptr) return Fail("There is no console to print to");
   Host.Console->Write(static_cast<int>(page), text);
   return true;
 }
 
 bool MachineState::PrintZone(std::int64_t page) {
-  if (Host.Console == nullptr) return Fail("There is no console to print to");
-  const int column = Host.Console->Column(static_cast<int>(page));
+  const bool printer = page == kPrinterPage;
+  if (!printer && Host.Console == nullptr) return Fail("There is no console to print to");
+  int column = 1;
+  if (!printer) column = Host.Console->Column(static_cast<int>(page));
+  if (printer && Host.Printer != nullptr) column = Host.Printer->Column();
   const int blanks = kZone - (column - 1) % kZone;
   return PrintText(std::string(static_cast<std::size_t>(blanks), ' '), page);
 }

@@ -73,9 +73,14 @@ void MachineState::StoreResult(std::uint16_t target, SlotKind kind, Value value)
 
 void MachineState::TakeNotes() {
   if (Library.Notes.empty()) return;
-  const auto at = static_cast<std::size_t>(Frames.back().Pc - Program.Instructions.data());
+  // Behind the last line of the program a note has no place.
+  SourcePlace place{};
+  if (!Frames.empty()) {
+    place =
+        Program.PlaceOf(static_cast<std::size_t>(Frames.back().Pc - Program.Instructions.data()));
+  }
   for (std::string& note : Library.Notes) {
-    Result.Notes.push_back({Program.PlaceOf(at), std::move(note)});
+    Result.Notes.push_back({place, std::move(note)});
   }
   Library.Notes.clear();
 }

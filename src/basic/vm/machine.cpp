@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "basic/hosts/printer_host.h"
 #include "basic/lib/native_table.h"
 #include "basic/vm/machine_state.h"
 
@@ -86,6 +87,8 @@ RunResult Machine::Run() {
     state.RunLoop();
   }
   state.Unwind(0);
+  if (state.Host.Printer != nullptr) state.Host.Printer->Flush();
+  state.TakeNotes();
   state.Result.Steps = state.Steps;
   return std::move(state.Result);
 }

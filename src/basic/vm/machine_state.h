@@ -64,6 +64,7 @@ struct MachineState {
   std::size_t NextData = 0;
   Value CallResult;  ///< of the activation that ended last
   std::string InputRest;
+  bool PrinterMissed = false;  ///< the note that there is no printer was made
 
   std::uint64_t Steps = 0;
   std::uint64_t StepLimit = 0;
@@ -167,6 +168,7 @@ struct MachineState {
   bool OperateVariants(const Instruction* operation);
 
   // --- Console and data (console_steps.cpp)
+  /// To a page of the console, or to the printer (`kPrinterPage`).
   bool PrintText(std::string_view text, std::int64_t page);
   bool PrintZone(std::int64_t page);
   bool InputLine();

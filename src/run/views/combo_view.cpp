@@ -1,11 +1,14 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListView>
 #include <QPainter>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "looks/platform_colors.h"
 #include "looks/text_bridge.h"
+#include "run/drawing_surfaces.h"
 #include "run/stage.h"
 #include "run/views/fields.h"
 #include "run/views/list_views.h"
@@ -16,6 +19,57 @@ namespace {
 using objects::ListItems;
 
 constexpr std::int64_t kListOnly = 2;
+constexpr std::int64_t kDrawn = 3;  ///< from here on the program draws the entries
+constexpr std::int64_t kVariable = 4;
+
+/// Entries that the program draws: they have a height and nothing else. Without a handler they are
+/// texts.
+class DrawnRows final : public QStyledItemDelegate {
+ public:
+  DrawnRows(const ComboView& view, QObject* parent) : QStyledItemDelegate(parent), view_(view) {}
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    if (!view_.IsDrawn()) QStyledItemDelegate::paint(painter, option, index);
+  }
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QVariant own = index.data(Qt::UserRole);
+    return {option.fontMetrics.horizontalAdvance(index.data().toString()),
+            own.isValid() ? own.toInt() : Height};
+  }
+
+  int Height = 0;
+
+ private:
+  const ComboView& view_;
+};
+
+/// The open list of a drop-down list with such entries.
+class DrawnList final : public QListView {
+ public:
+  explicit DrawnList(ComboView& view) : view_(view) {}
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QListView::paintEvent(event);
+    QPainter painter(viewport());
+    view_.PaintDrawn(painter);
+  }
+  void scrollContentsBy(int dx, int dy) override {
+    QListView::scrollContentsBy(dx, dy);
+    view_.Changed();
+  }
+  void resizeEvent(QResizeEvent* event) override {
+    QListView::resizeEvent(event);
+    view_.Changed();
+  }
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
+    QListView::currentChanged(current, previous);
+    view_.Changed();
+  }
+
+ private:
+  ComboView& view_;
+};
 
 /// A drop-down list in the look of the design form's.
 class ComboField final : public QComboBox {
@@ -27,11 +81,13 @@ class ComboField final : public QComboBox {
     down_ = true;
     QComboBox::showPopup();
     update();
+    view_.Changed();
   }
   void hidePopup() override {
     down_ = false;
     QComboBox::hidePopup();
     update();
+    view_.Changed();
   }
 
  protected:
@@ -39,6 +95,15 @@ class ComboField final : public QComboBox {
   void resizeEvent(QResizeEvent* event) override {
     QComboBox::resizeEvent(event);
     if (lineEdit() != nullptr) lineEdit()->setGeometry(looks::ComboTextOf(rect()));
+    view_.Changed();
+  }
+  void focusInEvent(QFocusEvent* event) override {
+    QComboBox::focusInEvent(event);
+    view_.Changed();
+  }
+  void focusOutEvent(QFocusEvent* event) override {
+    QComboBox::focusOutEvent(event);
+    view_.Changed();
   }
 
  private:
@@ -53,7 +118,8 @@ QComboBox* MakeComboField(ComboView& view) {
 }  // namespace
 
 ComboView::ComboView(Stage& stage, const ObjectRecord& combo)
-    : TableView(stage, combo, MakeComboField(*this), WidgetEvents::Mouse::Own) {
+    : TableView(stage, combo, MakeComboField(*this), WidgetEvents::Mouse::Own),
+      drawing_(stage, combo.Id, Word::OnDrawItem, [this] { return Parts(); }) {
   connect(&Combo(), &QComboBox::activated, this, [this](int index) { Picked(index); });
   connect(&Combo(), &QComboBox::editTextChanged, this,
           [this](const QString& text) { Typed(text); });
@@ -82,8 +148,75 @@ void ComboView::Typed(const QString& text) {
   });
 }
 
+std::vector<DrawnPart> ComboView::Parts() {
+  std::vector<DrawnPart> parts;
+  const ObjectRecord* const combo = Record();
+  if (combo == nullptr || combo->Number(Word::Style) < kDrawn) return parts;
+  const QAbstractItemView& list = *Combo().view();
+  const bool open = list.isVisible();
+  const QRect seen = list.viewport()->rect();
+  for (int row = open ? std::max(0, list.indexAt(QPoint(1, 1)).row()) : Combo().count();
+       row < Combo().count(); ++row) {
+    const QModelIndex index = list.model()->index(row, 0);
+    const QRect place = list.visualRect(index);
+    if (place.top() > seen.bottom()) break;
+    parts.push_back({{row}, list.currentIndex() == index ? kPartSelected : 0, place});
+  }
+  face_ = looks::ComboTextOf(Combo().rect());
+  if (open) face_.moveTop(seen.height());
+  if (Combo().currentIndex() < 0) return parts;
+  std::int64_t state = kPartFace;
+  if (!Combo().isEnabled()) state |= kPartDisabled;
+  if (Combo().hasFocus() && !open) state |= kPartSelected | kPartFocused;
+  parts.push_back({{Combo().currentIndex()}, state, face_});
+  return parts;
+}
+
+bool ComboView::IsDrawn() const {
+  const ObjectRecord* const combo = Record();
+  return combo != nullptr && combo->Number(Word::Style) >= kDrawn &&
+         combo->IsHooked(Word::OnDrawItem);
+}
+
+void ComboView::PaintDrawn(QPainter& painter) const {
+  stage().Surfaces().Paint(painter, Id(), QPoint());
+}
+
+void ComboView::ShowDrawing() {
+  Combo().update();
+  if (Combo().view()->isVisible()) Combo().view()->viewport()->update();
+}
+
+void ComboView::ShowHeights(const ObjectRecord& combo) {
+  if (combo.Number(Word::Style) < kDrawn) return;
+  const auto fitted = [](std::int64_t height) {
+    constexpr std::int64_t kTallest = 1'000;
+    return static_cast<int>(std::clamp<std::int64_t>(height, 1, kTallest));
+  };
+  const int usual = fitted(combo.Number(Word::ItemHeight));
+  if (auto* const rows = dynamic_cast<DrawnRows*>(Combo().itemDelegate())) rows->Height = usual;
+  const bool variable = combo.Number(Word::Style) >= kVariable;
+  for (int row = 0; row < Combo().count() && variable; ++row) {
+    Value arguments[] = {Value::Integer(row), Value::Integer(usual)};
+    if (!stage().World().Raise(Id(), Word::OnMeasureItem, arguments) || Record() == nullptr) return;
+    Combo().setItemData(row, fitted(arguments[1].AsInteger()), Qt::UserRole);
+  }
+  drawing_.Want();
+}
+
+void ComboView::ShowFont(const ObjectRecord& combo) {
+  WidgetView::ShowFont(combo);
+  drawing_.Want();
+}
+
 void ComboView::ShowStyle(const ObjectRecord& combo) {
   const bool edits = combo.Number(Word::Style) < kListOnly;
+  const bool drawn = combo.Number(Word::Style) >= kDrawn;
+  if (drawn && dynamic_cast<DrawnList*>(Combo().view()) == nullptr) {
+    Combo().setView(new DrawnList(*this));
+    Combo().setItemDelegate(new DrawnRows(*this, &Combo()));
+  }
+  ShowHeights(combo);
   if (Combo().isEditable() == edits) return;
   showing_ = true;
   Combo().setEditable(edits);
@@ -110,6 +243,7 @@ void ComboView::ShowEntries(const ObjectRecord& combo) {
   Combo().addItems(texts);
   showing_ = false;
   ShowText(combo);
+  ShowHeights(combo);
 }
 
 void ComboView::ShowItems(const ObjectRecord& combo, const objects::ItemsChange& change) {
@@ -133,6 +267,7 @@ void ComboView::ShowItems(const ObjectRecord& combo, const objects::ItemsChange&
   }
   showing_ = false;
   ShowText(combo);
+  ShowHeights(combo);
 }
 
 void ComboView::ShowText(const ObjectRecord& combo) {
@@ -142,6 +277,7 @@ void ComboView::ShowText(const ObjectRecord& combo) {
   if (QLineEdit* const line = Combo().lineEdit()) line->setCursorPosition(0);
   showing_ = false;
   Combo().update();
+  drawing_.Want();
 }
 
 void ComboView::ShowCount(const ObjectRecord& combo) {
@@ -161,6 +297,11 @@ void ComboView::Paint(QWidget& widget, bool down) const {
   const bool enabled = widget.isEnabled();
   looks::DrawComboFace(painter, widget.rect(), PaperOf(*combo), enabled, down);
   if (combo->Number(Word::Style) < kListOnly) return;
+  if (IsDrawn()) {
+    const QRect place = looks::ComboTextOf(widget.rect());
+    painter.setClipRect(place);
+    return stage().Surfaces().Paint(painter, Id(), place.topLeft() - face_.topLeft());
+  }
   const QColor ink =
       looks::ColorOf(static_cast<std::int32_t>(stage().World().FontOf(*combo).Color));
   looks::DrawFaceText(painter, stage().Texts(), looks::ComboTextOf(widget.rect()),

@@ -12,7 +12,7 @@ namespace {
 /// A line edit on the field that its view paints.
 class LineField final : public QLineEdit {
  public:
-  explicit LineField(const EditView& view) : view_(view) {
+  explicit LineField(EditView& view) : view_(view) {
     setFrame(false);
     setAutoFillBackground(false);
     // The toolkit keeps two pixels at the sides and one above to itself.
@@ -23,13 +23,30 @@ class LineField final : public QLineEdit {
   }
 
  protected:
+  bool event(QEvent* event) override {
+    // The toolkit would give the selection up when the window becomes the active one.
+    if (event->type() == QEvent::WindowActivate) return QWidget::event(event);
+    return QLineEdit::event(event);
+  }
   void paintEvent(QPaintEvent* event) override {
     PaintField(*this, view_);
     QLineEdit::paintEvent(event);
   }
+  void focusInEvent(QFocusEvent* event) override {
+    QLineEdit::focusInEvent(event);
+    view_.FocusChanged();
+  }
+  void focusOutEvent(QFocusEvent* event) override {
+    // The toolkit gives the selection up; programs ask for it while other objects have the focus.
+    const int start = selectionStart();
+    const int length = selectionLength();
+    QLineEdit::focusOutEvent(event);
+    if (start >= 0 && !hasSelectedText()) setSelection(start, length);
+    view_.FocusChanged();
+  }
 
  private:
-  const EditView& view_;
+  EditView& view_;
 };
 
 constexpr int kLongest = 32'767;
@@ -82,7 +99,15 @@ void EditView::ShowColor(const ObjectRecord& box) {
   // The field is painted below the text.
   QPalette palette = Edit().palette();
   palette.setColor(QPalette::Base, Qt::transparent);
+  if (box.Truth(Word::HideSelection) && !Edit().hasFocus()) {
+    palette.setColor(QPalette::Highlight, Qt::transparent);
+    palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
+  }
   Edit().setPalette(palette);
+}
+
+void EditView::FocusChanged() {
+  if (const ObjectRecord* const box = Record()) ShowColor(*box);
 }
 
 void EditView::ShowText(const ObjectRecord& box) {

@@ -146,12 +146,15 @@ void FormView::ShowFrame(const ObjectRecord& form) {
   const Qt::WindowFlags flags = FlagsOf(form);
   if (window_->windowFlags() == flags) return;
   const bool seen = window_->isVisible();
+  // Behind another change it is not active yet.
+  const bool active = window_->isActiveWindow() || QApplication::activeWindow() == nullptr;
   showing_ = true;
   window_->setWindowFlags(flags);
   ShowSize(form);
   // The window is another one to the desktop, which knows its frame only when it is shown.
   window_->move(PlaceOf(form).topLeft());
   if (seen) window_->show();
+  if (active) window_->activateWindow();
   showing_ = false;
 }
 

@@ -38,7 +38,7 @@ ListRowsView::ListRowsView(Stage& stage, const ObjectRecord& list)
   connect(&field, &QTreeWidget::currentItemChanged, this, [this] { Picked(); });
   connect(&field, &QTreeWidget::itemSelectionChanged, this, [this] { SelectionChanged(); });
   connect(&field, &QTreeWidget::itemChanged, this,
-          [this](QTreeWidgetItem* item, int) { Ticked(*item); });
+          [this](QTreeWidgetItem* item, int) { Changed(*item); });
   connect(field.header(), &QHeaderView::sectionClicked, this, [this](int column) {
     this->stage().Raise(Id(), Word::OnColumnClick, {Value::Integer(column)});
   });
@@ -91,7 +91,7 @@ void ListRowsView::ShowAllRows(const ObjectRecord& list) {
   field.setIconSize(PictureSizeOfList(stage(), list, ImagesOf(list)));
   ShowColumns(list);
   QList<QTreeWidgetItem*> items;
-  for (std::size_t i = 0; i < rows->Rows.size(); ++i) items << new QTreeWidgetItem();
+  for (std::size_t i = 0; i < rows->Rows.size(); ++i) items << MakeTreeItem();
   field.addTopLevelItems(items);
   for (std::size_t i = 0; i < rows->Rows.size(); ++i) {
     ShowOne(list, *items[static_cast<qsizetype>(i)], i);
@@ -110,7 +110,7 @@ void ListRowsView::ShowItems(const ObjectRecord& list, const ItemsChange& change
     delete Field().takeTopLevelItem(at);
   } else {
     if (change.What == ItemsChange::Kind::Inserted) {
-      Field().insertTopLevelItem(at, new QTreeWidgetItem());
+      Field().insertTopLevelItem(at, MakeTreeItem());
     }
     if (QTreeWidgetItem* const shown = Field().topLevelItem(at))
       ShowOne(list, *shown, change.First);
@@ -129,6 +129,7 @@ void ListRowsView::ShowMode(const ObjectRecord& list) {
                                                          : QTreeWidget::SelectItems);
   field.setSelectionMode(list.Truth(Word::MultiSelect) ? QTreeWidget::ExtendedSelection
                                                        : QTreeWidget::SingleSelection);
+  field.SetLook(TreeField::LookOf(list));
   field.setLineWidth(EdgeOf(list) == looks::FieldEdge::None ? 0 : looks::kListEdge);
 }
 
@@ -168,13 +169,18 @@ void ListRowsView::SelectionChanged() {
   Picked();
 }
 
-void ListRowsView::Ticked(QTreeWidgetItem& shown) {
+void ListRowsView::Changed(QTreeWidgetItem& shown) {
   objects::ObjectRecord* const list = stage().World().Find(Id());
-  if (showing_ || list == nullptr || !list->Truth(Word::CheckBoxes)) return;
+  if (showing_ || list == nullptr) return;
   std::vector<ListRows::Row>& rows = list->As<ListRows>()->Rows;
   const int index = Field().indexOfTopLevelItem(&shown);
   if (index < 0 || index >= static_cast<int>(rows.size())) return;
-  rows[static_cast<std::size_t>(index)].Checked = shown.checkState(0) == Qt::Checked;
+  ListRows::Row& row = rows[static_cast<std::size_t>(index)];
+  std::string caption = looks::FromQString(shown.text(0));
+  const bool checked = list->Truth(Word::CheckBoxes) && shown.checkState(0) == Qt::Checked;
+  if (row.Texts[0] == caption && row.Checked == checked) return;
+  row.Texts[0] = std::move(caption);
+  row.Checked = checked;
   stage().Raise(Id(), Word::OnChange);
 }
 

@@ -28,6 +28,10 @@ class ListRowsView final : public TableView<ListRowsView> {
       {Word::RowSelect, &ListRowsView::ShowMode},
       {Word::MultiSelect, &ListRowsView::ShowMode},
       {Word::BorderStyle, &ListRowsView::ShowMode},
+      {Word::GridLines, &ListRowsView::ShowMode},
+      {Word::HotTrack, &ListRowsView::ShowMode},
+      {Word::HideSelection, &ListRowsView::ShowMode},
+      {Word::ReadOnly, &ListRowsView::ShowMode},
       {Word::ItemIndex, &ListRowsView::ShowPicked}};
 
  private:
@@ -36,7 +40,8 @@ class ListRowsView final : public TableView<ListRowsView> {
   void ShowOne(const ObjectRecord& list, QTreeWidgetItem& shown, std::size_t index);
   void Picked();
   void SelectionChanged();
-  void Ticked(QTreeWidgetItem& shown);
+  /// The user has ticked an item, or has changed its caption.
+  void Changed(QTreeWidgetItem& shown);
   bool showing_ = false;  ///< what changes now is no choice of the user
 };
 

@@ -167,6 +167,30 @@ void ListView::ShowHeights(const ObjectRecord& list) {
   }
   List().doItemsLayout();
   drawing_.Want();
+  FitHeight(list);
+}
+
+void ListView::BuildOwn(const ObjectRecord& list) {
+  TableView::BuildOwn(list);
+  built_ = true;
+  FitHeight(list);
+}
+
+void ListView::FitHeight(const ObjectRecord& list) {
+  constexpr std::int64_t kVariable = 2;
+  const bool fits = list.Truth(Word::IntegralHeight) && list.Number(Word::Style) != kVariable &&
+                    list.Number(Word::Align) == 0;
+  if (!built_ || !fits) return;
+  const int own = static_cast<ListField&>(List()).Rows.Height;
+  const int row = own > 0 ? own : List().fontMetrics().height();
+  const int edges = 2 * List().frameWidth();
+  const int height = PlaceOf(list).height();
+  // A list keeps the room of one entry at least.
+  const int fitted = std::max(1, (height - edges) / std::max(1, row)) * row + edges;
+  if (fitted >= height) return;
+  List().resize(List().width(), fitted);
+  stage().Report(
+      [this, fitted] { stage().World().UserSet(Id(), Word::Height, Value::Integer(fitted)); });
 }
 
 void ListView::Picked() {
@@ -283,6 +307,7 @@ void ListView::ShowTop(const ObjectRecord& list) {
 void ListView::ShowFont(const ObjectRecord& list) {
   WidgetView::ShowFont(list);
   if (list.Number(Word::Columns) > 0) ShowMode(list);
+  FitHeight(list);
 }
 
 bool ListView::Live(const ObjectRecord& list, const MemberInfo& member,

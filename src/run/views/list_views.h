@@ -33,14 +33,18 @@ class ListView final : public TableView<ListView> {
   void ShowPicked(const ObjectRecord& list);
   void ShowTop(const ObjectRecord& list);
   void ShowHeights(const ObjectRecord& list);
+  void FitHeight(const ObjectRecord& list);
   static constexpr ShowRow<ListView> kRows[] = {
-      {Word::Style, &ListView::ShowHeights},    {Word::ItemHeight, &ListView::ShowHeights},
-      {Word::MultiSelect, &ListView::ShowMode}, {Word::ExtendedSelect, &ListView::ShowMode},
-      {Word::Columns, &ListView::ShowMode},     {Word::Sorted, &ListView::ShowEntries},
-      {Word::ItemIndex, &ListView::ShowPicked}, {Word::TopIndex, &ListView::ShowTop}};
+      {Word::Style, &ListView::ShowHeights},       {Word::ItemHeight, &ListView::ShowHeights},
+      {Word::MultiSelect, &ListView::ShowMode},    {Word::ExtendedSelect, &ListView::ShowMode},
+      {Word::Columns, &ListView::ShowMode},        {Word::Sorted, &ListView::ShowEntries},
+      {Word::ItemIndex, &ListView::ShowPicked},    {Word::TopIndex, &ListView::ShowTop},
+      {Word::IntegralHeight, &ListView::FitHeight}};
 
  protected:
+  void BuildOwn(const ObjectRecord& list) override;
   void ShowFont(const ObjectRecord& list) override;
+  void Placed(const ObjectRecord& list) override { FitHeight(list); }
 
  private:
   [[nodiscard]] QListWidget& List() const;
@@ -51,6 +55,7 @@ class ListView final : public TableView<ListView> {
   bool showing_ = false;  ///< what changes now is no choice of the user
   bool pressing_ = false;
   bool keying_ = false;
+  bool built_ = false;
 };
 
 class ComboView final : public TableView<ComboView> {
@@ -62,18 +67,34 @@ class ComboView final : public TableView<ComboView> {
   void ShowEntries(const ObjectRecord& combo);
   void ShowText(const ObjectRecord& combo);
   void ShowCount(const ObjectRecord& combo);
+  void ShowHeights(const ObjectRecord& combo);
   static constexpr ShowRow<ComboView> kRows[] = {
-      {Word::Style, &ComboView::ShowStyle},     {Word::Sorted, &ComboView::ShowEntries},
-      {Word::ItemIndex, &ComboView::ShowText},  {Word::Text, &ComboView::ShowText},
-      {Word::MaxLength, &ComboView::ShowCount}, {Word::DropDownCount, &ComboView::ShowCount}};
+      {Word::Style, &ComboView::ShowStyle},       {Word::Sorted, &ComboView::ShowEntries},
+      {Word::ItemIndex, &ComboView::ShowText},    {Word::Text, &ComboView::ShowText},
+      {Word::MaxLength, &ComboView::ShowCount},   {Word::DropDownCount, &ComboView::ShowCount},
+      {Word::ItemHeight, &ComboView::ShowHeights}};
+
+  void ShowDrawing() override;
 
   void Paint(QWidget& widget, bool down) const;
+  /// Paints what the program has drawn over the entries of the open list.
+  void PaintDrawn(QPainter& painter) const;
   void Opens();
+  /// True when the program draws the entries.
+  [[nodiscard]] bool IsDrawn() const;
+  /// What the program draws itself is drawn again.
+  void Changed() { drawing_.Want(); }
+
+ protected:
+  void ShowFont(const ObjectRecord& combo) override;
 
  private:
   [[nodiscard]] QComboBox& Combo() const;
+  [[nodiscard]] std::vector<DrawnPart> Parts();
   void Picked(int index);
   void Typed(const QString& text);
+  OwnerDrawing drawing_;
+  QRect face_;  ///< where the box stands on the surface: below the entries of the open list
   bool showing_ = false;
 };
 

@@ -191,6 +191,17 @@ void RichEditView::ShowFont(const ObjectRecord& box) {
   Edit().document()->setDefaultFont(stage().FontOf(box).Font);
 }
 
+void RichEditView::ShowColor(const ObjectRecord& box) {
+  WidgetView::ShowColor(box);
+  if (!box.Truth(Word::HideSelection)) return;
+  // The colours of a box that has not the focus.
+  QPalette palette = Edit().palette();
+  palette.setColor(QPalette::Inactive, QPalette::Highlight, Qt::transparent);
+  palette.setColor(QPalette::Inactive, QPalette::HighlightedText,
+                   palette.color(QPalette::Inactive, QPalette::Text));
+  Edit().setPalette(palette);
+}
+
 bool RichEditView::Invoke(const ObjectRecord& box, const MemberInfo& method,
                           std::span<Value> arguments, Value& result) {
   if (method.Name == Word::SelText && !arguments.empty()) {

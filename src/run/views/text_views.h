@@ -19,10 +19,14 @@ class EditView final : public TableView<EditView> {
   void ShowText(const ObjectRecord& box);
   void ShowLimits(const ObjectRecord& box);
   void ShowSelection(const ObjectRecord& box);
+  /// The selection is hidden while another object has the focus, when the program wants that.
+  void FocusChanged();
+  void ShowInks(const ObjectRecord& box) { ShowColor(box); }
   static constexpr ShowRow<EditView> kRows[] = {
-      {Word::MaxLength, &EditView::ShowLimits},   {Word::PasswordChar, &EditView::ShowLimits},
-      {Word::ReadOnly, &EditView::ShowLimits},    {Word::Text, &EditView::ShowText},
-      {Word::SelStart, &EditView::ShowSelection}, {Word::SelLength, &EditView::ShowSelection}};
+      {Word::HideSelection, &EditView::ShowInks},  {Word::MaxLength, &EditView::ShowLimits},
+      {Word::PasswordChar, &EditView::ShowLimits}, {Word::ReadOnly, &EditView::ShowLimits},
+      {Word::Text, &EditView::ShowText},           {Word::SelStart, &EditView::ShowSelection},
+      {Word::SelLength, &EditView::ShowSelection}};
 
  protected:
   void ShowColor(const ObjectRecord& box) override;
@@ -47,7 +51,9 @@ class RichEditView final : public TableView<RichEditView> {
   void ShowLimits(const ObjectRecord& box);
   void ShowBars(const ObjectRecord& box);
   void ShowSelection(const ObjectRecord& box);
+  void ShowInks(const ObjectRecord& box) { ShowColor(box); }
   static constexpr ShowRow<RichEditView> kRows[] = {
+      {Word::HideSelection, &RichEditView::ShowInks},
       {Word::ReadOnly, &RichEditView::ShowLimits},
       {Word::WantTabs, &RichEditView::ShowLimits},
       {Word::Alignment, &RichEditView::ShowLimits},
@@ -60,6 +66,7 @@ class RichEditView final : public TableView<RichEditView> {
 
  protected:
   void ShowFont(const ObjectRecord& box) override;
+  void ShowColor(const ObjectRecord& box) override;
 
  private:
   [[nodiscard]] QTextEdit& Edit() const;

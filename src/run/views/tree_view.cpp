@@ -36,6 +36,8 @@ TreeView::TreeView(Stage& stage, const ObjectRecord& tree)
           [this](QTreeWidgetItem* item) { Opened(*item, true); });
   connect(&field, &QTreeWidget::itemCollapsed, this,
           [this](QTreeWidgetItem* item) { Opened(*item, false); });
+  connect(&field, &QTreeWidget::itemChanged, this,
+          [this](QTreeWidgetItem* item, int) { Renamed(*item); });
 }
 
 TreeField& TreeView::Field() const {
@@ -74,7 +76,7 @@ void TreeView::ShowNodes(const ObjectRecord& tree) {
   QList<QTreeWidgetItem*> top;
   std::vector<QTreeWidgetItem*> above;  // the last node of each level
   for (const TreeNodes::Node& node : nodes->All) {
-    auto* const item = new QTreeWidgetItem();
+    auto* const item = MakeTreeItem();
     item->setData(0, Qt::UserRole, static_cast<int>(shown_.size()));
     const auto level = static_cast<std::size_t>(node.Level);
     above.resize(level + 1);
@@ -97,7 +99,10 @@ void TreeView::ShowMode(const ObjectRecord& tree) {
   constexpr std::int64_t kWidest = 200;
   const std::int64_t indent = std::clamp<std::int64_t>(tree.Number(Word::Indent), 0, kWidest);
   Field().setIndentation(static_cast<int>(indent));
-  Field().setRootIsDecorated(tree.Truth(Word::ShowRoot) && tree.Truth(Word::ShowButtons));
+  Field().SetLook(TreeField::LookOf(tree));
+  // The nodes at the top have room for what stands in it.
+  Field().setRootIsDecorated(tree.Truth(Word::ShowRoot) &&
+                             (tree.Truth(Word::ShowButtons) || tree.Truth(Word::ShowLines)));
   Field().setLineWidth(EdgeOf(tree) == looks::FieldEdge::None ? 0 : looks::kListEdge);
 }
 
@@ -147,6 +152,18 @@ void TreeView::Opened(const QTreeWidgetItem& shown, bool open) {
   if (index < 0 || static_cast<std::size_t>(index) >= nodes.size()) return;
   nodes[static_cast<std::size_t>(index)].Expanded = open;
   stage().Raise(Id(), open ? Word::OnExpanded : Word::OnCollapsed, {Value::Integer(index)});
+}
+
+void TreeView::Renamed(const QTreeWidgetItem& shown) {
+  objects::ObjectRecord* const tree = stage().World().Find(Id());
+  if (showing_ || Waiting() || tree == nullptr) return;
+  std::vector<TreeNodes::Node>& nodes = tree->As<TreeNodes>()->All;
+  const int index = IndexOf(&shown);
+  if (index < 0 || static_cast<std::size_t>(index) >= nodes.size()) return;
+  std::string text = looks::FromQString(shown.text(0));
+  if (nodes[static_cast<std::size_t>(index)].Text == text) return;
+  nodes[static_cast<std::size_t>(index)].Text = std::move(text);
+  stage().Raise(Id(), Word::OnChange);
 }
 
 }  // namespace tarnwick::run

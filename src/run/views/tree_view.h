@@ -22,9 +22,11 @@ class TreeView final : public TableView<TreeView> {
   void ShowMode(const ObjectRecord& tree);
   void ShowPicked(const ObjectRecord& tree);
   static constexpr ShowRow<TreeView> kRows[] = {
-      {Word::Images, &TreeView::ShowNodes},     {Word::ShowRoot, &TreeView::ShowMode},
-      {Word::ShowButtons, &TreeView::ShowMode}, {Word::Indent, &TreeView::ShowMode},
-      {Word::BorderStyle, &TreeView::ShowMode}, {Word::ItemIndex, &TreeView::ShowPicked}};
+      {Word::Images, &TreeView::ShowNodes},       {Word::ShowRoot, &TreeView::ShowMode},
+      {Word::ShowButtons, &TreeView::ShowMode},   {Word::Indent, &TreeView::ShowMode},
+      {Word::ShowLines, &TreeView::ShowMode},     {Word::HotTrack, &TreeView::ShowMode},
+      {Word::HideSelection, &TreeView::ShowMode}, {Word::ReadOnly, &TreeView::ShowMode},
+      {Word::BorderStyle, &TreeView::ShowMode},   {Word::ItemIndex, &TreeView::ShowPicked}};
 
  private:
   [[nodiscard]] TreeField& Field() const;
@@ -32,6 +34,7 @@ class TreeView final : public TableView<TreeView> {
   void ShowNode(const ObjectRecord& tree, std::size_t index);
   void Picked();
   void Opened(const QTreeWidgetItem& shown, bool open);
+  void Renamed(const QTreeWidgetItem& shown);
   [[nodiscard]] int IndexOf(const QTreeWidgetItem* shown) const;
   std::vector<QTreeWidgetItem*> shown_;  ///< by the index of the node
   bool showing_ = false;                 ///< what changes now is no choice of the user

@@ -1,2 +1,2 @@
 PRINT "never"
-LPRINT "x"
+x = INPUTHANDLE
