@@ -33,8 +33,7 @@ class LineLexer {
       : line_(line), state_(state), tokens_(tokens) {}
 
   LineState Run() {
-    bool statement_start = !state_.Continued && !state_.OpenText;
-    const bool directive_may_stand = statement_start;
+    begins_statement_ = !state_.Continued && !state_.OpenText;
     const bool from_above = state_.OpenText;
     state_.OpenText = false;
     state_.Continued = false;
@@ -47,7 +46,7 @@ class LineLexer {
       }
       const std::size_t begin = at_;
       if (IsNameStart(c) && c != '_') {
-        LexName(statement_start);
+        LexName();
       } else if (c == '\'') {
         at_ = line_.size();
         Add(TokenKind::Comment, begin);
@@ -57,18 +56,17 @@ class LineLexer {
         ++at_;
         Add(TokenKind::Continuation, begin);
         state_.Continued = true;
-      } else if (c == '$' && directive_may_stand && tokens_.empty() && StartsName(at_ + 1)) {
+      } else if (c == '$' && begins_statement_ && tokens_.empty() && StartsName(at_ + 1)) {
         ++at_;
         SkipName();
         Add(TokenKind::Directive, begin);
       } else if (IsNameStart(c)) {
-        LexName(statement_start);
+        LexName();
       } else if (StartsNumber()) {
         LexNumber();
       } else {
         LexSign();
       }
-      statement_start = BehindLast(statement_start);
     }
     TakeEscapeChars();
     return state_;
@@ -96,12 +94,13 @@ class LineLexer {
     return at == line_.size() || line_[at] == '\'';
   }
   /// True when a statement may begin behind the last token.
-  [[nodiscard]] bool BehindLast(bool before) const {
-    if (tokens_.empty()) return before;
+  [[nodiscard]] bool StatementMayBegin() const {
+    if (tokens_.empty()) return begins_statement_;
     const Token& last = tokens_.back();
     if (last.Kind == TokenKind::Sign) return line_[last.Begin] == ':';
     if (last.Kind == TokenKind::Name) return StartsStatement(last.In(line_));
-    return last.Kind == TokenKind::Number && before && tokens_.size() == 1;  // a line number
+    // A line number.
+    return last.Kind == TokenKind::Number && begins_statement_ && tokens_.size() == 1;
   }
 
   void LexText(bool from_above) {
@@ -133,16 +132,16 @@ class LineLexer {
     state_.Continued = true;
   }
 
-  void LexName(bool statement_start) {
+  void LexName() {
     const std::size_t begin = at_;
     SkipName();
     const std::string_view word = line_.substr(begin, at_ - begin);
-    if (statement_start && word.size() == 3 && EqualsFolded(word, "REM")) {
+    if (word.size() == 3 && EqualsFolded(word, "REM") && StatementMayBegin()) {
       at_ = line_.size();
       Add(TokenKind::Comment, begin);
       return;
     }
-    if (statement_start && word.size() == 5 && EqualsFolded(word, "PRINT")) {
+    if (word.size() == 5 && EqualsFolded(word, "PRINT") && StatementMayBegin()) {
       Add(TokenKind::Name, begin);  // PRINT#1 and PRINT"a"
       return;
     }
@@ -271,6 +270,7 @@ class LineLexer {
   LineState state_;
   std::vector<Token>& tokens_;
   std::size_t at_ = 0;
+  bool begins_statement_ = false;  ///< the line does
 };
 
 }  // namespace

@@ -21,9 +21,9 @@ class Assembled {
  public:
   /// A text constant as a slot.
   Slot Text(const std::string& bytes) {
-    Made.Texts.push_back(new TextBody(bytes));
+    TextBody& body = Made.Texts.emplace_back(bytes);
     Slot slot{0};
-    slot.B = Made.Texts.back();
+    slot.B = &body;
     return slot;
   }
   /// Adds a procedure: what its registers hold at the start, which of them are counted, its code.

@@ -122,8 +122,7 @@ Code Deep(std::int64_t calls) {
       "Deep", {{0}, {1}, {0}}, {},
       std::vector<Instruction>{{Op::JUMP_LE_I, 0, 1}, Target(6), {Op::SUB_I, 0, 0, 1}} + call);
   deep.ParameterCount = 1;
-  deep.Parameters = {SlotKind::Integer};
-  deep.ByReference = {false};
+  deep.Parameters = {{SlotKind::Integer, Storage::Whole, false, false}};
   return std::move(program.Made);
 }
 

@@ -10,6 +10,7 @@ Program Check(tree::SyntaxTree tree, const ClassCatalog& classes, bool strict, M
 }
 
 Program Checker::Run() {
+  program_.Procedures.reserve(tree_.Routines + 1);
   Procedure main;
   main.Kind = ProcedureKind::Main;
   program_.Procedures.push_back(std::move(main));

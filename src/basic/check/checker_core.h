@@ -1,6 +1,7 @@
 // The checker's state and its functions; each group of functions is a file of its own.
 #pragma once
 
+#include <memory_resource>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -300,7 +301,8 @@ class Checker {
   FoldedMap<RecordId> type_names_;
   std::vector<TypeFacts> types_;  ///< by RecordId
   FoldedMap<std::uint32_t> data_labels_;
-  std::unordered_map<const tree::Routine*, ProcedureId> routines_;
+  std::pmr::monotonic_buffer_resource memory_;  ///< of the table of routines
+  std::pmr::unordered_map<const tree::Routine*, ProcedureId> routines_{&memory_};
   std::unordered_map<const tree::ConstDeclaration*, Expr> late_constants_;
   std::vector<bool> declared_only_;  ///< by procedure: a DECLARE without its SUB
   RoutineScope main_;

@@ -129,11 +129,10 @@ Slot CodeBuilder::TextConstant(std::string_view text) {
   if (text.empty()) return Slot{0};
   const auto found = texts_.find(text);
   if (found != texts_.end()) return found->second;
-  auto* const body = new TextBody(std::string(text));
-  code_.Texts.push_back(body);
+  TextBody& body = code_.Texts.emplace_back(std::string(text));
   Slot slot{0};
-  slot.B = body;
-  texts_.emplace(std::string_view(body->Bytes), slot);
+  slot.B = &body;
+  texts_.emplace(std::string_view(body.Bytes), slot);
   return slot;
 }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <memory_resource>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -72,9 +73,11 @@ class CodeBuilder {
   const Program& program_;
   Code code_;
   SourcePlace at_;
-  std::unordered_map<std::string_view, Slot> texts_;
-  std::unordered_map<std::int64_t, std::size_t> constants_;
-  std::unordered_map<LayoutKey, std::size_t, LayoutHash> layouts_;
+  /// Of the tables below: what is in them goes all at once.
+  std::pmr::monotonic_buffer_resource memory_;
+  std::pmr::unordered_map<std::string_view, Slot> texts_{&memory_};
+  std::pmr::unordered_map<std::int64_t, std::size_t> constants_{&memory_};
+  std::pmr::unordered_map<LayoutKey, std::size_t, LayoutHash> layouts_{&memory_};
   std::unordered_map<CallShape, std::size_t, ShapeHash> shapes_;
 };
 

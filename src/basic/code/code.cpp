@@ -19,10 +19,6 @@ constexpr OpRow kOps[] = {
 
 }  // namespace
 
-Code::~Code() {
-  for (Body* const text : Texts) Release(text);
-}
-
 SourcePlace Code::PlaceOf(std::size_t instruction) const {
   const auto behind =
       std::upper_bound(Places.begin(), Places.end(), instruction,

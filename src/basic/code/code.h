@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <string>
 #include <utility>
@@ -54,6 +55,14 @@ struct CallShape {
   friend bool operator==(const CallShape&, const CallShape&) = default;
 };
 
+/// A parameter of a procedure in the code.
+struct ParameterCode {
+  SlotKind Kind = SlotKind::Integer;  ///< a reference is Integer: nothing to count
+  Storage Stored = Storage::Whole;
+  bool ByReference = false;
+  bool TakesSender = false;  ///< gets the object that raised the event
+};
+
 /// A procedure in the code. Its frame: registers as `Start` holds them (0, "" and constants), then
 /// the arguments in the first ones.
 struct ProcedureCode {
@@ -61,10 +70,7 @@ struct ProcedureCode {
   std::uint32_t First = 0;  ///< index of its first instruction
   SourcePlace At;
   std::uint32_t ParameterCount = 0;
-  std::vector<SlotKind> Parameters;  ///< a reference is Integer: nothing to count
-  std::vector<bool> ByReference;     ///< of each parameter
-  std::vector<Storage> ParameterStorage;
-  std::vector<bool> TakesSender;  ///< gets the object that raised the event
+  std::vector<ParameterCode> Parameters;
   bool Variadic = false;
   SlotKind Result = SlotKind::Empty;
   std::uint16_t ResultRegister = kNoRegister;
@@ -90,14 +96,9 @@ struct DataItem {
 
 /// A whole program. Movable: what frames and arrays point to stays where it is.
 struct Code {
-  Code() = default;
-  Code(Code&&) = default;
-  Code& operator=(Code&&) = default;
-  ~Code();
-
   std::vector<Instruction> Instructions;
   std::vector<Slot> Constants;  ///< by CONSTANT
-  std::vector<Body*> Texts;     ///< the text constants, counted once here
+  std::deque<TextBody> Texts;   ///< the text constants, counted once here
   std::vector<ProcedureCode> Procedures;
   std::vector<CallShape> Shapes;
   /// What MAKE_... instructions make: a record of its layout, an array of its elements, an object.

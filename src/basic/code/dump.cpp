@@ -36,8 +36,9 @@ std::string Quoted(std::string_view text) {
 }
 
 std::string ConstantText(const Code& code, Slot slot) {
-  const auto text = std::find(code.Texts.begin(), code.Texts.end(), slot.B);
-  if (text != code.Texts.end()) return Quoted(static_cast<const TextBody*>(*text)->Bytes);
+  const auto text = std::find_if(code.Texts.begin(), code.Texts.end(),
+                                 [slot](const TextBody& body) { return &body == slot.B; });
+  if (text != code.Texts.end()) return Quoted(text->Bytes);
   // A small whole number has few bits; a double of the same bits would be next to 0.
   constexpr std::int64_t kLargestWhole = std::int64_t{1} << 40U;
   if (slot.I > -kLargestWhole && slot.I < kLargestWhole) return IntegerText(slot.I);

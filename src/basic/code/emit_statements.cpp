@@ -28,10 +28,8 @@ bool ProcedureEmitter::Make() {
     const Type& type = procedure_.Locals[i].Kind;
     registers_.Variable(!reference && IsCounted(type));
     if (i >= procedure_.ParameterCount) continue;
-    made.Parameters.push_back(reference ? SlotKind::Integer : SlotKindOf(type));
-    made.ByReference.push_back(reference);
-    made.ParameterStorage.push_back(type.Kind);
-    made.TakesSender.push_back(code_.TakesSender(type));
+    made.Parameters.push_back({reference ? SlotKind::Integer : SlotKindOf(type), type.Kind,
+                               reference, code_.TakesSender(type)});
   }
   code_.At(procedure_.At);
   Make(procedure_.Body);
@@ -66,13 +64,21 @@ void ProcedureEmitter::Make(const CopyObject& node) {
 }
 
 void ProcedureEmitter::Make(const HookEvent& node) {
-  std::vector<const Expression*> all{node.Object};
-  if (node.Bound != nullptr) all.push_back(node.Bound);
-  const std::vector<Operand> operands = ReadAll(all);
-  code_.Add(Op::HOOK, operands[0].Register, static_cast<std::size_t>(node.Event),
+  Operand object;
+  Operand bound;
+  bound.Register = kNoRegister;
+  if (node.Bound == nullptr) {
+    object = Read(*node.Object, Until::Now);
+  } else {
+    const std::array<Operand, 2> both = ReadBoth(*node.Object, *node.Bound);
+    object = both[0];
+    bound = both[1];
+  }
+  code_.Add(Op::HOOK, object.Register, static_cast<std::size_t>(node.Event),
             static_cast<std::size_t>(node.Procedure));
-  code_.Add(Op::WORD, node.Bound != nullptr ? operands[1].Register : kNoRegister);
-  Free(operands);
+  code_.Add(Op::WORD, bound.Register);
+  Free(object);
+  Free(bound);
 }
 
 void ProcedureEmitter::Make(const MakeVariable& node) {

@@ -1,6 +1,7 @@
 #include "basic/source/logical_line.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <string>
 
@@ -12,20 +13,13 @@ namespace {
 
 using language::TokenKind;
 
-SourceTokenKind KindOfToken(TokenKind kind) {
-  switch (kind) {
-    case TokenKind::Name:
-      return SourceTokenKind::Name;
-    case TokenKind::Number:
-      return SourceTokenKind::Number;
-    case TokenKind::Text:
-      return SourceTokenKind::Text;
-    case TokenKind::Directive:
-      return SourceTokenKind::Directive;
-    default:
-      return SourceTokenKind::Sign;
-  }
-}
+/// What tokens of a line become, in the order of their kinds. End: nothing.
+constexpr SourceTokenKind kKinds[] = {
+    SourceTokenKind::Name, SourceTokenKind::Number,    SourceTokenKind::Text,
+    SourceTokenKind::Sign, SourceTokenKind::Directive, SourceTokenKind::End,
+    SourceTokenKind::End,  SourceTokenKind::End,
+};
+static_assert(std::size(kKinds) == static_cast<std::size_t>(TokenKind::Unknown) + 1);
 
 /// The byte of up to `most` digits from `at` on, which moves behind them.
 char CodeAt(std::string_view text, std::size_t& at, int base, int most) {
@@ -106,9 +100,18 @@ void LineReader::Next(bool escapes, bool counts, std::vector<SourceToken>& token
     std::size_t end = 0;
     for (const language::Token& token : lexed_) {
       if (token.Kind == TokenKind::Comment || token.Kind == TokenKind::Continuation) continue;
-      const bool touches = !tokens.empty() && end > 0 && token.Begin == end;
-      Take(line, token, touches, escapes, tokens);
+      const bool touches = token.Begin == end && end > 0 && !tokens.empty();
       end = token.Begin + token.Length;
+      const std::string_view text(line.data() + token.Begin, token.Length);
+      const SourcePlace at = PlaceIn(index_, walk_.Count(), token.Begin, token.Length);
+      const SourceTokenKind kind = kKinds[static_cast<std::size_t>(token.Kind)];
+      if (kind == SourceTokenKind::Text) {
+        TakeText(text, token, {kind, touches, token.Unclosed, {}, at}, escapes, tokens);
+      } else if (kind != SourceTokenKind::End) {
+        tokens.push_back({kind, touches, false, text, at});
+      } else if (counts_) {
+        messages_.Error(at, "This character has no meaning here");
+      }
     }
     const bool open = !lexed_.empty() && lexed_.back().Unclosed;
     if (open && counts_) {
@@ -128,36 +131,21 @@ std::string_view LineReader::RestOfDirective() const {
   return Trim(rest_);
 }
 
-void LineReader::Take(std::string_view line, const language::Token& token, bool touches,
-                      bool escapes, std::vector<SourceToken>& tokens) {
-  std::string_view text(line.data() + token.Begin, token.Length);
-  if (token.Kind == TokenKind::Unknown) {
-    if (counts_) {
-      messages_.Error(PlaceIn(index_, walk_.Count(), token.Begin, token.Length),
-                      "This character has no meaning here");
-    }
+/// Adds a text with its value: without its quotes, with its escapes resolved. One that goes on from
+/// the line above is joined to the part there.
+void LineReader::TakeText(std::string_view text, const language::Token& token, SourceToken made,
+                          bool escapes, std::vector<SourceToken>& tokens) {
+  if (!token.FromAbove) text.remove_prefix(1);
+  if (!token.Unclosed) text.remove_suffix(1);
+  if (escapes && text.find('\\') != std::string_view::npos) text = memory_.Text(Unescaped(text));
+  if (token.FromAbove && !tokens.empty() && tokens.back().Kind == SourceTokenKind::Text) {
+    SourceToken& open = tokens.back();
+    open.Text = memory_.Text(std::string(open.Text).append(text));
+    open.Unclosed = token.Unclosed;
     return;
   }
-  if (token.Kind == TokenKind::Text) {
-    if (!token.FromAbove) text.remove_prefix(1);
-    if (!token.Unclosed) text.remove_suffix(1);
-    if (escapes && text.find('\\') != std::string_view::npos) text = memory_.Text(Unescaped(text));
-    if (token.FromAbove && !tokens.empty() && tokens.back().Kind == SourceTokenKind::Text) {
-      SourceToken& open = tokens.back();
-      open.Text = memory_.Text(std::string(open.Text).append(text));
-      open.Unclosed = token.Unclosed;
-      return;
-    }
-  }
-  SourceToken& made = tokens.emplace_back();
-  made.Kind = KindOfToken(token.Kind);
-  made.Touches = touches;
-  made.Unclosed = token.Unclosed;
   made.Text = text;
-  made.At.Line = static_cast<std::uint32_t>(walk_.Count());
-  made.At.File = index_;
-  made.At.Column = Narrow(token.Begin + std::size_t{1});
-  made.At.Length = Narrow(token.Length);
+  tokens.push_back(made);
 }
 
 }  // namespace tarnwick::basic

@@ -33,8 +33,8 @@ class LineReader {
   [[nodiscard]] std::string_view RestOfDirective() const;
 
  private:
-  void Take(std::string_view line, const language::Token& token, bool touches, bool escapes,
-            std::vector<SourceToken>& tokens);
+  void TakeText(std::string_view text, const language::Token& token, SourceToken made, bool escapes,
+                std::vector<SourceToken>& tokens);
 
   LineWalk walk_;
   std::uint16_t index_;

@@ -21,9 +21,9 @@ NameId NameTable::Of(std::string_view name) {
   std::size_t at = hash & mask;
   for (; rows_[at].Id != NameId::None; at = (at + 1) & mask) {
     const Row& row = rows_[at];
-    if (row.Hash == hash && EqualsFolded(names_[static_cast<std::size_t>(row.Id)], name)) {
-      return row.Id;
-    }
+    if (row.Hash != hash) continue;
+    const std::string_view known = names_[static_cast<std::size_t>(row.Id)];
+    if (known == name || EqualsFolded(known, name)) return row.Id;
   }
   const auto id = static_cast<NameId>(names_.size());
   rows_[at] = {hash, id};

@@ -65,8 +65,9 @@ tree::SyntaxTree Parse(TokenLines& lines, bool strict, Messages& messages) {
 void Parser::NextLine() {
   line_before_.swap(line_);
   lines_.Next(line_);
-  facts_.clear();
-  for (const SourceToken& token : line_) facts_.push_back(FactsOf(token));
+  facts_.resize(line_.size());
+  std::transform(line_.begin(), line_.end(), facts_.begin(),
+                 [this](const SourceToken& token) { return FactsOf(token); });
   ++line_number_;
   at_ = 0;
   last_ = line_.size() - 1;

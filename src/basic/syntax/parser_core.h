@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -129,6 +130,7 @@ class Parser {
     tree::StatementNode* const made = tree::MakeStatement(*memory_, at, std::move(value));
     made->At.Length = LengthFrom(at);
     if constexpr (tree::kIsHead<T>) out_.Pieces.back().HasHeads = true;
+    if constexpr (std::is_same_v<T, tree::Routine>) ++out_.Routines;
     out.push_back(made);
   }
   /// From here on nodes belong to another piece.

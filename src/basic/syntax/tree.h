@@ -382,6 +382,7 @@ struct SyntaxTree {
   std::unique_ptr<NameTable> Names = std::make_unique<NameTable>();
   std::vector<Piece> Pieces;
   std::vector<ReferenceUse> References;
+  std::size_t Routines = 0;  ///< number of them
   bool HasLabels = false;
   bool HasTypes = false;
   bool Generated = false;  ///< the text begins like one that the program wrote itself

@@ -41,8 +41,9 @@ bool MachineState::EnterPointer(const Instruction* call) {
                 std::to_string(values.size()));
   }
   for (std::size_t i = 0; i < values.size() && !procedure.Variadic; ++i) {
-    if (procedure.ByReference[i]) return Fail("CALLFUNC cannot pass a variable by reference");
-    if (!CanBecome(values[i].Kind(), procedure.Parameters[i])) {
+    const ParameterCode& parameter = procedure.Parameters[i];
+    if (parameter.ByReference) return Fail("CALLFUNC cannot pass a variable by reference");
+    if (!CanBecome(values[i].Kind(), parameter.Kind)) {
       return Fail("CALLFUNC: argument " + std::to_string(i + 1) + " of " + procedure.Name +
                   " is of another kind");
     }
@@ -58,8 +59,8 @@ bool MachineState::EnterPointer(const Instruction* call) {
   } else {
     if (!Push(procedure, result, converts)) return false;
     for (std::size_t i = 0; i < values.size(); ++i) {
-      Base()[i] = FitTo(procedure.ParameterStorage[i],
-                        Converted(std::move(values[i]), procedure.Parameters[i]).Give());
+      const ParameterCode& parameter = procedure.Parameters[i];
+      Base()[i] = FitTo(parameter.Stored, Converted(std::move(values[i]), parameter.Kind).Give());
     }
   }
   if (!converts) return true;
@@ -99,8 +100,9 @@ bool MachineState::Leave() {
   }
   if (frame.Out != nullptr) {
     for (std::size_t i = 0; i < frame.Out->size(); ++i) {
-      if (procedure.ByReference[i]) continue;
-      (*frame.Out)[i] = Value::OfSlot(procedure.Parameters[i], frame.Base[i]);
+      const ParameterCode& parameter = procedure.Parameters[i];
+      if (parameter.ByReference) continue;
+      (*frame.Out)[i] = Value::OfSlot(parameter.Kind, frame.Base[i]);
     }
   }
   Unwind(Frames.size() - 1);
@@ -152,14 +154,14 @@ bool MachineState::Invoke(ProcedureId id, std::vector<Value>& arguments) {
     return false;
   }
   for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const Storage storage = procedure.ParameterStorage[i];
-    kinds[i] = procedure.ByReference[i] ? SlotKindOf(KindOf(storage)) : procedure.Parameters[i];
+    const ParameterCode& parameter = procedure.Parameters[i];
+    kinds[i] = parameter.ByReference ? SlotKindOf(KindOf(parameter.Stored)) : parameter.Kind;
     Slot slot{0};
     if (CanBecome(arguments[i].Kind(), kinds[i])) {
-      slot = FitTo(storage, Converted(arguments[i], kinds[i]).Give());
+      slot = FitTo(parameter.Stored, Converted(arguments[i], kinds[i]).Give());
     }
-    (procedure.ByReference[i] ? cells[i] : Base()[i]) = slot;
-    if (procedure.ByReference[i]) Base()[i].R = &cells[i];
+    (parameter.ByReference ? cells[i] : Base()[i]) = slot;
+    if (parameter.ByReference) Base()[i].R = &cells[i];
   }
   Frames.back().Out = &arguments;
   ++Activations;
@@ -170,7 +172,7 @@ bool MachineState::Invoke(ProcedureId id, std::vector<Value>& arguments) {
     if (frame.Out == &arguments) frame.Out = nullptr;
   }
   for (std::size_t i = 0; i < cells.size(); ++i) {
-    if (procedure.ByReference[i]) arguments[i] = Value::TakeSlot(kinds[i], cells[i]);
+    if (procedure.Parameters[i].ByReference) arguments[i] = Value::TakeSlot(kinds[i], cells[i]);
   }
   return !Ending;
 }

@@ -123,14 +123,14 @@ bool Machine::Raise(ObjectId sender, const EventHook& hook, std::span<Value> arg
   for (std::size_t i = 0; i < values.size(); ++i) {
     if (i == 0 && hook.Bound.Kind() != SlotKind::Empty) {
       values[i] = hook.Bound;
-    } else if (procedure.Parameters[i] == SlotKind::Object && next < arguments.size() &&
+    } else if (procedure.Parameters[i].Kind == SlotKind::Object && next < arguments.size() &&
                arguments[next].Kind() == SlotKind::Object) {
       // An event that hands over an object of its own, such as the rectangle of a cell.
       values[i] = arguments[next++];
-    } else if (procedure.TakesSender[i]) {
+    } else if (procedure.Parameters[i].TakesSender) {
       values[i] = Value::Object(sender);
       const auto record = state.RecordOfObject.find(sender);
-      if (procedure.Parameters[i] == SlotKind::Record) {
+      if (procedure.Parameters[i].Kind == SlotKind::Record) {
         values[i] = record == state.RecordOfObject.end()
                         ? Value()
                         : Value::OfSlot(SlotKind::Record, Slot{.B = record->second});

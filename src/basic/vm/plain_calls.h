@@ -21,7 +21,7 @@ inline bool EnterPlain(MachineState& m, const Frame& caller, const Instruction* 
   const std::size_t count = std::min<std::size_t>(call[1].B, procedure.ParameterCount);
   for (std::size_t i = 0; i < count; ++i) {
     base[i] = arguments[ArgumentRegister(call + 2, i)];
-    if (IsCounted(procedure.Parameters[i])) Retain(base[i].B);
+    if (IsCounted(procedure.Parameters[i].Kind)) Retain(base[i].B);
   }
   m.OpenFrame(procedure, base, call->A);
   return true;
