@@ -33,6 +33,7 @@ void ExpectGoldenPrograms(Dispatch how) {
     options.How = how;
     const LineResult result = RunSource(BytesOf(path), world, options);
     const std::string name = path.filename().string();
+    EXPECT_EQ(result.TextsHeld, 0U) << name;
     EXPECT_EQ(result.Output, BytesOf(path.replace_extension(".out"))) << name;
     if (std::filesystem::exists(path.replace_extension(".err"))) {
       EXPECT_NE(result.Error, "") << name;

@@ -46,5 +46,19 @@ TEST(MemoryReuse, ALocalArrayEndsWithItsProcedure) {
   EXPECT_EQ(Output(text, 60), "51\n");
 }
 
+TEST(MemoryReuse, ATextEndsWhereAnArrayTakesItsRegister) {
+  const std::string text =
+      "DIM d(3) AS INTEGER, n AS INTEGER\nSUB Fill(a() AS INTEGER)\na(1) = 1\nEND SUB\n"
+      "PRINT IIF(n = 0, \"none\", \"some\")\nFill d\nPRINT d(1)\n";
+  for (const Dispatch how : {Dispatch::Threaded, Dispatch::Switch}) {
+    ProgramWorld world;
+    RunOptions options;
+    options.How = how;
+    const LineResult result = RunSource(text, world, options);
+    EXPECT_EQ(result.Output, "none\n1\n");
+    EXPECT_EQ(result.TextsHeld, 0U);
+  }
+}
+
 }  // namespace
 }  // namespace tarnwick::basic

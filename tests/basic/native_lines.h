@@ -13,6 +13,8 @@ struct LineResult {
   std::string Output;  ///< printed text and calls of the hosts
   std::string Error;   ///< of the function that failed; "" when all went well
   std::string Notes;   ///< a line each
+  /// Uses of the program's text constants that are left when it has ended; each keeps a text alive.
+  std::uint32_t TextsHeld = 0;
 };
 
 /// Runs statements parted by ":". A statement is `? expression` or a native statement with its

@@ -1,6 +1,8 @@
 #include "basic/run_source.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "basic/check/checker.h"
 #include "basic/code/emitter.h"
@@ -47,13 +49,16 @@ LineResult RunSource(const std::string& text, ProgramWorld& world, const RunOpti
     result.Error = PlaceText(emitted.At) + emitted.Error;
     return result;
   }
-  Machine machine(emitted.Made, world.Host, options);
-  machine.SetResources(world.Resources);
-  const RunResult run = machine.Run();
+  std::optional<Machine> machine(std::in_place, emitted.Made, world.Host, options);
+  machine->SetResources(world.Resources);
+  const RunResult run = machine->Run();
+  machine.reset();
   result.Output = world.Log;
   result.Error = run.Text;
   if (run.End != RunEnd::Ended && run.End != RunEnd::Error) result.Error = "did not end";
   for (const RunNote& note : run.Notes) result.Notes += "note: " + note.Text + "\n";
+  // One use is the code's own.
+  for (const TextBody& constant : emitted.Made.Texts) result.TextsHeld += constant.Count - 1;
   return result;
 }
 
