@@ -25,11 +25,11 @@ struct ProgramWorld {
   ProgramWorld& operator=(const ProgramWorld&) = delete;
 
   std::string Log;
-  test::LogConsole Console{Log};
-  test::ProgramFiles Files;
-  test::StillClock Clock{Log};
-  test::LogSystem System{Log};
-  test::LogPrinter Printer{Log};
+  tarnwick::test::LogConsole Console{Log};
+  tarnwick::test::ProgramFiles Files;
+  tarnwick::test::StillClock Clock{Log};
+  tarnwick::test::LogSystem System{Log};
+  tarnwick::test::LogPrinter Printer{Log};
   Hosts Host{&Console, nullptr, &Files, &Clock, &System, nullptr, &Printer};
   std::vector<std::string> Resources = {"a.txt", "gone.bmp"};
 };
