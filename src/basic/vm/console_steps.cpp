@@ -28,7 +28,7 @@ bool MachineState::PrintText(std::string_view text, std::int64_t page) {
     if (Host.Printer != nullptr) {
       Host.Printer->Write(text);
     } else if (!std::exchange(PrinterMissed, true)) {
-      Library.Notes.push_back("There is no printer in this run: what LPRINT writes is lost");
+      Library.Notes.emplace_back("There is no printer in this run: what LPRINT writes is lost");
       TakeNotes();
     }
     return true;
