@@ -197,6 +197,8 @@ constexpr BehaviourRow kRows[] = {
     {QMenuItem, Word::Default, {.Changed = RowChanged}},
     {QMenuItem, Word::Bmp, {.Changed = RowChanged}},
     {QMenuItem, Word::BMPHandle, {.Changed = RowChanged}},
+    {QMenuItem, Word::ImageIndex, {.Changed = RowChanged}},
+    {QMainMenu, Word::ImageList, {.Changed = RowChanged}},
     {QMenuItem, Word::Checked, {.Changed = CheckedChanged}},
     {QMenuItem, Word::MenuIndex, {.Get = GetIndex, .Set = SetIndex}},
     {QMenuItem, Word::AddBreak, {.Call = AddBreak}},

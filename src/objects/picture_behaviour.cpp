@@ -56,6 +56,7 @@ constexpr BehaviourRow kRows[] = {
     {None, Word::CopyRect, {.Call = Draw}},
     {None, Word::Draw, {.Call = Draw}},
     {None, Word::FillRect, {.Call = Draw}},
+    {QForm, Word::ShapeForm, {.Call = Draw}},
     {QForm, Word::Line, {.Call = Draw}},
     {QImage, Word::Line, {.Call = Draw}},
     {QCanvas, Word::Line, {.Call = Draw}},

@@ -293,9 +293,18 @@ bool SetSelAttributes(ObjectWorld& world, ObjectRecord& box, const MemberInfo& m
 }
 
 /// Without a mask the text that is edited is the text.
-bool GetEditText(ObjectWorld& /*world*/, ObjectRecord& box, const MemberInfo& /*member*/,
-                 std::span<const Value> /*index*/, Value& out) {
+bool GetEditText(ObjectWorld& world, ObjectRecord& box, const MemberInfo& member,
+                 std::span<const Value> index, Value& out) {
+  if (box.Realised && !box.Text(Word::InputMask).empty()) {
+    return LiveValue(world, box, member, index, out);
+  }
   out = box.At(Word::Text);
+  return true;
+}
+
+bool IsMasked(ObjectWorld& /*world*/, ObjectRecord& box, const MemberInfo& /*member*/,
+              std::span<const Value> /*index*/, Value& out) {
+  out = Value::Integer(box.Text(Word::InputMask).empty() ? 0 : 1);
   return true;
 }
 
@@ -310,6 +319,7 @@ constexpr BehaviourRow kRows[] = {
     {QEdit, Word::Text, kText},
     {QRichEdit, Word::Text, kText},
     {QEdit, Word::EditText, {.Get = GetEditText, .Set = SetEditText}},
+    {QEdit, Word::IsMasked, {.Get = IsMasked}},
     {None, Word::SelText, {.Get = GetSelected, .Set = SetSelected}},
     {None, Word::SelStart, {.Get = LiveValue}},
     {None, Word::SelLength, {.Get = LiveValue}},

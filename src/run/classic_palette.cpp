@@ -1,8 +1,11 @@
 #include "run/classic_palette.h"
 
 #include <QApplication>
+#include <QEvent>
+#include <QProxyStyle>
 #include <QStyleFactory>
 #include <QToolTip>
+#include <QWidget>
 
 #include "looks/classic_look.h"
 #include "looks/form_fonts.h"
@@ -38,7 +41,37 @@ const ColorRow kColors[] = {
 constexpr QPalette::ColorRole kInks[] = {QPalette::WindowText, QPalette::ButtonText,
                                          QPalette::Text};
 
+/// The style of the platform's older days, with the times of hints that a program sets.
+class ClassicStyle final : public QProxyStyle {
+ public:
+  ClassicStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Windows"))) {}
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_ToolTip_WakeUpDelay) return ProgramHints().Pause;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
+
+/// Keeps hints away, and limits their time.
+class HintFilter final : public QObject {
+ public:
+  using QObject::QObject;
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::ToolTip) return false;
+    if (!ProgramHints().Shown) return true;
+    if (auto* const widget = qobject_cast<QWidget*>(watched)) {
+      widget->setToolTipDuration(ProgramHints().Hide);
+    }
+    return false;
+  }
+};
+
 }  // namespace
+
+HintTimes& ProgramHints() {
+  static HintTimes times;
+  return times;
+}
 
 QPalette ClassicPalette() {
   QPalette palette;
@@ -60,7 +93,13 @@ QPalette PaletteOf(const QColor& paper, const QColor& ink) {
 }
 
 void ApplyClassicLook(QApplication& application) {
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Windows")));
+  QApplication::setStyle(new ClassicStyle);
+  ProgramHints() = {};
+  if (application.findChild<QObject*>(QStringLiteral("Hints")) == nullptr) {
+    auto* const hints = new HintFilter(&application);
+    hints->setObjectName(QStringLiteral("Hints"));
+    application.installEventFilter(hints);
+  }
   QApplication::setPalette(ClassicPalette());
   looks::FormFonts fonts;
   QApplication::setFont(fonts.At({"MS Sans Serif"}).Font);

@@ -215,24 +215,61 @@ void DrawTextWithin(Drawing& on) {
   WriteText(on, QPoint(on.Number(1), on.Number(2)), 3, &clip);
 }
 
+/// How the points of a picture are put on those of the surface, by the number of CopyMode. The
+/// pattern that some of them have is white.
+constexpr QPainter::CompositionMode kCopyModes[] = {
+    QPainter::RasterOp_ClearDestination,            // cmBlackness
+    QPainter::RasterOp_NotDestination,              // cmDstInvert
+    QPainter::CompositionMode_SourceOver,           // cmMergeCopy
+    QPainter::RasterOp_NotSourceOrDestination,      // cmMergePaint
+    QPainter::RasterOp_NotSource,                   // cmNotSrcCopy
+    QPainter::RasterOp_NotSourceAndNotDestination,  // cmNotSrcErase
+    QPainter::RasterOp_SetDestination,              // cmPatCopy
+    QPainter::RasterOp_NotDestination,              // cmPatInvert
+    QPainter::RasterOp_SetDestination,              // cmPatPaint
+    QPainter::RasterOp_SourceAndDestination,        // cmSrcAnd
+    QPainter::CompositionMode_SourceOver,           // cmSrcCopy
+    QPainter::RasterOp_SourceAndNotDestination,     // cmSrcErase
+    QPainter::RasterOp_SourceXorDestination,        // cmSrcInvert
+    QPainter::RasterOp_SourceOrDestination,         // cmSrcPaint
+    QPainter::RasterOp_SetDestination,              // cmWhiteness
+};
+
+void SetCopyMode(QPainter& painter, const Drawing& on) {
+  // Paper takes pictures as they are.
+  if (on.Page != nullptr || !on.Object.Has(Word::CopyMode)) return;
+  const std::int64_t mode = on.Object.Number(Word::CopyMode);
+  if (mode < 0 || mode >= static_cast<std::int64_t>(std::size(kCopyModes))) return;
+  painter.setCompositionMode(kCopyModes[mode]);
+}
+
 void DrawPicture(Drawing& on) {
   if (!on.Has(2)) return;
   const QPixmap picture = on.Surfaces.PictureOf(on.Arguments[2]);
-  on.Paint([&](QPainter& painter) { painter.drawPixmap(on.Number(0), on.Number(1), picture); });
+  on.Paint([&](QPainter& painter) {
+    SetCopyMode(painter, on);
+    painter.drawPixmap(on.Number(0), on.Number(1), picture);
+  });
 }
 
 void StretchPicture(Drawing& on) {
   if (!on.Has(1)) return;
   const QPixmap picture = on.Surfaces.PictureOf(on.Arguments[1]);
   if (picture.isNull()) return;
-  on.Paint([&](QPainter& painter) { painter.drawPixmap(on.RectOf(0), picture); });
+  on.Paint([&](QPainter& painter) {
+    SetCopyMode(painter, on);
+    painter.drawPixmap(on.RectOf(0), picture);
+  });
 }
 
 void CopyPart(Drawing& on) {
   if (!on.Has(2)) return;
   const QPixmap picture = on.Surfaces.PictureOf(on.Arguments[1]);
   if (picture.isNull()) return;
-  on.Paint([&](QPainter& painter) { painter.drawPixmap(on.RectOf(0), picture, on.RectOf(2)); });
+  on.Paint([&](QPainter& painter) {
+    SetCopyMode(painter, on);
+    painter.drawPixmap(on.RectOf(0), picture, on.RectOf(2));
+  });
 }
 
 void SaveFile(Drawing& on) {

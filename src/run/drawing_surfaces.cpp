@@ -114,9 +114,19 @@ void DrawingSurfaces::Paint(QPainter& painter, ObjectId object, const QPoint& at
 bool DrawingSurfaces::Invoke(const ObjectRecord& object, Word method, std::span<Value> arguments,
                              Value& result) {
   if (!CanBeDrawnOn(object)) return false;
-  if (!DrawByMethod(*this, object, method, arguments, result)) return false;
+  if (method == Word::ShapeForm && arguments.size() == 2) {
+    const QPixmap picture = PictureOf(arguments[0]);
+    const QColor gap = looks::ColorOf(static_cast<std::int32_t>(arguments[1].AsInteger()));
+    shapes_[object.Id] = picture.createMaskFromColor(gap.rgb(), Qt::MaskInColor);
+  } else if (!DrawByMethod(*this, object, method, arguments, result))
+    return false;
   if (ObjectView* const view = stage_.ViewOf(object.Id)) view->ShowDrawing();
   return true;
+}
+
+QBitmap DrawingSurfaces::ShapeOf(ObjectId form) const {
+  const auto found = shapes_.find(form);
+  return found == shapes_.end() ? QBitmap() : found->second;
 }
 
 bool DrawingSurfaces::Live(const ObjectRecord& object, Word property, std::span<const Value> index,

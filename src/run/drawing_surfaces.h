@@ -1,6 +1,7 @@
 // What programs draw on forms, images and bitmaps.
 #pragma once
 
+#include <QBitmap>
 #include <QImage>
 #include <QPixmap>
 #include <QPoint>
@@ -25,9 +26,16 @@ class DrawingSurfaces {
   bool Invoke(const ObjectRecord& object, Word method, std::span<Value> arguments, Value& result);
   /// Pixel(x, y); false for every other property.
   bool Live(const ObjectRecord& object, Word property, std::span<const Value> index, Value& out);
+  /// What ShapeForm left of a window; null for one with its whole area.
+  [[nodiscard]] QBitmap ShapeOf(ObjectId form) const;
   /// Gives an object an empty surface of at least this size.
   void Prepare(ObjectId object, const QSize& size);
   void Forget(ObjectId object) { surfaces_.erase(object); }
+  /// The object is gone.
+  void Drop(ObjectId object) {
+    Forget(object);
+    shapes_.erase(object);
+  }
 
   /// The picture that an object shows: what was drawn on it, else what was assigned. Null when it
   /// has none.
@@ -45,6 +53,7 @@ class DrawingSurfaces {
  private:
   Stage& stage_;
   std::unordered_map<ObjectId, QImage> surfaces_;
+  std::unordered_map<ObjectId, QBitmap> shapes_;  ///< of windows
 };
 
 }  // namespace tarnwick::run

@@ -16,6 +16,7 @@
 #include "looks/text_bridge.h"
 #include "run/drawing_surfaces.h"
 #include "run/stage.h"
+#include "run/views/tree_field.h"
 
 namespace tarnwick::run {
 namespace {
@@ -102,7 +103,8 @@ class MenuStrip final : public QMenuBar {
 /// Menus deeper than any program has them; a tree has no loops, so this is never reached.
 constexpr int kDeepest = 32;
 
-void FillMenu(Stage& stage, QMenu& menu, ObjectId above, int depth);
+/// `root` is the menu whose image list has the pictures of its rows.
+void FillMenu(Stage& stage, QMenu& menu, ObjectId root, ObjectId above, int depth);
 
 /// Deletes a menu once nothing of it runs any more. Until then it holds no keys, which would be
 /// those of two rows and reach neither.
@@ -116,28 +118,38 @@ void Retire(QMenu& menu) {
 }
 
 /// A menu below a row: made when it opens.
-QMenu* MakeMenu(Stage& stage, QWidget* parent, ObjectId above, int depth) {
+QMenu* MakeMenu(Stage& stage, QWidget* parent, ObjectId root, ObjectId above, int depth) {
   auto* const menu = new QMenu(parent);
   menu->setStyleSheet(QString::fromLatin1(looks::kMenuSheet));
-  QObject::connect(menu, &QMenu::aboutToShow, menu, [&stage, menu, above, depth] {
+  QObject::connect(menu, &QMenu::aboutToShow, menu, [&stage, menu, root, above, depth] {
     // Opening the rows of an item is a click on it.
     stage.Report([&stage, above] { stage.World().Click(above); });
     for (QAction* const row : menu->actions()) {
       if (row->menu() != nullptr) Retire(*row->menu());
     }
     menu->clear();
-    FillMenu(stage, *menu, above, depth);
+    FillMenu(stage, *menu, root, above, depth);
   });
   return menu;
 }
 
-QAction* AddRow(Stage& stage, QMenu& menu, const ObjectRecord& row, int depth) {
+/// The picture of a row: its own, or one of the menu's image list.
+QIcon PictureOfRow(Stage& stage, ObjectId root, const ObjectRecord& row) {
+  const QPixmap& picture = stage.Surfaces().PictureOf(row);
+  if (!picture.isNull()) return {picture};
+  const ObjectRecord* const menu = stage.World().Find(root);
+  if (menu == nullptr) return {};
+  return PictureOfList(stage, *menu, Word::ImageList,
+                       static_cast<int>(row.Number(Word::ImageIndex)));
+}
+
+QAction* AddRow(Stage& stage, QMenu& menu, ObjectId root, const ObjectRecord& row, int depth) {
   if (row.Text(Word::Caption) == "-") return menu.addSeparator();
   const auto* const below = row.As<objects::MenuRows>();
   QAction* action = nullptr;
   if (below != nullptr && !below->Rows.empty() && depth < kDeepest) {
-    QMenu* const rows = MakeMenu(stage, &menu, row.Id, depth + 1);
-    FillMenu(stage, *rows, row.Id, depth + 1);
+    QMenu* const rows = MakeMenu(stage, &menu, root, row.Id, depth + 1);
+    FillMenu(stage, *rows, root, row.Id, depth + 1);
     action = menu.addMenu(rows);
   } else {
     action = menu.addAction(QString());
@@ -147,8 +159,7 @@ QAction* AddRow(Stage& stage, QMenu& menu, const ObjectRecord& row, int depth) {
   }
   action->setText(looks::ToQString(row.Text(Word::Caption)));
   action->setObjectName(looks::ToQString(row.FullName()));
-  const QPixmap& picture = stage.Surfaces().PictureOf(row);
-  if (!picture.isNull()) action->setIcon(QIcon(picture));
+  action->setIcon(PictureOfRow(stage, root, row));
   action->setEnabled(row.Truth(Word::Enabled));
   action->setCheckable(row.Truth(Word::Checked));
   action->setChecked(row.Truth(Word::Checked));
@@ -169,13 +180,13 @@ QAction* AddRow(Stage& stage, QMenu& menu, const ObjectRecord& row, int depth) {
   return action;
 }
 
-void FillMenu(Stage& stage, QMenu& menu, ObjectId above, int depth) {
+void FillMenu(Stage& stage, QMenu& menu, ObjectId root, ObjectId above, int depth) {
   const ObjectRecord* const record = stage.World().Find(above);
   const auto* const rows = record == nullptr ? nullptr : record->As<objects::MenuRows>();
   if (rows == nullptr) return;
   for (const ObjectId id : rows->Rows) {
     const ObjectRecord* const row = stage.World().Find(id);
-    if (row != nullptr && row->Truth(Word::Visible)) AddRow(stage, menu, *row, depth);
+    if (row != nullptr && row->Truth(Word::Visible)) AddRow(stage, menu, root, *row, depth);
   }
 }
 
@@ -204,9 +215,9 @@ void FillMenuStrip(Stage& stage, QMenuBar& strip, const ObjectRecord* menu) {
     const auto* const below = title->As<objects::MenuRows>();
     QAction* action = nullptr;
     if (below != nullptr && !below->Rows.empty()) {
-      QMenu* const rows = MakeMenu(stage, &strip, id, 1);
+      QMenu* const rows = MakeMenu(stage, &strip, menu->Id, id, 1);
       // The keys of its rows work before it is opened.
-      FillMenu(stage, *rows, id, 1);
+      FillMenu(stage, *rows, menu->Id, id, 1);
       action = strip.addMenu(rows);
     } else {
       action = strip.addAction(QString());
@@ -229,7 +240,7 @@ void OpenPopup(Stage& stage, ObjectId menu, const QPoint& at) {
   auto* const shown = new QMenu;
   shown->setObjectName(looks::ToQString(record->FullName()));
   shown->setStyleSheet(QString::fromLatin1(looks::kMenuSheet));
-  FillMenu(stage, *shown, menu, 1);
+  FillMenu(stage, *shown, menu, menu, 1);
   const int width = shown->sizeHint().width();
   QPoint corner = at;
   if (side == kRight) corner.rx() -= width;

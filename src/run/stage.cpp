@@ -104,7 +104,7 @@ bool Stage::Live(const ObjectRecord& object, const MemberInfo& member, std::span
 }
 
 void Stage::Destroy(ObjectId object) {
-  surfaces_->Forget(object);
+  surfaces_->Drop(object);
   changed_menus_.erase(object);
   std::erase(modal_, object);
   std::erase(forms_, object);

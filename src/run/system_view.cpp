@@ -8,9 +8,11 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QToolTip>
+#include <algorithm>
 
 #include "looks/platform_colors.h"
 #include "looks/text_bridge.h"
+#include "run/classic_palette.h"
 #include "run/drawing_surfaces.h"
 #include "run/file_dialogs.h"
 #include "run/stage.h"
@@ -94,6 +96,15 @@ void ShowHintColor(Stage& /*stage*/, const ObjectRecord& application) {
   QToolTip::setPalette(palette);
 }
 
+void ShowHints(Stage& /*stage*/, const ObjectRecord& application) {
+  constexpr std::int64_t kLongest = 60'000;
+  const auto time = [&](Word word) {
+    return static_cast<int>(std::clamp<std::int64_t>(application.Number(word), 0, kLongest));
+  };
+  ProgramHints() = {time(Word::HintPause), time(Word::HintHidePause),
+                    application.Truth(Word::ShowHint)};
+}
+
 void ShowTitle(Stage& /*stage*/, const ObjectRecord& application) {
   QGuiApplication::setApplicationDisplayName(looks::ToQString(application.Text(Word::Title)));
 }
@@ -114,6 +125,9 @@ constexpr ApplyRow kApply[] = {
     {ObjectClass::Application, Word::IcoHandle, ShowApplicationIcon},
     {ObjectClass::Application, Word::Title, ShowTitle},
     {ObjectClass::Application, Word::HintColor, ShowHintColor},
+    {ObjectClass::Application, Word::HintPause, ShowHints},
+    {ObjectClass::Application, Word::HintHidePause, ShowHints},
+    {ObjectClass::Application, Word::ShowHint, ShowHints},
     {ObjectClass::Clipboard, Word::Text, ShowClipboard},
 };
 

@@ -123,6 +123,25 @@ TEST(RunListLooksTest, GridLinesStandBehindRowsAndColumns) {
   }
 }
 
+TEST(RunListLooksTest, APickIsMarkedAsFarAsItGoes) {
+  for (const bool whole : {true, false}) {
+    LiveProgram live(FormWith(std::string(kReport) +
+                              "V.Column(0).Width = 100: V.HideSelection = 0\n" +
+                              (whole ? "V.RowSelect = 1\n" : "") + "V.ItemIndex = 0"));
+    live.Then([&] {
+      auto& view = live.The<QTreeWidget>("V");
+      const QImage image = view.grab().toImage();
+      const QRect row =
+          view.visualItemRect(view.topLevelItem(0)).translated(view.viewport()->pos());
+      EXPECT_EQ(image.pixelColor(row.left() + 2, row.bottom() - 1), kMarked);
+      EXPECT_EQ(image.pixelColor(row.left() + 80, row.bottom() - 1) == kMarked, whole);
+      EXPECT_EQ(image.pixelColor(row.left() + 140, row.bottom() - 1) == kMarked, whole)
+          << "the second column";
+    });
+    live.Run();
+  }
+}
+
 TEST(RunListLooksTest, TheRowUnderThePointerIsUnderlined) {
   LiveProgram live(FormWith(std::string(kReport) + "V.HotTrack = 1"));
   QImage before;

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QSlider>
+#include <QStyleOptionSlider>
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -138,9 +139,64 @@ const SliderRow& RowOf(const ObjectRecord& bar) {
   return bar.Is(kSliders[0].Class) ? kSliders[0] : kSliders[1];
 }
 
+/// A track bar with the range that the program marks.
+class TrackBar final : public QSlider {
+ public:
+  void Mark(int from, int to) {
+    from_ = from;
+    to_ = to;
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QSlider::paintEvent(event);
+    if (to_ <= from_) return;
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    const auto part = [&](QStyle::SubControl control) {
+      return style()->subControlRect(QStyle::CC_Slider, &option, control, this);
+    };
+    const QRect groove = part(QStyle::SC_SliderGroove);
+    const QRect thumb = part(QStyle::SC_SliderHandle);
+    const bool lies = orientation() == Qt::Horizontal;
+    const int length = lies ? thumb.width() : thumb.height();
+    const int span = (lies ? groove.width() : groove.height()) - length;
+    const auto at = [&](int value) {
+      return length / 2 + QStyle::sliderPositionFromValue(minimum(), maximum(),
+                                                          std::clamp(value, minimum(), maximum()),
+                                                          span, option.upsideDown);
+    };
+    const int first = std::min(at(from_), at(to_));
+    const int size = std::abs(at(to_) - at(from_)) + 1;
+    constexpr int kWidth = 4;
+    const QPoint middle = groove.center();
+    QRect marked(groove.x() + first, middle.y() - kWidth / 2, size, kWidth);
+    if (!lies) marked = QRect(middle.x() - kWidth / 2, groove.y() + first, kWidth, size);
+    QPainter painter(this);
+    painter.setClipRegion(QRegion(rect()) - QRegion(thumb));
+    painter.fillRect(marked, palette().color(QPalette::Highlight));
+  }
+
+ private:
+  int from_ = 0;
+  int to_ = 0;
+};
+
 /// The toolkit's scroll bar is made for areas: lying, it goes the other way with the arrow keys.
 class ScrollBar final : public QScrollBar {
+ public:
+  /// How much of the range the thumb stands for; 0: what a press beside it moves by.
+  void SetThumb(int size) {
+    thumb_ = size;
+    update();
+  }
+
  protected:
+  void initStyleOption(QStyleOptionSlider* option) const override {
+    QScrollBar::initStyleOption(option);
+    if (thumb_ > 0) option->pageStep = thumb_;
+  }
   void keyPressEvent(QKeyEvent* event) override {
     const bool right = event->key() == Qt::Key_Right;
     if (orientation() == Qt::Horizontal && (right || event->key() == Qt::Key_Left)) {
@@ -149,10 +205,13 @@ class ScrollBar final : public QScrollBar {
       QScrollBar::keyPressEvent(event);
     }
   }
+
+ private:
+  int thumb_ = 0;
 };
 
 QAbstractSlider* MakeSlider(const ObjectRecord& bar) {
-  if (bar.Is(ObjectClass::QTrackBar)) return new QSlider;
+  if (bar.Is(ObjectClass::QTrackBar)) return new TrackBar;
   auto* const made = new ScrollBar;
   made->setContextMenuPolicy(Qt::NoContextMenu);
   return made;
@@ -185,6 +244,12 @@ void SliderView::ShowRange(const ObjectRecord& bar) {
   Bar().setPageStep(std::max(1, NumberOf(bar, row.Page)));
   Bar().setValue(NumberOf(bar, Word::Position));
   showing_ = false;
+  if (auto* const scroll = dynamic_cast<ScrollBar*>(&Bar())) {
+    scroll->SetThumb(NumberOf(bar, Word::PageSize));
+  }
+  if (auto* const track = dynamic_cast<TrackBar*>(&Bar())) {
+    track->Mark(NumberOf(bar, Word::SelStart), NumberOf(bar, Word::SelEnd));
+  }
 }
 
 void SliderView::ShowLayout(const ObjectRecord& bar) {

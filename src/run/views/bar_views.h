@@ -32,7 +32,8 @@ class SliderView final : public TableView<SliderView> {
       {Word::SmallChange, &SliderView::ShowRange}, {Word::PageSize, &SliderView::ShowRange},
       {Word::LargeChange, &SliderView::ShowRange}, {Word::Orientation, &SliderView::ShowLayout},
       {Word::Kind, &SliderView::ShowLayout},       {Word::Frequency, &SliderView::ShowLayout},
-      {Word::TickMarks, &SliderView::ShowLayout},  {Word::TickStyle, &SliderView::ShowLayout}};
+      {Word::TickMarks, &SliderView::ShowLayout},  {Word::TickStyle, &SliderView::ShowLayout},
+      {Word::SelStart, &SliderView::ShowRange},    {Word::SelEnd, &SliderView::ShowRange}};
 
  private:
   [[nodiscard]] QAbstractSlider& Bar() const;

@@ -4,6 +4,7 @@
 #include "looks/text_bridge.h"
 #include "run/stage.h"
 #include "run/views/fields.h"
+#include "run/views/input_mask.h"
 #include "run/views/text_views.h"
 
 namespace tarnwick::run {
@@ -131,6 +132,16 @@ void EditView::ShowLimits(const ObjectRecord& box) {
   showing_ = false;
 }
 
+void EditView::ShowMask(const ObjectRecord& box) {
+  const QString mask = ToolkitMask(box.Text(Word::InputMask));
+  if (mask == Edit().inputMask()) return;
+  showing_ = true;
+  Edit().setInputMask(mask);
+  Edit().setText(looks::ToQString(box.Text(Word::Text)));
+  Edit().setCursorPosition(0);
+  showing_ = false;
+}
+
 void EditView::ShowSelection(const ObjectRecord& box) {
   showing_ = true;
   Edit().setSelection(static_cast<int>(box.Number(Word::SelStart)),
@@ -160,6 +171,10 @@ bool EditView::Live(const ObjectRecord& /*box*/, const MemberInfo& member,
   }
   if (member.Name == Word::SelLength) {
     out = Value::Integer(Edit().selectedText().size());
+    return true;
+  }
+  if (member.Name == Word::EditText) {
+    out = Value::Text(looks::FromQString(Edit().displayText()));
     return true;
   }
   return false;

@@ -107,6 +107,7 @@ void FormView::Build(const ObjectRecord& form) {
       (this->*row.Show)(form);
     }
   }
+  ShowDrawing();
 }
 
 void FormView::Apply(const ObjectRecord& form, Word property) {
@@ -132,7 +133,11 @@ bool FormView::Invoke(const ObjectRecord& form, const MemberInfo& method,
 }
 
 void FormView::ShowDrawing() {
-  if (window_ != nullptr) window_->Client()->update();
+  if (window_ == nullptr) return;
+  window_->Client()->update();
+  const QBitmap shape = stage().Surfaces().ShapeOf(Id());
+  if (shape.isNull()) return;
+  window_->setMask(shape);
 }
 
 void FormView::Retire() {

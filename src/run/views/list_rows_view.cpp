@@ -140,8 +140,10 @@ void ListRowsView::ShowPicked(const ObjectRecord& list) {
   showing_ = true;
   const bool many = list.Truth(Word::MultiSelect);
   if (wanted == nullptr && !many) Field().clearSelection();
-  Field().setCurrentItem(
-      wanted, 0, many ? QItemSelectionModel::NoUpdate : QItemSelectionModel::ClearAndSelect);
+  QItemSelectionModel::SelectionFlags how = QItemSelectionModel::NoUpdate;
+  if (!many) how = QItemSelectionModel::ClearAndSelect;
+  if (!many && list.Truth(Word::RowSelect)) how |= QItemSelectionModel::Rows;
+  Field().setCurrentItem(wanted, 0, how);
   showing_ = false;
 }
 

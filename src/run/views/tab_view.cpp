@@ -1,8 +1,10 @@
 #include "run/views/tab_view.h"
 
 #include <QMouseEvent>
+#include <QStyleOptionTab>
 #include <QTabBar>
 #include <algorithm>
+#include <utility>
 
 #include "looks/classic_look.h"
 #include "looks/text_bridge.h"
@@ -14,9 +16,46 @@ namespace tarnwick::run {
 
 using objects::ListItems;
 
+namespace {
+
+/// Tabs of which the one under the pointer has letters of another colour.
+class Tabs final : public QTabBar {
+ public:
+  explicit Tabs(QWidget* parent) : QTabBar(parent) { setAttribute(Qt::WA_Hover); }
+  void SetHotTrack(bool hot) {
+    hot_ = hot;
+    update();
+  }
+
+ protected:
+  bool event(QEvent* event) override {
+    int under = under_;
+    if (event->type() == QEvent::HoverLeave) under = -1;
+    if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverMove) {
+      under = tabAt(static_cast<QHoverEvent*>(event)->position().toPoint());
+    }
+    if (under != std::exchange(under_, under)) update();
+    return QTabBar::event(event);
+  }
+  void initStyleOption(QStyleOptionTab* option, int index) const override {
+    QTabBar::initStyleOption(option, index);
+    if (hot_ && index == under_) option->palette.setColor(QPalette::WindowText, Qt::blue);
+  }
+
+ private:
+  bool hot_ = false;
+  int under_ = -1;  ///< the tab under the pointer
+};
+
+}  // namespace
+
+void TabView::ShowHot(const ObjectRecord& tabs) {
+  static_cast<Tabs*>(bar_)->SetHotTrack(tabs.Truth(Word::HotTrack));
+}
+
 TabView::TabView(Stage& stage, const ObjectRecord& tabs)
     : TableView(stage, tabs, new PaintedFace<TabView>(*this), WidgetEvents::Mouse::Plain),
-      bar_(new QTabBar(Widget())) {
+      bar_(new Tabs(Widget())) {
   bar_->setObjectName(Widget()->objectName() + QStringLiteral(".Tabs"));
   bar_->setDrawBase(false);
   bar_->setExpanding(false);

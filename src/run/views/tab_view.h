@@ -17,8 +17,10 @@ class TabView final : public TableView<TabView> {
 
   void ShowTabs(const ObjectRecord& tabs);
   void ShowPicked(const ObjectRecord& tabs);
+  void ShowHot(const ObjectRecord& tabs);
   static constexpr ShowRow<TabView> kRows[] = {{Word::Tab, &TabView::ShowTabs},
-                                               {Word::TabIndex, &TabView::ShowPicked}};
+                                               {Word::TabIndex, &TabView::ShowPicked},
+                                               {Word::HotTrack, &TabView::ShowHot}};
 
  protected:
   void ShowFont(const ObjectRecord& tabs) override;

@@ -22,11 +22,12 @@ class EditView final : public TableView<EditView> {
   /// The selection is hidden while another object has the focus, when the program wants that.
   void FocusChanged();
   void ShowInks(const ObjectRecord& box) { ShowColor(box); }
+  void ShowMask(const ObjectRecord& box);
   static constexpr ShowRow<EditView> kRows[] = {
-      {Word::HideSelection, &EditView::ShowInks},  {Word::MaxLength, &EditView::ShowLimits},
-      {Word::PasswordChar, &EditView::ShowLimits}, {Word::ReadOnly, &EditView::ShowLimits},
-      {Word::Text, &EditView::ShowText},           {Word::SelStart, &EditView::ShowSelection},
-      {Word::SelLength, &EditView::ShowSelection}};
+      {Word::InputMask, &EditView::ShowMask},     {Word::HideSelection, &EditView::ShowInks},
+      {Word::MaxLength, &EditView::ShowLimits},   {Word::PasswordChar, &EditView::ShowLimits},
+      {Word::ReadOnly, &EditView::ShowLimits},    {Word::Text, &EditView::ShowText},
+      {Word::SelStart, &EditView::ShowSelection}, {Word::SelLength, &EditView::ShowSelection}};
 
  protected:
   void ShowColor(const ObjectRecord& box) override;

@@ -25,6 +25,17 @@ class TreeRows final : public QStyledItemDelegate {
     return index.column() == 0 ? QStyledItemDelegate::createEditor(parent, option, index) : nullptr;
   }
 
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    if (index.column() > 0 || field_.Look().WholeRow) {
+      return QStyledItemDelegate::paint(painter, option, index);
+    }
+    // What is picked is marked as far as its caption goes.
+    QStyleOptionViewItem narrow = option;
+    narrow.rect.setWidth(std::min(option.rect.width(), sizeHint(option, index).width()));
+    QStyledItemDelegate::paint(painter, narrow, index);
+  }
+
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
@@ -90,6 +101,7 @@ TreeLook TreeField::LookOf(const ObjectRecord& object) {
   look.HotTrack = object.Truth(Word::HotTrack);
   look.HideSelection = object.Truth(Word::HideSelection);
   look.ReadOnly = object.Truth(Word::ReadOnly);
+  look.WholeRow = object.Truth(Word::RowSelect);
   return look;
 }
 

@@ -16,6 +16,7 @@ struct TreeLook {
   bool HotTrack = false;       ///< the row under the pointer is underlined
   bool HideSelection = false;  ///< while another object has the focus
   bool ReadOnly = true;        ///< the user cannot change captions
+  bool WholeRow = false;       ///< all columns of a row are marked, not its caption alone
 };
 
 /// Rows in the look of the other lists.
