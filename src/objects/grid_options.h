@@ -13,7 +13,10 @@ enum class GridOption : std::uint8_t {
   FixedHorizontalLine = 1,
   VerticalLine = 2,
   HorizontalLine = 3,
+  RowSizing = 6,
+  ColumnSizing = 7,
   Editing = 10,
+  Tabs = 11,
   RowSelect = 12
 };
 

@@ -104,7 +104,7 @@ void ApplyClassicLook(QApplication& application) {
   looks::FormFonts fonts;
   QApplication::setFont(fonts.At({"MS Sans Serif"}).Font);
   QToolTip::setPalette(ClassicPalette());
-  application.setEffectEnabled(Qt::UI_AnimateMenu, false);
+  QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
 }
 
 }  // namespace tarnwick::run

@@ -311,6 +311,82 @@ TEST(RunPanelsTest, CellsAreTypedIntoWhenTheGridLetsThem) {
   live.Run();
 }
 
+TEST(RunPanelsTest, ATextThatIsTypedEndsWithItsKeys) {
+  LiveProgram live(Grid("G.AddOptions 10"));
+  const auto editor = [&] { return live.Widget("G")->findChild<QLineEdit*>(); };
+  const auto texts = [&] { return live.Object("G").As<objects::GridCells>()->Texts; };
+  live.Then([&] {
+    live.Widget("G")->setFocus();
+    QTest::keyClick(live.Widget("G"), Qt::Key_A);
+    ASSERT_NE(editor(), nullptr);
+    QTest::keyClick(editor(), Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), live.Widget("G"));
+  });
+  live.Then([&] {
+    EXPECT_EQ(editor(), nullptr) << "Return ends it and begins nothing";
+    QTest::keyClick(live.Widget("G"), Qt::Key_B);
+    EXPECT_FALSE(CellsOf(live).rect().isEmpty());
+    EXPECT_EQ(editor()->size(), QSize(49, 19)) << "the line beside the cell is seen";
+    QTest::keyClick(editor(), Qt::Key_Escape);
+  });
+  live.Then([&] {
+    EXPECT_EQ(texts().at(65536 + 1), "a") << "Escape takes it back";
+    QTest::keyClick(live.Widget("G"), Qt::Key_C);
+    QTest::keyClick(editor(), Qt::Key_Down);
+    EXPECT_EQ(live.Get("G", "Col") + live.Get("G", "Row"), "12") << "to the cell below";
+    EXPECT_EQ(texts().at(65536 + 1), "c");
+  });
+  live.Run();
+}
+
+TEST(RunPanelsTest, TabGoesFromCellToCellWhereTheGridLetsIt) {
+  LiveProgram live(
+      Grid("G.ColCount = 3: G.RowCount = 3: G.AddOptions 10, 11\n"
+           "DIM E AS QEDIT: E.Parent = F: E.Top = 180"));
+  live.Then([&] {
+    QWidget& grid = *live.Widget("G");
+    grid.setFocus();
+    const auto at = [&] { return live.Get("G", "Col") + live.Get("G", "Row"); };
+    QTest::keyClick(&grid, Qt::Key_Tab);
+    EXPECT_EQ(at(), "21");
+    QTest::keyClick(&grid, Qt::Key_X);
+    QTest::keyClick(grid.findChild<QLineEdit*>(), Qt::Key_Tab);
+    EXPECT_EQ(at(), "12") << "over the end of the row, also while a text is typed";
+    EXPECT_EQ(live.Object("G").As<objects::GridCells>()->Texts.at(65536 + 2), "x");
+    QTest::keyClick(&grid, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(at(), "21");
+    QTest::keyClick(&grid, Qt::Key_Tab);
+    QTest::keyClick(&grid, Qt::Key_Tab);
+    EXPECT_EQ(at(), "22");
+    QTest::keyClick(&grid, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), live.Widget("E")) << "behind the last one";
+  });
+  live.Run();
+}
+
+TEST(RunPanelsTest, HeadsAreDraggedToAnotherSizeWhereTheGridLetsThem) {
+  for (const bool lets : {true, false}) {
+    LiveProgram live(Grid(lets ? "G.AddOptions 6, 7" : "",
+                          "DIM Go AS QBUTTON\nSUB Tell\nPRINT G.ColWidths(1); \" \"; "
+                          "G.RowHeights(0)\nEND SUB\nGo.OnClick = Tell"));
+    live.Then([&] {
+      QWidget& cells = CellsOf(live);
+      const auto drag = [&](const QPoint& from, const QPoint& to) {
+        QTest::mousePress(&cells, Qt::LeftButton, {}, from);
+        QMouseEvent move(QEvent::MouseMove, to, cells.mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(&cells, &move);
+        QTest::mouseRelease(&cells, Qt::LeftButton, {}, to);
+      };
+      drag(QPoint(100, 10), QPoint(120, 12));
+      drag(QPoint(10, 20), QPoint(12, 25));
+      live.World->Click(live.Object("Go").Id);
+    });
+    live.Run();
+    EXPECT_EQ(live.Printed, lets ? "69 24\n" : "49 19\n");
+  }
+}
+
 TEST(RunPanelsTest, AGridScrollsToTheCellThatIsPicked) {
   LiveProgram live(Grid("G.RowCount = 60000: G.Height = 100",
                         "DIM Go AS QBUTTON\nSUB Far\nG.Row = 59999\nPRINT G.Row; \" \"; "

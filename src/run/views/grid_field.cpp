@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
+#include <cstdlib>
 #include <numeric>
 
 #include "looks/object_faces.h"
@@ -54,6 +55,7 @@ void GridField::Fit(const ObjectRecord& grid) {
   EndEdit(false);
   const auto line =
       static_cast<int>(std::clamp<std::int64_t>(grid.Number(Word::GridLineWidth), 0, 20));
+  line_ = line;
   columns_.Sizes = SizesOf(grid, Word::ColCount, Word::DefaultColWidth, cells->ColumnWidths, line);
   rows_.Sizes = SizesOf(grid, Word::RowCount, Word::DefaultRowHeight, cells->RowHeights, line);
   const auto fixed = [&](Word property, const Axis& axis) {
@@ -208,13 +210,86 @@ GridCell GridField::Picked() const {
   return {static_cast<int>(grid->Number(Word::Col)), static_cast<int>(grid->Number(Word::Row))};
 }
 
-bool GridField::CanEdit() const {
+bool GridField::HasOption(objects::GridOption option) const {
   const ObjectRecord* const grid = view_.Record();
-  return grid != nullptr && objects::HasGridOption(*grid, objects::GridOption::Editing);
+  return grid != nullptr && objects::HasGridOption(*grid, option);
+}
+
+bool GridField::CanEdit() const {
+  return HasOption(objects::GridOption::Editing);
+}
+
+bool GridField::focusNextPrevChild(bool next) {
+  if (HasOption(objects::GridOption::Tabs) && PickNext(next)) return true;
+  return QAbstractScrollArea::focusNextPrevChild(next);
+}
+
+bool GridField::PickNext(bool next) {
+  GridCell cell = Picked();
+  const int last_column = static_cast<int>(columns_.Sizes.size()) - 1;
+  const int last_row = static_cast<int>(rows_.Sizes.size()) - 1;
+  cell.Column += next ? 1 : -1;
+  if (cell.Column > last_column) cell = {columns_.Fixed, cell.Row + 1};
+  if (cell.Column < columns_.Fixed) cell = {last_column, cell.Row - 1};
+  if (cell.Row < rows_.Fixed || cell.Row > last_row || last_column < columns_.Fixed) return false;
+  EndEdit(true);
+  view_.Pick(cell.Column, cell.Row);
+  return true;
+}
+
+GridField::Edge GridField::EdgeAt(const QPoint& at, bool column) const {
+  constexpr int kReach = 3;
+  const Axis& axis = column ? columns_ : rows_;
+  const Axis& other = column ? rows_ : columns_;
+  const int along = column ? at.x() : at.y();
+  const int across = column ? at.y() : at.x();
+  // Only the heads have edges.
+  if (across < 0 || across >= SumOf(other.Sizes, 0, other.Fixed)) return {};
+  const int first = column ? First().Column : First().Row;
+  const int room = column ? viewport()->width() : viewport()->height();
+  for (int index = 0; index < static_cast<int>(axis.Sizes.size()); ++index) {
+    if (index >= axis.Fixed && index < first) continue;
+    const int size = axis.Sizes[static_cast<std::size_t>(index)];
+    const int end = StartOf(axis, first, index) + size;
+    if (std::abs(along - end) <= kReach) return {column, index, along, size - line_};
+    if (end > room) break;
+  }
+  return {};
+}
+
+GridField::Edge GridField::EdgeAt(const QPoint& at) const {
+  Edge edge;
+  if (HasOption(objects::GridOption::ColumnSizing)) edge = EdgeAt(at, true);
+  const bool rows = edge.Index < 0 && HasOption(objects::GridOption::RowSizing);
+  return rows ? EdgeAt(at, false) : edge;
+}
+
+void GridField::mouseMoveEvent(QMouseEvent* event) {
+  const QPoint at = event->position().toPoint();
+  if (dragged_.Index < 0) {
+    const Edge edge = EdgeAt(at);
+    if (edge.Index >= 0) {
+      viewport()->setCursor(edge.Column ? Qt::SplitHCursor : Qt::SplitVCursor);
+    } else {
+      viewport()->unsetCursor();
+    }
+    return QAbstractScrollArea::mouseMoveEvent(event);
+  }
+  const int moved = (dragged_.Column ? at.x() : at.y()) - dragged_.From;
+  view_.TakeSize(dragged_.Column, dragged_.Index, std::max(0, dragged_.Size + moved));
+}
+
+void GridField::mouseReleaseEvent(QMouseEvent* event) {
+  dragged_ = {};
+  QAbstractScrollArea::mouseReleaseEvent(event);
 }
 
 void GridField::mousePressEvent(QMouseEvent* event) {
   EndEdit(true);
+  if (event->button() == Qt::LeftButton) {
+    dragged_ = EdgeAt(event->position().toPoint());
+    if (dragged_.Index >= 0) return;
+  }
   const GridCell cell = CellAt(event->position().toPoint());
   if (event->button() != Qt::LeftButton || cell.Column < columns_.Fixed || cell.Row < rows_.Fixed) {
     return;
@@ -285,7 +360,9 @@ void GridField::Edit(const QString& text) {
   editor->setFrame(false);
   editor->setFont(font());
   editor->setPalette(palette());
-  editor->setGeometry(place);
+  // The lines stay to be seen.
+  editor->setGeometry(place.adjusted(0, 0, -line_, -line_));
+  editor->installEventFilter(this);
   const auto* const cells = grid->As<objects::GridCells>();
   const auto found =
       cells->Texts.find(static_cast<std::uint32_t>(edited_.Row * kMostCells + edited_.Column));
@@ -296,6 +373,34 @@ void GridField::Edit(const QString& text) {
   connect(editor, &QLineEdit::editingFinished, this, [this] { EndEdit(true); });
   editor->show();
   editor->setFocus();
+}
+
+bool GridField::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != editor_ || event->type() != QEvent::KeyPress) {
+    return QAbstractScrollArea::eventFilter(watched, event);
+  }
+  return EditorKey(static_cast<QKeyEvent&>(*event));
+}
+
+bool GridField::EditorKey(QKeyEvent& event) {
+  switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      EndEdit(true);
+      return true;
+    case Qt::Key_Escape:
+      EndEdit(false);
+      return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+      EndEdit(true);
+      keyPressEvent(&event);
+      return true;
+    default:
+      return false;
+  }
 }
 
 void GridField::EndEdit(bool takes) {

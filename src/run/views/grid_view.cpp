@@ -109,6 +109,15 @@ void GridView::TakeText(int column, int row, const std::string& text) {
   });
 }
 
+void GridView::TakeSize(bool column, int index, int size) {
+  stage().Report([this, column, index, size] {
+    const objects::ClassInfo& info = objects::InfoOf(ObjectClass::QStringGrid);
+    const MemberInfo& sizes = *info.Find(column ? Word::ColWidths : Word::RowHeights);
+    const Value place[] = {Value::Integer(index)};
+    stage().World().Set(Id(), sizes.Facts.Id, place, Value::Integer(size));
+  });
+}
+
 void GridView::Scrolled() {
   drawing_.Want();
 }

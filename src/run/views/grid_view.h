@@ -41,6 +41,8 @@ class GridView final : public TableView<GridView> {
   /// The user goes to a cell; OnSelectCell may keep him out.
   void Pick(int column, int row);
   void TakeText(int column, int row, const std::string& text);
+  /// The user gives a column another width, or a row another height, pixels.
+  void TakeSize(bool column, int index, int size);
   void Scrolled();
   void Paint(QPainter& painter);
 
