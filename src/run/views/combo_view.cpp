@@ -31,7 +31,8 @@ class DrawnRows final : public QStyledItemDelegate {
              const QModelIndex& index) const override {
     if (!view_.IsDrawn()) QStyledItemDelegate::paint(painter, option, index);
   }
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                               const QModelIndex& index) const override {
     const QVariant own = index.data(Qt::UserRole);
     return {option.fontMetrics.horizontalAdvance(index.data().toString()),
             own.isValid() ? own.toInt() : Height};

@@ -1,3 +1,4 @@
+#include <QEvent>
 #include <QLineEdit>
 #include <QPainter>
 
@@ -26,6 +27,7 @@ class LineField final : public QLineEdit {
  protected:
   bool event(QEvent* event) override {
     // The toolkit would give the selection up when the window becomes the active one.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): what the line edit does is left out
     if (event->type() == QEvent::WindowActivate) return QWidget::event(event);
     return QLineEdit::event(event);
   }

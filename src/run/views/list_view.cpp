@@ -38,7 +38,8 @@ class RowPainter final : public QStyledItemDelegate {
     painter->drawText(option.rect.adjusted(looks::kListTextLeft, 0, 0, 0),
                       Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, index.data().toString());
   }
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                               const QModelIndex& index) const override {
     const int width =
         option.fontMetrics.horizontalAdvance(index.data().toString()) + 2 * looks::kListTextLeft;
     const QVariant own = index.data(Qt::UserRole);
