@@ -10,7 +10,7 @@
 #include "codegen/program_source.h"
 #include "codegen/show_rewriter.h"
 #include "growth.h"
-#include "support/project_builder.h"
+#include "fakes/project_builder.h"
 #include "working_set.h"
 
 namespace tarnwick {

@@ -7,7 +7,7 @@
 
 #include "fakes/fake_project.h"
 #include "growth.h"
-#include "support/random_project.h"
+#include "fakes/random_project.h"
 #include "working_set.h"
 
 namespace tarnwick {

@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "support/any_text.h"
-#include "support/random_project.h"
+#include "fakes/any_text.h"
+#include "fakes/random_project.h"
 
 namespace {
 

@@ -2,6 +2,11 @@
 
 namespace tarnwick::language {
 
+SupportTables::SupportTables() = default;
+SupportTables::SupportTables(SupportTables&& other) noexcept = default;
+SupportTables& SupportTables::operator=(SupportTables&& other) noexcept = default;
+SupportTables::~SupportTables() = default;
+
 const std::string* SupportTables::HelpOfKind(std::string_view kind) const {
   return MemberHelp.Find(std::string{kind}.append("%"));
 }

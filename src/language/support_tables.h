@@ -34,6 +34,11 @@ struct SupportTables {
   /// By kind word: the rows of the property grid, without the row "Name" that every kind has.
   Keyed<std::vector<PropertyRow>> ObjectHelp;
 
+  SupportTables();
+  SupportTables(SupportTables&& other) noexcept;
+  SupportTables& operator=(SupportTables&& other) noexcept;
+  ~SupportTables();
+
   /// The description of a kind; null when there is none.
   [[nodiscard]] const std::string* HelpOfKind(std::string_view kind) const;
   /// The description of a member as it is written for the kind; null when there is none.

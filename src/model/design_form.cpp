@@ -24,6 +24,8 @@ ControlRef MakeElement(const KindInfo& kind, int index) {
 
 }  // namespace
 
+DesignForm::~DesignForm() = default;
+
 DesignForm::DesignForm() {
   for (const KindInfo& kind : AllKinds()) {
     for (int i = 0; i < kind.Template.Elements; ++i) {

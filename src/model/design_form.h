@@ -26,7 +26,7 @@ class DesignForm {
   DesignForm& operator=(const DesignForm&) = delete;
   DesignForm(DesignForm&&) = delete;
   DesignForm& operator=(DesignForm&&) = delete;
-  ~DesignForm() = default;
+  ~DesignForm();
 
   // The window itself; Left, Top, Width and Height are twips.
   std::string Caption;

@@ -58,6 +58,11 @@ void AppendObjectKey(std::string& out, int form, Kind kind, int number) {
   AppendNumber(out, std::int64_t{number});
 }
 
+EventCodeTable::EventCodeTable() = default;
+EventCodeTable::EventCodeTable(EventCodeTable&&) noexcept = default;
+EventCodeTable& EventCodeTable::operator=(EventCodeTable&&) noexcept = default;
+EventCodeTable::~EventCodeTable() = default;
+
 const std::string* EventCodeTable::Owner::FindSlot(std::size_t slot) const noexcept {
   static const std::string kNoCode;
   if (!present_[slot]) return nullptr;

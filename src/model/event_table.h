@@ -92,12 +92,12 @@ class EventCodeTable {
     std::forward_list<Code> codes_;  ///< of the entries that are not empty: few, mostly none
   };
 
-  EventCodeTable() = default;
+  EventCodeTable();
   EventCodeTable(const EventCodeTable&) = delete;
   EventCodeTable& operator=(const EventCodeTable&) = delete;
-  EventCodeTable(EventCodeTable&&) noexcept = default;
-  EventCodeTable& operator=(EventCodeTable&&) noexcept = default;
-  ~EventCodeTable() = default;
+  EventCodeTable(EventCodeTable&&) noexcept;
+  EventCodeTable& operator=(EventCodeTable&&) noexcept;
+  ~EventCodeTable();
 
   /// The entry of a key; null when there is none.
   [[nodiscard]] const std::string* Find(std::string_view key) const;

@@ -30,6 +30,11 @@ const RecordArray<ObjectRec>* FormRec::Objects(Kind kind) const noexcept {
   return array == nullptr ? nullptr : &(this->*array);
 }
 
+ProjectTables::ProjectTables() = default;
+ProjectTables::ProjectTables(ProjectTables&& other) noexcept = default;
+ProjectTables& ProjectTables::operator=(ProjectTables&& other) noexcept = default;
+ProjectTables::~ProjectTables() = default;
+
 FormRec* ProjectTables::Form(int number) noexcept {
   if (number < 0 || number > FormsCount) return nullptr;
   const auto slot = static_cast<std::size_t>(number);

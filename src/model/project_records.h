@@ -97,6 +97,11 @@ struct ProjectTables {
   std::string ProgramFolder;     ///< without a closing "\"
   std::string ExecutableFolder;  ///< where the program itself lies, likewise; "" when not known
 
+  ProjectTables();
+  ProjectTables(ProjectTables&& other) noexcept;
+  ProjectTables& operator=(ProjectTables&& other) noexcept;
+  ~ProjectTables();
+
   /// The record of a form number; null outside 0 to `FormsCount`.
   [[nodiscard]] FormRec* Form(int number) noexcept;
   [[nodiscard]] const FormRec* Form(int number) const noexcept;

@@ -1,6 +1,7 @@
 // The design form as it is painted, and the same form as it runs: alike region by region.
 #include <QBuffer>
 #include <QImage>
+#include <QMenuBar>
 #include <QPainter>
 #include <algorithm>
 #include <cstdlib>
@@ -10,12 +11,12 @@
 
 #include "codegen/program_source.h"
 #include "fakes/build_paths.h"
+#include "fakes/project_builder.h"
 #include "fakes/temporary_folder.h"
 #include "qt/surface/form_menu_strip.h"
 #include "qt/surface/form_painter.h"
 #include "run/live_program.h"
 #include "run/views/run_form.h"
-#include "support/project_builder.h"
 #include "text/path_text.h"
 
 namespace tarnwick {

@@ -12,46 +12,19 @@
 namespace tarnwick::basic {
 
 /// A jump's target or a plain word behind an instruction.
-inline Instruction Target(std::size_t index) {
-  return {Op::WORD, 0, static_cast<std::uint16_t>(index), 0};
-}
+Instruction Target(std::size_t index);
 
 /// A program of one or more procedures.
 class Assembled {
  public:
   /// A text constant as a slot.
-  Slot Text(const std::string& bytes) {
-    TextBody& body = Made.Texts.emplace_back(bytes);
-    Slot slot{0};
-    slot.B = &body;
-    return slot;
-  }
+  Slot Text(const std::string& bytes);
   /// Adds a procedure: what its registers hold at the start, which of them are counted, its code.
   /// Jump targets count from the procedure's first instruction.
   ProcedureCode& Procedure(std::string name, std::vector<Slot> start,
                            std::vector<std::uint16_t> counted,
-                           const std::vector<Instruction>& code) {
-    ProcedureCode procedure;
-    procedure.Name = std::move(name);
-    procedure.First = static_cast<std::uint32_t>(Made.Instructions.size());
-    procedure.Start = std::move(start);
-    procedure.Counted = std::move(counted);
-    for (std::size_t i = 0; i < code.size(); ++i) {
-      Instruction word = code[i];
-      if (i > 0 && std::string(WordsOf(code[i - 1].Code)) == "t" && word.Code == Op::WORD) {
-        word.B = static_cast<std::uint16_t>(word.B + procedure.First);
-      }
-      Made.Places.push_back({static_cast<std::uint32_t>(Made.Instructions.size()),
-                             {static_cast<std::uint32_t>(i) + 1, 0, 1, 1}});
-      Made.Instructions.push_back(word);
-    }
-    Made.Procedures.push_back(std::move(procedure));
-    return Made.Procedures.back();
-  }
-  std::uint16_t Shape(std::vector<ArgumentShape> arguments, SlotKind result) {
-    Made.Shapes.push_back({std::move(arguments), result});
-    return static_cast<std::uint16_t>(Made.Shapes.size() - 1);
-  }
+                           const std::vector<Instruction>& code);
+  std::uint16_t Shape(std::vector<ArgumentShape> arguments, SlotKind result);
 
   Code Made;
 };

@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "basic/lib/native_table.h"
-#include "basic/program_world.h"
 #include "basic/vm/number_text.h"
+#include "fakes/program_world.h"
 
 namespace tarnwick::basic {
 namespace {

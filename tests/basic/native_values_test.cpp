@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "basic/lib/native_table.h"
-#include "basic/program_world.h"
+#include "fakes/program_world.h"
 
 namespace tarnwick::basic {
 namespace {

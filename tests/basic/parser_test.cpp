@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "basic/source_text.h"
 #include "basic/tree_text.h"
+#include "fakes/source_text.h"
 
 namespace tarnwick::basic {
 namespace {

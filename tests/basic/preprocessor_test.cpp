@@ -4,7 +4,7 @@
 
 #include "basic/source/logical_line.h"
 #include "basic/source/macro_table.h"
-#include "basic/source_text.h"
+#include "fakes/source_text.h"
 
 namespace tarnwick::basic {
 namespace {

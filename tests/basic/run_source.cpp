@@ -6,8 +6,8 @@
 
 #include "basic/check/checker.h"
 #include "basic/code/emitter.h"
-#include "basic/source_text.h"
 #include "basic/vm/machine.h"
+#include "fakes/source_text.h"
 
 namespace tarnwick::basic {
 namespace {

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "basic/native_lines.h"
-#include "basic/program_world.h"
 #include "basic/vm/run_result.h"
+#include "fakes/program_world.h"
 
 namespace tarnwick::basic {
 

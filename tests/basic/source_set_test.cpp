@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "basic/source_text.h"
+#include "fakes/source_text.h"
 
 namespace tarnwick::basic {
 namespace {
@@ -45,51 +45,48 @@ TEST(SourceSet, GivesTheLineOfAPlace) {
   EXPECT_EQ(set.LineAt({0, 0, 1, 1}), "");
   EXPECT_EQ(set.LineAt({1, 7, 1, 1}), "");
 }
-TEST(SourceSet, LooksForAnIncludeWhereItsPathPoints) {
+
+/// Includes of C:\W\main.bas, with the program folder C:\P.
+class Includes : public testing::Test {
+ protected:
+  Includes() { set.Add("C:\\W\\main.bas", ""); }
+
+  /// The path and the bytes of the file that is taken, parted by "="; "" for none.
+  std::string Taken(std::string_view name) {
+    const auto file = set.Include(sources, name, "C:\\P", 0);
+    return file ? set.File(*file).Path + "=" + set.File(*file).Bytes : "";
+  }
+
   test::MemorySources sources;
+  SourceSet set;
+};
+
+TEST_F(Includes, AreLookedForWhereTheirPathPoints) {
   sources.Files = {{"D:\\x\\a.inc", "1"}, {"C:\\P\\a.inc", "2"}, {"C:\\W\\a.inc", "3"}};
-  SourceSet set;
-  set.Add("C:\\W\\main.bas", "");
-  const auto file = set.Include(sources, "D:\\x\\a.inc", "C:\\P", 0);
-  ASSERT_TRUE(file);
-  EXPECT_EQ(set.File(*file).Bytes, "1");
+  EXPECT_EQ(Taken("D:\\x\\a.inc"), "D:\\x\\a.inc=1");
 }
-TEST(SourceSet, LooksForAnIncludeInTheProgramFolderNext) {
-  test::MemorySources sources;
+
+TEST_F(Includes, AreLookedForInTheProgramFolderNext) {
   sources.Files = {{"C:\\P\\a.inc", "2"}, {"C:\\W\\a.inc", "3"}};
-  SourceSet set;
-  set.Add("C:\\W\\main.bas", "");
-  const auto file = set.Include(sources, "D:\\x\\a.inc", "C:\\P", 0);
-  ASSERT_TRUE(file);
-  EXPECT_EQ(set.File(*file).Path, "C:\\P\\a.inc");
+  EXPECT_EQ(Taken("D:\\x\\a.inc"), "C:\\P\\a.inc=2");
 }
-TEST(SourceSet, LooksForAnIncludeBesideTheSourceLast) {
-  test::MemorySources sources;
+
+TEST_F(Includes, AreLookedForBesideTheSourceLast) {
   sources.Files = {{"C:\\W\\a.inc", "3"}, {"C:\\W\\sub\\b.inc", "4"}};
-  SourceSet set;
-  set.Add("C:\\W\\main.bas", "");
-  EXPECT_TRUE(set.Include(sources, "a.inc", "C:\\P", 0));
+  EXPECT_EQ(Taken("a.inc"), "C:\\W\\a.inc=3");
   EXPECT_TRUE(set.Include(sources, "sub\\b.inc", "", 0));
-  EXPECT_FALSE(set.Include(sources, "c.inc", "C:\\P", 0));
+  EXPECT_EQ(Taken("c.inc"), "");
 }
-TEST(SourceSet, TheOwnIncludeFileStandsInForThatOfTheLanguage) {
-  test::MemorySources sources;
+
+TEST_F(Includes, TheOwnIncludeFileStandsInForThatOfTheLanguage) {
   sources.Files = {{"C:\\P\\Tarnwick1.lib", "own"}};
-  SourceSet set;
-  set.Add("C:\\W\\main.bas", "");
-  const auto file = set.Include(sources, "RapidQ.inc", "C:\\P", 0);
-  ASSERT_TRUE(file);
-  EXPECT_EQ(set.File(*file).Bytes, "own");
-  EXPECT_FALSE(set.Include(sources, "other.inc", "C:\\P", 0));
+  EXPECT_TRUE(Taken("RapidQ.inc").ends_with("=own"));
+  EXPECT_EQ(Taken("other.inc"), "");
 }
-TEST(SourceSet, TheIncludeFileOfTheLanguageIsTakenWhereItIsThere) {
-  test::MemorySources sources;
+
+TEST_F(Includes, TheIncludeFileOfTheLanguageIsTakenWhereItIsThere) {
   sources.Files = {{"C:\\P\\Tarnwick1.lib", "own"}, {"C:\\W\\rapidq.inc", "theirs"}};
-  SourceSet set;
-  set.Add("C:\\W\\main.bas", "");
-  const auto file = set.Include(sources, "rapidq.inc", "C:\\P", 0);
-  ASSERT_TRUE(file);
-  EXPECT_EQ(set.File(*file).Bytes, "theirs");
+  EXPECT_TRUE(Taken("rapidq.inc").ends_with("=theirs"));
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "basic/conformance_table.h"
-#include "basic/source_text.h"
+#include "fakes/source_text.h"
 
 namespace tarnwick::basic {
 namespace {

@@ -22,6 +22,15 @@ class CheckTest : public testing::Test {
                                       "1\x95"
                                       "f.ftn\r\n")});
   }
+  /// The same with the include file in the program folder, so that the code is checked too.
+  CallResult CheckCode(const std::string& objects) {
+    folder_.Put("Tarnwick1.lib", "' nothing\r\n");
+    folder_.Put("f.ftn", kHead + objects);
+    return Call({"check", "--program-folder", PathFromNative(folder_.PathOf("")),
+                 folder_.Put("p.tnp",
+                             "1\x95"
+                             "f.ftn\r\n")});
+  }
   /// The path of a file of the project as findings name it.
   std::string Path(const std::string& name) { return PathFromNative(folder_.PathOf(name)); }
 
@@ -72,28 +81,18 @@ TEST_F(CheckTest, AProjectThatCannotBeReadIsNoFindingButAnError) {
 }
 
 TEST_F(CheckTest, FaultsOfTheCodeAreNamedByFormObjectEventAndLine) {
-  folder_.Put("Tarnwick1.lib", "' nothing\r\n");
-  folder_.Put("f.ftn", std::string(kHead) +
-                           "[Button] (1) {Ok} Image<(None)>Image Click<Dim n As Integer\x95"
-                           "Ok.Captoin = \"x\">Click\r\n");
-  const CallResult result = Call({"check", "--program-folder", PathFromNative(folder_.PathOf("")),
-                                  folder_.Put("p.tnp",
-                                              "1\x95"
-                                              "f.ftn\r\n")});
+  const CallResult result = CheckCode(
+      "[Button] (1) {Ok} Image<(None)>Image Click<Dim n As Integer\x95"
+      "Ok.Captoin = \"x\">Click\r\n");
   EXPECT_EQ(result.Exit, 1);
   EXPECT_EQ(result.Out,
             "Form1.Ok.OnClick, line 2: QBUTTON has no member \"Captoin\"; did you mean Caption?\n");
 }
 
 TEST_F(CheckTest, FaultsOfTheCodeAreListedBesideWhatElseIsWrong) {
-  folder_.Put("Tarnwick1.lib", "' nothing\r\n");
-  folder_.Put("f.ftn", std::string(kHead) +
-                           "[Button] (1) {Ok} String<say \"hi\">String Image<(None)>Image "
-                           "Click<Ok.Captoin = \"x\">Click\r\n");
-  const CallResult result = Call({"check", "--program-folder", PathFromNative(folder_.PathOf("")),
-                                  folder_.Put("p.tnp",
-                                              "1\x95"
-                                              "f.ftn\r\n")});
+  const CallResult result = CheckCode(
+      "[Button] (1) {Ok} String<say \"hi\">String Image<(None)>Image "
+      "Click<Ok.Captoin = \"x\">Click\r\n");
   EXPECT_EQ(result.Exit, 1);
   EXPECT_EQ(std::count(result.Out.begin(), result.Out.end(), '\n'), 2) << result.Out;
   EXPECT_TRUE(result.Out.starts_with("Form1.Ok: ")) << result.Out;

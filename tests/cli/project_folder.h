@@ -20,29 +20,15 @@ struct CallResult {
 };
 
 /// Runs the command line as the program does, the program itself left out.
-inline CallResult Call(const std::vector<std::string>& words) {
-  const ParsedArguments parsed = ParseArguments(words);
-  if (const auto* const print = std::get_if<PrintAndLeave>(&parsed)) return {0, print->Text, ""};
-  if (const auto* const wrong = std::get_if<WrongUsage>(&parsed)) return {2, "", wrong->Text};
-  const TextStream out;
-  const TextStream err;
-  const int exit = CommandRun(std::get<Arguments>(parsed), out.File(), err.File()).Run();
-  return {exit, out.Text(), err.Text()};
-}
+CallResult Call(const std::vector<std::string>& words);
 
 /// A folder of the test's own with files written into it; all names are machine paths.
 class ProjectFolder {
  public:
-  std::string Put(std::string_view name, std::string_view bytes) const {
-    std::filesystem::create_directories(std::filesystem::path(PathOf(name)).parent_path());
-    folder_.Write(name, bytes);
-    return PathOf(name);
-  }
-  [[nodiscard]] std::string PathOf(std::string_view name) const { return folder_.Native(name); }
-  [[nodiscard]] bool Has(std::string_view name) const {
-    return std::filesystem::exists(PathOf(name));
-  }
-  [[nodiscard]] std::string Bytes(std::string_view name) const { return folder_.Read(name); }
+  std::string Put(std::string_view name, std::string_view bytes) const;
+  [[nodiscard]] std::string PathOf(std::string_view name) const;
+  [[nodiscard]] bool Has(std::string_view name) const;
+  [[nodiscard]] std::string Bytes(std::string_view name) const;
 
  private:
   TemporaryFolder folder_;

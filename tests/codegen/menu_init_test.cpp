@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "codegen/generated.h"
+#include "fakes/generated.h"
 
 namespace tarnwick::test {
 namespace {

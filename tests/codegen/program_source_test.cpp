@@ -6,8 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include "codegen/generated.h"
 #include "fakes/fake_ports.h"
+#include "fakes/generated.h"
 #include "project/compile.h"
 #include "text/strings.h"
 

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "codegen/generated.h"
 #include "codegen/image_index.h"
+#include "fakes/generated.h"
 
 namespace tarnwick::test {
 namespace {

@@ -16,7 +16,7 @@
 #include "codegen/program_source.h"
 #include "fakes/build_paths.h"
 #include "fakes/fake_project.h"
-#include "support/random_project.h"
+#include "fakes/random_project.h"
 
 namespace tarnwick::test {
 namespace {

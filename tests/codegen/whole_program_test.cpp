@@ -1,7 +1,7 @@
 // A whole small program, line by line.
 #include <gtest/gtest.h>
 
-#include "codegen/generated.h"
+#include "fakes/generated.h"
 
 namespace tarnwick::test {
 namespace {

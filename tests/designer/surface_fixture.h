@@ -18,32 +18,22 @@ namespace tarnwick {
 /// "number back Button2".
 class RecordingHost final : public DesignerHost {
  public:
-  explicit RecordingHost(CallLog& log) : log_(&log) {}
+  explicit RecordingHost(CallLog& log);
   bool PanelVisible = true;
   bool EditorOpen = false;
 
   [[nodiscard]] bool PropertyPanelVisible() override { return PanelVisible; }
-  void ClearPanel() override { log_->Add("clear panel"); }
-  void ShowProperties(std::string_view name_objet, std::string_view object_name) override {
-    log_->Add("properties " + std::string(name_objet) + " " + std::string(object_name));
-  }
-  void SyncRow(std::string_view name_objet, std::string_view row) override {
-    log_->Add("sync " + std::string(name_objet) + " " + std::string(row));
-  }
-  void RemoveHeadRow(const DesignControl& object) override { log_->Add("head - " + object.Tag); }
-  void CommandsChanged() override { log_->Add("commands"); }
-  void OpenObjectPopUp() override { log_->Add("pop-up"); }
-  void SetStatus(std::string_view text) override { log_->Add("status " + std::string(text)); }
-  void NumberMoved(const ObjectPlace& object, bool back) override {
-    log_->Add(std::string(back ? "number back " : "number out ") +
-              std::string(InfoOf(object.Id).Array) + std::to_string(object.Number));
-  }
-  bool RaiseOpenCodeEditor() override {
-    if (EditorOpen) log_->Add("raise editor");
-    return EditorOpen;
-  }
-  void OpenCode() override { log_->Add("code"); }
-  void CompileAndRun() override { log_->Add("compile"); }
+  void ClearPanel() override;
+  void ShowProperties(std::string_view name_objet, std::string_view object_name) override;
+  void SyncRow(std::string_view name_objet, std::string_view row) override;
+  void RemoveHeadRow(const DesignControl& object) override;
+  void CommandsChanged() override;
+  void OpenObjectPopUp() override;
+  void SetStatus(std::string_view text) override;
+  void NumberMoved(const ObjectPlace& object, bool back) override;
+  bool RaiseOpenCodeEditor() override;
+  void OpenCode() override;
+  void CompileAndRun() override;
 
  private:
   CallLog* log_;
@@ -52,10 +42,10 @@ class RecordingHost final : public DesignerHost {
 /// Log entries: "paint", "selection", "window".
 class RecordingObserver final : public ProjectObserver {
  public:
-  explicit RecordingObserver(CallLog& log) : log_(&log) {}
-  void FormChanged(int /*form*/) override { log_->Add("window"); }
-  void ControlsChanged(int /*form*/) override { log_->Add("paint"); }
-  void SelectionChanged(int /*form*/) override { log_->Add("selection"); }
+  explicit RecordingObserver(CallLog& log);
+  void FormChanged(int /*form*/) override;
+  void ControlsChanged(int /*form*/) override;
+  void SelectionChanged(int /*form*/) override;
 
  private:
   CallLog* log_;
@@ -65,50 +55,22 @@ class RecordingObserver final : public ProjectObserver {
 /// pixel (100, 50); places below are pixels of the window.
 class SurfaceTest : public ::testing::Test {
  protected:
-  SurfaceTest() { ports.Gestures.Origin = {100, 50}; }
+  SurfaceTest();
+  ~SurfaceTest() override;
 
-  [[nodiscard]] static float Twips(int pixels) {
-    return static_cast<float>(pixels * kTwipsPerPixel);
-  }
-  void Point(int x, int y) { ports.Gestures.Cursor = {100 + x, 50 + y}; }
+  [[nodiscard]] static float Twips(int pixels);
+  void Point(int x, int y);
   /// A press on the window itself.
-  void Press(int x, int y, int button = kLeftButton) {
-    Point(x, y);
-    gestures.Form_MouseDown(button, 0, Twips(x), Twips(y));
-  }
+  void Press(int x, int y, int button = kLeftButton);
   /// A press on an object, at a place of the object.
-  void PressOn(const ControlRef& control, int x = 1, int y = 1, int button = kLeftButton) {
-    Point(static_cast<int>(control->Left) / kTwipsPerPixel + x,
-          static_cast<int>(control->Top) / kTwipsPerPixel + y);
-    gestures.ObjectMouseDown(control, button, 0, Twips(x), Twips(y));
-  }
-  void MoveTo(int x, int y) {
-    Point(x, y);
-    gestures.MouseMove();
-  }
+  void PressOn(const ControlRef& control, int x = 1, int y = 1, int button = kLeftButton);
+  void MoveTo(int x, int y);
   /// Arms a kind, presses, releases, and returns the selection.
-  ControlRef Place(std::string_view kind, int x, int y) {
-    form.Objeto = kind;
-    Press(x, y);
-    gestures.MouseUp();
-    return form.ControlSel;
-  }
-  void Click(const ControlRef& control) {
-    PressOn(control);
-    gestures.MouseUp();
-  }
+  ControlRef Place(std::string_view kind, int x, int y);
+  void Click(const ControlRef& control);
   /// Drags a handle from where it is to a place of the window.
-  void DragHandle(int handle, int x, int y) {
-    const ControlRef grip = form.Element(Kind::Handle, handle);
-    Point(static_cast<int>(grip->Left) / kTwipsPerPixel + 3,
-          static_cast<int>(grip->Top) / kTwipsPerPixel + 3);
-    gestures.HandleMouseDown(handle, kLeftButton);
-    MoveTo(x, y);
-    gestures.MouseUp();
-  }
-  [[nodiscard]] bool HandleVisible(int handle) const {
-    return form.Element(Kind::Handle, handle)->Visible;
-  }
+  void DragHandle(int handle, int x, int y);
+  [[nodiscard]] bool HandleVisible(int handle) const;
   [[nodiscard]] const std::vector<std::string>& Log() const { return ports.Log.Entries(); }
 
   FakePorts ports;

@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/fake_ports.h"
-#include "support/project_builder.h"
+#include "fakes/project_builder.h"
 
 namespace tarnwick::test {
 namespace {

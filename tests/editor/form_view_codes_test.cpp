@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "editor/editor_project.h"
+#include "fakes/editor_project.h"
 #include "fakes/fake_code_host.h"
 #include "fakes/fake_edit_widget.h"
 

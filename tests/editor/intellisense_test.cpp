@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "editor/editor_project.h"
 #include "editor/intellisense_cases.h"
+#include "fakes/editor_project.h"
 #include "fakes/fake_edit_widget.h"
 #include "text/strings.h"
 

@@ -12,24 +12,13 @@ namespace tarnwick {
 /// All fakes of a test write to one log, so that a test can say what came before what.
 class CallLog {
  public:
-  void Add(std::string entry) { entries_.push_back(std::move(entry)); }
-  void Clear() { entries_.clear(); }
+  void Add(std::string entry);
+  void Clear();
   [[nodiscard]] const std::vector<std::string>& Entries() const { return entries_; }
   /// How many entries begin with `start`.
-  [[nodiscard]] std::size_t Count(std::string_view start) const {
-    return static_cast<std::size_t>(
-        std::count_if(entries_.begin(), entries_.end(), [start](const std::string& entry) {
-          return std::string_view(entry).substr(0, start.size()) == start;
-        }));
-  }
+  [[nodiscard]] std::size_t Count(std::string_view start) const;
   /// The place of the first entry that begins with `start`, or -1.
-  [[nodiscard]] int Find(std::string_view start) const {
-    for (std::size_t i = 0; i < entries_.size(); ++i) {
-      if (std::string_view(entries_[i]).substr(0, start.size()) == start)
-        return static_cast<int>(i);
-    }
-    return -1;
-  }
+  [[nodiscard]] int Find(std::string_view start) const;
 
  private:
   std::vector<std::string> entries_;

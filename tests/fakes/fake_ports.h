@@ -18,25 +18,12 @@ namespace tarnwick {
 /// "profile read [S] K", "profile write [S] K=V".
 class FakeProfiles final : public ProfilePort {
  public:
-  FakeProfiles(CallLog& log, MemoryFiles& files) : log_(&log), files_(&files), inner_(files) {}
+  FakeProfiles(CallLog& log, MemoryFiles& files);
 
   [[nodiscard]] std::string Read(const std::string& path, std::string_view section,
-                                 std::string_view key, std::size_t buffer_size) override {
-    log_->Add("profile read [" + std::string(section) + "] " + std::string(key));
-    files_->SetQuiet(true);
-    std::string value = inner_.Read(path, section, key, buffer_size);
-    files_->SetQuiet(false);
-    return value;
-  }
+                                 std::string_view key, std::size_t buffer_size) override;
   bool Write(const std::string& path, std::string_view section, std::string_view key,
-             std::string_view value) override {
-    log_->Add("profile write [" + std::string(section) + "] " + std::string(key) + "=" +
-              std::string(value));
-    files_->SetQuiet(true);
-    const bool written = inner_.Write(path, section, key, value);
-    files_->SetQuiet(false);
-    return written;
-  }
+             std::string_view value) override;
 
  private:
   CallLog* log_;
@@ -47,17 +34,11 @@ class FakeProfiles final : public ProfilePort {
 /// Log entries: "start C", "open P".
 class FakeProcesses final : public ProcessPort {
  public:
-  explicit FakeProcesses(CallLog& log) : log_(&log) {}
+  explicit FakeProcesses(CallLog& log);
   bool Succeeds = true;  ///< what both calls answer
 
-  bool StartHidden(const std::string& command_line) override {
-    log_->Add("start " + command_line);
-    return Succeeds;
-  }
-  bool OpenDocument(const std::string& path) override {
-    log_->Add("open " + path);
-    return Succeeds;
-  }
+  bool StartHidden(const std::string& command_line) override;
+  bool OpenDocument(const std::string& path) override;
 
  private:
   CallLog* log_;
@@ -66,38 +47,20 @@ class FakeProcesses final : public ProcessPort {
 /// Log entries: "show TEXT", "ask TEXT". Questions without a scripted answer get No.
 class FakeMessages final : public MessagePort {
  public:
-  explicit FakeMessages(CallLog& log) : log_(&log) {}
+  explicit FakeMessages(CallLog& log);
   /// The answers to come, true for Yes; nothing closes the box, which is No where it must be one.
   std::deque<std::optional<bool>> Answers;
   std::string LastTitle;
   MessageIcon LastIcon = MessageIcon::None;
 
-  void Show(std::string_view text, std::string_view title) override {
-    log_->Add("show " + std::string(text));
-    LastTitle = title;
-  }
+  void Show(std::string_view text, std::string_view title) override;
   [[nodiscard]] bool AskYesNo(std::string_view text, std::string_view title,
-                              MessageIcon icon) override {
-    log_->Add("ask " + std::string(text));
-    LastTitle = title;
-    LastIcon = icon;
-    return Next().value_or(false);
-  }
+                              MessageIcon icon) override;
   [[nodiscard]] std::optional<bool> AskOrCancel(std::string_view text,
-                                                std::string_view title) override {
-    log_->Add("ask " + std::string(text));
-    LastTitle = title;
-    LastIcon = MessageIcon::Question;
-    return Next();
-  }
+                                                std::string_view title) override;
 
  private:
-  std::optional<bool> Next() {
-    if (Answers.empty()) return false;
-    const std::optional<bool> answer = Answers.front();
-    Answers.pop_front();
-    return answer;
-  }
+  std::optional<bool> Next();
 
   CallLog* log_;
 };
@@ -106,7 +69,7 @@ class FakeMessages final : public MessagePort {
 /// dialog without a scripted answer is cancelled; a scripted nullopt cancels that one.
 class FakeDialogs final : public DialogPort {
  public:
-  explicit FakeDialogs(CallLog& log) : log_(&log) {}
+  explicit FakeDialogs(CallLog& log);
   std::deque<std::optional<std::string>> OpenAnswers;
   std::deque<std::optional<std::string>> SaveAnswers;
   std::deque<std::optional<std::int32_t>> ColorAnswers;
@@ -117,31 +80,11 @@ class FakeDialogs final : public DialogPort {
   std::optional<FontChoice> LastFont;
   std::string LastFolder;
 
-  std::optional<std::string> OpenFile(const FileDialogRequest& request) override {
-    log_->Add("dialog open");
-    LastRequest = request;
-    return Next(OpenAnswers);
-  }
-  std::optional<std::string> SaveFile(const FileDialogRequest& request) override {
-    log_->Add("dialog save");
-    LastRequest = request;
-    return Next(SaveAnswers);
-  }
-  std::optional<std::int32_t> PickColor(std::int32_t start) override {
-    log_->Add("dialog color");
-    LastColor = start;
-    return Next(ColorAnswers);
-  }
-  std::optional<FontChoice> PickFont(const FontChoice& start) override {
-    log_->Add("dialog font");
-    LastFont = start;
-    return Next(FontAnswers);
-  }
-  std::optional<std::string> PickFolder(const std::string& start) override {
-    log_->Add("dialog folder");
-    LastFolder = start;
-    return Next(FolderAnswers);
-  }
+  std::optional<std::string> OpenFile(const FileDialogRequest& request) override;
+  std::optional<std::string> SaveFile(const FileDialogRequest& request) override;
+  std::optional<std::int32_t> PickColor(std::int32_t start) override;
+  std::optional<FontChoice> PickFont(const FontChoice& start) override;
+  std::optional<std::string> PickFolder(const std::string& start) override;
 
  private:
   template <typename Answer>
@@ -161,44 +104,26 @@ class FakeScreen final : public ScreenPort {
   int Yields = 0;
   std::function<void()> OnYield;
 
-  void Yield() override {
-    ++Yields;
-    if (OnYield) OnYield();
-  }
+  void Yield() override;
 };
 
 /// Log entries: "capture", "release", "confine", "free", "band L,T,R,B", "focus".
 class FakeGestures final : public GesturePort {
  public:
-  explicit FakeGestures(CallLog& log) : log_(&log) {}
+  explicit FakeGestures(CallLog& log);
   ScreenPoint Cursor;
   ScreenPoint Origin;
   bool Captured = false;
   bool Confined = false;
 
-  void TakeCapture() override {
-    log_->Add("capture");
-    Captured = true;
-  }
-  void ReleaseCapture() override {
-    log_->Add("release");
-    Captured = false;
-  }
-  void ConfineCursor() override {
-    log_->Add("confine");
-    Confined = true;
-  }
-  void FreeCursor() override {
-    log_->Add("free");
-    Confined = false;
-  }
+  void TakeCapture() override;
+  void ReleaseCapture() override;
+  void ConfineCursor() override;
+  void FreeCursor() override;
   [[nodiscard]] ScreenPoint CursorPosition() override { return Cursor; }
   [[nodiscard]] ScreenPoint ClientOrigin() override { return Origin; }
-  void DrawRubberBand(const ScreenRect& rect) override {
-    log_->Add("band " + std::to_string(rect.Left) + "," + std::to_string(rect.Top) + "," +
-              std::to_string(rect.Right) + "," + std::to_string(rect.Bottom));
-  }
-  void TakeFocus() override { log_->Add("focus"); }
+  void DrawRubberBand(const ScreenRect& rect) override;
+  void TakeFocus() override;
 
  private:
   CallLog* log_;
@@ -215,7 +140,8 @@ struct FakePorts {
   FakeScreen Screen;
   FakeGestures Gestures{Log};
 
-  FakePorts() = default;
+  FakePorts();
+  ~FakePorts();
   FakePorts(const FakePorts&) = delete;
   FakePorts& operator=(const FakePorts&) = delete;
 

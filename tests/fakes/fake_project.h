@@ -6,21 +6,21 @@
 
 #include "fakes/call_log.h"
 #include "fakes/fake_ports.h"
+#include "fakes/project_builder.h"
 #include "persistence/form_writer.h"
 #include "project/open_project.h"
 #include "project/project_context.h"
 #include "project/save_project.h"
-#include "support/project_builder.h"
 
 namespace tarnwick::test {
 
 /// Log entries: "hide", "container", "activate N".
 class FakeContainer final : public project::ContainerHost {
  public:
-  explicit FakeContainer(CallLog& log) : log_(&log) {}
-  void HideContainer() override { log_->Add("hide"); }
-  void ShowContainer() override { log_->Add("container"); }
-  void ActivateForm(int form) override { log_->Add("activate " + std::to_string(form)); }
+  explicit FakeContainer(CallLog& log);
+  void HideContainer() override;
+  void ShowContainer() override;
+  void ActivateForm(int form) override;
 
  private:
   CallLog* log_;
@@ -29,12 +29,12 @@ class FakeContainer final : public project::ContainerHost {
 /// Log entries: "opened N", "closing N", "current", "list", "bar N".
 class FakeObserver final : public ProjectObserver {
  public:
-  explicit FakeObserver(CallLog& log) : log_(&log) {}
-  void FormOpened(int form) override { log_->Add("opened " + std::to_string(form)); }
-  void FormClosing(int form) override { log_->Add("closing " + std::to_string(form)); }
-  void CurrentFormChanged() override { log_->Add("current"); }
-  void FormListChanged() override { log_->Add("list"); }
-  void EventsBarChanged(int form) override { log_->Add("bar " + std::to_string(form)); }
+  explicit FakeObserver(CallLog& log);
+  void FormOpened(int form) override;
+  void FormClosing(int form) override;
+  void CurrentFormChanged() override;
+  void FormListChanged() override;
+  void EventsBarChanged(int form) override;
 
  private:
   CallLog* log_;
@@ -54,40 +54,26 @@ struct FakeProject {
   project::ProjectContext Context{Tables,       Ports.Files, Ports.Messages, Ports.Dialogs,
                                   Ports.Screen, Observer,    Container};
 
-  FakeProject() = default;
+  FakeProject();
+  ~FakeProject();
   FakeProject(const FakeProject&) = delete;
   FakeProject& operator=(const FakeProject&) = delete;
 
   /// Lays down an index of the given text and loads it.
-  bool LoadIndex(std::string index) {
-    Ports.Files.Put(Tables.ProjectFile, std::move(index));
-    return project::LoadProject(Context, Tables.ProjectFile);
-  }
+  bool LoadIndex(std::string index);
   /// Lays down one form file and an index that names it, and loads that.
-  bool Load(std::string form_text) {
-    Ports.Files.Put("C:\\Work\\a.ftn", std::move(form_text));
-    return LoadIndex(
-        "1\x95"
-        "a.ftn\r\nMF##F (a.ftn)\r\n");
-  }
+  bool Load(std::string form_text);
   /// The bytes that saving a form would write.
-  [[nodiscard]] std::string Saved(int form = 1) const { return FormFileText(Tables, form); }
+  [[nodiscard]] std::string Saved(int form = 1) const;
 
-  [[nodiscard]] FormRec& Form(int number = 1) { return *Tables.Form(number); }
-  [[nodiscard]] DesignForm& User(int number = 1) { return *Tables.User(number); }
+  [[nodiscard]] FormRec& Form(int number = 1);
+  [[nodiscard]] DesignForm& User(int number = 1);
   /// An object's control; the test has to know that it is there.
-  [[nodiscard]] DesignControl& Control(Kind kind, int index = 1, int form = 1) {
-    return *User(form).Element(kind, index);
-  }
+  [[nodiscard]] DesignControl& Control(Kind kind, int index = 1, int form = 1);
   /// An object's record; an empty one where none is.
-  [[nodiscard]] const ObjectRec& Record(Kind kind, int index = 1, int form = 1) {
-    return RecordOrEmpty(*Form(form).Objects(kind), index);
-  }
+  [[nodiscard]] const ObjectRec& Record(Kind kind, int index = 1, int form = 1);
   /// The code under a key; "(none)" when there is no such key.
-  [[nodiscard]] std::string Code(std::string_view key) const {
-    const std::string* code = Tables.EventTable.Find(key);
-    return code == nullptr ? "(none)" : *code;
-  }
+  [[nodiscard]] std::string Code(std::string_view key) const;
 };
 
 }  // namespace tarnwick::test

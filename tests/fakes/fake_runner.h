@@ -13,28 +13,20 @@ namespace tarnwick {
 /// Log entries: "run SOURCE", "stop run".
 class FakeRunner final : public RunnerPort {
  public:
-  explicit FakeRunner(CallLog& log) : log_(&log) {}
+  explicit FakeRunner(CallLog& log);
   bool Succeeds = true;  ///< the result of Start
   RunRequest Last;
 
-  bool Start(const RunRequest& request, RunListener& listener) override {
-    log_->Add("run " + request.Source);
-    Last = request;
-    if (!Succeeds || listener_ != nullptr) return false;
-    listener_ = &listener;
-    return true;
-  }
-  void Stop() override { log_->Add("stop run"); }
+  bool Start(const RunRequest& request, RunListener& listener) override;
+  void Stop() override;
   [[nodiscard]] bool Running() const override { return listener_ != nullptr; }
 
   /// What the program does.
-  void Begin() { listener_->RunStarted(); }
-  void Print(std::string_view text) { listener_->RunOutput(text); }
-  void Tell(RunSeverity severity, int line, std::string text) {
-    listener_->RunMessaged({severity, Last.Source, line, 1, 1, std::move(text)});
-  }
-  void Tell(const RunMessage& message) { listener_->RunMessaged(message); }
-  void End(RunnerEnd how) { std::exchange(listener_, nullptr)->RunEnded(how); }
+  void Begin();
+  void Print(std::string_view text);
+  void Tell(RunSeverity severity, int line, std::string text);
+  void Tell(const RunMessage& message);
+  void End(RunnerEnd how);
 
  private:
   CallLog* log_;

@@ -21,18 +21,13 @@ namespace tarnwick {
 ///   files.FailAtStep(2);   // the second read, replace or remove from here on fails, once
 class MemoryFiles final : public FilePort {
  public:
-  explicit MemoryFiles(CallLog& log) : log_(&log) {}
+  explicit MemoryFiles(CallLog& log);
+  ~MemoryFiles() override;
 
   /// Lays a file down without a log entry.
-  void Put(const std::string& path, std::string bytes) {
-    files_[Lower(path)] = File{path, std::move(bytes)};
-  }
+  void Put(const std::string& path, std::string bytes);
   /// A file's bytes without a log entry; nothing when it is not there.
-  [[nodiscard]] std::optional<std::string> Bytes(const std::string& path) const {
-    const auto found = files_.find(Lower(path));
-    if (found == files_.end()) return std::nullopt;
-    return found->second.Bytes;
-  }
+  [[nodiscard]] std::optional<std::string> Bytes(const std::string& path) const;
   [[nodiscard]] std::size_t Count() const { return files_.size(); }
   /// The n-th read, replace or remove from now on fails; 0 takes the order back.
   void FailAtStep(int step) { fail_at_ = step; }
@@ -45,35 +40,12 @@ class MemoryFiles final : public FilePort {
     return read_only_ ? "Read-only file system" : "";
   }
   /// The names of the files in a folder, without a log entry.
-  [[nodiscard]] std::vector<std::string> NamesIn(const std::string& folder) const {
-    const std::string head = Lower(folder) + "\\";
-    std::vector<std::string> names;
-    for (const auto& [key, file] : files_) {
-      if (key.starts_with(head)) names.push_back(file.Path.substr(head.size()));
-    }
-    return names;
-  }
-  [[nodiscard]] bool Exists(const std::string& path) override {
-    return files_.count(Lower(path)) != 0;
-  }
-  [[nodiscard]] std::optional<std::string> Read(const std::string& path) override {
-    if (!Step("read " + path)) return std::nullopt;
-    return Bytes(path);
-  }
-  bool Replace(const std::string& path, std::string_view bytes) override {
-    if (!Step("replace " + path) || read_only_) return false;
-    File& file = files_[Lower(path)];
-    file.Path = path;
-    file.Bytes = bytes;
-    return true;
-  }
-  bool Remove(const std::string& path) override {
-    if (!Step("remove " + path) || read_only_) return false;
-    return files_.erase(Lower(path)) != 0;
-  }
-  [[nodiscard]] std::string ShortPathOf(const std::string& path) override {
-    return Exists(path) ? path.substr(0, 165) : std::string();
-  }
+  [[nodiscard]] std::vector<std::string> NamesIn(const std::string& folder) const;
+  [[nodiscard]] bool Exists(const std::string& path) override;
+  [[nodiscard]] std::optional<std::string> Read(const std::string& path) override;
+  bool Replace(const std::string& path, std::string_view bytes) override;
+  bool Remove(const std::string& path) override;
+  [[nodiscard]] std::string ShortPathOf(const std::string& path) override;
 
  private:
   struct File {
@@ -81,11 +53,7 @@ class MemoryFiles final : public FilePort {
     std::string Bytes;
   };
 
-  bool Step(std::string entry) {
-    if (quiet_) return true;
-    log_->Add(std::move(entry));
-    return fail_at_ == 0 || --fail_at_ != 0;
-  }
+  bool Step(std::string entry);
 
   CallLog* log_;
   std::map<std::string, File> files_;

@@ -13,41 +13,16 @@ namespace tarnwick::test {
 /// have the same members.
 class SmallCatalog : public basic::ClassCatalog {
  public:
-  [[nodiscard]] std::optional<basic::ClassId> FindClass(std::string_view name) const override {
-    for (std::size_t i = 0; i < kNames.size(); ++i) {
-      if (EqualsFolded(kNames[i], name)) return static_cast<basic::ClassId>(i);
-    }
-    return std::nullopt;
-  }
-  [[nodiscard]] std::string_view ClassName(basic::ClassId kind) const override {
-    return kNames[static_cast<std::size_t>(kind)];
-  }
+  [[nodiscard]] std::optional<basic::ClassId> FindClass(std::string_view name) const override;
+  [[nodiscard]] std::string_view ClassName(basic::ClassId kind) const override;
   [[nodiscard]] const basic::MemberFacts* FindMember(basic::ClassId /*kind*/,
-                                                     std::string_view name) const override {
-    for (const basic::MemberFacts& facts : members_) {
-      if (EqualsFolded(facts.Name, name)) return &facts;
-    }
-    return nullptr;
-  }
+                                                     std::string_view name) const override;
   [[nodiscard]] std::optional<basic::ClassId> FindBuiltInObject(
-      std::string_view name) const override {
-    if (EqualsFolded(name, kNames[3])) return static_cast<basic::ClassId>(3);
-    return std::nullopt;
-  }
-  [[nodiscard]] bool CopiesValues(basic::ClassId kind) const override {
-    return kind == static_cast<basic::ClassId>(1);
-  }
-  [[nodiscard]] bool IsParent(basic::ClassId kind) const override {
-    return kind == static_cast<basic::ClassId>(0);
-  }
-  [[nodiscard]] std::vector<std::string_view> ClassNames() const override {
-    return {kNames.begin(), kNames.end()};
-  }
-  [[nodiscard]] std::vector<std::string_view> MemberNames(basic::ClassId /*kind*/) const override {
-    std::vector<std::string_view> names;
-    for (const basic::MemberFacts& facts : members_) names.push_back(facts.Name);
-    return names;
-  }
+      std::string_view name) const override;
+  [[nodiscard]] bool CopiesValues(basic::ClassId kind) const override;
+  [[nodiscard]] bool IsParent(basic::ClassId kind) const override;
+  [[nodiscard]] std::vector<std::string_view> ClassNames() const override;
+  [[nodiscard]] std::vector<std::string_view> MemberNames(basic::ClassId /*kind*/) const override;
 
  private:
   static constexpr std::array<std::string_view, 4> kNames = {"QFORM", "QFONT", "QMENUITEM",
@@ -59,19 +34,7 @@ class SmallCatalog : public basic::ClassCatalog {
 
   using Kind = basic::MemberKind;
   using Level = basic::SupportLevel;
-  static basic::MemberFacts Property(int id, std::string_view name, basic::Type type) {
-    return {static_cast<basic::MemberId>(id),
-            name,
-            Kind::Property,
-            type,
-            {},
-            0,
-            false,
-            true,
-            true,
-            Level::Full,
-            {}};
-  }
+  static basic::MemberFacts Property(int id, std::string_view name, basic::Type type);
   std::array<basic::MemberFacts, 9> members_ = {{
       Property(0, "Caption", basic::kTextType),
       Property(1, "Width", basic::kWholeType),

@@ -17,40 +17,19 @@ namespace tarnwick {
 
 class TemporaryFolder {
  public:
-  TemporaryFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "tarnwick-XXXXXX").string();
-    if (::mkdtemp(name.data()) != nullptr) native_ = name;
-  }
-  ~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(native_, ignored);
-  }
+  TemporaryFolder();
+  ~TemporaryFolder();
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
   /// The folder, or a name in it, as a machine path.
-  [[nodiscard]] std::string Native(std::string_view name = {}) const {
-    return name.empty() ? native_ : native_ + "/" + std::string(name);
-  }
+  [[nodiscard]] std::string Native(std::string_view name = {}) const;
   /// The same as a Windows path, without a trailing backslash for the folder itself.
-  [[nodiscard]] std::string Path(std::string_view name = {}) const {
-    return PathFromNative(Native(name));
-  }
-  void Write(std::string_view name, std::string_view bytes) const {
-    std::ofstream(Native(name), std::ios::binary) << bytes;
-  }
-  [[nodiscard]] std::string Read(std::string_view name) const {
-    std::ifstream file(Native(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  }
+  [[nodiscard]] std::string Path(std::string_view name = {}) const;
+  void Write(std::string_view name, std::string_view bytes) const;
+  [[nodiscard]] std::string Read(std::string_view name) const;
   /// The names of all entries.
-  [[nodiscard]] std::vector<std::string> Names() const {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(native_)) {
-      names.push_back(entry.path().filename().string());
-    }
-    return names;
-  }
+  [[nodiscard]] std::vector<std::string> Names() const;
 
  private:
   std::string native_;

@@ -10,21 +10,15 @@ namespace tarnwick::test {
 /// Keeps in memory what is written to it.
 class TextStream {
  public:
-  TextStream() : file_(open_memstream(&bytes_, &size_)) {}
+  TextStream();
   TextStream(const TextStream&) = delete;
   TextStream& operator=(const TextStream&) = delete;
   TextStream(TextStream&&) = delete;
   TextStream& operator=(TextStream&&) = delete;
-  ~TextStream() {
-    std::fclose(file_);
-    std::free(bytes_);
-  }
+  ~TextStream();
 
   [[nodiscard]] std::FILE* File() const noexcept { return file_; }
-  [[nodiscard]] std::string Text() const {
-    std::fflush(file_);
-    return {bytes_, size_};
-  }
+  [[nodiscard]] std::string Text() const;
 
  private:
   char* bytes_ = nullptr;

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/fake_project.h"
-#include "support/random_project.h"
+#include "fakes/random_project.h"
 
 namespace tarnwick::menus {
 namespace {

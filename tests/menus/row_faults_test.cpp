@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/project_builder.h"
+#include "fakes/project_builder.h"
 
 namespace tarnwick::menus {
 namespace {

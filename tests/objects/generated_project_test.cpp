@@ -13,9 +13,9 @@
 #include "codegen/program_source.h"
 #include "fakes/build_paths.h"
 #include "fakes/object_program.h"
+#include "fakes/random_project.h"
 #include "model/menu_row.h"
 #include "objects/runnable_project.h"
-#include "support/random_project.h"
 #include "text/strings.h"
 
 namespace tarnwick::objects {

@@ -1,5 +1,5 @@
 // Texts with any characters in any field: no other record is touched by them.
-#include "support/any_text.h"
+#include "fakes/any_text.h"
 
 #include <random>
 #include <string>
@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "codegen/program_source.h"
-#include "support/random_project.h"
+#include "fakes/random_project.h"
 
 namespace tarnwick::test {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "codegen/program_source.h"
 #include "fakes/fake_project.h"
+#include "fakes/random_project.h"
 #include "persistence/project_index.h"
-#include "support/random_project.h"
 #include "text/path_text.h"
 #include "text/strings.h"
 

@@ -15,28 +15,14 @@ namespace tarnwick {
 
 class CodeWindowTest : public testing::Test {
  protected:
-  CodeWindow& Window() { return program.Find<CodeWindow>(QStringLiteral("FormCodigo")); }
-  CodeEdit& Editor() { return program.Find<CodeEdit>(QStringLiteral("Editor")); }
-  QToolButton& Tool(int index) {
-    auto* tool = Window().findChild<QToolButton*>(QStringLiteral("BtnMenu_%1").arg(index));
-    EXPECT_NE(tool, nullptr) << index;
-    return *tool;
-  }
-  QComboBox& Events() { return program.Find<QComboBox>(QStringLiteral("Events")); }
-  void OpenCodeOfNewButton() {
-    program.Place(0, {40, 60});
-    program.Key(Qt::Key_F7);
-    Program::Settle();
-    ASSERT_TRUE(Window().isVisible());
-  }
-  void TypeCode(const QString& text) { QTest::keyClicks(Editor().viewport(), text); }
-  void KeyInCode(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {
-    QTest::keyClick(&Editor(), key, held);
-  }
-  void ChooseEvent(int row) {
-    Events().setCurrentIndex(row);
-    Q_EMIT Events().activated(row);
-  }
+  CodeWindow& Window();
+  CodeEdit& Editor();
+  QToolButton& Tool(int index);
+  QComboBox& Events();
+  void OpenCodeOfNewButton();
+  void TypeCode(const QString& text);
+  void KeyInCode(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier);
+  void ChooseEvent(int row);
 
   Program program;
 };

@@ -1,5 +1,6 @@
 // The code window: opening, typing, keeping and leaving it by keys.
 #include <QApplication>
+#include <QClipboard>
 #include <QDialog>
 #include <QInputMethodEvent>
 #include <QKeyEvent>

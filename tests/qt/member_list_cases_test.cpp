@@ -6,8 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include "editor/editor_project.h"
 #include "editor/intellisense_cases.h"
+#include "fakes/editor_project.h"
 #include "qt/editor/code_edit.h"
 
 namespace tarnwick {

@@ -1,5 +1,6 @@
 // The property panel on the screen: selecting rows and working them by keys.
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QPlainTextEdit>
 

@@ -1,5 +1,6 @@
 // The property panel on the screen: what a row shows is what is stored.
 #include <QApplication>
+#include <QClipboard>
 #include <QImage>
 #include <QPlainTextEdit>
 

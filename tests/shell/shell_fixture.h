@@ -40,58 +40,26 @@ class ShellTest : public ::testing::Test {
   ShellWindows views{view, windows, windows, windows};
   FakeInstanceFolders instances{ports.Files};
   MDIForm1 main{ports.All(), instances, std::string(kProgram)};
-  ShellTest() { main.AddObserver(observer); }
+  ShellTest();
+  ~ShellTest() override;
 
   CallLog& log() { return ports.Log; }
   ProjectTables& tables() { return main.Tables(); }
-  FormUser& surface() { return *main.CurrentUser(); }
+  FormUser& surface();
 
   /// Start-up as the program does it; the log is empty afterwards.
-  void Start() {
-    view.OnCloseMainWindow = [this] { closed = main.Close(); };
-    main.Load(views);
-    main.Time_Timer();
-    log().Clear();
-  }
+  void Start();
   bool closed = false;
 
   /// Arms a tool and presses and releases on the form, both at the same place in pixels.
-  void Place(int tool, int x, int y) {
-    main.Commands().PressTool(tool);
-    surface().Gestures().Form_MouseDown(kLeftButton, 0, Twips(x), Twips(y));
-    surface().Gestures().MouseUp();
-  }
+  void Place(int tool, int x, int y);
   /// Saves the project and its forms under names of the folder, the log is empty afterwards.
-  void SaveUnder(const std::string& path, std::initializer_list<std::string> forms) {
-    ports.Dialogs.SaveAnswers.push_back(path);
-    for (const std::string& form : forms) ports.Dialogs.SaveAnswers.push_back(form);
-    main.Commands().Run(Command::Save);
-    log().Clear();
-  }
-  std::vector<std::string> Lines() {
-    std::vector<std::string> lines;
-    for (const FormList::Line& line : tables().ListaFrms.Lines()) lines.push_back(line.Text);
-    return lines;
-  }
+  void SaveUnder(const std::string& path, std::initializer_list<std::string> forms);
+  std::vector<std::string> Lines();
 
   /// The entries were made in this order; others may stand between them.
-  void ExpectOrder(std::initializer_list<std::string_view> entries) {
-    const std::vector<std::string>& all = log().Entries();
-    std::size_t at = 0;
-    for (const std::string_view entry : entries) {
-      while (at < all.size() && !std::string_view(all[at]).starts_with(entry)) ++at;
-      if (at == all.size()) {
-        ADD_FAILURE() << "no \"" << entry << "\" after what came before it in\n" << Text();
-        return;
-      }
-      ++at;
-    }
-  }
-  std::string Text() {
-    std::string text;
-    for (const std::string& entry : log().Entries()) text.append(entry).append("\n");
-    return text;
-  }
+  void ExpectOrder(std::initializer_list<std::string_view> entries);
+  std::string Text();
 };
 
 }  // namespace tarnwick

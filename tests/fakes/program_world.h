@@ -14,13 +14,8 @@ inline constexpr std::size_t kTableTextLimit = 1000;
 
 /// Three files in "C:\work", two lines of input, one key pressed.
 struct ProgramWorld {
-  ProgramWorld() {
-    Files.Add("a.txt", "alpha");
-    Files.Add("b.txt", "be");
-    Files.Add("c.ini", "");
-    Console.Input = "Ann\n12,5\n";
-    Console.Keys = "k";
-  }
+  ProgramWorld();
+  ~ProgramWorld();
   ProgramWorld(const ProgramWorld&) = delete;
   ProgramWorld& operator=(const ProgramWorld&) = delete;
 

@@ -1,26 +1,8 @@
-// Any text in any field of a project, and what saving and reading may change for it.
-#pragma once
-
-#include <cstddef>
-#include <string>
-#include <string_view>
-#include <vector>
-
-#include "fakes/fake_project.h"
-#include "model/project_records.h"
-#include "text/strings.h"
+#include "fakes/any_text.h"
 
 namespace tarnwick::test {
 
-/// A text of a form that a user can type.
-struct TextField {
-  std::string* Text;
-  std::string Line;  ///< start of the record line that carries it
-};
-
-/// All texts of form 1: those of the form, of its objects and of their records. Code is not among
-/// them: the key of a code is the object's, and its text may hold anything.
-inline std::vector<TextField> TextFieldsOf(FakeProject& project) {
+std::vector<TextField> TextFieldsOf(FakeProject& project) {
   std::vector<TextField> fields;
   FormRec& record = project.Form();
   DesignForm& window = project.User();
@@ -51,8 +33,7 @@ inline std::vector<TextField> TextFieldsOf(FakeProject& project) {
   return fields;
 }
 
-/// The lines of a form file that are not empty.
-inline std::vector<std::string> RecordLines(std::string_view text) {
+std::vector<std::string> RecordLines(std::string_view text) {
   std::vector<std::string> lines;
   for (const std::string_view line : Split(text, kLineEnd)) {
     if (!line.empty()) lines.emplace_back(line);
@@ -60,11 +41,8 @@ inline std::vector<std::string> RecordLines(std::string_view text) {
   return lines;
 }
 
-/// The first record of `before` that is missing from `after`, apart from at most one that the text
-/// was set in; "" when every other record is still there, to the byte and in its order. A record
-/// that was torn by a line break may have become several lines.
-inline std::string LostRecord(const std::string& before, const std::string& after,
-                              std::string_view changed) {
+std::string LostRecord(const std::string& before, const std::string& after,
+                       std::string_view changed) {
   const std::vector<std::string> old_lines = RecordLines(before);
   const std::vector<std::string> lines = RecordLines(after);
   std::size_t same = 0;
