@@ -9,8 +9,8 @@
 
 #include "codegen/program_source.h"
 #include "codegen/show_rewriter.h"
-#include "growth.h"
 #include "fakes/project_builder.h"
+#include "growth.h"
 #include "working_set.h"
 
 namespace tarnwick {

@@ -6,8 +6,8 @@
 #include <benchmark/benchmark.h>
 
 #include "fakes/fake_project.h"
-#include "growth.h"
 #include "fakes/random_project.h"
+#include "growth.h"
 #include "working_set.h"
 
 namespace tarnwick {
