@@ -280,7 +280,7 @@ void SaveFile(Drawing& on) {
   if (file == nullptr) return;
   QBuffer bytes;
   bytes.open(QIODevice::WriteOnly);
-  on.Surface->convertToFormat(QImage::Format_RGB32).save(&bytes, "BMP");
+  on.Surfaces.ToSave(on.Object).save(&bytes, "BMP");
   file->Write(
       std::string_view(bytes.data().constData(), static_cast<std::size_t>(bytes.data().size())));
 }

@@ -31,6 +31,17 @@ QSize SizeOf(const ObjectRecord& object) {
   return {side(Word::Width), side(Word::Height)};
 }
 
+/// A bitmap of black and white: colours drawn on it are read as the nearer of the two.
+bool IsMonochrome(const ObjectRecord& object) {
+  constexpr std::int64_t kOneBit = 1;
+  return object.Truth(Word::Monochrome) || object.Number(Word::PixelFormat) == kOneBit;
+}
+
+QImage Reduced(const ObjectRecord& object, const QImage& picture) {
+  if (!IsMonochrome(object)) return picture;
+  return picture.convertToFormat(QImage::Format_Mono, Qt::MonoOnly | Qt::ThresholdDither);
+}
+
 }  // namespace
 
 void DrawingSurfaces::PropertyChanged(const ObjectRecord& object, Word property) {
@@ -53,6 +64,11 @@ void DrawingSurfaces::Prepare(ObjectId object, const QSize& size) {
       SizeOf(*record).expandedTo(size).boundedTo(QSize(kLargestSide, kLargestSide));
   surfaces_[object] = QImage(fitted, QImage::Format_ARGB32_Premultiplied);
   surfaces_[object].fill(Qt::transparent);
+}
+
+QImage DrawingSurfaces::ToSave(const ObjectRecord& object) {
+  const QImage kept = Reduced(object, At(object));
+  return IsMonochrome(object) ? kept : kept.convertToFormat(QImage::Format_RGB32);
 }
 
 const QPixmap& DrawingSurfaces::PictureOf(const ObjectRecord& object) const {
@@ -79,7 +95,7 @@ QPixmap DrawingSurfaces::PictureOf(const Value& value) {
 
 QPixmap DrawingSurfaces::Shown(const ObjectRecord& object) {
   const auto found = surfaces_.find(object.Id);
-  if (found != surfaces_.end()) return QPixmap::fromImage(found->second);
+  if (found != surfaces_.end()) return QPixmap::fromImage(Reduced(object, found->second));
   const ObjectRecord* const other = stage_.World().Find(object.Object(Word::Bmp));
   if (other != nullptr && other != &object) return Shown(*other);
   return PictureOf(object);
@@ -138,7 +154,7 @@ bool DrawingSurfaces::Live(const ObjectRecord& object, Word property, std::span<
     out = Value::Integer(-1);
     return true;
   }
-  QColor color = surface.pixelColor(at);
+  QColor color = Reduced(object, surface.copy(QRect(at, QSize(1, 1)))).pixelColor(0, 0);
   // Where nothing was drawn the ground is to be seen.
   if (color.alpha() == 0) {
     color = looks::ColorOf(static_cast<std::int32_t>(object.Number(Word::Color)));

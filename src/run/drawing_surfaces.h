@@ -42,6 +42,8 @@ class DrawingSurfaces {
   [[nodiscard]] QPixmap Shown(const ObjectRecord& object);
   /// The picture that was assigned to an object by file or resource; null when it has none.
   [[nodiscard]] const QPixmap& PictureOf(const ObjectRecord& object) const;
+  /// The picture of an object as its file has it.
+  [[nodiscard]] QImage ToSave(const ObjectRecord& object);
   /// Paints what was drawn on an object; nothing when that is nothing.
   void Paint(QPainter& painter, ObjectId object, const QPoint& at) const;
   /// The surface of an object, made when it has none yet; at least as large as the object.

@@ -52,6 +52,23 @@ TEST(RunSmallLooksTest, PicturesAreCopiedByTheirMode) {
   EXPECT_EQ(live.Printed, wanted);
 }
 
+TEST(RunSmallLooksTest, AMonochromeBitmapIsReadAndKeptInBlackAndWhite) {
+  LiveProgram live(
+      "DIM S AS QBITMAP: S.Width = 8: S.Height = 8: S.Monochrome = 1\n"
+      "S.FillRect(0, 0, 8, 8, &HFFFF): S.FillRect(0, 0, 4, 8, &H400000)\n"
+      "DIM D AS QBITMAP: D.Width = 8: D.Height = 8: D.Draw(0, 0, S)\n"
+      "PRINT HEX$(D.Pixel(1, 1)); \" \"; HEX$(D.Pixel(6, 1)); \" \"; HEX$(S.Pixel(6, 1))\n"
+      "S.SaveToFile Application.Path + \"s.bmp\": D.SaveToFile Application.Path + \"d.bmp\"");
+  live.Run();
+  EXPECT_EQ(live.Printed, "0 FFFFFF FFFFFF\n");
+  const auto kept = [&](const char* name) {
+    return QImage::fromData(QByteArray::fromStdString(live.Folder.Read(name)));
+  };
+  EXPECT_EQ(kept("s.bmp").depth(), 1);
+  EXPECT_EQ(kept("s.bmp").pixelColor(6, 1), QColor(Qt::white));
+  EXPECT_EQ(kept("d.bmp").depth(), 32);
+}
+
 TEST(RunSmallLooksTest, HintsKeepToTheTimesOfTheProgram) {
   LiveProgram live(
       FormWith("DIM B AS QBUTTON: B.Parent = F: B.Hint = \"a tip\": B.ShowHint = 1\n"
