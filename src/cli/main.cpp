@@ -1,14 +1,18 @@
 // tarnwick-cli: the project's logic with no display.
 #include <cstdio>
 #include <cstdlib>
+#include <memory_resource>
 #include <string>
 #include <vector>
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
+#include "platform/large_pages.h"
 
 int main(int argc, char** argv) {
   using namespace tarnwick;
+  LargePages pages;
+  std::pmr::set_default_resource(&pages);
   const ParsedArguments parsed =
       ParseArguments(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
   if (const auto* const print = std::get_if<PrintAndLeave>(&parsed)) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <memory_resource>
 #include <new>
 #include <span>
 #include <string_view>
@@ -16,19 +17,22 @@ namespace tarnwick::basic {
 /// Owns the nodes, lists and texts of a tree. Pointers and views stay valid for the arena's life,
 /// also when the arena is moved. Only types without a destructor may be made in it.
 ///
-/// The memory is taken in blocks of at most 64 kB, which the next arena gets when they are freed.
+/// The memory is taken from the program's default resource in blocks of at most 64 kB, which the
+/// next arena gets when they are freed.
 class Arena {
  public:
   Arena() = default;
   Arena(Arena&& other) noexcept { *this = std::move(other); }
   Arena& operator=(Arena&& other) noexcept {
+    Free();
+    source_ = other.source_;
     blocks_ = std::exchange(other.blocks_, {});
     next_ = std::exchange(other.next_, nullptr);
     room_ = std::exchange(other.room_, 0);
     bytes_ = std::exchange(other.bytes_, 0);
     return *this;
   }
-  ~Arena() = default;
+  ~Arena() { Free(); }
 
   /// Makes one node.
   template <class T, class... Args>
@@ -74,12 +78,20 @@ class Arena {
     constexpr std::size_t kFirst = 4096;
     constexpr std::size_t kMost = 65536;
     room_ = std::max(bytes, std::clamp(bytes_, kFirst, kMost));
-    blocks_.push_back(std::make_unique_for_overwrite<std::byte[]>(room_));
-    next_ = blocks_.back().get();
+    next_ = source_->allocate(room_);
+    blocks_.push_back({next_, room_});
     bytes_ += room_;
   }
+  void Free() noexcept {
+    for (const Block& block : blocks_) source_->deallocate(block.Begin, block.Bytes);
+  }
 
-  std::vector<std::unique_ptr<std::byte[]>> blocks_;
+  struct Block {
+    void* Begin;
+    std::size_t Bytes;
+  };
+  std::pmr::memory_resource* source_ = std::pmr::get_default_resource();
+  std::vector<Block> blocks_;
   void* next_ = nullptr;
   std::size_t room_ = 0;  ///< bytes behind `next_`
   std::size_t bytes_ = 0;
