@@ -192,6 +192,24 @@ TEST(RunListLooksTest, CaptionsAreChangedByTheUserWhereTheListLetsHim) {
   }
 }
 
+TEST(RunListLooksTest, TheKeysThatEndACaptionAreNotThoseOfTheForm) {
+  LiveProgram live(FormWith(std::string(kReport) +
+                                "V.ItemIndex = 0\nDIM D AS QBUTTON: D.Parent = F: D.Top = 170\n"
+                                "D.Default = 1: D.Cancel = 1",
+                            "SUB Pressed\nPRINT \"pressed\"\nEND SUB\nD.OnClick = Pressed"));
+  live.Then([&] { Rename(live.The<QTreeWidget>("V"), "new"); });
+  live.Then([&] {
+    EXPECT_EQ(live.The<QTreeWidget>("V").topLevelItem(0)->text(0), QStringLiteral("new"));
+    auto& field = live.The<QTreeWidget>("V");
+    QTest::keyClick(&field, Qt::Key_F2);
+    QTest::keyClick(field.findChild<QLineEdit*>(), Qt::Key_Escape);
+    EXPECT_EQ(live.Printed, "");
+    QTest::keyClick(&field, Qt::Key_Return);
+  });
+  live.Run();
+  EXPECT_EQ(live.Printed, "pressed\n") << "the list itself leaves it to the form";
+}
+
 TEST(RunListLooksTest, ATreeHasLinesAndOpenersOfItsOwn) {
   LiveProgram live(FormWith(
       "DIM T AS QTREEVIEW: T.Parent = F: T.AddItems \"a\", \"b\": T.AddChildItems 0, \"c\"",

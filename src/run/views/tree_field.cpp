@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -130,6 +131,13 @@ void TreeField::PaintGrid() {
     const int right = columnViewportPosition(column) + columnWidth(column) - 1;
     painter.drawLine(right, 0, right, viewport()->height());
   }
+}
+
+void TreeField::keyPressEvent(QKeyEvent* event) {
+  // The Return that ends a caption presses no button of the form.
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && state() == EditingState) return event->accept();
+  QTreeWidget::keyPressEvent(event);
 }
 
 void TreeField::mouseMoveEvent(QMouseEvent* event) {
