@@ -2,7 +2,8 @@
 
 namespace tarnwick::test {
 
-RandomProject::RandomProject(std::uint32_t seed) : random_(seed) {}
+RandomProject::RandomProject(std::uint32_t seed) : RandomParts(seed) {}
+RandomProject::~RandomProject() = default;
 
 void RandomProject::Fill(ProjectBuilder& project, const RandomProjectShape& shape) {
   shape_ = shape;
@@ -10,20 +11,12 @@ void RandomProject::Fill(ProjectBuilder& project, const RandomProjectShape& shap
   project.Tables.MainFormName = project.Tables.ListaFrms.Lines().front().Text;
 }
 
-int RandomProject::Below(int limit) {
-  return static_cast<int>(random_() % static_cast<std::uint32_t>(limit));
-}
-
 std::int16_t RandomProject::Short() {
   return static_cast<std::int16_t>(Below(65536) - 32768);
 }
 
 std::int32_t RandomProject::Color() {
-  return static_cast<std::int32_t>(static_cast<std::uint32_t>(random_()));
-}
-
-bool RandomProject::Chance(int percent) {
-  return Below(100) < percent;
+  return static_cast<std::int32_t>(Any());
 }
 
 std::string RandomProject::Text(int longest) {
@@ -31,12 +24,7 @@ std::string RandomProject::Text(int longest) {
       "abcdefghijklmnopqrstuvwxyzABCXYZ0123456789 ,,.;:'\"\\/&%$#=+-_\xE9\xFC\xA7\x9F\t";
   static constexpr std::string_view kAny =
       "ab, <>()[]{}\x8D\x8C\x8E\x8F\x95\r\n#*top<>left<string>\"'\\";
-  const std::string_view letters = !shape_.Holdable && Chance(30) ? kAny : kPlain;
-  std::string text;
-  for (int n = Below(longest + 1); n > 0; --n) {
-    text += letters[static_cast<std::size_t>(Below(static_cast<int>(letters.size())))];
-  }
-  return text;
+  return TextOf(!shape_.Holdable && Chance(30) ? kAny : kPlain, longest);
 }
 
 std::string RandomProject::Code() {
@@ -46,10 +34,6 @@ std::string RandomProject::Code() {
     if (lines > 1) code += "\r\n";
   }
   return code;
-}
-
-std::string RandomProject::Name(std::string_view start) {
-  return std::string(start) + std::to_string(++names_);
 }
 
 std::string RandomProject::Rows() {
@@ -170,20 +154,6 @@ void RandomProject::FillRecord(ObjectRec& record) {
   record.ImageFile = Chance(50) ? "(None)" : Text(6) + ".bmp";
   record.Items = Rows();
   record.FontColor = Color();
-}
-
-void RandomProject::FillPopUp(ProjectBuilder& project, const BuiltForm& form, int number) {
-  project.Tables.PopUpMenus.Ensure(number)->Items.assign(1, {});
-  for (int n = Below(4); n > 0; --n) {
-    const std::string top = Name("pop");
-    project.PopUpItem(number, top, "x" + Text(8));
-    if (Chance(50)) form.ItemCode(top, Code());
-    for (int sub = Below(3); sub > 0; --sub) {
-      const std::string entry = Name("sub");
-      project.PopUpEntry(number, entry, "y" + Text(8));
-      if (Chance(50)) form.ItemCode(entry, Code());
-    }
-  }
 }
 
 void RandomProject::AddMenu(const BuiltForm& form) {

@@ -2,11 +2,10 @@
 #pragma once
 
 #include <cstdint>
-#include <random>
 #include <string>
-#include <string_view>
 
 #include "fakes/project_builder.h"
+#include "fakes/random_parts.h"
 #include "model/menu_bar.h"
 
 namespace tarnwick::test {
@@ -14,7 +13,7 @@ namespace tarnwick::test {
 struct RandomProjectShape {
   int Forms = 3;
   int ObjectsPerForm = 20;
-  /// Leaves out what a form file cannot give back: see Random().
+  /// Leaves out what a form file cannot give back: see RandomProject.
   bool Holdable = true;
 };
 
@@ -25,40 +24,27 @@ struct RandomProjectShape {
 ///
 /// A project that a file can hold has values without brackets and separators, objects that keep
 /// their numbers, sockets behind a numbered object of their own number, and menus that came last.
-class RandomProject {
+class RandomProject final : private RandomParts {
  public:
   explicit RandomProject(std::uint32_t seed);
+  ~RandomProject() override;
 
   void Fill(ProjectBuilder& project, const RandomProjectShape& shape);
 
  private:
-  [[nodiscard]] int Below(int limit);
-  [[nodiscard]] std::int16_t Short();
-  [[nodiscard]] std::int32_t Color();
-  [[nodiscard]] bool Chance(int percent);
-
-  [[nodiscard]] std::string Text(int longest);
-  [[nodiscard]] std::string Code();
-  [[nodiscard]] std::string Name(std::string_view start);
-  [[nodiscard]] std::string Rows();
-
+  std::string Text(int longest) override;
+  std::string Code() override;
+  std::int16_t Short();
+  std::int32_t Color();
+  std::string Rows();
   void AddForm(ProjectBuilder& project);
-
   void FillForm(const BuiltForm& form);
-
   void AddObject(ProjectBuilder& project, const BuiltForm& form, Kind kind);
-
   void FillControl(DesignControl& control);
-
   void FillRecord(ObjectRec& record);
-
-  void FillPopUp(ProjectBuilder& project, const BuiltForm& form, int number);
-
   void AddMenu(const BuiltForm& form);
 
-  std::mt19937 random_;
   RandomProjectShape shape_;
-  int names_ = 0;
   int times_ = 0;
 };
 

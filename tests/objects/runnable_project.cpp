@@ -2,16 +2,13 @@
 
 namespace tarnwick::test {
 
-RunnableProject::RunnableProject(std::uint32_t seed) : random_(seed) {}
+RunnableProject::RunnableProject(std::uint32_t seed) : RandomParts(seed) {}
+RunnableProject::~RunnableProject() = default;
 
 void RunnableProject::Fill(ProjectBuilder& project) {
   const int forms = 1 + Below(3);
   for (int n = 0; n < forms; ++n) AddForm(project, n == 0);
   project.Tables.CurrentForm = project.Tables.User(1);
-}
-
-int RunnableProject::Below(int limit) {
-  return static_cast<int>(random_() % static_cast<std::uint32_t>(limit));
 }
 
 std::int16_t RunnableProject::Small(int limit) {
@@ -22,22 +19,10 @@ std::int32_t RunnableProject::Color() {
   return static_cast<std::int32_t>(Below(0x1000000));
 }
 
-bool RunnableProject::Chance(int percent) {
-  return Below(100) < percent;
-}
-
-std::string RunnableProject::Name(std::string_view start) {
-  return std::string(start) + std::to_string(++names_);
-}
-
 std::string RunnableProject::Text(int longest) {
   static constexpr std::string_view kLetters =
       "abcdefghijklmnopqrstuvwxyzABCXYZ0123456789 ,.;:'\\/&%$#=+-_()<>\xE9\xFC\xA7";
-  std::string text;
-  for (int n = Below(longest + 1); n > 0; --n) {
-    text += kLetters[static_cast<std::size_t>(Below(static_cast<int>(kLetters.size())))];
-  }
-  return text;
+  return TextOf(kLetters, longest);
 }
 
 std::string RunnableProject::Code() {
@@ -140,20 +125,6 @@ std::string RunnableProject::Rows() {
   std::string rows;
   for (int n = Below(5); n > 0; --n) rows += "r" + Text(8) + '\x95';
   return rows;
-}
-
-void RunnableProject::FillPopUp(ProjectBuilder& project, const BuiltForm& form, int number) {
-  project.Tables.PopUpMenus.Ensure(number)->Items.assign(1, {});
-  for (int n = Below(4); n > 0; --n) {
-    const std::string top = Name("pop");
-    project.PopUpItem(number, top, "x" + Text(8));
-    if (Chance(50)) form.ItemCode(top, Code());
-    for (int sub = Below(3); sub > 0; --sub) {
-      const std::string entry = Name("sub");
-      project.PopUpEntry(number, entry, "y" + Text(8));
-      if (Chance(50)) form.ItemCode(entry, Code());
-    }
-  }
 }
 
 void RunnableProject::AddMenu(ProjectBuilder& project, const BuiltForm& form) {
