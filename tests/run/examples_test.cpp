@@ -21,6 +21,7 @@
 
 #include "fakes/build_paths.h"
 #include "run/live_program.h"
+#include "run/points.h"
 #include "run/views/run_form.h"
 
 namespace tarnwick {
@@ -295,15 +296,9 @@ TEST(RunExamplesTest, TheClockDrawsItsHandsInTheColourOfItsMenu) {
   LiveProgram live("", source.Path);
   live.ExeName = live.Folder.Path("clock.exe");
   const auto reds = [&] {
-    const QImage face = live.Widget("ClockFace")->grab().toImage();
-    int count = 0;
-    for (int y = 0; y < face.height(); ++y) {
-      for (int x = 0; x < face.width(); ++x) {
-        const QColor at = face.pixelColor(x, y);
-        if (at.red() > 200 && at.green() < 60 && at.blue() < 60) ++count;
-      }
-    }
-    return count;
+    return test::PointsWhere(*live.Widget("ClockFace"), [](const QColor& at) {
+      return at.red() > 200 && at.green() < 60 && at.blue() < 60;
+    });
   };
   int before = 0;
   live.Then([&] {

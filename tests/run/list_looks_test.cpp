@@ -11,21 +11,14 @@
 #include <gtest/gtest.h>
 
 #include "run/live_program.h"
+#include "run/points.h"
 
 namespace tarnwick {
 namespace {
 
 using test::FormWith;
 using test::LiveProgram;
-
-int CountOf(QWidget& widget, const QColor& color) {
-  const QImage image = widget.grab().toImage();
-  int count = 0;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) count += image.pixelColor(x, y) == color ? 1 : 0;
-  }
-  return count;
-}
+using test::PointsOf;
 
 const QColor kMarked(0, 0, 0x80);
 const QColor kLine(0xC0, 0xC0, 0xC0);
@@ -86,12 +79,12 @@ TEST(RunListLooksTest, ASelectionIsSeenWhileItsBoxHasTheFocus) {
       live.Then([&] {
         QWidget& box = *live.Widget("E");
         box.setFocus();
-        EXPECT_GT(CountOf(box, kMarked), 50) << kind;
+        EXPECT_GT(PointsOf(box, kMarked), 50) << kind;
         QTest::keyClick(&box, Qt::Key_Tab);
         ASSERT_EQ(QApplication::focusWidget(), live.Widget("O"));
-        EXPECT_EQ(CountOf(box, kMarked) > 50, !hides) << kind;
+        EXPECT_EQ(PointsOf(box, kMarked) > 50, !hides) << kind;
         box.setFocus();
-        EXPECT_GT(CountOf(box, kMarked), 50) << kind;
+        EXPECT_GT(PointsOf(box, kMarked), 50) << kind;
         EXPECT_EQ(live.Get("E", "SelLength"), "5");
       });
       live.Run();
@@ -220,14 +213,14 @@ TEST(RunListLooksTest, ATreeHasLinesAndOpenersOfItsOwn) {
   live.Then([&] {
     auto& tree = live.The<QTreeWidget>("T");
     const QRect row = tree.visualItemRect(tree.topLevelItem(0));
-    const int closed = CountOf(*tree.viewport(), grey);
+    const int closed = PointsOf(*tree.viewport(), grey);
     QTest::mouseClick(tree.viewport(), Qt::LeftButton, {},
                       QPoint(row.left() - 9, row.center().y()));
     EXPECT_TRUE(tree.topLevelItem(0)->isExpanded());
-    const int open = CountOf(*tree.viewport(), grey);
+    const int open = PointsOf(*tree.viewport(), grey);
     EXPECT_GT(open, closed) << "the line goes on to the node below";
     live.World->Click(live.Object("Go").Id);
-    EXPECT_LT(CountOf(*tree.viewport(), grey), open) << "without the box";
+    EXPECT_LT(PointsOf(*tree.viewport(), grey), open) << "without the box";
   });
   live.Run();
   EXPECT_EQ(live.Printed, "0\n");
@@ -246,8 +239,8 @@ TEST(RunListLooksTest, EntriesOfADropDownListAreDrawnByTheProgram) {
   live.Then([] {});
   live.Then([&] {
     auto& combo = live.The<QComboBox>("C");
-    EXPECT_GT(CountOf(combo, Qt::red), 500) << "the box has the picked entry";
-    EXPECT_EQ(CountOf(combo, Qt::blue), 0);
+    EXPECT_GT(PointsOf(combo, Qt::red), 500) << "the box has the picked entry";
+    EXPECT_EQ(PointsOf(combo, Qt::blue), 0);
     QTest::mouseClick(&combo, Qt::LeftButton, {}, QPoint(combo.width() - 8, 10));
   });
   live.Then([] {});
@@ -255,9 +248,9 @@ TEST(RunListLooksTest, EntriesOfADropDownListAreDrawnByTheProgram) {
     ASSERT_TRUE(list()->isVisible());
     QWidget& rows = *list()->viewport();
     EXPECT_GE(rows.height(), 60);
-    EXPECT_GT(CountOf(rows, Qt::green), 1000);
-    EXPECT_GT(CountOf(rows, Qt::blue), 1000);
-    EXPECT_GT(CountOf(live.The<QWidget>("C"), Qt::red), 500) << "the box stays";
+    EXPECT_GT(PointsOf(rows, Qt::green), 1000);
+    EXPECT_GT(PointsOf(rows, Qt::blue), 1000);
+    EXPECT_GT(PointsOf(live.The<QWidget>("C"), Qt::red), 500) << "the box stays";
     const QPoint third = list()->visualRect(list()->model()->index(2, 0)).center();
     QTest::mouseMove(&rows, third);
     QTest::mouseClick(&rows, Qt::LeftButton, {}, third);
@@ -266,8 +259,8 @@ TEST(RunListLooksTest, EntriesOfADropDownListAreDrawnByTheProgram) {
   live.Then([&] {
     EXPECT_FALSE(list()->isVisible());
     EXPECT_EQ(live.Get("C", "ItemIndex"), "2");
-    EXPECT_GT(CountOf(live.The<QWidget>("C"), Qt::blue), 500);
-    EXPECT_EQ(CountOf(live.The<QWidget>("C"), Qt::red), 0);
+    EXPECT_GT(PointsOf(live.The<QWidget>("C"), Qt::blue), 500);
+    EXPECT_EQ(PointsOf(live.The<QWidget>("C"), Qt::red), 0);
   });
   live.Run();
 }

@@ -15,6 +15,7 @@
 
 #include "run/classic_palette.h"
 #include "run/live_program.h"
+#include "run/points.h"
 #include "run/views/input_mask.h"
 
 namespace tarnwick {
@@ -22,6 +23,7 @@ namespace {
 
 using test::FormWith;
 using test::LiveProgram;
+using test::PointsOf;
 
 TEST(RunSmallLooksTest, PicturesAreCopiedByTheirMode) {
   // A yellow ground, a picture of magenta; the letters of the language for the modes.
@@ -97,15 +99,6 @@ TEST(RunSmallLooksTest, HintsKeepToTheTimesOfTheProgram) {
   run::ProgramHints() = {};
 }
 
-int CountOf(QWidget& widget, const QColor& color) {
-  const QImage image = widget.grab().toImage();
-  int count = 0;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) count += image.pixelColor(x, y) == color ? 1 : 0;
-  }
-  return count;
-}
-
 TEST(RunSmallLooksTest, ATrackBarMarksItsRange) {
   const QColor marked(0, 0, 0x80);
   for (const int orientation : {0, 1}) {
@@ -114,10 +107,10 @@ TEST(RunSmallLooksTest, ATrackBarMarksItsRange) {
                                   ": T.SelStart = 2: T.SelEnd = 7\nDIM Go AS QBUTTON",
                               "SUB Change\nT.SelEnd = 9\nEND SUB\nGo.OnClick = Change"));
     live.Then([&] {
-      const int before = CountOf(*live.Widget("T"), marked);
+      const int before = PointsOf(*live.Widget("T"), marked);
       EXPECT_GT(before, 100) << orientation;
       live.World->Click(live.Object("Go").Id);
-      EXPECT_GT(CountOf(*live.Widget("T"), marked), before);
+      EXPECT_GT(PointsOf(*live.Widget("T"), marked), before);
     });
     live.Run();
   }
@@ -141,15 +134,7 @@ TEST(RunSmallLooksTest, TheThumbOfAScrollBarStandsForAPage) {
 /// Points of a widget that are rather blue.
 int BluePoints(QWidget& widget) {
   constexpr int kMuch = 60;
-  const QImage image = widget.grab().toImage();
-  int count = 0;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      const QColor at = image.pixelColor(x, y);
-      count += at.blue() > at.red() + kMuch ? 1 : 0;
-    }
-  }
-  return count;
+  return test::PointsWhere(widget, [](const QColor& at) { return at.blue() > at.red() + kMuch; });
 }
 
 TEST(RunSmallLooksTest, TheTabUnderThePointerIsMarked) {

@@ -9,6 +9,7 @@
 
 #include "fakes/build_paths.h"
 #include "run/live_program.h"
+#include "run/points.h"
 
 namespace tarnwick {
 namespace {
@@ -134,17 +135,9 @@ TEST(WholeProgramsTest, TheGameFollowsItsKeysAndClock) {
   live.Then([&] {
     QTest::keyRelease(live.Widget("F"), Qt::Key_Right);
     EXPECT_GT(row(kBatRow, Qt::white), before);
-    const QImage image = live.Widget("C")->grab().toImage();
-    int yellow = 0;
-    int black = 0;
-    for (int y = 0; y < image.height(); ++y) {
-      for (int x = 0; x < image.width(); ++x) {
-        yellow += image.pixelColor(x, y) == QColor(Qt::yellow) ? 1 : 0;
-        black += image.pixelColor(x, y) == QColor(Qt::black) ? 1 : 0;
-      }
-    }
-    EXPECT_GT(yellow, 100);
-    EXPECT_EQ(black, 0) << "the mask leaves the ground around the ball";
+    QWidget& canvas = *live.Widget("C");
+    EXPECT_GT(test::PointsOf(canvas, Qt::yellow), 100);
+    EXPECT_EQ(test::PointsOf(canvas, Qt::black), 0) << "the mask leaves the ground around the ball";
   });
   live.Run();
   EXPECT_EQ(live.Result.Text, "");

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/text_stream.h"
+#include "run/points.h"
 
 namespace tarnwick::run {
 namespace {
@@ -97,13 +98,7 @@ TEST_F(WindowConsoleTest, PlacesAndColoursArePainted) {
   console.Write(0, "\xDB");
   QWidget* const window = ConsoleWindow();
   ASSERT_NE(window, nullptr);
-  const QImage picture = window->grab().toImage();
-  const QColor back(0x80, 0x00, 0x00);
-  int of_back = 0;
-  for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) of_back += picture.pixelColor(x, y) == back ? 1 : 0;
-  }
-  EXPECT_GT(of_back, 10);
+  EXPECT_GT(test::PointsOf(*window, QColor(0x80, 0x00, 0x00)), 10);
   EXPECT_EQ(console.Peek(2 * 82), 0xDB);
   console.Clear();
   EXPECT_EQ(console.CharacterAt(2, 3), ' ');
