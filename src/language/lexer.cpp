@@ -45,23 +45,22 @@ class LineLexer {
         continue;
       }
       const std::size_t begin = at_;
-      if (IsNameStart(c) && c != '_') {
+      const bool continued = c == '_' && EndsLine(at_ + 1);
+      if (IsNameStart(c) && !continued) {
         LexName();
+      } else if (continued) {
+        ++at_;
+        Add(TokenKind::Continuation, begin);
+        state_.Continued = true;
       } else if (c == '\'') {
         at_ = line_.size();
         Add(TokenKind::Comment, begin);
       } else if (c == '"') {
         LexText(false);
-      } else if (c == '_' && EndsLine(at_ + 1)) {
-        ++at_;
-        Add(TokenKind::Continuation, begin);
-        state_.Continued = true;
       } else if (c == '$' && begins_statement_ && tokens_.empty() && StartsName(at_ + 1)) {
         ++at_;
         SkipName();
         Add(TokenKind::Directive, begin);
-      } else if (IsNameStart(c)) {
-        LexName();
       } else if (StartsNumber()) {
         LexNumber();
       } else {
