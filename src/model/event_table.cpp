@@ -59,8 +59,8 @@ void AppendObjectKey(std::string& out, int form, Kind kind, int number) {
 }
 
 EventCodeTable::EventCodeTable() = default;
-EventCodeTable::EventCodeTable(EventCodeTable&&) noexcept = default;
-EventCodeTable& EventCodeTable::operator=(EventCodeTable&&) noexcept = default;
+EventCodeTable::EventCodeTable(EventCodeTable&& other) noexcept = default;
+EventCodeTable& EventCodeTable::operator=(EventCodeTable&& other) noexcept = default;
 EventCodeTable::~EventCodeTable() = default;
 
 const std::string* EventCodeTable::Owner::FindSlot(std::size_t slot) const noexcept {

@@ -95,8 +95,8 @@ class EventCodeTable {
   EventCodeTable();
   EventCodeTable(const EventCodeTable&) = delete;
   EventCodeTable& operator=(const EventCodeTable&) = delete;
-  EventCodeTable(EventCodeTable&&) noexcept;
-  EventCodeTable& operator=(EventCodeTable&&) noexcept;
+  EventCodeTable(EventCodeTable&& other) noexcept;
+  EventCodeTable& operator=(EventCodeTable&& other) noexcept;
   ~EventCodeTable();
 
   /// The entry of a key; null when there is none.
