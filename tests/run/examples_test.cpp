@@ -16,6 +16,7 @@
 #include <QTest>
 #include <QTextEdit>
 #include <filesystem>
+#include <regex>
 
 #include <gtest/gtest.h>
 
@@ -216,8 +217,10 @@ TEST(RunExamplesTest, TheClockShowsTheTimeAndKeepsItsSettings) {
   LiveProgram live("", source.Path);
   live.ExeName = live.Folder.Path("clock.exe");
   live.Then([&] {
-    EXPECT_EQ(live.Get("TimeLabel", "Caption").size(), 8U);
-    EXPECT_NE(live.Get("TimeLabel", "Caption"), "00:00:00");
+    // Before ten o'clock the hour has one digit.
+    const std::string time = live.Get("TimeLabel", "Caption");
+    EXPECT_TRUE(std::regex_match(time, std::regex("[0-9]{1,2}:[0-9]{2}:[0-9]{2}"))) << time;
+    EXPECT_NE(time, "00:00:00") << "as it was drawn";
     // The hands meet in the middle of the face.
     const QImage face = live.Widget("ClockFace")->grab().toImage();
     EXPECT_EQ(face.size(), QSize(120, 120));
